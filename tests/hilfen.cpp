@@ -1,0 +1,43 @@
+#include "tests/hilfen.h"
+
+#include "toolkit/text.h"
+#include "toolkit/textdatei.h"
+
+#include <atomic>
+#include <fstream>
+#include <random>
+
+namespace velmaris::test {
+
+Testordner::Testordner() {
+    static std::atomic<unsigned> zaehler{0};
+    std::random_device zufall;
+    const std::string name = "velmaris_" + std::to_string(zufall()) + "_" + std::to_string(++zaehler);
+    pfad_ = std::filesystem::temp_directory_path() / name;
+    std::filesystem::create_directories(pfad_);
+}
+
+Testordner::~Testordner() {
+    std::error_code fehler;
+    std::filesystem::remove_all(pfad_, fehler);
+}
+
+std::filesystem::path Testordner::operator/(const std::string& utf8) const {
+    return pfad_ / velmaris::pfad(utf8);
+}
+
+std::filesystem::path Testordner::schreibe(const std::string& utf8, const std::string& bytes) const {
+    const std::filesystem::path ziel = *this / utf8;
+    std::filesystem::create_directories(ziel.parent_path());
+    std::ofstream strom(ziel, std::ios::binary);
+    strom << bytes;
+    strom.close();
+    if (!strom) throw std::runtime_error("test file not written: " + utf8);
+    return ziel;
+}
+
+std::string inhalt(const std::filesystem::path& datei) {
+    return bytes_lesen(datei);
+}
+
+}  // namespace velmaris::test

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace velmaris {
+
+/// A text in both languages, side by side.
+struct Zweisprachig {
+    std::string de;
+    std::string en;
+
+    /// The text for the language letter: English for "e", German for anything else.
+    [[nodiscard]] const std::string& in(std::string_view sprache) const { return sprache == "e" ? en : de; }
+};
+
+/// A fault that ends what the program was doing: an arithmetic fault, an integer overflow, a control position
+/// out of range. Its text tells the user what is wrong; what() is the German form.
+class Laufzeitfehler : public std::runtime_error {
+  public:
+    /// `feld` names the quantity of the record that the fault is about, empty where there is none.
+    explicit Laufzeitfehler(Zweisprachig text, std::string feld = {})
+        : std::runtime_error(text.de), text_(std::move(text)), feld_(std::move(feld)) {}
+
+    [[nodiscard]] const std::string& text(std::string_view sprache) const { return text_.in(sprache); }
+    [[nodiscard]] const Zweisprachig& texte() const { return text_; }
+    [[nodiscard]] const std::string& feld() const { return feld_; }
+
+  private:
+    Zweisprachig text_;
+    std::string feld_;
+};
+
+/// A fault in or at a file; names the file and, where known, the line (from 1) and the field.
+class Dateifehler : public Laufzeitfehler {
+  public:
+    Dateifehler(std::string datei, Zweisprachig text, int zeile = 0, const std::string& feld = {});
+
+    [[nodiscard]] const std::string& datei() const { return datei_; }
+    [[nodiscard]] int zeile() const { return zeile_; }
+
+  private:
+    std::string datei_;
+    int zeile_;
+};
+
+}  // namespace velmaris

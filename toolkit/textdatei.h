@@ -1,0 +1,60 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmaris {
+
+/// All bytes of a regular file. A missing or unreadable file and a directory are a Dateifehler.
+[[nodiscard]] std::string bytes_lesen(const std::filesystem::path& datei);
+
+/// The first `hoechstens` bytes of a regular file; errors as in `bytes_lesen`.
+[[nodiscard]] std::string anfang_lesen(const std::filesystem::path& datei, std::size_t hoechstens);
+
+/// Replaces a file as a whole: the bytes go to a neighbour that is renamed into place, so that a failure
+/// (full disk, folder that cannot be written) leaves the old file as it was. A failure is a Dateifehler.
+void datei_ersetzen(const std::filesystem::path& datei, std::string_view bytes);
+
+/// Walks a text line by line; a line ends at LF or CR LF. The text must outlive the reader.
+class Zeilenleser {
+  public:
+    explicit Zeilenleser(std::string_view text) : rest_(text) {}
+
+    /// The next line without its end, nothing behind the last one.
+    [[nodiscard]] std::optional<std::string_view> naechste();
+
+    /// Number of lines taken so far.
+    [[nodiscard]] int zeile() const { return zeile_; }
+
+  private:
+    std::string_view rest_;
+    int zeile_ = 0;
+};
+
+/// The tolerant list input: items end at a comma or at the end of a line, blanks before an item are
+/// skipped. The text must outlive the reader.
+class Listenleser {
+  public:
+    explicit Listenleser(std::string_view text) : rest_(text) {}
+
+    /// The next item, without blanks around it; nothing behind the last one.
+    [[nodiscard]] std::optional<std::string_view> naechster();
+
+    /// Line (from 1) of the item taken last.
+    [[nodiscard]] int zeile() const { return zeile_; }
+
+    /// What stands behind the item taken last, from behind its comma or line end.
+    [[nodiscard]] std::string_view rest() const { return rest_; }
+
+  private:
+    std::string_view rest_;
+    int zeile_ = 0;
+    bool neue_zeile_ = true;
+};
+
+/// The columns `von` to `bis` (from 1) of a line; what lies behind the line's end is missing.
+[[nodiscard]] std::string_view spalten(std::string_view zeile, std::size_t von, std::size_t bis);
+
+}  // namespace velmaris
