@@ -16,12 +16,10 @@ std::string groesse(const std::string& name) {
 }
 
 [[noreturn]] void ausserhalb(const std::string& name, int wert, int minimum, int maximum) {
-    const std::string feld = groesse(name);
     const std::string zahlen =
-        " " + std::to_string(wert) + " (" + std::to_string(minimum) + " .. " + std::to_string(maximum) + ")";
-    throw Laufzeitfehler(
-        {feld + ": Stellung außerhalb des Bereichs:" + zahlen, feld + ": position out of range:" + zahlen},
-        feld);
+        std::to_string(wert) + " (" + std::to_string(minimum) + " .. " + std::to_string(maximum) + ")";
+    throw Laufzeitfehler({"Stellung außerhalb des Bereichs: " + zahlen, "position out of range: " + zahlen},
+                         groesse(name));
 }
 
 void rufe(const std::function<void()>& handler) {
