@@ -73,4 +73,14 @@ void fuer_jede_stunde(Tu&& tu) {
     }
 }
 
+/// Calls `tu(m, d, n)` for each of the 365 days of the year in order; n is the day of the year.
+template <class Tu>
+void fuer_jeden_tag(Tu&& tu) {
+    int n = 0;
+    for (int m = 1; m <= monate; ++m) {
+        for (int d = 1; d <= tage_im_monat[static_cast<std::size_t>(m)]; ++d)
+            tu(m, d, ++n);
+    }
+}
+
 }  // namespace velmaris
