@@ -4,6 +4,7 @@
 #include "calc/waermestroeme.h"
 #include "toolkit/zahlen.h"
 
+#include <algorithm>
 #include <cmath>
 #include <span>
 
@@ -62,6 +63,8 @@ struct Tageslicht {
     Tagesgang::Stunden wand;         ///< from sky and ground on a wall
     Tagesgang::Stunden schraegdach;  ///< from sky and ground on a sloped roof plane
     Tagesgang::Stunden flachdach;    ///< from the sky on the flat roof
+    std::size_t morgen = stunden;    ///< first place with light
+    std::size_t abend = 0;           ///< one past the last place with light
 
     [[nodiscard]] const Tagesgang::Stunden& um(Umgebung umgebung) const {
         if (umgebung == Umgebung::wand) return wand;
@@ -80,6 +83,9 @@ Tageslicht tageslicht(std::span<const Wetterstunde, stunden> wetter, double dach
         licht.wand[h] = (diffus * 0.5 + (diffus + direkt) * 0.125) * 0.7;
         licht.schraegdach[h] = diffus * dach_himmel;
         licht.flachdach[h] = diffus;
+        if (diffus == 0 && direkt == 0) continue;
+        licht.morgen = std::min(licht.morgen, h);
+        licht.abend = h + 1;
     }
     return licht;
 }
@@ -87,7 +93,7 @@ Tageslicht tageslicht(std::span<const Wetterstunde, stunden> wetter, double dach
 void sonne_dazu(Tagesgang& tag, const Sonnenseite& seite, const Tageslicht& licht,
                 std::span<const float, stunden> faktor) {
     const Tagesgang::Stunden& umgebung = licht.um(seite.umgebung);
-    for (std::size_t h = 0; h < stunden; ++h) {
+    for (std::size_t h = licht.morgen; h < licht.abend; ++h) {
         const double strahlung = f32(umgebung[h] + faktor[h] * licht.direkt[h]);
         tag.huelle[h] += seite.huelle * strahlung;
         tag.fenster[h] += seite.fenster * strahlung;
