@@ -45,20 +45,20 @@ void jahressummen_leeren(Projekt& p) {
 
 /// Losses of the month from its degree days (Kd), with their share in the year sums.
 void verluste(Projekt& p, Monatswerte& monat, const Koeffizienten& k, float gradtage) {
-    const double kwh = gradtage * kwh_je_wattkelvintag;
-    monat.Qt = f32((k.dach + k.boden + k.tuer + k.fenster + k.waende) * kwh);
+    const auto kwh = [&](double verlust) { return verlust * gradtage * kwh_je_wattkelvintag; };
+    monat.Qt = f32(kwh(k.dach + k.boden + k.tuer + k.fenster + k.waende));
     monat.Qv = f32(k.luft * gradtage * kwh_je_kubikmeterkelvintag);
 
-    const auto fenster = [&](std::size_t f) { return k.fassade[f].k_fenster * k.fassade[f].f_fenster * kwh; };
+    const auto fenster = [&](std::size_t f) { return kwh(k.fassade[f].k_fenster * k.fassade[f].f_fenster); };
     dazu(p.Fensterverlust_N, fenster(nord));
     dazu(p.Fensterverlust_W, fenster(west));
     dazu(p.Fensterverlust_S, fenster(sued));
     dazu(p.Fensterverlust_O, fenster(ost));
-    dazu(p.qtr_Waende, k.waende * kwh);
-    dazu(p.qtr_Tuer, k.tuer * kwh);
-    dazu(p.qtr_Dach, k.dach * kwh);
-    dazu(p.qtr_Boden, k.boden * kwh);
-    dazu(p.qtr_Fenster, k.fenster * kwh);
+    dazu(p.qtr_Waende, kwh(k.waende));
+    dazu(p.qtr_Tuer, kwh(k.tuer));
+    dazu(p.qtr_Dach, kwh(k.dach));
+    dazu(p.qtr_Boden, kwh(k.boden));
+    dazu(p.qtr_Fenster, kwh(k.fenster));
 }
 
 /// Solar gains of the facades in the order of `fassaden`, kWh.

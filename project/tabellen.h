@@ -3,6 +3,7 @@
 #include <array>
 #include <cassert>
 #include <cstddef>
+#include <span>
 
 namespace velmaris {
 
@@ -43,6 +44,14 @@ class Stundentabelle {
   public:
     [[nodiscard]] T& operator()(int m, int d, int h) { return werte_[stelle(m, d, h)]; }
     [[nodiscard]] const T& operator()(int m, int d, int h) const { return werte_[stelle(m, d, h)]; }
+
+    /// The 24 hours of a day side by side; hour h stands at place h - 1.
+    [[nodiscard]] std::span<T, stunden> tag(int m, int d) {
+        return std::span<T, stunden>(&werte_[stelle(m, d, 1)], stunden);
+    }
+    [[nodiscard]] std::span<const T, stunden> tag(int m, int d) const {
+        return std::span<const T, stunden>(&werte_[stelle(m, d, 1)], stunden);
+    }
 
   private:
     static std::size_t stelle(int m, int d, int h) {
