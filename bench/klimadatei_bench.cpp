@@ -1,9 +1,9 @@
 #include "climate/klimadatei.h"
+#include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 
 #include <benchmark/benchmark.h>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -21,9 +21,10 @@ std::string station() {
         const int stunde = i % stunden;
         const int sonne = stunde > 6 && stunde < 20 ? (stunde - 6) * (20 - stunde) * 14 : 0;
         const double ta = -12.5 + (i * 37 % 431) * 0.1;
-        char zeile[32];
-        std::snprintf(zeile, sizeof zeile, "%5d%5.1f%5d%5d\r\n", i / stunden + 1, ta, sonne, sonne / 2);
-        text += zeile;
+        for (const std::string& spalte : {std::to_string(i / stunden + 1), muster(ta, 1),
+                                          std::to_string(sonne), std::to_string(sonne / 2)})
+            text += rechtsbuendig(spalte, 5);
+        text += "\r\n";
     }
     return text;
 }

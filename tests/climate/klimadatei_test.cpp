@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <random>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -48,7 +49,7 @@ TEST(Klimadatei, NimmtDieZahlenDesKopfesAusDenSpalten15Bis24) {
         double breite_grad;
         float Laengenkorrektur;
     };
-    const Fall faelle[] = {
+    const std::vector<Fall> faelle{
         {"Breitengrad:  50", "Laengengrad:  -8", "Zeitzone:     -1", 50, 7},
         {"anything here 0", "and here      -15", "and there     -1", 0, 0},
         {"              -33.9", "              70.5", "              5", -33.9, -4.5},
@@ -67,7 +68,7 @@ TEST(Klimadatei, NimmtDieZahlenDesKopfesAusDenSpalten15Bis24) {
 }
 
 TEST(Klimadatei, NenntDenOrtBisZumKomma) {
-    const std::pair<std::string, std::string> faelle[] = {
+    const std::vector<std::pair<std::string, std::string>> faelle{
         {"M\xFCnchen (Deutschland)", "München (Deutschland)"}, {"Paris, Orly (France)", "Paris"}, {"", ""}};
     for (const auto& [ort, name] : faelle) {
         Stationsdatei datei;
@@ -87,7 +88,7 @@ TEST(Klimadatei, LeitetDasDirekteLichtAusDemWaagerechtenAb) {
     };
     // On the equator in March the sun stands in the zenith at noon and 22.5 degrees high at 7:30, at 80
     // degrees north it stays down in December and 12.5 degrees high at midnight in June.
-    const Fall faelle[] = {
+    const std::vector<Fall> faelle{
         {"0", {"20", "800", "100"}, 3, 12, 699, 715},   {"0", {"20", "1000", "0"}, 3, 8, 0, 0},
         {"0", {"20", "450", "50"}, 3, 8, 950, 1200},    {"0", {"20", "100", "300"}, 3, 12, 0, 0},
         {"0", {"20", "800", "100"}, 3, 24, 0, 0},       {"80", {"-20", "500", "100"}, 12, 12, 0, 0},
@@ -154,7 +155,7 @@ TEST(Klimadatei, EinFehlerLaesstDasBisherigeKlima) {
     }
     p->Dachraum(0).Faktor = 7;
     const auto vorher = std::make_unique<Projekt>(*p);
-    const std::pair<std::string, std::string> faelle[] = {
+    const std::vector<std::pair<std::string, std::string>> faelle{
         {"kurz.met", "8765 of 8766 lines"}, {"leer.met", "0 of 8766 lines"},
         {"ordner.met", "is a folder"},      {"", "is a folder"},
         {"fehlt.met", "not found"},

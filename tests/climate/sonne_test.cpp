@@ -3,6 +3,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <numbers>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -54,9 +55,9 @@ TEST(Sonnentag, HatDieLaengeDesBreitengrads) {
         double stunden;
     };
     // Day lengths by 2/15 arccos(-tan phi tan delta) with the declination of the almanac.
-    const Fall faelle[] = {{0, 172, 12.0},    {50, 172, 16.15}, {50, 355, 7.85},
-                           {-35, 355, 14.35}, {50, 81, 12.0},   {80, 172, 24.0},
-                           {80, 355, 0.0},    {-80, 172, 0.0},  {-80, 355, 24.0}};
+    const std::vector<Fall> faelle{{0, 172, 12.0},    {50, 172, 16.15}, {50, 355, 7.85},
+                                   {-35, 355, 14.35}, {50, 81, 12.0},   {80, 172, 24.0},
+                                   {80, 355, 0.0},    {-80, 172, 0.0},  {-80, 355, 24.0}};
     for (const Fall& fall : faelle) {
         const Sonnentag tag = sonnentag({bogen(fall.breite), 0}, fall.tag);
         EXPECT_NEAR(tag.SU - tag.SA, fall.stunden, 0.03) << fall.breite << " day " << fall.tag;
@@ -90,7 +91,7 @@ TEST(Direktfaktor, IstNullSolangeDieSonneUntenSteht) {
     EXPECT_EQ(direktfaktor_horizontal({bogen(80), 0}, 355, 12), 0);
     EXPECT_GT(direktfaktor_horizontal({bogen(80), 0}, 172, 0), 1);
     // On the equator at the equinox the sun climbs 15 degrees an hour.
-    const float laenge = static_cast<float>(zeitgleichung(81) / 4);
+    const auto laenge = static_cast<float>(zeitgleichung(81) / 4);
     EXPECT_NEAR(direktfaktor_horizontal({0, laenge}, 81, 12), 1, 1e-4);
     EXPECT_NEAR(direktfaktor_horizontal({0, laenge}, 81, 16), 2, 2e-3);
 }

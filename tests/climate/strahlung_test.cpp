@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <iostream>
 #include <memory>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -51,8 +52,9 @@ TEST(Ebenen, StimmenMitDerEinzelnenRechnungUeberein) {
         std::int16_t orient;
         float Dachneigung;
     };
-    const Fall faelle[] = {{49.75, 8.34F, 0, 21.8F}, {-33.9, -1.2F, -180, 45}, {0, 0, 37, 60},
-                           {78.2, 0.5F, 180, 5},     {-89.9, 15, 90, 33.3F},   {66.5, -7.5F, -45, 89}};
+    const std::vector<Fall> faelle{{49.75, 8.34F, 0, 21.8F}, {-33.9, -1.2F, -180, 45},
+                                   {0, 0, 37, 60},           {78.2, 0.5F, 180, 5},
+                                   {-89.9, 15, 90, 33.3F},   {66.5, -7.5F, -45, 89}};
     Vergleich v;
     for (const Fall& fall : faelle) {
         const auto p = station(fall.breite, fall.laenge);
@@ -108,7 +110,7 @@ TEST(Monatsstrahlung, SummiertStetigesWetterWieVonHand) {
         int april;
     };
     // No direct light: each plane gets 0.5 + 0.125 of the diffuse, over 744, 672 and 720 hours.
-    const Fall faelle[] = {
+    const std::vector<Fall> faelle{
         {100, 167, 151, 162},      // 62.5 W/m2: 167.4, 151.2, 162.0 MJ/m2
         {0, 0, 0, 0},              // nothing to add
         {-100, 0, 0, 0},           // below the range
