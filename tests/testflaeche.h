@@ -2,6 +2,7 @@
 
 #include "toolkit/zeichenflaeche.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,12 @@ class Testflaeche : public Zeichenflaeche {
     using Art = Zeichnung::Art;
 
     explicit Testflaeche(double breite = 330, double hoehe = 140) : breite_(breite), hoehe_(hoehe) {}
+
+    /// A surface on which `zeichnen` has run.
+    Testflaeche(double breite, double hoehe, const std::function<void(Zeichenflaeche&)>& zeichnen)
+        : Testflaeche(breite, hoehe) {
+        zeichnen(*this);
+    }
 
     std::vector<Zeichnung> zeichnungen;
 
