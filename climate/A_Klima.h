@@ -3,6 +3,8 @@
 #include "project/c_glob.h"
 #include "toolkit/felder.h"
 
+#include <array>
+
 namespace velmaris {
 
 /// How long the building must be heated at its station.
@@ -43,6 +45,9 @@ struct A_Klima {
     Anzeige anz_Heizgrenztemp{"anz_Heizgrenztemp"};    ///< degC
     Anzeige anz_Heiztage{"anz_Heiztage"};              ///< days
     Anzeige anz_Heizgradtage{"anz_Heizgradtage"};      ///< Kd
+
+    /// All labels, in the order of the plane.
+    [[nodiscard]] std::array<const Anzeige*, 20> anzeigen() const;
 
     /// Region or station and its temperatures; after the reading of a station.
     void stationswerte_zeigen(const Projekt& p);

@@ -60,7 +60,7 @@ Platz tippplatz(Bildschirmpunkt zeiger, const Tipplage& lage) {
 }
 
 E_Energie::E_Energie(Sitzung& sitzung) : sitzung_(sitzung) {
-    Ebene.zeige(false);
+    ebene.zeige(false);
     Frame_ToolTip.zeige(false);
     for (Anzeige* verdeckt : {&anz_q_ce, &anz_q_d, &anz_q_s, &anz_q_d_he, &anz_q_s_he, &anz_q_g_he})
         verdeckt->zeige(false);
@@ -98,11 +98,11 @@ void E_Energie::aktiviert() {
 }
 
 void E_Energie::EnergRefresh() {
-    const Kennwerte k = energ_refresh(sitzung_.p);
+    kennwerte_ = energ_refresh(sitzung_.p);
     auswahl_zeigen();
-    felder_fuellen(k);
-    beschriften(k.name);
-    if (Ebene.sichtbar()) bilder_erneuern();
+    felder_fuellen(kennwerte_);
+    beschriften(kennwerte_.name);
+    if (ebene.sichtbar()) bilder_erneuern();
 }
 
 /// The catalogue row of the heating system in use; the row must exist.
@@ -110,6 +110,10 @@ const Heizsystemzeile& E_Energie::katalogzeile() const {
     const Projekt& p = sitzung_.p;
     kombination_pruefen(p.Heizsystem, p.Uebergabe, p.Energietraeger);
     return Heizsysteme(p.Heizsystem);
+}
+
+void E_Energie::eingaben_anzeigen() {
+    auswahl_zeigen();
 }
 
 void E_Energie::auswahl_zeigen() {

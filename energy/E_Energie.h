@@ -32,7 +32,7 @@ inline constexpr double tipphoehe = 72;
 struct E_Energie {
     explicit E_Energie(Sitzung& sitzung);
 
-    Feld Ebene{"E_Energie"};  ///< the plane itself, hidden at first
+    Feld ebene{"E_Energie"};  ///< the plane itself, hidden at first
 
     // --- Choice of the heat supply ---
     Anzeige Label1{"Label1"}, Label2{"Label2"}, Label3{"Label3"};
@@ -86,6 +86,12 @@ struct E_Energie {
     /// entry that is hidden cannot be taken.
     void Label_Auswahl_Click(int i);
 
+    /// Shows the texts of the record's choice. Errors as in `kombination_pruefen`.
+    void eingaben_anzeigen();
+
+    /// The characteristic values of the last `EnergRefresh`.
+    [[nodiscard]] const Kennwerte& kennwerte() const { return kennwerte_; }
+
     /// A click on the panel beside its entries, which closes it.
     void Frame_Auswahl_Click();
 
@@ -109,6 +115,7 @@ struct E_Energie {
 
     Sitzung& sitzung_;
     Heizsystemkatalog Heizsysteme;
+    Kennwerte kennwerte_;
     Bildschirmpunkt gemerkter_zeiger_;
 };
 

@@ -83,7 +83,7 @@ TEST_F(Energieebene, ZeigtDieBilanz) {
     EXPECT_EQ(ebene->Label30.text(), "Verluste Verteilung && Speicherung:");
     EXPECT_EQ(ebene->Label6.text(), "kWh/(m² a)");
     EXPECT_EQ(ebene->Label_Energieträger.text(), "Heizöl EL");
-    EXPECT_FALSE(ebene->Ebene.sichtbar());
+    EXPECT_FALSE(ebene->ebene.sichtbar());
     for (const Anzeige* verdeckt : {&ebene->anz_q_ce, &ebene->anz_q_d, &ebene->anz_q_s, &ebene->anz_q_d_he,
                                     &ebene->anz_q_s_he, &ebene->anz_q_g_he})
         EXPECT_FALSE(verdeckt->sichtbar()) << verdeckt->name;
@@ -146,7 +146,7 @@ TEST_F(Energieebene, ZeichnetNurWennSieZuSehenIst) {
         bild->ansicht = [&] { ++gezeichnet; };
     ebene->EnergRefresh();
     EXPECT_EQ(gezeichnet, 0);
-    ebene->Ebene.zeige(true);
+    ebene->ebene.zeige(true);
     ebene->aktiviert();
     EXPECT_EQ(berechnet, 1);
     EXPECT_GE(gezeichnet, 3);
