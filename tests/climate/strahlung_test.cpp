@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <iostream>
 #include <memory>
 #include <vector>
 
@@ -74,8 +73,8 @@ TEST(Ebenen, StimmenMitDerEinzelnenRechnungUeberein) {
         v.vergleiche(*p, s.dach_w, 90, dach);
         v.vergleiche(*p, s.dach_flach, 0, 0);
     }
-    std::cout << v.verschieden << " of " << v.werte << " factors differ, by " << v.groesster_abstand
-              << " ulp at most\n";
+    RecordProperty("factors", v.werte);
+    RecordProperty("differing", v.verschieden);
     EXPECT_LE(v.groesster_abstand, 1);
     EXPECT_LE(v.verschieden, v.werte / 100000);
 }
