@@ -45,8 +45,9 @@ Stundenwerte zusammensetzen(const Bausteine& b) {
 Stundenwerte wellen(const Standort& ort) {
     Stundenwerte welle;
     for (int n = 1; n <= tage_im_jahr; ++n) {
+        const Sonnenuhr uhr(n, ort.Laengenkorrektur);
         for (int h = 1; h <= stunden; ++h) {
-            const double winkel = stundenwinkel(n, ort.Laengenkorrektur, h - 0.5);
+            const double winkel = uhr.stundenwinkel(h - 0.5);
             welle(n)(h) = tageswelle(12 + winkel / grad_in_bogen / 15);
         }
     }
