@@ -92,7 +92,7 @@ Flaeche mit_nachbarerden(const Flaeche& land) {
 
 /// True for a piece that runs along the cut at 180 degrees, where land goes on.
 bool ist_schnittkante(const Strecke& s) {
-    return s.a.x == s.b.x && std::remainder(s.a.x, 360.0) == std::remainder(180.0, 360.0);
+    return s.a.x == s.b.x && std::abs(std::remainder(s.a.x, 360.0)) == 180.0;
 }
 
 }  // namespace
