@@ -37,7 +37,8 @@ std::filesystem::path programmordner() {
 
 Farbe Bitmap::bei(int x, int y) const {
     if (x < 0 || y < 0 || x >= breite || y >= hoehe) throw std::out_of_range("pixel outside the picture");
-    return pixel[static_cast<std::size_t>(y * breite + x)];
+    return pixel[static_cast<std::size_t>(y) * static_cast<std::size_t>(breite) +
+                 static_cast<std::size_t>(x)];
 }
 
 Bitmap grafik(const std::string& name) {

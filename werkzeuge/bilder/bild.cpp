@@ -50,7 +50,8 @@ Bild::Bild(int breite, int hoehe, Farbe grund)
 std::string Bild::bmp() const {
     const int zeilenbytes = (breite_ * 3 + 3) / 4 * 4;
     std::string bytes;
-    bytes.reserve(static_cast<std::size_t>(kopfbytes + zeilenbytes * hoehe_));
+    bytes.reserve(static_cast<std::size_t>(kopfbytes) +
+                  static_cast<std::size_t>(zeilenbytes) * static_cast<std::size_t>(hoehe_));
     kopf_anhaengen(bytes, breite_, hoehe_, zeilenbytes * hoehe_);
     for (int y = hoehe_ - 1; y >= 0; --y) {
         for (int x = 0; x < breite_; ++x) {

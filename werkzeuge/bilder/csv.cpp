@@ -6,6 +6,7 @@
 #include "toolkit/zahlen.h"
 
 #include <cmath>
+#include <utility>
 
 namespace velmaris::bilder {
 namespace {
@@ -22,8 +23,8 @@ std::vector<std::string> felder(std::string_view zeile) {
 
 }  // namespace
 
-Tabelle::Tabelle(const std::filesystem::path& datei, const std::vector<std::string>& spalten)
-    : datei_(pfadtext(datei)), spalten_(spalten) {
+Tabelle::Tabelle(const std::filesystem::path& datei, std::vector<std::string> spalten)
+    : datei_(pfadtext(datei)), spalten_(std::move(spalten)) {
     const std::string bytes = bytes_lesen(datei);
     Zeilenleser leser(bytes);
     const auto kopf = leser.naechste();

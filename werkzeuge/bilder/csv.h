@@ -13,7 +13,7 @@ namespace velmaris::bilder {
 class Tabelle {
   public:
     /// Reads a file whose head line holds these column names in this order.
-    Tabelle(const std::filesystem::path& datei, const std::vector<std::string>& spalten);
+    Tabelle(const std::filesystem::path& datei, std::vector<std::string> spalten);
 
     [[nodiscard]] std::size_t zeilen() const { return zeilen_.size(); }
 

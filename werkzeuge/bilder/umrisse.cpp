@@ -2,6 +2,8 @@
 
 #include "werkzeuge/bilder/csv.h"
 
+#include <utility>
+
 namespace velmaris::bilder {
 namespace {
 
@@ -44,7 +46,7 @@ Flaeche umriss_lesen(const std::filesystem::path& datei, const std::vector<std::
     std::vector<std::string> spalten{"ring"};
     spalten.insert(spalten.end(), merkmale.begin(), merkmale.end());
     spalten.insert(spalten.end(), {"lon", "lat"});
-    const Tabelle tabelle(datei, spalten);
+    const Tabelle tabelle(datei, std::move(spalten));
     Flaeche flaeche;
     for (std::size_t zeile = 0; zeile < tabelle.zeilen();)
         flaeche.push_back(ring_lesen(tabelle, zeile, 1, 1 + merkmale.size()));
