@@ -6,6 +6,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <map>
+#include <ostream>
 #include <string>
 
 namespace velmaris {
@@ -117,6 +118,8 @@ struct Weltbild {
     std::string datei;
     double massstab;
     double nah;  ///< how far the coast may be from a town on it, pixels
+
+    friend void PrintTo(const Weltbild& bild, std::ostream* strom) { *strom << bild.datei; }
 };
 
 class Weltkarte : public ::testing::TestWithParam<Weltbild> {
