@@ -14,6 +14,7 @@ enum class Dachform { flach = 0, first_nord_sued = 1, first_ost_west = 2 };
 ///   west facade about 10, 102; south facade about 72, 120 (flat roof: 72, 105);
 ///   ridge north-south: west slope in two lines 26, 48, its area 24, 76; south gable 88, 72, its area 72, 88;
 ///   ridge east-west: west gable 4, 56, its area -10, 70; south slope 48, 68, its area 80, 84.
+/// The areas of both gables stand centred in a field of 64 pixels.
 [[nodiscard]] Bild haus_bild(Dachform dach);
 
 }  // namespace velmaris::bilder
