@@ -20,6 +20,9 @@ struct Ebenenhaken {
     std::function<void(int)> Check_Dachgeschoss;
     std::function<void(int)> Option_Dachfirst;
     std::function<void(int)> Option1;
+
+    /// Raises a Laufzeitfehler if the list of that quantity has no such row; may be empty.
+    std::function<void(std::string_view feld, int zeile)> zeile_pruefen;
 };
 
 /// Reads the text of a project file (windows-1252; `name` is the file's name for messages) into the record,

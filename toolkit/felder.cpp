@@ -78,10 +78,14 @@ void Auswahlliste::fuelle(std::vector<std::string> eintraege) {
 }
 
 void Auswahlliste::setze(int index) {
-    const int zahl = static_cast<int>(eintraege_.size());
-    if (index < 0 || index >= zahl) ausserhalb(groesse_, index, 0, zahl - 1);
+    pruefe(index);
     markiere(index);
     rufe(gewaehlt);
+}
+
+void Auswahlliste::pruefe(int index) const {
+    const int zahl = static_cast<int>(eintraege_.size());
+    if (index < 0 || index >= zahl) ausserhalb(groesse_, index, 0, zahl - 1);
 }
 
 void Auswahlliste::markiere(int index) {

@@ -91,6 +91,9 @@ class Auswahlliste : public Feld {
     /// exist is a Laufzeitfehler that names the list.
     void setze(int index);
 
+    /// The fault of `setze` for a row that does not exist; nothing else.
+    void pruefe(int index) const;
+
     /// Selects a row without the handler; -1 for none.
     void markiere(int index);
 
