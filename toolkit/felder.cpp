@@ -160,6 +160,12 @@ void Knopf::druecke() const {
     if (aktiv()) rufe(gedrueckt);
 }
 
+void Menuepunkt::kreuze_an(bool angekreuzt) {
+    if (angekreuzt_ == angekreuzt) return;
+    angekreuzt_ = angekreuzt;
+    melden();
+}
+
 void Bildfeld::lade(std::filesystem::path bild) {
     if (bild_ == bild) return;
     bild_ = std::move(bild);

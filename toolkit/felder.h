@@ -215,6 +215,18 @@ class Knopf : public Feld {
     std::string text_;
 };
 
+/// A menu entry: a button that may carry a check mark.
+class Menuepunkt : public Knopf {
+ public:
+    explicit Menuepunkt(std::string feldname) : Knopf(std::move(feldname)) {}
+
+    [[nodiscard]] bool angekreuzt() const { return angekreuzt_; }
+    void kreuze_an(bool angekreuzt);
+
+ private:
+    bool angekreuzt_ = false;
+};
+
 /// A picture or chart surface: a repaint routine over an image that may be empty.
 class Bildfeld : public Feld {
   public:
