@@ -41,7 +41,7 @@ inline constexpr Achsenrahmen kuehlrahmen{.achse = 110, .oben = 20, .teilung = 8
 inline constexpr double monatsachse = 325;
 inline constexpr double jahresachse = 85;
 inline constexpr double monatsflaeche_breite = 330;
-inline constexpr double jahresflaeche_breite = 92;
+inline constexpr double jahresflaeche_breite = 96;
 inline constexpr double chart_hoehe = 140;
 
 /// One row of a step table: the step of the scale while the largest value is below the limit.

@@ -71,7 +71,7 @@ void temperaturachse_zeichnen(Zeichenflaeche& bild, const Plan& plan) {
     for (int i = 0; i <= linien; ++i) {
         const double temperatur = achse.unten + i * achse.schritt;
         const double y = plan.y(temperatur);
-        bild.linie(plan.links, y, plan.rechts + 1, y, linienfarbe(i == 0 || temperatur == 0));
+        bild.linie(plan.links + 1, y, plan.rechts + 1, y, linienfarbe(i == 0 || temperatur == 0));
         rechtsbuendig_bis_achse(y - bild.texthoehe("T") / 2, muster(temperatur, 0));
     }
     rechtsbuendig_bis_achse(plan.oben - 10 - bild.texthoehe("T"), "°C");
