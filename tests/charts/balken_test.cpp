@@ -173,8 +173,7 @@ TEST(Kuehldiagramme, EinBalkenNurUeberNull) {
         double x1, x2, y;
     };
     for (const Fall& f : {
-             Fall{StundenProTagMonatZeichnen, {128, 0, 0}, 179, 197, 97.875},  // 3 h/d; August has 20.5: step
-                                                                               // 6, 3.71 px
+             Fall{StundenProTagMonatZeichnen, {128, 0, 0}, 179, 197, 97.875},  // 3 h/d, step 6
              Fall{StundenProTagJahrZeichnen, {128, 0, 0}, 45, 70, 64.5},       // 2 h/d, step 1, 22.25 px
              Fall{KuehlBedarfMonatZeichnen, {0, 0, 255}, 179, 197, 37.8},      // 4, step 1, 17.8 px
              Fall{KuehlBedarfJahrZeichnen, {0, 0, 255}, 45, 70, 37.8},
