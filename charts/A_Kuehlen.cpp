@@ -70,7 +70,7 @@ void A_Kuehlen::laden() {
     beschriften(*this, beschriftungen, sitzung_.p.Sprache);
 }
 
-void A_Kuehlen::aktiviert() {
+void A_Kuehlen::aktiviert() const {
     StundenProTagZeichnen();
     KuehlBedarfZeichnen();
     KuehlGradStundenZeichnen();

@@ -131,7 +131,7 @@ Kurzname kurzname(int system, int energietraeger) {
     }
     if (system < 6) return {"Holz", "wood"};
     if (system == 6) return {"Nah-/Fernwärme", "district heat"};
-    return {traeger_strom, "electricity"};
+    return strom_name;
 }
 
 Kennwerte katalog_werte(int system, int uebergabe, int energietraeger, float f_nutz) {

@@ -7,9 +7,6 @@ namespace velmaris {
 /// Primary energy factor of electricity as auxiliary energy.
 inline constexpr double f_p_Strom = 3.0;
 
-/// The short German carrier name that marks an electric supply.
-inline constexpr std::string_view traeger_strom = "Strom";
-
 /// The short name of a carrier in both languages; the German one is the key of the logic in either language.
 struct Kurzname {
     std::string_view Traegername;
@@ -19,8 +16,11 @@ struct Kurzname {
     [[nodiscard]] std::string_view in(std::string_view sprache) const {
         return sprache == "e" ? Traegername_e : Traegername;
     }
-    [[nodiscard]] bool elektrisch() const { return Traegername == traeger_strom; }
+    [[nodiscard]] bool elektrisch() const { return Traegername == "Strom"; }
 };
+
+/// The name of electricity, as a carrier and as auxiliary energy.
+inline constexpr Kurzname strom_name{"Strom", "electricity"};
 
 /// Characteristic values of a heat supply; kWh per m2 of usable floor and year where nothing else is said.
 struct Kennwerte {

@@ -7,13 +7,20 @@
 
 namespace velmaris {
 
-/// What every plane of a running program shares.
+/// What all planes share: the record, the desktop and the recalculation. Owned by the composition root, which
+/// outlives the planes.
 struct Sitzung {
-    Projekt& p;            ///< the one project
-    Plattform& plattform;  ///< the desktop
+    Projekt& p;
+    Plattform& plattform;
 
-    /// Recalculates everything after an input has changed.
+    /// Recalculates the whole building and refreshes what is visible.
     std::function<void()> alles_berechnen;
 };
+
+/// The rule of most input handlers: the project has changed, so recalculate.
+inline void geaendert(Sitzung& s) {
+    s.p.Geaendert = 1;
+    s.alles_berechnen();
+}
 
 }  // namespace velmaris

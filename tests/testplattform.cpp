@@ -7,13 +7,20 @@
 namespace velmaris::test {
 namespace {
 
-/// Takes the first of the prepared answers, or the one for an empty script.
+/// Takes the first of the prepared answers; nothing if the script is over.
 template <class T>
-T naechste(std::vector<T>& vorrat, T sonst) {
-    if (vorrat.empty()) return sonst;
-    T erste = std::move(vorrat.front());
+std::optional<T> naechste(std::vector<T>& vorrat) {
+    if (vorrat.empty()) return std::nullopt;
+    std::optional<T> erste(std::move(vorrat.front()));
     vorrat.erase(vorrat.begin());
     return erste;
+}
+
+/// A prepared answer that may be a cancel.
+template <class T>
+std::optional<T> ohne_leere(std::optional<T> antwort) {
+    if (antwort && antwort->empty()) antwort.reset();
+    return antwort;
 }
 
 }  // namespace
@@ -26,17 +33,17 @@ void Testplattform::lasse_ablaufen(const std::string& name) {
 
 Antwort Testplattform::melde(const Meldung& meldung) {
     meldungen.push_back(meldung);
-    return naechste(antworten, Antwort::ok);
+    return naechste(antworten).value_or(Antwort::ok);
 }
 
 std::optional<std::string> Testplattform::eingabe(const std::string&, const std::string&,
                                                   const std::string&) {
-    return naechste(eingaben, std::optional<std::string>());
+    return ohne_leere(naechste(eingaben));
 }
 
 std::optional<std::filesystem::path> Testplattform::dateidialog(const Dateidialog& dialog) {
     dialoge.push_back(dialog);
-    return naechste(dateien, std::optional<std::filesystem::path>());
+    return ohne_leere(naechste(dateien));
 }
 
 void Testplattform::zeitgeber_starten(const std::string& name, int millisekunden,

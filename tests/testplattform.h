@@ -11,12 +11,12 @@
 namespace velmaris::test {
 
 /// A desktop that follows a script: answers are set before, what was asked is read after. Without an answer
-/// left a message box is answered by `ok`, dialogs are cancelled.
+/// left a message box is answered by `ok` and dialogs are cancelled, as by an empty answer.
 class Testplattform : public Plattform {
   public:
     std::vector<Antwort> antworten;  ///< taken from the front
-    std::vector<std::optional<std::string>> eingaben;
-    std::vector<std::optional<std::filesystem::path>> dateien;
+    std::vector<std::string> eingaben;
+    std::vector<std::filesystem::path> dateien;
     Bildschirmpunkt zeiger_ort;
     double zufallszahl = 0;
     std::vector<std::string> drucker;

@@ -135,7 +135,7 @@ double RekorderFlaeche::textbreite(std::string_view text) const {
 Farbe RekorderFlaeche::lies_punkt(double x, double y) const {
     const std::optional<Pixelkasten> ort = pixelkasten(x, y, x, y);
     if (!ort || !enthaelt(ort->links, ort->oben)) return hintergrund();
-    return raster_[static_cast<std::size_t>(ort->oben * spalten_ + ort->links)];
+    return raster_[stelle(ort->links, ort->oben)];
 }
 
 void RekorderFlaeche::merke(Zeichnung zeichnung) {
@@ -147,8 +147,12 @@ bool RekorderFlaeche::enthaelt(int x, int y) const {
     return x >= 0 && x < spalten_ && y >= 0 && y < zeilen_;
 }
 
+std::size_t RekorderFlaeche::stelle(int x, int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(spalten_) + static_cast<std::size_t>(x);
+}
+
 void RekorderFlaeche::faerbe(int x, int y, Farbe farbe) {
-    if (enthaelt(x, y)) raster_[static_cast<std::size_t>(y * spalten_ + x)] = farbe;
+    if (enthaelt(x, y)) raster_[stelle(x, y)] = farbe;
 }
 
 void RekorderFlaeche::faerbe(const std::optional<Pixelkasten>& kasten, Farbe farbe) {

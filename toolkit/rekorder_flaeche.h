@@ -3,6 +3,7 @@
 #include "toolkit/pixel.h"
 #include "toolkit/zeichenflaeche.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,7 @@ class RekorderFlaeche : public Zeichenflaeche {
   private:
     void merke(Zeichnung zeichnung);
     [[nodiscard]] bool enthaelt(int x, int y) const;
+    [[nodiscard]] std::size_t stelle(int x, int y) const;
     void faerbe(int x, int y, Farbe farbe);
     void faerbe(const std::optional<Pixelkasten>& kasten, Farbe farbe);
 
