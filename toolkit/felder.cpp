@@ -45,6 +45,12 @@ void Feld::aktiviere(bool aktiv) {
     melden();
 }
 
+void Feld::lege(const Rechteck& lage) {
+    if (lage_ == lage) return;
+    lage_ = lage;
+    melden();
+}
+
 Scrollfeld::Scrollfeld(std::string feldname, int minimum, int maximum, int klein, int gross)
     : Feld(std::move(feldname)),
       minimum_(minimum),
