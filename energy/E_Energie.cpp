@@ -87,6 +87,9 @@ const Heizsystemzeile& E_Energie::katalogzeile() const {
 }
 
 void E_Energie::eingaben_anzeigen() {
+    Projekt& p = sitzung_.p;
+    kombination_pruefen(p.Heizsystem, p.Uebergabe, p.Energietraeger);
+    if (ohne_uebergabe(p.Heizsystem)) p.Uebergabe = 1;
     auswahl_zeigen();
 }
 
