@@ -86,4 +86,12 @@ void A_Klima::heizgrenztemperatur(const Projekt& p) {
     anz_Heizgradtage.schreibe(muster(grenze.Heizgradtage, 0));
 }
 
+std::array<const Anzeige*, 20> A_Klima::anzeigen() const {
+    return {
+        &anz_klimaregion,    &anz_MaxMonatName,   &anz_MinMonatName,  &anz_MaxMonatTemp, &anz_MinMonatTemp,
+        &anz_MittelJahrTemp, &anz_MaxJahrTemp,    &anz_MinJahrTemp,   &anz_tau,          &anz_Vspez,
+        &anz_Tspez,          &anz_Umittel,        &anz_TVspez,        &anz_Heizlast,     &anz_heizlast_spez,
+        &anz_kuehllast,      &anz_kuehllast_spez, &anz_Heizgrenztemp, &anz_Heiztage,     &anz_Heizgradtage};
+}
+
 }  // namespace velmaris

@@ -3,6 +3,8 @@
 #include "project/c_glob.h"
 #include "toolkit/felder.h"
 
+#include <array>
+
 namespace velmaris {
 
 /// How long the building must be heated at its station.
@@ -19,8 +21,6 @@ struct Heizgrenze {
 /// The plane "Klima / Gebäude": labels with the climate in force and the figures of the building. Each
 /// label keeps its text until its writer runs again.
 struct A_Klima {
-    static constexpr const char* titel = "Velmaris - Klimainformationen";
-
     Anzeige anz_klimaregion{"anz_klimaregion"};
     Anzeige anz_MaxMonatName{"anz_MaxMonatName"};
     Anzeige anz_MinMonatName{"anz_MinMonatName"};
@@ -43,6 +43,9 @@ struct A_Klima {
     Anzeige anz_Heizgrenztemp{"anz_Heizgrenztemp"};    ///< degC
     Anzeige anz_Heiztage{"anz_Heiztage"};              ///< days
     Anzeige anz_Heizgradtage{"anz_Heizgradtage"};      ///< Kd
+
+    /// All labels, in the order of the plane.
+    [[nodiscard]] std::array<const Anzeige*, 20> anzeigen() const;
 
     /// Region or station and its temperatures; after the reading of a station.
     void stationswerte_zeigen(const Projekt& p);

@@ -56,7 +56,8 @@ class Stundentabelle {
   private:
     static std::size_t stelle(int m, int d, int h) {
         assert(m >= 1 && m <= monate && d >= 1 && d <= tage_hoechstens && h >= 1 && h <= stunden);
-        return static_cast<std::size_t>(((m - 1) * tage_hoechstens + (d - 1)) * stunden + (h - 1));
+        const int stelle = ((m - 1) * tage_hoechstens + (d - 1)) * stunden + (h - 1);
+        return static_cast<std::size_t>(stelle);
     }
 
     std::array<T, static_cast<std::size_t>(monate) * tage_hoechstens * stunden> werte_{};

@@ -21,22 +21,28 @@ struct Zweisprachig {
 class Laufzeitfehler : public std::runtime_error {
   public:
     /// `feld` names the quantity of the record that the fault is about, empty where there is none.
-    explicit Laufzeitfehler(Zweisprachig text, std::string feld = {})
-        : std::runtime_error(text.de), text_(std::move(text)), feld_(std::move(feld)) {}
+    explicit Laufzeitfehler(Zweisprachig grund, std::string feld = {});
 
-    [[nodiscard]] const std::string& text(std::string_view sprache) const { return text_.in(sprache); }
-    [[nodiscard]] const Zweisprachig& texte() const { return text_; }
+    /// The whole message: the quantity, where there is one, and the reason.
+    [[nodiscard]] const std::string& text(std::string_view sprache) const { return meldung_.in(sprache); }
+
+    /// The reason alone.
+    [[nodiscard]] const Zweisprachig& grund() const { return grund_; }
     [[nodiscard]] const std::string& feld() const { return feld_; }
 
+  protected:
+    Laufzeitfehler(const Zweisprachig& ort, Zweisprachig grund, std::string feld);
+
   private:
-    Zweisprachig text_;
+    Zweisprachig grund_;
+    Zweisprachig meldung_;
     std::string feld_;
 };
 
 /// A fault in or at a file; names the file and, where known, the line (from 1) and the field.
 class Dateifehler : public Laufzeitfehler {
   public:
-    Dateifehler(std::string datei, Zweisprachig text, int zeile = 0, const std::string& feld = {});
+    Dateifehler(std::string datei, Zweisprachig grund, int zeile = 0, const std::string& feld = {});
 
     [[nodiscard]] const std::string& datei() const { return datei_; }
     [[nodiscard]] int zeile() const { return zeile_; }

@@ -8,20 +8,19 @@
 namespace velmaris {
 namespace {
 
-/// The quantity behind a control: the control's name without its ending "_sb".
+/// The quantity behind a control: the control's name without its ending "_sb" or "_cb".
 std::string groesse(const std::string& name) {
-    const std::size_t n = name.size();
-    const bool endung = n > 3 && (name.ends_with("_sb") || name.ends_with("_Sb"));
-    return endung ? name.substr(0, n - 3) : name;
+    for (const char* endung : {"_sb", "_Sb", "_cb"}) {
+        if (name.size() > 3 && name.ends_with(endung)) return name.substr(0, name.size() - 3);
+    }
+    return name;
 }
 
 [[noreturn]] void ausserhalb(const std::string& name, int wert, int minimum, int maximum) {
-    const std::string feld = groesse(name);
     const std::string zahlen =
-        " " + std::to_string(wert) + " (" + std::to_string(minimum) + " .. " + std::to_string(maximum) + ")";
-    throw Laufzeitfehler(
-        {feld + ": Stellung außerhalb des Bereichs:" + zahlen, feld + ": position out of range:" + zahlen},
-        feld);
+        std::to_string(wert) + " (" + std::to_string(minimum) + " .. " + std::to_string(maximum) + ")";
+    throw Laufzeitfehler({"Stellung außerhalb des Bereichs: " + zahlen, "position out of range: " + zahlen},
+                         groesse(name));
 }
 
 void rufe(const std::function<void()>& handler) {
@@ -43,6 +42,12 @@ void Feld::zeige(bool sichtbar) {
 void Feld::aktiviere(bool aktiv) {
     if (aktiv_ == aktiv) return;
     aktiv_ = aktiv;
+    melden();
+}
+
+void Feld::lege(const Rechteck& lage) {
+    if (lage_ == lage) return;
+    lage_ = lage;
     melden();
 }
 
@@ -79,10 +84,14 @@ void Auswahlliste::fuelle(std::vector<std::string> eintraege) {
 }
 
 void Auswahlliste::setze(int index) {
-    const int zahl = static_cast<int>(eintraege_.size());
-    if (index < 0 || index >= zahl) ausserhalb(name, index, 0, zahl - 1);
+    pruefe(index);
     markiere(index);
     rufe(gewaehlt);
+}
+
+void Auswahlliste::pruefe(int index) const {
+    const int zahl = static_cast<int>(eintraege_.size());
+    if (index < 0 || index >= zahl) ausserhalb(groesse_, index, 0, zahl - 1);
 }
 
 void Auswahlliste::markiere(int index) {
@@ -99,11 +108,16 @@ void Auswahlliste::schreibe(std::string text) {
 }
 
 void Pruefeld::setze(int wert) {
+    const bool anders = wert != wert_;
+    markiere(wert);
+    if (anders) rufe(geklickt);
+}
+
+void Pruefeld::markiere(int wert) {
     if (wert != 0 && wert != 1) ausserhalb(name, wert, 0, 1);
     if (wert == wert_) return;
     wert_ = wert;
     melden();
-    rufe(geklickt);
 }
 
 void Optionsgruppe::setze(int option) {
@@ -150,6 +164,12 @@ void Knopf::schreibe(std::string text) {
 
 void Knopf::druecke() const {
     if (aktiv()) rufe(gedrueckt);
+}
+
+void Menuepunkt::kreuze_an(bool angekreuzt) {
+    if (angekreuzt_ == angekreuzt) return;
+    angekreuzt_ = angekreuzt;
+    melden();
 }
 
 void Bildfeld::lade(std::filesystem::path bild) {

@@ -11,9 +11,19 @@
 
 namespace velmaris {
 
-/// What all controls have in common: a name, whether they are shown and can be used, and a call to the view
-/// that shows them. A control is a plain record; it knows no toolkit. A control is bound by its
-/// address, so it cannot be copied.
+/// A place with a size, in pixels of the plane.
+struct Rechteck {
+    double links = 0;
+    double oben = 0;
+    double breite = 0;
+    double hoehe = 0;
+
+    friend bool operator==(const Rechteck&, const Rechteck&) = default;
+};
+
+/// What all controls have in common: a name, whether they are shown and can be used, where they stand if the
+/// program itself says so, and a call to the view that shows them. A control is a plain record; it knows no
+/// toolkit. A control is bound by its address, so it cannot be copied.
 class Feld {
   public:
     explicit Feld(std::string feldname) : name(std::move(feldname)) {}
@@ -25,6 +35,10 @@ class Feld {
     [[nodiscard]] bool aktiv() const { return aktiv_; }
     void zeige(bool sichtbar);
     void aktiviere(bool aktiv);
+
+    /// Place and size, nothing where the view settles them.
+    [[nodiscard]] const std::optional<Rechteck>& lage() const { return lage_; }
+    void lege(const Rechteck& lage);
 
     const std::string name;
 
@@ -38,6 +52,7 @@ class Feld {
   private:
     bool sichtbar_ = true;
     bool aktiv_ = true;
+    std::optional<Rechteck> lage_;
 };
 
 /// A scroll field: an integer position between a minimum and a maximum, a small step (arrow) and
@@ -76,7 +91,9 @@ class Scrollfeld : public Feld {
 /// A drop-down list: entries, a selected row (-1 for none) and the text part.
 class Auswahlliste : public Feld {
   public:
-    explicit Auswahlliste(std::string feldname) : Feld(std::move(feldname)) {}
+    /// `groesse` names the quantity behind the list, for fault messages, where it is not the list's name.
+    explicit Auswahlliste(std::string feldname, std::string groesse = {})
+        : Feld(std::move(feldname)), groesse_(groesse.empty() ? name : std::move(groesse)) {}
 
     [[nodiscard]] const std::vector<std::string>& eintraege() const { return eintraege_; }
     [[nodiscard]] int index() const { return index_; }
@@ -89,6 +106,9 @@ class Auswahlliste : public Feld {
     /// exist is a Laufzeitfehler that names the list.
     void setze(int index);
 
+    /// The fault of `setze` for a row that does not exist; nothing else.
+    void pruefe(int index) const;
+
     /// Selects a row without the handler; -1 for none.
     void markiere(int index);
 
@@ -99,6 +119,7 @@ class Auswahlliste : public Feld {
     std::function<void()> gewaehlt;
 
   private:
+    std::string groesse_;
     std::vector<std::string> eintraege_;
     int index_ = -1;
     std::string text_;
@@ -112,8 +133,11 @@ class Pruefeld : public Feld {
     [[nodiscard]] int wert() const { return wert_; }
 
     /// Sets the check and fires the handler if it differs. A value other than 0 and 1 is
-    /// a Laufzeitfehler that names the control.
+    /// a Laufzeitfehler that names the quantity (the control's name without "_cb").
     void setze(int wert);
+
+    /// Sets the check without the handler; errors as in `setze`.
+    void markiere(int wert);
 
     /// The control's handler.
     std::function<void()> geklickt;
@@ -206,6 +230,18 @@ class Knopf : public Feld {
     std::string text_;
 };
 
+/// A menu entry: a button that may carry a check mark.
+class Menuepunkt : public Knopf {
+ public:
+    explicit Menuepunkt(std::string feldname) : Knopf(std::move(feldname)) {}
+
+    [[nodiscard]] bool angekreuzt() const { return angekreuzt_; }
+    void kreuze_an(bool angekreuzt);
+
+ private:
+    bool angekreuzt_ = false;
+};
+
 /// A picture or chart surface: a repaint routine over an image that may be empty.
 class Bildfeld : public Feld {
   public:
@@ -224,6 +260,9 @@ class Bildfeld : public Feld {
     /// Pointer events in surface pixels, where the plane wants them.
     std::function<void(double, double)> maus_bewegt;
     std::function<void(double, double)> maus_geklickt;
+
+    /// The colour of a pixel as it was drawn last; set by the view.
+    std::function<Farbe(double, double)> lies_punkt;
 
   private:
     std::filesystem::path bild_;

@@ -186,11 +186,9 @@ std::optional<double> zahl_pruefen(std::string_view text) {
 std::int16_t i16(double wert, std::string_view feld) {
     const double ganz = std::nearbyint(wert);
     if (!(ganz >= -32768.0 && ganz <= 32767.0)) {
-        const std::string name(feld);
-        throw Laufzeitfehler(
-            {name + ": Überlauf, der Wert" + zahltext(wert) + " passt in keine 16-Bit-Zahl",
-             name + ": overflow, the value" + zahltext(wert) + " does not fit a 16-bit number"},
-            name);
+        throw Laufzeitfehler({"Überlauf, der Wert" + zahltext(wert) + " passt in keine 16-Bit-Zahl",
+                              "overflow, the value" + zahltext(wert) + " does not fit a 16-bit number"},
+                             std::string(feld));
     }
     return static_cast<std::int16_t>(ganz);
 }

@@ -1,0 +1,119 @@
+#include "project/projektdatei.h"
+
+#include "project/feldtabelle.h"
+#include "toolkit/fehler.h"
+#include "toolkit/text.h"
+#include "toolkit/textdatei.h"
+#include "toolkit/zahlen.h"
+
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace velmaris {
+namespace {
+
+constexpr int letzte_zeile_frueher = 67;
+constexpr int letzte_zeile_jetzt = 69;
+
+/// The control behind a quantity that is set on its plane, nullptr for the plain fields.
+const std::function<void(int)>* haken_fuer(std::string_view name, const Ebenenhaken& haken) {
+    if (name == "Innenwandart") return &haken.Innenwandart;
+    if (name == "Aussenwandart") return &haken.Aussenwandart;
+    if (name == "Check_Dachgeschoss") return &haken.Check_Dachgeschoss;
+    if (name == "Option_Dachfirst") return &haken.Option_Dachfirst;
+    if (name == "Option1") return &haken.Option1;
+    return nullptr;
+}
+
+double zahl_des_postens(std::string_view posten) {
+    const std::optional<double> zahl = zahl_pruefen(posten);
+    if (zahl) return *zahl;
+    const std::string text = " \"" + std::string(posten.substr(0, 40)) + "\"";
+    throw Laufzeitfehler({"keine Zahl:" + text, "not a number:" + text});
+}
+
+float f32_des_postens(std::string_view posten) {
+    const double zahl = zahl_des_postens(posten);
+    if (std::fabs(zahl) > static_cast<double>(std::numeric_limits<float>::max())) {
+        throw Laufzeitfehler(
+            {"Zahl zu groß: " + std::string(posten), "number too large: " + std::string(posten)});
+    }
+    return f32(zahl);
+}
+
+void ablegen(Projekt& p, const Feldzeile& feld, std::string_view posten, const Ebenenhaken& haken) {
+    if (const auto* text = std::get_if<std::string Projekt::*>(&feld.zeiger)) {
+        p.*(*text) = posten;
+    } else if (const auto* gleitzahl = std::get_if<float Projekt::*>(&feld.zeiger)) {
+        p.*(*gleitzahl) = f32_des_postens(posten);
+    } else if (const auto* ganzzahl = std::get_if<std::int16_t Projekt::*>(&feld.zeiger)) {
+        const std::int16_t wert = i16(zahl_des_postens(posten), feld.name);
+        if (const auto* steller = haken_fuer(feld.name, haken)) {
+            (*steller)(wert);
+        } else {
+            if (haken.zeile_pruefen) haken.zeile_pruefen(feld.name, wert);
+            p.*(*ganzzahl) = wert;
+        }
+    }
+}
+
+void zeile_lesen(Projekt& p, int zeile, Listenleser& leser, const std::string& name,
+                 const Ebenenhaken& haken) {
+    const Feldzeile& feld = feld_der_zeile(zeile);
+    const std::string feldname(feld.name);
+    const auto posten = leser.naechster();
+    if (!posten)
+        throw Dateifehler(name, {"die Datei endet zu früh", "the file ends too early"}, zeile, feldname);
+    try {
+        ablegen(p, feld, *posten, haken);
+    } catch (const Laufzeitfehler& fehler) {
+        throw Dateifehler(name, fehler.grund(), leser.zeile(), feldname);
+    }
+}
+
+std::string zeilentext(const Projekt& p, const Feldzeile& feld) {
+    if (feld.name == "Option_Dachfirst") return p.Option_Dachfirst == 1 ? "1" : "2";
+    if (feld.name == "Option1") return p.Option1 == 0 ? "0" : "1";
+    return std::visit(
+        [&p](auto zeiger) -> std::string {
+            if constexpr (std::is_same_v<decltype(zeiger), std::string Projekt::*>) {
+                return p.*zeiger;
+            } else {
+                return zahltext(p.*zeiger);
+            }
+        },
+        feld.zeiger);
+}
+
+}  // namespace
+
+bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, const Ebenenhaken& haken) {
+    const std::string text = aus_windows1252(bytes);
+    Listenleser leser(text);
+    const auto version = leser.naechster();
+    if (version != version_jetzt && version != version_frueher) return false;
+    for (int zeile = 2; zeile <= letzte_zeile_frueher; ++zeile)
+        zeile_lesen(p, zeile, leser, name, haken);
+    if (version == version_frueher) {
+        p.infiltration = 0;
+        p.Waermebruecken = f32(0.1);
+        return true;
+    }
+    for (int zeile = letzte_zeile_frueher + 1; zeile <= letzte_zeile_jetzt; ++zeile) {
+        zeile_lesen(p, zeile, leser, name, haken);
+    }
+    return true;
+}
+
+std::string projekt_schreiben(const Projekt& p) {
+    std::string text(version_jetzt);
+    text += "\r\n";
+    for (int zeile = 2; zeile <= letzte_zeile_jetzt; ++zeile) {
+        text += zeilentext(p, feld_der_zeile(zeile));
+        text += "\r\n";
+    }
+    return nach_windows1252(text);
+}
+
+}  // namespace velmaris

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "project/c_glob.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace velmaris {
+
+/// Version lines of the project file. Version 3.0 lacks the lines of `infiltration` and `Waermebruecken`.
+inline constexpr std::string_view version_jetzt = "Velmaris Version 3.2";
+inline constexpr std::string_view version_frueher = "Velmaris Version 3.0";
+
+/// What the reader sets on the planes as it comes to the line, since these quantities are controls there.
+/// Each call runs the control's handler.
+struct Ebenenhaken {
+    std::function<void(int)> Innenwandart = {};
+    std::function<void(int)> Aussenwandart = {};
+    std::function<void(int)> Check_Dachgeschoss = {};
+    std::function<void(int)> Option_Dachfirst = {};
+    std::function<void(int)> Option1 = {};
+
+    /// Raises a Laufzeitfehler if the list of that quantity has no such row; may be empty.
+    std::function<void(std::string_view feld, int zeile)> zeile_pruefen = {};
+};
+
+/// Reads the text of a project file (windows-1252; `name` is the file's name for messages) into the record,
+/// line by line in the file's order. Returns false if the first line is no version known here; then nothing
+/// is changed. A missing line, an item that is no number where one belongs, a number that the field cannot
+/// hold, or an index outside its list is a Dateifehler that names line and field; what was read before it
+/// stays.
+bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, const Ebenenhaken& haken);
+
+/// The text of a project file of the current version (69 lines, CR LF, windows-1252).
+[[nodiscard]] std::string projekt_schreiben(const Projekt& p);
+
+}  // namespace velmaris
