@@ -72,7 +72,15 @@ void E_Energie::aktiviert() {
 }
 
 void E_Energie::EnergRefresh() {
+    rechnen();
+    zeigen();
+}
+
+void E_Energie::rechnen() {
     kennwerte_ = energ_refresh(sitzung_.p);
+}
+
+void E_Energie::zeigen() {
     auswahl_zeigen();
     felder_fuellen(kennwerte_);
     beschriften(kennwerte_.name);

@@ -82,6 +82,10 @@ struct E_Energie {
     /// while the plane is visible. Errors as in `kombination_pruefen`.
     void EnergRefresh();
 
+    /// The two halves of it: the arithmetic alone, and the plane alone.
+    void rechnen();
+    void zeigen();
+
     /// Takes entry i (1..9) of the open list: stores the choice and recalculates. The dirty flag stays. An
     /// entry that is hidden cannot be taken.
     void Label_Auswahl_Click(int i);

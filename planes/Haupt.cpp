@@ -124,9 +124,12 @@ Rechenplan Haupt::rechenplan() {
         e_geometrie.geometrie_zeigen();
         e_fenster.geometrie_zeigen();
     };
-    plan.gebaeude_zeigen = [this] { e_gebaeude.gebaeude_zeigen(); };
-    plan.energie = [this] { e_energie.EnergRefresh(); };
-    plan.energie_zeigen = [this] { a_klima.kennwerte_zeigen(p); };
+    plan.gebaeude_zeigen = [this] {
+        e_gebaeude.gebaeude_zeigen();
+        a_klima.kennwerte_zeigen(p);
+    };
+    plan.energie = [this] { e_energie.rechnen(); };
+    plan.energie_zeigen = [this] { e_energie.zeigen(); };
     const auto zeile = [&plan](const char* name, const Feld& ebene, std::function<void()> zeichnen) {
         plan.tabelle.push_back({name, [&ebene] { return ebene.sichtbar(); }, std::move(zeichnen)});
     };
