@@ -3,7 +3,7 @@
 #include "climate/klimadatei.h"
 #include "language/c_Sprache.h"
 #include "planes/neues_projekt.h"
-#include "toolkit/fehler.h"
+#include "toolkit/sanduhr.h"
 #include "toolkit/zahlen.h"
 
 namespace velmaris {
@@ -26,6 +26,7 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       e_fenster(sitzung),
       e_daemmung(sitzung),
       e_gebaeude(sitzung),
+      e_klima(sitzung, [this] { wetter_laden(); }),
       e_energie(sitzung),
       datei(sitzung, projektwege()),
       plan_(rechenplan()) {
@@ -59,7 +60,7 @@ Rechenplan Haupt::rechenplan() {
 Projektwege Haupt::projektwege() {
     Projektwege wege;
     wege.neues_projekt = [this] { neues_projekt(); };
-    wege.klimadatei_lesen = [this] { klimadatei_lesen(p); };
+    wege.klimadatei_lesen = [this] { klimadatei_lesen(); };
     wege.wetter_laden = [this] { wetter_laden(); };
     wege.eingaben_anzeigen = [this] { eingaben_anzeigen(); };
     wege.erste_ebenen = [] {};
@@ -80,8 +81,14 @@ void Haupt::neues_projekt() {
 }
 
 void Haupt::wetter_laden() {
-    klimadatei_lesen(p);
+    const Sanduhr sanduhr(sitzung.plattform);
+    klimadatei_lesen();
     alles_berechnen();
+}
+
+void Haupt::klimadatei_lesen() {
+    velmaris::klimadatei_lesen(p);
+    e_klima.klima_zeigen();
     a_klima.stationswerte_zeigen(p);
 }
 
@@ -91,6 +98,7 @@ void Haupt::eingaben_anzeigen() {
     e_fenster.eingaben_anzeigen();
     e_gebaeude.eingaben_anzeigen();
     e_energie.eingaben_anzeigen();
+    e_klima.klima_anzeigen();
     p.Geaendert = 0;
 }
 

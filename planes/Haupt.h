@@ -2,6 +2,7 @@
 
 #include "calc/alles_berechnen.h"
 #include "climate/A_Klima.h"
+#include "climate/E_Klima.h"
 #include "energy/E_Energie.h"
 #include "planes/E_Daemmung.h"
 #include "planes/E_Fenster.h"
@@ -30,6 +31,7 @@ struct Haupt {
     E_Fenster e_fenster;
     E_Daemmung e_daemmung;
     E_Gebaeude e_gebaeude;
+    E_Klima e_klima;
     E_Energie e_energie;
     A_Klima a_klima;
     FILEIO datei;
@@ -54,6 +56,8 @@ struct Haupt {
     [[nodiscard]] Projektwege projektwege();
     [[nodiscard]] Rechenplan rechenplan();
     void verbinden();
+    /// Reads the station of the record and shows its figures.
+    void klimadatei_lesen();
 
     Rechenplan plan_;
 };
