@@ -15,6 +15,7 @@ namespace {
 
 constexpr int twips = 15;  ///< in a pixel
 constexpr int weltbreite = 650;
+constexpr int welthoehe = 246;
 constexpr int kleiner_schritt = 10 * twips;
 constexpr int grosser_schritt = 100 * twips;
 
@@ -99,6 +100,7 @@ E_Klima::E_Klima(Sitzung& sitzung, std::function<void()> wetter_laden)
     Picture1.lade(regionenbild(s_.p, 0));
     Picture2.lade(kartenbild(s_.p, "europa"));
     Picture3.lade(kartenbild(s_.p, "welt"));
+    weltkarte_legen();
     bereich_zeigen(deutschland);
     verbinden();
 }
@@ -113,9 +115,7 @@ void E_Klima::verbinden() {
     Klimaregionwahl2.gewaehlt = [this] { station_gewaehlt(); };
     europakarte_.verbinden();
     weltkarte_.verbinden();
-    HScroll1.geaendert = [this] {
-        if (Picture3_bewegt) Picture3_bewegt();
-    };
+    HScroll1.geaendert = [this] { weltkarte_legen(); };
     Image1.gedrueckt = [this] { zoom.oeffnen(); };
 }
 
@@ -208,10 +208,15 @@ void E_Klima::station_gewaehlt() {
     Picture3.neu_zeichnen();
 }
 
+/// The scroll field's value is the map's left edge with the sign turned.
+void E_Klima::weltkarte_legen() {
+    Picture3.lege({-HScroll1.position() / static_cast<double>(twips), 0, weltbreite, welthoehe});
+}
+
 void E_Klima::station_in_sicht(const Station& station) {
     const double x = station.ort.x * twips;
-    if (-Picture3_links() > x) HScroll1.setze(0);
-    if (-Picture3_links() + rahmenbreite * twips < x) HScroll1.setze(HScroll1.maximum());
+    if (HScroll1.position() > x) HScroll1.setze(0);
+    if (HScroll1.position() + rahmenbreite * twips < x) HScroll1.setze(HScroll1.maximum());
 }
 
 /// Makes a station the current climate. If its file has vanished meanwhile, the user is told and everything

@@ -46,9 +46,10 @@ struct E_Klima {
     Anzeige MausRegion{"MausRegion"};                   ///< station under the pointer
     Bildfeld Picture2{"Picture2"};                      ///< map of Europe, 234 x 201 pixels
     Feld picture3f{"picture3f"};                        ///< frame around the visible strip of the world map
-    Bildfeld Picture3{"Picture3"};                      ///< map of the world, 650 x 246 pixels
-    Scrollfeld HScroll1;                                ///< moves the world map; twips
-    Knopf Image1{"Image1"};                             ///< opens the enlarged map
+    Bildfeld Picture3{
+        "Picture3"};         ///< map of the world, 650 x 246 pixels; its place is relative to the frame
+    Scrollfeld HScroll1;     ///< moves the world map; twips
+    Knopf Image1{"Image1"};  ///< opens the enlarged map
     E_Zoom_Klima zoom;
 
     // --- Figures of the climate in force, degC ---
@@ -63,12 +64,6 @@ struct E_Klima {
 
     /// Set by the view: reads a pixel of one of the maps.
     Kartenfarbe kartenfarbe;
-
-    /// Left edge of the world map in its frame, zero or negative; twips.
-    [[nodiscard]] int Picture3_links() const { return -HScroll1.position(); }
-
-    /// Set by the view: the left edge of the world map has changed.
-    std::function<void()> Picture3_bewegt;
 
     /// Sets the option of `Klimaauswahl` and runs its logic, also if it is set already. A value without an
     /// option does nothing.
@@ -91,6 +86,7 @@ struct E_Klima {
     void auswahl_nachziehen();
     void region_gewaehlt();
     void station_gewaehlt();
+    void weltkarte_legen();
     void station_in_sicht(const Station& station);
     void uebernehmen(const std::string& datei);
     void karte_bewegt(double x, double y);

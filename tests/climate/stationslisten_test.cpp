@@ -32,8 +32,8 @@ TEST(Kartenpunkte, LiegenWoDieHandSieAusrechnet) {
     // 92 + 0.55 x (1104 - 1193) / 31 = 90.42097. World at 90 degrees: 1.677777778 x 90 = 151.
     for (const Fall& fall :
          {Fall{44.104, 4.797, {90.42097, 132}, {333.04830, 49.00329}},
-          Fall{74.104, -25.203, {0, 0}, {282.71497, -1.33004}},
-          Fall{0, 0, {65.65238, 326.0576}, {325, 123}}, Fall{45, -90, {-260.28739, 128.0576}, {174, 47.5}}}) {
+          Fall{74.104, -25.203, {0, 0}, {282.71497, -1.33004}}, Fall{0, 0, {65.65238, 326.0576}, {325, 123}},
+          Fall{45, -90, {-260.28739, 128.0576}, {174, 47.5}}}) {
         EXPECT_NEAR(europapunkt(fall.breite, fall.laenge).x, fall.europa.x, 1e-4);
         EXPECT_NEAR(europapunkt(fall.breite, fall.laenge).y, fall.europa.y, 1e-4);
         EXPECT_NEAR(weltpunkt(fall.breite, fall.laenge).x, fall.welt.x, 1e-4);
@@ -50,8 +50,8 @@ TEST(Stationslisten, SindNachDenBytesDerNamenGeordnet) {
     ordner.schreibe("GROSS.MET", kopftext("Aachen (D)", 51, 6));
     ordner.schreibe("f.met", kopftext("Tokyo (J)", 35.7, 139.8));
     const Stationslisten listen = stationslisten_lesen(ordner.pfad());
-    EXPECT_THAT(stationsnamen(listen.Welt),
-                ElementsAre("Aachen (D)", "Tokyo (J)", "Zürich (CH)", "aarau (CH)", "Šibenik (HR)", "Ålesund (N)"));
+    EXPECT_THAT(stationsnamen(listen.Welt), ElementsAre("Aachen (D)", "Tokyo (J)", "Zürich (CH)",
+                                                        "aarau (CH)", "Šibenik (HR)", "Ålesund (N)"));
     EXPECT_THAT(stationsnamen(listen.Europa),
                 ElementsAre("Aachen (D)", "Zürich (CH)", "aarau (CH)", "Šibenik (HR)", "Ålesund (N)"));
     EXPECT_EQ(station(listen.Welt, "GROSS.MET").name, "Aachen (D)");
@@ -66,10 +66,10 @@ TEST(Stationslisten, EuropaEndetAmRandDesBildes) {
         double breite, laenge;
         bool drin;
     };
-    const std::vector<Fall> faelle{
-        {"ecke.met", 74.104, -25.203, true}, {"oben.met", 74.2, 0, false},      {"links.met", 74.104, -25.3, false},
-        {"unten.met", 28.7, 7.4, true},      {"sued.met", 28.6, 7.4, false},    {"rechts.met", 60, 42, true},
-        {"ost.met", 60, 60, false},          {"new_york.met", 40.7, -74, false}};
+    const std::vector<Fall> faelle{{"ecke.met", 74.104, -25.203, true}, {"oben.met", 74.2, 0, false},
+                                   {"links.met", 74.104, -25.3, false}, {"unten.met", 28.7, 7.4, true},
+                                   {"sued.met", 28.6, 7.4, false},      {"rechts.met", 60, 42, true},
+                                   {"ost.met", 60, 60, false},          {"new_york.met", 40.7, -74, false}};
     const Testordner ordner;
     for (const Fall& fall : faelle)
         ordner.schreibe(fall.datei, kopftext(fall.datei, fall.breite, fall.laenge));
@@ -107,13 +107,15 @@ TEST(Stationslisten, OhneDateienSindLeer) {
 
 TEST(Postleitzahlen, FindenIhreRegion) {
     const Testordner ordner;
-    const auto tabelle = ordner.schreibe("plz.txt", "010; 2\r\n011;11,012; 0\r\n013;13\r\n014;-1\r\n010; 7\r\n");
+    const auto tabelle =
+        ordner.schreibe("plz.txt", "010; 2\r\n011;11,012; 0\r\n013;13\r\n014;-1\r\n010; 7\r\n");
     struct Fall {
         std::string plz;
         std::optional<int> region;
     };
-    for (const Fall& fall : {Fall{"01099", 2}, Fall{"01109", 11}, Fall{"01234", 0}, Fall{"01307", std::nullopt},
-                             Fall{"01444", std::nullopt}, Fall{"99999", std::nullopt}, Fall{"01", std::nullopt}})
+    for (const Fall& fall :
+         {Fall{"01099", 2}, Fall{"01109", 11}, Fall{"01234", 0}, Fall{"01307", std::nullopt},
+          Fall{"01444", std::nullopt}, Fall{"99999", std::nullopt}, Fall{"01", std::nullopt}})
         EXPECT_EQ(region_der_postleitzahl(tabelle, fall.plz), fall.region) << fall.plz;
     EXPECT_THROW(static_cast<void>(region_der_postleitzahl(ordner / "fehlt.txt", "01099")), Dateifehler);
 }
