@@ -4,7 +4,7 @@
 #include "language/beschriftungen.h"
 #include "language/c_Sprache.h"
 #include "planes/neues_projekt.h"
-#include "toolkit/fehler.h"
+#include "toolkit/sanduhr.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -29,6 +29,7 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       e_fenster(sitzung),
       e_daemmung(sitzung),
       e_gebaeude(sitzung),
+      e_klima(sitzung, [this] { wetter_laden(); }),
       e_energie(sitzung),
       a_uebersicht(sitzung),
       a_heizen(sitzung),
@@ -47,6 +48,7 @@ void Haupt::leisten_fuellen() {
     e_menue.aufnehmen("Fenster", e_fenster.ebene, {});
     e_menue.aufnehmen("Daemmung", e_daemmung.ebene, {});
     e_menue.aufnehmen("Gebaeude", e_gebaeude.ebene, {});
+    e_menue.aufnehmen("Klima", e_klima.ebene, {});
     e_menue.aufnehmen("Energie", e_energie.ebene, [this] { e_energie.aktiviert(); });
     a_menue.aufnehmen("Uebersicht", a_uebersicht.ebene, [this] { a_uebersicht.aktiviert(); });
     a_menue.aufnehmen("Klima", a_klima.ebene, [this] { a_klima.Ausfuellen(p); });
@@ -153,7 +155,7 @@ Rechenplan Haupt::rechenplan() {
 Projektwege Haupt::projektwege() {
     Projektwege wege;
     wege.neues_projekt = [this] { neues_projekt(); };
-    wege.klimadatei_lesen = [this] { klimadatei_lesen(p); };
+    wege.klimadatei_lesen = [this] { klimadatei_lesen(); };
     wege.wetter_laden = [this] { wetter_laden(); };
     wege.eingaben_anzeigen = [this] { eingaben_anzeigen(); };
     wege.bauteile_anzeigen = [this] { bauteile_anzeigen(); };
@@ -178,13 +180,20 @@ void Haupt::neues_projekt() {
 }
 
 void Haupt::wetter_laden() {
-    klimadatei_lesen(p);
+    const Sanduhr sanduhr(sitzung.plattform);
+    klimadatei_lesen();
     alles_berechnen();
+}
+
+void Haupt::klimadatei_lesen() {
+    velmaris::klimadatei_lesen(p);
+    e_klima.klima_zeigen();
     a_klima.stationswerte_zeigen(p);
 }
 
 void Haupt::eingaben_anzeigen() {
     bauteile_anzeigen();
+    e_klima.klima_anzeigen();
     p.Geaendert = 0;
 }
 

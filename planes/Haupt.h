@@ -6,6 +6,7 @@
 #include "charts/A_Uebersicht.h"
 #include "charts/A_Zoom.h"
 #include "climate/A_Klima.h"
+#include "climate/E_Klima.h"
 #include "energy/E_Energie.h"
 #include "planes/E_Daemmung.h"
 #include "planes/E_Fenster.h"
@@ -36,6 +37,7 @@ struct Haupt {
     E_Fenster e_fenster;
     E_Daemmung e_daemmung;
     E_Gebaeude e_gebaeude;
+    E_Klima e_klima;
     E_Energie e_energie;
     A_Uebersicht a_uebersicht;
     A_Klima a_klima;
@@ -89,6 +91,9 @@ struct Haupt {
     void leisten_fuellen();
     void menue_verbinden();
     void sprache_waehlen(const std::string& buchstabe);
+
+    /// Reads the station of the record and shows its figures.
+    void klimadatei_lesen();
 
     Rechenplan plan_;
 };

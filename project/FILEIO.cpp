@@ -2,23 +2,12 @@
 
 #include "project/feldtabelle.h"
 #include "toolkit/fehler.h"
+#include "toolkit/sanduhr.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
 namespace velmaris {
 namespace {
-
-/// Shows the wait cursor while it lives.
-class Sanduhr {
-  public:
-    explicit Sanduhr(Plattform& plattform) : plattform_(plattform) { plattform_.sanduhr(true); }
-    Sanduhr(const Sanduhr&) = delete;
-    Sanduhr& operator=(const Sanduhr&) = delete;
-    ~Sanduhr() { plattform_.sanduhr(false); }
-
-  private:
-    Plattform& plattform_;
-};
 
 /// The part of a path behind its last separator.
 std::string dateiname(const std::string& datei) {
