@@ -1,5 +1,6 @@
 #include "calc/fassaden.h"
 #include "documents/klimaregionen.h"
+#include "documents/nachbarwaende.h"
 #include "documents/reportseiten.h"
 #include "language/beschriftungen.h"
 #include "toolkit/zahlen.h"
@@ -76,25 +77,6 @@ void daemmung(Reporttext& text, const Reportquelle& quelle) {
     text.unterreihe(u, muster(p.kt, 2), uwert);
     // The label has no English form.
     text.textreihe({"Wärmebrücken", "Wärmebrücken"}, quelle.auswahl.Waermebruecken);
-}
-
-/// The walls that adjoin a heated neighbour.
-std::string nachbarwaende(const Projekt& p, std::string_view sprache) {
-    struct Wand {
-        Wort name;
-        std::int16_t Projekt::*aussen;
-    };
-    constexpr std::array<Wand, 4> waende{{{{"Nord", "north"}, &Projekt::awn},
-                                          {{"Süd", "south"}, &Projekt::aws},
-                                          {{"Ost", "east"}, &Projekt::awo},
-                                          {{"West", "west"}, &Projekt::aww}}};
-    std::string namen;
-    for (const Wand& wand : waende) {
-        if (p.*wand.aussen != 0) continue;
-        if (!namen.empty()) namen += ", ";
-        namen += wand.name.in(sprache);
-    }
-    return namen;
 }
 
 void bauarten(Reporttext& text, const Auswahltexte& auswahl) {
