@@ -51,6 +51,7 @@ void Druckdiagramm::stapel(double x1, double x2, std::initializer_list<Druckabsc
         if (abschnitt.wert != 0) blatt_.drucker().flaeche(x1, y(unten), x2, y(oben), abschnitt.farbe);
         unten = oben;
     }
+    blatt_.linie(x1, lage_.unten, x2, lage_.unten);
 }
 
 void Druckdiagramm::monatsnamen() const {

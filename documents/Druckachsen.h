@@ -63,7 +63,8 @@ class Druckdiagramm {
     Druckdiagramm(Blatt& blatt, const Diagrammlage& lage, double schritt, int teile,
                   std::string_view einheit);
 
-    /// A bar of pieces upon each other, from the axis upward; pieces of no height are left out.
+    /// A bar of pieces upon each other, from the axis upward, with the axis under it anew; pieces of no
+    /// height are left out.
     void stapel(double x1, double x2, std::initializer_list<Druckabschnitt> abschnitte) const;
 
     /// The names of the months, and a name in the middle under the axis.

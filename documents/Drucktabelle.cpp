@@ -16,8 +16,8 @@ constexpr double monatsanker(int i) {
 }
 
 /// One half year with its rules. Returns the y of the last one.
-double haelfte_drucken(Blatt& blatt, double y, const Tabellenform& form, std::span<const Monatszeile> zeilen,
-                       int haelfte) {
+double haelfte_drucken(Blatt& blatt, double y, const Tabellenform& form,
+                       std::span<const Tabellenzeile> zeilen, int haelfte) {
     const bool mit_jahr = haelfte == 1;
     const double kopfhoehe = mit_jahr && !form.jahr[1].de.empty() ? 2 * form.zeilenhoehe : form.zeilenhoehe;
     blatt.regel(y);
@@ -35,7 +35,7 @@ double haelfte_drucken(Blatt& blatt, double y, const Tabellenform& form, std::sp
     y += kopfhoehe;
     blatt.doppelregel(y);
     y += 1.6;
-    for (const Monatszeile& zeile : zeilen) {
+    for (const Tabellenzeile& zeile : zeilen) {
         blatt.text(namensspalte, y, zeile.name);
         for (int i = 0; i < monate_je_haelfte; ++i)
             blatt.DruckeWert(zeile.monat(haelfte * monate_je_haelfte + i + 1), monatsanker(i), zeile.stellen,
@@ -61,7 +61,7 @@ std::vector<std::string_view> worte(std::string_view zeile) {
 }
 
 double monatstabelle_drucken(Blatt& blatt, double y, const Tabellenform& form,
-                             std::span<const Monatszeile> zeilen) {
+                             std::span<const Tabellenzeile> zeilen) {
     blatt.schrift({.groesse = form.schrift});
     y = haelfte_drucken(blatt, y, form, zeilen, 0);
     return haelfte_drucken(blatt, y + haelftenabstand, form, zeilen, 1);

@@ -25,7 +25,7 @@ inline constexpr Wort monate_der_diagramme{
 [[nodiscard]] std::vector<std::string_view> worte(std::string_view zeile);
 
 /// A row of a table by months: its name, its value in month 1..12 and that of the year.
-struct Monatszeile {
+struct Tabellenzeile {
     std::string name;
     std::function<double(int)> monat;
     std::optional<double> jahr;
@@ -43,6 +43,6 @@ struct Tabellenform {
 /// Prints the half years one under the other, the year behind the second, from y down. Returns the y of
 /// the last rule.
 double monatstabelle_drucken(Blatt& blatt, double y, const Tabellenform& form,
-                             std::span<const Monatszeile> zeilen);
+                             std::span<const Tabellenzeile> zeilen);
 
 }  // namespace velmaris

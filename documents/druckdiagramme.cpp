@@ -45,6 +45,14 @@ double groesster(const std::function<double(int)>& wert, double mindestens) {
     return maximum;
 }
 
+/// Step of a scale for energies of the whole house, which reach further than those per area: from 10000 on
+/// the steps repeat in thousands.
+double schritt_absolut(double hoechster) {
+    constexpr double tausend = 1000;
+    if (hoechster < 10 * tausend) return stufen_heizjahr.schritt(hoechster);
+    return tausend * stufen_heizjahr.schritt(hoechster / tausend);
+}
+
 /// A diagram with one bar in every month.
 void einzelbalken(Blatt& blatt, const Diagrammlage& lage, const std::function<double(int)>& wert,
                   double schritt, int teile, std::string_view einheit, Farbe farbe) {
@@ -152,7 +160,7 @@ void Diagramm_Fenster(Blatt& blatt, const Projekt& p) {
     double hoechster = 1;
     for (const Seite& seite : seiten)
         hoechster = std::max({hoechster, double{seite.gewinn}, double{seite.verlust}});
-    const Druckdiagramm diagramm(blatt, fenster, stufen_heizjahr.schritt(hoechster), fuenf, "kWh/a");
+    const Druckdiagramm diagramm(blatt, fenster, schritt_absolut(hoechster), fuenf, "kWh/a");
     for (const Seite& seite : seiten) {
         diagramm.stapel(seite.x, seite.x + breite, {{seite.gewinn, druckfarben::solar}});
         diagramm.stapel(seite.x + zweiter, seite.x + zweiter + breite,

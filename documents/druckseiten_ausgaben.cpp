@@ -16,7 +16,7 @@ namespace {
 constexpr std::array<Wort, 2> jahr{{{"Jahr", "Year"}, {"", ""}}};
 
 /// Hours of one class, and their share of all hours.
-void stundenzeilen(std::vector<Monatszeile>& zeilen, const Projekt& p, std::string_view sprache,
+void stundenzeilen(std::vector<Tabellenzeile>& zeilen, const Projekt& p, std::string_view sprache,
                    const Wort& name, std::int16_t Monatswerte::*art) {
     const std::string vorn(name.in(sprache));
     const double summe = summe_der_monate(p, art);
@@ -162,7 +162,7 @@ void fensterbilanz(Blatt& blatt, double y, const Projekt& p) {
 
 void seite_stunden(Blatt& blatt, const Reportquelle& quelle) {
     const Projekt& p = quelle.p;
-    std::vector<Monatszeile> zeilen;
+    std::vector<Tabellenzeile> zeilen;
     stundenzeilen(zeilen, p, blatt.sprache(), {"Heizstunden", "Heating hours"}, &Monatswerte::Stunden_kalt);
     stundenzeilen(zeilen, p, blatt.sprache(), {"Nullenergiestunden", "Zero energy hours"},
                   &Monatswerte::Stunden_komfort);
@@ -183,7 +183,7 @@ void seite_kuehlbilanz(Blatt& blatt, const Reportquelle& quelle) {
     const double bedarf = summe_der_monate(p, &Monatswerte::Kuehlbedarf);
     const double heiss = summe_der_monate(p, &Monatswerte::Stunden_heiss);
     const auto name = [&blatt](const Wort& wort) { return std::string(wort.in(blatt.sprache())); };
-    const std::array<Monatszeile, 4> zeilen{{
+    const std::array<Tabellenzeile, 4> zeilen{{
         {name({"Kühlbedarf in kWh/m²", "Cooling demand in kWh/m²"}),
          [&p](int m) { return double{p.Monat(m).Kuehlbedarf} / p.f_nutz; }, bedarf / p.f_nutz, 1},
         {name({"Kühlbedarf in kWh", "Cooling demand in kWh"}), [&p](int m) { return p.Monat(m).Kuehlbedarf; },

@@ -94,11 +94,11 @@ double heizwerte(Blatt& blatt, const E_Energie& e) {
     return liste.y();
 }
 
-std::vector<Monatszeile> heizzeilen(const Projekt& p, const Kurzname& traeger, std::string_view sprache) {
+std::vector<Tabellenzeile> heizzeilen(const Projekt& p, const Kurzname& traeger, std::string_view sprache) {
     constexpr Wort ende{"Endenergie", "End energy"};
     constexpr Wort primaer{"Primärenergie", "Primary energy"};
     constexpr Kurzname gesamt{"gesamt", "total"};
-    std::vector<Monatszeile> zeilen;
+    std::vector<Tabellenzeile> zeilen;
     const auto zeile = [&](const Wort& art, const Kurzname& wovon, double im_jahr) {
         zeilen.push_back({mit_traeger(art, wovon, sprache),
                           [&p, im_jahr](int m) { return heizanteil(p, m) * im_jahr; }, im_jahr});
@@ -131,7 +131,7 @@ void seite_kuehlenergie(Blatt& blatt, const Reportquelle& quelle) {
     Werteliste liste(blatt, seitenanfang);
     liste.zeile({"Effizienzfaktor Klimaanlage:", "Efficiency factor of the air conditioning:"},
                 muster(p.Klimaeffizienz, 1),
-                Wort{"kWh Kühlung / kWh Strom", "kWh cooling / kWh electr."}.in(blatt.sprache()));
+                Wort{"kWh Kühlung/kWh Strom", "kWh cooling/kWh electr."}.in(blatt.sprache()));
     liste.abstand();
     liste.zeile({"Kühlbedarf", "Cooling demand"}, muster(bedarf, 1), je_jahr);
     liste.zeile({"Kühlenergiebedarf (Strom)", "End energy demand for cooling (electricity)"},
@@ -144,7 +144,7 @@ void seite_kuehlenergie(Blatt& blatt, const Reportquelle& quelle) {
     };
     const double strom_je_bedarf = 1.0 / p.Klimaeffizienz;
     const auto text = [&blatt](const Wort& wort) { return std::string(wort.in(blatt.sprache())); };
-    const std::array<Monatszeile, 3> zeilen{{
+    const std::array<Tabellenzeile, 3> zeilen{{
         {text({"Kühlbedarf", "Cooling demand"}), je_flaeche(1), bedarf},
         {text({"Kühlenergiebedarf", "End energy demand"}), je_flaeche(strom_je_bedarf), strom},
         {text({"Primärenergiebedarf", "Primary energy demand"}), je_flaeche(strom_je_bedarf * f_p_Kuehlstrom),
