@@ -38,12 +38,27 @@ std::vector<Umriss::Ecke> dreieck(Spanne fuss, int reihe, int hoehe, int vor) {
             {kante - vor, fuss.ende}};
 }
 
-bool spitze_als_umriss(Zeichenflaeche& bild, int a, int b, int c, int d, int k, Farbe farbe) {
-    if (a == c) return bild.umriss({dreieck({b, d}, a, k, 1)}, farbe);
-    Umriss stehend{dreieck({a, c}, b, k, a < c ? 1 : -1)};
+Umriss spitze_als_umriss(int a, int b, int c, int d, int hoehe) {
+    if (a == c) return {dreieck({b, d}, a, hoehe, 1)};
+    Umriss stehend{dreieck({a, c}, b, hoehe, a < c ? 1 : -1)};
     for (Umriss::Ecke& ecke : stehend.ecken)
         std::swap(ecke.x, ecke.y);
-    return bild.umriss(stehend, farbe);
+    return stehend;
+}
+
+void spitze(Zeichenflaeche& bild, int a, int b, int c, int d, Farbe farbe) {
+    const int hoehe = std::max(std::abs(c - a), std::abs(d - b)) / 2;
+    if (bild.umriss(spitze_als_umriss(a, b, c, d, hoehe), farbe)) return;
+    for (int k = 0; k <= hoehe; ++k) {
+        if (a == c) {
+            Sankey_Linie(bild, a, b - k, a + k, b - k, farbe);
+            Sankey_Linie(bild, c, d + k, c + k, d + k, farbe);
+        } else {
+            const int vor = a < c ? k : -k;
+            Sankey_Linie(bild, a + vor, b, a + vor, b + vor, farbe);
+            Sankey_Linie(bild, c - vor, d, c - vor, d + vor, farbe);
+        }
+    }
 }
 
 /// The ring with the half pixel by which a run of pixels reaches beyond the centres of its first and last
@@ -100,24 +115,8 @@ void Sankey_Linie(Zeichenflaeche& bild, double x1, double y1, double x2, double 
     bild.linie(x1, y1, x2 + weiter_x, y2 + weiter_y, farbe);
 }
 
-void Sankey_Spitze(Zeichenflaeche& bild, double von_x, double von_y, double bis_x, double bis_y,
-                   Farbe farbe) {
-    const int a = pixel(von_x);
-    const int b = pixel(von_y);
-    const int c = pixel(bis_x);
-    const int d = pixel(bis_y);
-    const int hoehe = std::max(std::abs(c - a), std::abs(d - b)) / 2;
-    if (spitze_als_umriss(bild, a, b, c, d, hoehe, farbe)) return;
-    for (int k = 0; k <= hoehe; ++k) {
-        if (a == c) {
-            Sankey_Linie(bild, a, b - k, a + k, b - k, farbe);
-            Sankey_Linie(bild, c, d + k, c + k, d + k, farbe);
-        } else {
-            const int vor = a < c ? k : -k;
-            Sankey_Linie(bild, a + vor, b, a + vor, b + vor, farbe);
-            Sankey_Linie(bild, c - vor, d, c - vor, d + vor, farbe);
-        }
-    }
+void Sankey_Spitze(Zeichenflaeche& bild, double a, double b, double c, double d, Farbe farbe) {
+    spitze(bild, pixel(a), pixel(b), pixel(c), pixel(d), farbe);
 }
 
 void Sankey_Bogen(const Sankeyblatt& blatt, int cx, int cy, double winkel1, double winkel2, int breite,

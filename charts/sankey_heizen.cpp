@@ -6,6 +6,7 @@
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <string>
@@ -146,7 +147,7 @@ void stroeme_beschriften(const Heizbild& b) {
         {"Verluste Heizungssystem", "losses of the heating"}, m.SV, Buendig::rechts, 123, m.yA + 5.0};
     const Strom gewinn{
         {"Gewinne aus der Umwelt", "gains from environment"}, -m.SV, Buendig::rechts, 103, m.yA + 5.0};
-    const Strom stroeme[] = {
+    const auto stroeme = std::to_array<Strom>({
         {{"Primärenergiebedarf", "primary energy demand"},
          double{p.q_PE_Strom} + p.q_PE_Energietraeger,
          Buendig::links,
@@ -158,7 +159,7 @@ void stroeme_beschriften(const Heizbild& b) {
         {{"nutzbare interne Gewinne", "usable internal gains"}, p.qis, Buendig::mitte, 200, unten},
         {{"Transmissionsverluste", "transmission losses"}, p.qtrs, Buendig::rechts, 415, unten},
         {{"Heizwärmebedarf", "heat energy demand"}, p.qhs_sum, Buendig::mitte, 175, m.yB - m.bQH / 2.0 - 12},
-    };
+    });
     for (const Strom& strom : stroeme)
         Sankey_Text(b.blatt.bild, strom.buendig, strom.x, strom.y,
                     {beschriftung(p, strom.name), Sankey_Wert(strom.wert)});
@@ -167,11 +168,11 @@ void stroeme_beschriften(const Heizbild& b) {
 
 /// The list of the building's parts beside the arrows, roof first.
 void bauteile_beschriften(const Heizbild& b) {
-    const Zweisprachig namen[] = {{"Boden (", "ground ("},
-                                  {"Tür (", "door ("},
-                                  {"Wände (", "walls ("},
-                                  {"Fenster (", "windows ("},
-                                  {"Dach (", "roof ("}};
+    const std::array<Zweisprachig, 5> namen{{{"Boden (", "ground ("},
+                                             {"Tür (", "door ("},
+                                             {"Wände (", "walls ("},
+                                             {"Fenster (", "windows ("},
+                                             {"Dach (", "roof ("}}};
     double y = std::min(b.m.yC - b.m.bQT / 2.0, liste_tiefste) - 30;
     for (std::size_t i = b.m.bauteile.size(); i-- > 0;) {
         const double verlust = b.m.bauteile[i].verlust;

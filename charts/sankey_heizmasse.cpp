@@ -4,6 +4,7 @@
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
@@ -71,7 +72,7 @@ int tuergrenze(const Projekt& p, int boden, int tuer) {
 }
 
 void teilung_legen(const Projekt& p, Sankey_Heizmasse& m) {
-    const double teile[] = {p.qtr_Boden, p.qtr_Tuer, p.qtr_Waende, p.qtr_Fenster, p.qtr_Dach};
+    const std::array<double, 5> teile{p.qtr_Boden, p.qtr_Tuer, p.qtr_Waende, p.qtr_Fenster, p.qtr_Dach};
     double summe = 0;
     for (std::size_t i = 0; i < m.grenzen.size(); ++i) {
         summe += teile[i];

@@ -5,6 +5,7 @@
 #include "toolkit/fehler.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 namespace velmaris {
@@ -91,10 +92,11 @@ void stroeme_beschriften(const Kuehlbild& b) {
 
 /// The list of the inlets stands level with them, between the headings and the end energy.
 void einlaesse_beschriften(const Kuehlbild& b) {
-    const Zweisprachig namen[ueberschuesse] = {{" - Transmissionsgewinne: ", " - transmission gains: "},
-                                               {" - Lüftungsgewinne: ", " - ventilation gains: "},
-                                               {" - solare Gewinne: ", " - solar gains: "},
-                                               {" - interne Gewinne: ", " - internal gains: "}};
+    const std::array<Zweisprachig, ueberschuesse> namen{
+        {{" - Transmissionsgewinne: ", " - transmission gains: "},
+         {" - Lüftungsgewinne: ", " - ventilation gains: "},
+         {" - solare Gewinne: ", " - solar gains: "},
+         {" - interne Gewinne: ", " - internal gains: "}}};
     constexpr double hoehe = (1 + 2 * ueberschuesse) * sankey_zeile;
     constexpr double einzug = 8;
     const double mitte = (b.m.einlass.front() - b.m.teile.front() + b.m.einlass.back()) / 2.0;

@@ -3,6 +3,7 @@
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 namespace velmaris {
@@ -59,7 +60,7 @@ void spalten_legen(Sankey_Kuehlmasse& m) {
 }  // namespace
 
 Sankey_Kuehlwerte sankey_kuehlwerte(const Projekt& p) {
-    constexpr float Monatswerte::*felder[ueberschuesse] = {
+    constexpr std::array<float Monatswerte::*, ueberschuesse> felder{
         &Monatswerte::Kuehl_trans, &Monatswerte::Kuehl_lueft, &Monatswerte::Kuehl_solar,
         &Monatswerte::Kuehl_intern};
     Sankey_Kuehlwerte w;

@@ -146,7 +146,7 @@ bool SvgFlaeche::umriss(const Umriss& umriss, Farbe farbe) {
             verlauf += "L";
         } else {
             const std::string halbachse = koordinate(std::fabs(radius));
-            verlauf += "A" + halbachse + halbachse + " 0 0" + (radius > 0 ? " 0" : " 1");
+            verlauf.append("A").append(halbachse).append(halbachse).append(radius > 0 ? " 0 0 0" : " 0 0 1");
         }
         verlauf += koordinate(x) + koordinate(y);
     }
