@@ -2,21 +2,24 @@
 
 #include "toolkit/text.h"
 
+#include <array>
 #include <map>
 #include <utility>
 
 namespace velmaris::hilfe {
 namespace {
 
-constexpr std::string_view kopf =
-    "<!DOCTYPE HTML PUBLIC \"-//IETF//DTD HTML//EN\">\n<html><head></head><body>\n<ul>\n";
+constexpr std::string_view kopf = R"(<!DOCTYPE HTML PUBLIC "-//IETF//DTD HTML//EN">
+<html><head></head><body>
+<ul>
+)";
 constexpr std::string_view fuss = "</ul>\n</body></html>\n";
 
 /// An entry of tree or index; `ziel` is a page's name, empty for a heading.
 std::string eintrag(std::string_view name, std::string_view ziel) {
-    std::string text = "<li><object type=\"text/sitemap\"><param name=\"Name\" value=\"";
+    std::string text = R"(<li><object type="text/sitemap"><param name="Name" value=")";
     text.append(name).append("\">");
-    if (!ziel.empty()) text.append("<param name=\"Local\" value=\"").append(ziel).append(".html\">");
+    if (!ziel.empty()) text.append(R"(<param name="Local" value=")").append(ziel).append(".html\">");
     return text + "</object>\n";
 }
 
@@ -29,11 +32,11 @@ std::string eintraege(const Kapitel& kapitel) {
 
 /// Small letters, and vowels without their dots, so that umlauts stand where a reader looks for them.
 std::string ordnungswort(const std::string& wort) {
-    static const std::map<std::string_view, std::string_view> grundlaute{
-        {"ä", "a"}, {"ö", "o"}, {"ü", "u"}, {"ß", "ss"}};
+    using Laut = std::pair<std::string_view, std::string_view>;
+    constexpr std::array<Laut, 4> grundlaute{{{"ä", "a"}, {"ö", "o"}, {"ü", "u"}, {"ß", "ss"}}};
     std::string text = kleinschreiben(wort);
     for (const auto& [laut, grundlaut] : grundlaute) {
-        for (std::size_t i = text.find(laut); i != text.npos; i = text.find(laut, i))
+        for (std::size_t i = text.find(laut); i != std::string::npos; i = text.find(laut, i))
             text.replace(i, laut.size(), grundlaut);
     }
     return text;

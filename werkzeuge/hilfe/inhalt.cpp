@@ -23,8 +23,9 @@ std::string_view ohne_rand(std::string_view text) {
 std::string zwischen(const fs::path& datei, std::string_view text, std::string_view vorn,
                      std::string_view hinten) {
     const std::size_t anfang = text.find(vorn);
-    const std::size_t ende = anfang == text.npos ? text.npos : text.find(hinten, anfang + vorn.size());
-    if (ende == text.npos) {
+    const std::size_t ende =
+        anfang == std::string::npos ? std::string::npos : text.find(hinten, anfang + vorn.size());
+    if (ende == std::string::npos) {
         const std::string marke(vorn);
         throw Dateifehler(pfadtext(datei), {"es fehlt " + marke, marke + " is missing"});
     }
@@ -36,14 +37,14 @@ std::vector<std::string> geteilt(std::string_view liste, char zeichen) {
     for (;;) {
         const std::size_t ende = liste.find(zeichen);
         teile.emplace_back(ohne_rand(liste.substr(0, ende)));
-        if (ende == liste.npos) return teile;
+        if (ende == std::string::npos) return teile;
         liste.remove_prefix(ende + 1);
     }
 }
 
 Seite seite_lesen(const fs::path& datei) {
     std::string text = bytes_lesen(datei);
-    const std::string stichworte = zwischen(datei, text, "<meta name=\"keywords\" content=\"", "\">");
+    const std::string stichworte = zwischen(datei, text, R"(<meta name="keywords" content=")", "\">");
     std::string titel = zwischen(datei, text, "<title>", "</title>");
     return {pfadtext(datei.stem()), std::move(titel), geteilt(stichworte, ';'), std::move(text)};
 }

@@ -17,6 +17,7 @@ constexpr float nutzflaeche_der_tabelle = 150;
 
 std::vector<std::string> kopf(const std::vector<Zweisprachig>& worte, std::string_view sprache) {
     std::vector<std::string> zellen;
+    zellen.reserve(worte.size());
     for (const Zweisprachig& wort : worte)
         zellen.push_back(wort.in(sprache));
     return zellen;

@@ -30,16 +30,14 @@ std::string inhaltsverzeichnis(const Inhalt& inhalt) {
     return text;
 }
 
-std::string blaettern(const Inhalt& inhalt, const Seite& seite) {
+std::string blaettern(const Inhalt& inhalt, const Seite& seite, std::string_view sprache) {
+    constexpr std::string_view trenner = " &nbsp;|&nbsp; ";
     const std::vector<const Seite*> alle = alle_seiten(inhalt);
     const auto hier = std::find(alle.begin(), alle.end(), &seite);
     std::string text = "<hr>\n<p class=\"blaettern\">";
-    if (hier != alle.begin())
-        text += "&laquo; " + verweis(**(hier - 1)) + " &nbsp;|&nbsp; " + verweis(*alle.front());
-    if (hier + 1 != alle.end()) {
-        if (hier != alle.begin()) text += " &nbsp;|&nbsp; ";
-        text += verweis(**(hier + 1)) + " &raquo;";
-    }
+    if (hier != alle.begin()) text.append("&laquo; ").append(verweis(**(hier - 1))).append(trenner);
+    text.append("<a href=\"index.html\">").append(sprache == "e" ? "Contents" : "Inhalt").append("</a>");
+    if (hier + 1 != alle.end()) text.append(trenner).append(verweis(**(hier + 1))).append(" &raquo;");
     return text + "</p>\n";
 }
 
@@ -48,9 +46,10 @@ std::optional<std::string> fuellung(std::string_view marke, const Inhalt& inhalt
                                     std::string_view sprache) {
     const std::size_t luecke = marke.find(' ');
     const std::string_view wort = marke.substr(0, luecke);
-    const std::string_view zusatz = luecke == marke.npos ? std::string_view() : marke.substr(luecke + 1);
+    const std::string_view zusatz =
+        luecke == std::string::npos ? std::string_view() : marke.substr(luecke + 1);
     if (wort == "inhalt") return inhaltsverzeichnis(inhalt);
-    if (wort == "blaettern") return blaettern(inhalt, seite);
+    if (wort == "blaettern") return blaettern(inhalt, seite, sprache);
     if (wort == "eingaben") return eingabentabelle(zusatz, false, sprache);
     if (wort == "eingabenliste") return eingabentabelle(zusatz, true, sprache);
     if (wort == "fenstertypen") return fenstertypentabelle(sprache);
@@ -72,10 +71,10 @@ std::string seite_bauen(const Inhalt& inhalt, const Seite& seite, std::string_vi
     for (;;) {
         const std::size_t anfang = rest.find(kommentar_anfang);
         ergebnis += rest.substr(0, anfang);
-        if (anfang == rest.npos) return ergebnis;
+        if (anfang == std::string::npos) return ergebnis;
         rest.remove_prefix(anfang + kommentar_anfang.size());
         const std::size_t ende = rest.find(kommentar_ende);
-        if (ende == rest.npos || ende < 2) unbekannt(seite, rest);
+        if (ende == std::string::npos || ende < 2) unbekannt(seite, rest);
         const std::string_view marke = rest.substr(1, ende - 2);  // a blank on either side
         const auto text = fuellung(marke, inhalt, seite, sprache);
         if (!text) unbekannt(seite, marke);
