@@ -62,4 +62,10 @@ std::string reiner_text(std::string_view seite) {
     return text;
 }
 
+std::string ersetzt(std::string text, std::string_view alt, std::string_view neu) {
+    for (std::size_t i = text.find(alt); i != std::string::npos; i = text.find(alt, i + neu.size()))
+        text.replace(i, alt.size(), neu);
+    return text;
+}
+
 }  // namespace velmaris::test

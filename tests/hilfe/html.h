@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <map>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,5 +29,8 @@ struct Marke {
 
 /// The page without its tags.
 [[nodiscard]] std::string reiner_text(std::string_view seite);
+
+/// The text with each place of `alt` replaced.
+[[nodiscard]] std::string ersetzt(std::string text, std::string_view alt, std::string_view neu);
 
 }  // namespace velmaris::test

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <regex>
+#include <set>
 
 namespace velmaris::test {
 namespace {
@@ -105,14 +105,23 @@ TEST(Hilfeseiten, NennenZeichensatzSpracheUndTitel) {
     });
 }
 
+/// The first number of a text that has the mark between two digits, empty if there is none.
+std::string zahl_mit(const std::string& text, char zeichen) {
+    const auto ziffer = [&text](std::size_t i) { return text[i] >= '0' && text[i] <= '9'; };
+    for (std::size_t i = 1; i + 1 < text.size(); ++i) {
+        if (text[i] == zeichen && ziffer(i - 1) && ziffer(i + 1)) return text.substr(i - 1, 3);
+    }
+    return {};
+}
+
 TEST(Hilfeseiten, SchreibenZahlenInDerSprache) {
-    // Names that carry a point of their own.
-    const std::regex namen(R"(Version 3\.0 in 3\.2|Version 3\.\d|TS 4\.09|CC BY 4\.0|Release 6\.0)");
-    const std::regex punkt(R"(\d\.\d)");
-    const std::regex komma(R"(\d,\d)");
-    jede_seite([&](const std::string& sprache, const std::string&, const std::string& text) {
-        const std::string klartext = std::regex_replace(reiner_text(text), namen, "");
-        EXPECT_FALSE(std::regex_search(klartext, sprache == "d" ? punkt : komma)) << klartext;
+    jede_seite([](const std::string& sprache, const std::string&, const std::string& text) {
+        std::string klartext = reiner_text(text);
+        // Names that carry a point of their own.
+        for (const char* name :
+             {"Version 3.0 in 3.2", "Version 3.0", "Version 3.2", "TS 4.09", "CC BY 4.0", "Release 6.0"})
+            klartext = ersetzt(klartext, name, "");
+        EXPECT_EQ(zahl_mit(klartext, sprache == "d" ? '.' : ','), "");
     });
 }
 
