@@ -65,6 +65,13 @@ Fensterseite& E_Fenster::seite(Fassade fassade) {
     return *seiten()[static_cast<std::size_t>(fassade)];
 }
 
+Fensterseite* E_Fenster::seite_mit_typ(std::string_view name) {
+    for (Fensterseite* seite : seiten()) {
+        if (seite->typ.name == name) return seite;
+    }
+    return nullptr;
+}
+
 bool E_Fenster::gleiche_fenster() const {
     return s_.p.Option1 == 0;
 }
@@ -177,10 +184,9 @@ void E_Fenster::Command_HR_Click(int index) {
 }
 
 void E_Fenster::fenstermodus_lesen(int wert) {
-    if (wert == 0 || wert == 1) {
-        Option1.markiere(wert);
-        s_.p.Option1 = i16(wert, "Option1");
-    }
+    Option1.pruefe(wert);
+    Option1.markiere(wert);
+    s_.p.Option1 = i16(wert, "Option1");
     Option1_Click(wert);
 }
 

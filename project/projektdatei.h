@@ -15,12 +15,18 @@ inline constexpr std::string_view version_frueher = "Velmaris Version 3.0";
 /// What the reader sets on the planes as it comes to the line, since these quantities are controls there.
 /// Each call runs the control's handler.
 struct Ebenenhaken {
-    std::function<void(int)> Innenwandart;
-    std::function<void(int)> Aussenwandart;
-    std::function<void(int)> Check_Dachgeschoss;
-    std::function<void(int)> Option_Dachfirst;
-    std::function<void(int)> Option1;
+    std::function<void(int)> Innenwandart = {};
+    std::function<void(int)> Aussenwandart = {};
+    std::function<void(int)> Check_Dachgeschoss = {};
+    std::function<void(int)> Option_Dachfirst = {};
+    std::function<void(int)> Option1 = {};
+
+    /// Raises a Laufzeitfehler if the list of that quantity has no such row; may be empty.
+    std::function<void(std::string_view feld, int zeile)> zeile_pruefen = {};
 };
+
+/// True if the first line of a project file's text is a version known here.
+[[nodiscard]] bool bekannte_version(std::string_view bytes);
 
 /// Reads the text of a project file (windows-1252; `name` is the file's name for messages) into the record,
 /// line by line in the file's order. Returns false if the first line is no version known here; then nothing
