@@ -84,7 +84,7 @@ class Zeilenleserei {
             fehlerhaft(zeile, spalte, {was + " ist keine Zahl", was + " is not a number"});
         }
         if (fehlwert(*zahl, groesse)) {
-            const std::string was = zahltext(*zahl);
+            const std::string was = zahltext(*zahl).substr(1);
             fehlerhaft(zeile, spalte,
                        {was + " steht für einen fehlenden Wert", was + " stands for a missing value"});
         }
