@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+class QApplication;
+
+namespace velmaris {
+
+/// Measures that all views share, in logical pixels.
+namespace mass {
+inline constexpr int rand = 8;             ///< between the edge of a window or frame and what it holds
+inline constexpr int abstand = 6;          ///< between two controls
+inline constexpr int gruppenabstand = 10;  ///< between two frames
+inline constexpr int schrift = 12;         ///< height of the window font
+inline constexpr int leiste = 17;          ///< thickness of a scroll field
+}  // namespace mass
+
+/// Colours of the windows beyond the palette's.
+namespace stilfarben {
+inline constexpr QRgb fenster = 0xFFF0F0F0;       ///< ground of all windows and planes
+inline constexpr QRgb tafel = 0xFFFAFAFA;         ///< ground of a panel that stands out
+inline constexpr QRgb tafelrand = 0xFFC4C8CC;     ///< frame of panels and charts
+inline constexpr QRgb betonung = 0xFF1F5FA8;      ///< what is chosen, focused or marked
+inline constexpr QRgb schrift = 0xFF1A1A1A;       ///< texts
+inline constexpr QRgb nebenschrift = 0xFF5A6068;  ///< notes and units
+}  // namespace stilfarben
+
+/// The light palette of the program.
+[[nodiscard]] QPalette palette_hell();
+
+/// Gives the program one look on every desktop: style, palette, font, tooltips and panel frames.
+void stil_setzen(QApplication& programm);
+
+}  // namespace velmaris
