@@ -20,9 +20,11 @@ double zeitgleichung(int n) {
     return 9.87 * std::sin(2 * b) - 7.53 * std::cos(b) - 1.5 * std::sin(b);
 }
 
-double stundenwinkel(int n, float Laengenkorrektur, double t) {
-    const double sonnenzeit = t + (-static_cast<double>(Laengenkorrektur) * 4 + zeitgleichung(n)) / 60;
-    return (sonnenzeit * 15 - 180) * grad_in_bogen;
+Sonnenuhr::Sonnenuhr(int n, float Laengenkorrektur)
+    : vorsprung_((-static_cast<double>(Laengenkorrektur) * 4 + zeitgleichung(n)) / 60) {}
+
+double Sonnenuhr::stundenwinkel(double t) const {
+    return ((t + vorsprung_) * 15 - 180) * grad_in_bogen;
 }
 
 Sonnentag sonnentag(const Standort& ort, int n) {
@@ -47,26 +49,34 @@ double probezeit(const Sonnentag& tag, int h) {
     return t;
 }
 
-float direktfaktor_horizontal(const Standort& ort, int n, double t) {
-    const double delta = deklination(n);
-    const double omega = stundenwinkel(n, ort.Laengenkorrektur, t);
-    const double phi = ort.Breite;
-    const double cos_z = std::cos(delta) * std::cos(omega) * std::cos(phi) + std::sin(phi) * std::sin(delta);
+Zenitbahn::Zenitbahn(const Standort& ort, int n)
+    : uhr_(n, ort.Laengenkorrektur),
+      cos_delta_(std::cos(deklination(n))),
+      cos_phi_(std::cos(static_cast<double>(ort.Breite))),
+      mittel_(std::sin(static_cast<double>(ort.Breite)) * std::sin(deklination(n))) {}
+
+float Zenitbahn::direktfaktor(double t) const {
+    const double cos_z = cos_delta_ * std::cos(uhr_.stundenwinkel(t)) * cos_phi_ + mittel_;
     return cos_z > 0.00001 ? f32(1 / cos_z) : 0.0F;
+}
+
+float direktfaktor_horizontal(const Standort& ort, int n, double t) {
+    return Zenitbahn(ort, n).direktfaktor(t);
 }
 
 float einfallsfaktor_ebene(const Standort& ort, int n, int h, int orient, double azimut, double neigung) {
     const double delta = f32(deklination(n));
-    const double omega = f32(stundenwinkel(n, ort.Laengenkorrektur, h));
+    const double omega = f32(Sonnenuhr(n, ort.Laengenkorrektur).stundenwinkel(h));
     const double gamma = (orient + azimut) * grad_in_bogen;
     const double beta = neigung * grad_in_bogen;
     const double phi = ort.Breite;
-    const double cos_theta = std::max(
-        0.0, std::sin(delta) * std::sin(phi) * std::cos(beta) -
-                 std::cos(phi) * std::sin(delta) * std::sin(beta) * std::cos(gamma) +
-                 std::cos(phi) * std::cos(delta) * std::cos(beta) * std::cos(omega) +
-                 std::sin(phi) * std::cos(delta) * std::sin(beta) * std::cos(gamma) * std::cos(omega) +
-                 std::sin(beta) * std::cos(delta) * std::sin(gamma) * std::sin(omega));
+    const double cos_theta =
+        std::clamp(std::sin(delta) * std::sin(phi) * std::cos(beta) -
+                       std::cos(phi) * std::sin(delta) * std::sin(beta) * std::cos(gamma) +
+                       std::cos(phi) * std::cos(delta) * std::cos(beta) * std::cos(omega) +
+                       std::sin(phi) * std::cos(delta) * std::sin(beta) * std::cos(gamma) * std::cos(omega) +
+                       std::sin(beta) * std::cos(delta) * std::sin(gamma) * std::sin(omega),
+                   0.0, 1.0);
     return f32((1 - std::pow(1 - cos_theta, 2.5)) * cos_theta);
 }
 

@@ -16,13 +16,21 @@ struct Standort {
 /// (1969), 333-346.
 [[nodiscard]] double deklination(int n);
 
-/// Equation of time on day n, minutes. Source: M. Iqbal, "An Introduction to Solar Radiation" (1983), and
-/// J. A. Duffie, W. A. Beckman, "Solar Engineering of Thermal Processes" (9.87 sin 2B - 7.53 cos B - 1.5 sin
-/// B).
+/// Equation of time on day n, minutes. Source: J. A. Duffie, W. A. Beckman, "Solar Engineering of Thermal
+/// Processes" (1980), with B = 360 (n - 81) / 364.
 [[nodiscard]] double zeitgleichung(int n);
 
-/// Hour angle at the clock time t (hours) of day n, radians, noon 0, afternoon positive.
-[[nodiscard]] double stundenwinkel(int n, float Laengenkorrektur, double t);
+/// The way from the clock to the sun on day n at a place.
+class Sonnenuhr {
+  public:
+    Sonnenuhr(int n, float Laengenkorrektur);
+
+    /// Hour angle at the clock time t (hours), radians, noon 0, afternoon positive.
+    [[nodiscard]] double stundenwinkel(double t) const;
+
+  private:
+    double vorsprung_;  ///< solar time minus clock time, hours
+};
 
 /// The sun of one day, in clock hours.
 struct Sonnentag {
@@ -38,6 +46,21 @@ struct Sonnentag {
 /// The clock time at which the sun of hour h (1..24) is looked at: the middle of the hour, in the hours of
 /// sunrise and sunset the middle of the sunlit part (sunset overrides sunrise).
 [[nodiscard]] double probezeit(const Sonnentag& tag, int h);
+
+/// The sun's height over one day: what does not change from hour to hour is worked out once.
+class Zenitbahn {
+  public:
+    Zenitbahn(const Standort& ort, int n);
+
+    /// 1 / cos of the zenith angle at the clock time t, or 0 while the sun is down (cos z not above 0.00001).
+    [[nodiscard]] float direktfaktor(double t) const;
+
+  private:
+    Sonnenuhr uhr_;
+    double cos_delta_;
+    double cos_phi_;
+    double mittel_;  ///< cos z at six o'clock solar time
+};
 
 /// 1 / cos of the sun's zenith angle at the clock time t of day n, or 0 while the sun is down
 /// (cos z not above 0.00001).

@@ -2,6 +2,7 @@
 
 #include "project/strahlungstabellen.h"
 #include "project/tabellen.h"
+#include "project/texte.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -179,6 +180,7 @@ struct Projekt {
     std::filesystem::path AppPfad;      ///< folder of the program
     std::string Sprache;                ///< "d" or "e"
     std::int16_t Monat_Uebersicht = 7;  ///< month shown on the overview plane
+    Texte texte;                        ///< shared texts in the language of the run
 };
 
 /// The name that stands for a project without a file.

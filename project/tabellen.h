@@ -3,6 +3,7 @@
 #include <array>
 #include <cassert>
 #include <cstddef>
+#include <span>
 
 namespace velmaris {
 
@@ -44,10 +45,19 @@ class Stundentabelle {
     [[nodiscard]] T& operator()(int m, int d, int h) { return werte_[stelle(m, d, h)]; }
     [[nodiscard]] const T& operator()(int m, int d, int h) const { return werte_[stelle(m, d, h)]; }
 
+    /// The 24 hours of a day side by side; hour h stands at place h - 1.
+    [[nodiscard]] std::span<T, stunden> tag(int m, int d) {
+        return std::span<T, stunden>(&werte_[stelle(m, d, 1)], stunden);
+    }
+    [[nodiscard]] std::span<const T, stunden> tag(int m, int d) const {
+        return std::span<const T, stunden>(&werte_[stelle(m, d, 1)], stunden);
+    }
+
   private:
     static std::size_t stelle(int m, int d, int h) {
         assert(m >= 1 && m <= monate && d >= 1 && d <= tage_hoechstens && h >= 1 && h <= stunden);
-        return static_cast<std::size_t>(((m - 1) * tage_hoechstens + (d - 1)) * stunden + (h - 1));
+        const int stelle = ((m - 1) * tage_hoechstens + (d - 1)) * stunden + (h - 1);
+        return static_cast<std::size_t>(stelle);
     }
 
     std::array<T, static_cast<std::size_t>(monate) * tage_hoechstens * stunden> werte_{};
@@ -70,6 +80,16 @@ void fuer_jede_stunde(Tu&& tu) {
     for (int m = 1; m <= monate; ++m) {
         fuer_jede_stunde_des_monats(m, n, tu);
         n += tage_im_monat[static_cast<std::size_t>(m)];
+    }
+}
+
+/// Calls `tu(m, d, n)` for each of the 365 days of the year in order; n is the day of the year.
+template <class Tu>
+void fuer_jeden_tag(Tu&& tu) {
+    int n = 0;
+    for (int m = 1; m <= monate; ++m) {
+        for (int d = 1; d <= tage_im_monat[static_cast<std::size_t>(m)]; ++d)
+            tu(m, d, ++n);
     }
 }
 

@@ -8,11 +8,12 @@
 namespace velmaris {
 namespace {
 
-/// The quantity behind a control: the control's name without its ending "_sb".
+/// The quantity behind a control: the control's name without its ending "_sb" or "_cb".
 std::string groesse(const std::string& name) {
-    const std::size_t n = name.size();
-    const bool endung = n > 3 && (name.ends_with("_sb") || name.ends_with("_Sb"));
-    return endung ? name.substr(0, n - 3) : name;
+    for (const char* endung : {"_sb", "_Sb", "_cb"}) {
+        if (name.size() > 3 && name.ends_with(endung)) return name.substr(0, name.size() - 3);
+    }
+    return name;
 }
 
 [[noreturn]] void ausserhalb(const std::string& name, int wert, int minimum, int maximum) {
@@ -78,7 +79,7 @@ void Auswahlliste::fuelle(std::vector<std::string> eintraege) {
 
 void Auswahlliste::setze(int index) {
     const int zahl = static_cast<int>(eintraege_.size());
-    if (index < 0 || index >= zahl) ausserhalb(name, index, 0, zahl - 1);
+    if (index < 0 || index >= zahl) ausserhalb(groesse_, index, 0, zahl - 1);
     markiere(index);
     rufe(gewaehlt);
 }
@@ -97,11 +98,16 @@ void Auswahlliste::schreibe(std::string text) {
 }
 
 void Pruefeld::setze(int wert) {
+    const bool anders = wert != wert_;
+    markiere(wert);
+    if (anders) rufe(geklickt);
+}
+
+void Pruefeld::markiere(int wert) {
     if (wert != 0 && wert != 1) ausserhalb(name, wert, 0, 1);
     if (wert == wert_) return;
     wert_ = wert;
     melden();
-    rufe(geklickt);
 }
 
 void Optionsgruppe::setze(int option) {

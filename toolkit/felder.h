@@ -76,7 +76,9 @@ class Scrollfeld : public Feld {
 /// A drop-down list: entries, a selected row (-1 for none) and the text part.
 class Auswahlliste : public Feld {
   public:
-    explicit Auswahlliste(std::string feldname) : Feld(std::move(feldname)) {}
+    /// `groesse` names the quantity behind the list, for fault messages, where it is not the list's name.
+    explicit Auswahlliste(std::string feldname, std::string groesse = {})
+        : Feld(std::move(feldname)), groesse_(groesse.empty() ? name : std::move(groesse)) {}
 
     [[nodiscard]] const std::vector<std::string>& eintraege() const { return eintraege_; }
     [[nodiscard]] int index() const { return index_; }
@@ -99,6 +101,7 @@ class Auswahlliste : public Feld {
     std::function<void()> gewaehlt;
 
   private:
+    std::string groesse_;
     std::vector<std::string> eintraege_;
     int index_ = -1;
     std::string text_;
@@ -112,8 +115,11 @@ class Pruefeld : public Feld {
     [[nodiscard]] int wert() const { return wert_; }
 
     /// Sets the check and fires the handler if it differs. A value other than 0 and 1 is
-    /// a Laufzeitfehler that names the control.
+    /// a Laufzeitfehler that names the quantity (the control's name without "_cb").
     void setze(int wert);
+
+    /// Sets the check without the handler; errors as in `setze`.
+    void markiere(int wert);
 
     /// The control's handler.
     std::function<void()> geklickt;

@@ -16,20 +16,21 @@ enum class Antwort { ok, ja, nein, abbrechen };
 /// A message box. `vorgabe` is the button that Enter presses, if it is not the first.
 struct Meldung {
     std::string text;
-    std::string titel;
+    std::string titel = {};
     Symbol symbol = Symbol::kein;
     Knoepfe knoepfe = Knoepfe::ok;
     std::optional<Antwort> vorgabe = std::nullopt;
+    std::string hinweis = {};  ///< what is behind the message, shown below the text in smaller print
 };
 
 /// A file dialog. The filter is pairs of text and pattern, all separated by "|"; `filterindex` counts from 1.
 struct Dateidialog {
     enum class Art { oeffnen, speichern };
     Art art = Art::oeffnen;
-    std::string filter;
+    std::string filter = {};
     int filterindex = 1;
-    std::filesystem::path ordner;
-    std::string dateiname;
+    std::filesystem::path ordner = {};
+    std::string dateiname = {};
     bool ueberschreiben_fragen = false;
 };
 

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "project/c_glob.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace velmaris {
+
+/// Lines that a station file must have: 6 of the head and one for each hour of the year.
+inline constexpr int zeilen_der_klimadatei = 8766;
+
+/// What the station lists need of a station file.
+struct Stationskopf {
+    std::string name;     ///< first item of line 1, UTF-8
+    double breite = 0;    ///< degrees, north positive
+    double laenge = 0;    ///< degrees, west positive
+    double zeitzone = 0;  ///< hours, zones east of Greenwich negative
+};
+
+/// Reads the beginning of a station file item by item, as the station lists do: a comma in line 1 ends
+/// the name, and the rest of the line then counts as the line of the latitude, the latitude as longitude, the
+/// longitude as time zone. A file that cannot be read or ends before the time zone is a Dateifehler.
+[[nodiscard]] Stationskopf stationskopf_lesen(const std::filesystem::path& datei);
+
+/// Reads the station file `Klimadatei` in the folder "klima" beside the program. Fills `Monat().Tage`,
+/// `Stationsname`, `Breite`, `Laengenkorrektur`, `Wetter`, `Dachraum`, `Strahlung`, and by
+/// `monatsstrahlung_berechnen` the means and radiation sums of the months. Nothing else is recalculated. A
+/// file that cannot be read or is too short is a Dateifehler and leaves the former climate as it was.
+void klimadatei_lesen(Projekt& p);
+
+/// The same from the bytes of a station file (windows-1252, lines end at CR LF or LF); `datei` is its name in
+/// messages. Lines behind the last hour are not looked at, columns that a row lacks read as 0.
+void klimadaten_uebernehmen(Projekt& p, std::string_view bytes, const std::string& datei);
+
+}  // namespace velmaris

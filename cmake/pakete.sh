@@ -1,0 +1,23 @@
+# The distribution's packages that the house is built from (Debian 12, Ubuntu 24.04), and how to get them.
+PAKETE_PROGRAMM="cmake ninja-build g++ libcli11-dev nlohmann-json3-dev"
+PAKETE_TESTS="libgtest-dev libgmock-dev libbenchmark-dev"
+
+# Installs those of the packages that are missing; says what to do where that is not possible.
+pakete_holen() {
+    local fehlend=() paket
+    for paket in "$@"; do
+        dpkg-query -W -f '${Status}' "$paket" 2>/dev/null | grep -q '^install ok installed$' || fehlend+=("$paket")
+    done
+    [ ${#fehlend[@]} -eq 0 ] && return
+    local als=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "These packages are missing: ${fehlend[*]}" >&2
+            echo "Install them as root (apt-get install ${fehlend[*]}), or install sudo." >&2
+            exit 1
+        fi
+        als=(sudo)
+    fi
+    "${als[@]}" apt-get update
+    "${als[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${fehlend[@]}"
+}

@@ -1,0 +1,222 @@
+#include "energy/E_Energie.h"
+
+#include "energy/Traegerbild.h"
+#include "energy/energie_zeichnen.h"
+#include "energy/energiebilanz.h"
+#include "toolkit/zahlen.h"
+
+#include <array>
+#include <vector>
+
+namespace velmaris {
+namespace {
+
+constexpr const char* zeitgeber = "E_Energie.Timer_Tip_ein";
+constexpr int tipp_nach_millisekunden = 1000;
+constexpr const char* einheit = "kWh/(m² a)";
+
+struct Beschriftung {
+    Anzeige E_Energie::*feld;
+    const char* de;
+    const char* en;
+};
+
+constexpr std::array<Beschriftung, 18> beschriftungen{{
+    {&E_Energie::Label1, "Heizungssystem:", "heating system"},
+    {&E_Energie::Label3, "Wärmeübergabe / Systemtemperatur:", "heat transfer / system temperature"},
+    {&E_Energie::Label2, "Energieträger", "source of energy"},
+    {&E_Energie::Label11, "Heizwärmebedarf:", "heat energy demand:"},
+    {&E_Energie::Label30, "Verluste Verteilung && Speicherung:", "losses of distribution and storage:"},
+    {&E_Energie::Label16, "Aufwandszahl Wärmeerzeugung:", "expense number of heat generation:"},
+    {&E_Energie::Label33, "Hilfsenergiebedarf (Strom):", "auxiliary energy demand (electricity):"},
+    {&E_Energie::Label14, "Primärenergiebedarf (Strom):", "primary energy demand (electricity):"},
+    {&E_Energie::Label34, "Strom:", "electricity"},
+    {&E_Energie::Frame1, "Endenergiebedarf", "end energy demand"},
+    {&E_Energie::Frame8, "Primärenergiefaktoren", "primary energy factors"},
+    {&E_Energie::Monatsverbrauch, "Monatlicher End- und Primärenergiebedarf in kWh/(m² Monat)",
+     "monthly end and primary energy demand in kWh/(m² month)"},
+    {&E_Energie::Einheit_qhs_sum, einheit, einheit},
+    {&E_Energie::Einheit_q_verlust, einheit, einheit},
+    {&E_Energie::Einheit_q_HE_Energieträger, einheit, einheit},
+    {&E_Energie::Einheit_q_HE_Strom, einheit, einheit},
+    {&E_Energie::Einheit_q_PE_Energieträger, einheit, einheit},
+    {&E_Energie::Label6, einheit, einheit},
+}};
+
+template <class Liste>
+std::vector<std::string> als_vektor(const Liste& texte) {
+    return {texte.begin(), texte.end()};
+}
+
+}  // namespace
+
+Platz tippplatz(Bildschirmpunkt zeiger, const Tipplage& lage) {
+    const double x = zeiger.x - lage.haupt_links - lage.ebene_links;
+    const double y = zeiger.y - lage.haupt_oben - lage.ebene_oben;
+    const double links = x - lage.breite - 5;
+    const double oben = y - 20;
+    const bool unter_der_ebene = oben + tipphoehe > lage.ebene_hoehe;
+    return {links < 0 ? 0 : links, unter_der_ebene ? y - 50 - tipphoehe : oben};
+}
+
+E_Energie::E_Energie(Sitzung& sitzung) : sitzung_(sitzung) {
+    ebene.zeige(false);
+    Frame_ToolTip.zeige(false);
+    for (Anzeige* verdeckt : {&anz_q_ce, &anz_q_d, &anz_q_s, &anz_q_d_he, &anz_q_s_he, &anz_q_g_he})
+        verdeckt->zeige(false);
+
+    Command1.gedrueckt = [this] {
+        std::vector<std::string> texte;
+        for (const Heizsystemzeile& zeile : Heizsysteme)
+            texte.push_back(zeile.Bezeichnung);
+        Auswahl.oeffne(Label_System, texte);
+    };
+    Command2.gedrueckt = [this] { Auswahl.oeffne(Label_Übergabe, als_vektor(katalogzeile().Uebergabe)); };
+    Command3.gedrueckt = [this] {
+        Auswahl.oeffne(Label_Energieträger, als_vektor(katalogzeile().Energietraeger));
+    };
+
+    Picture2.zeichnen = [this](Zeichenflaeche& bild) { Energietraeger_zeichnen(bild, sitzung_.p); };
+    Picture3.zeichnen = [this](Zeichenflaeche& bild) { Hilfsstrom_zeichnen(bild, sitzung_.p); };
+    Monatsübersicht_Energieträger.zeichnen = [this](Zeichenflaeche& bild) {
+        Monatsverbrauch_zeichnen(bild, sitzung_.p);
+    };
+    Monatsübersicht_Energieträger.maus_bewegt = [this](double x, double y) { maus_ueber_chart(x, y); };
+    laden();
+}
+
+void E_Energie::laden() {
+    const bool englisch = sitzung_.p.Sprache == "e";
+    Heizsysteme = katalog_laden(sitzung_.p.Sprache);
+    for (const Beschriftung& b : beschriftungen)
+        (this->*b.feld).schreibe(englisch ? b.en : b.de);
+}
+
+void E_Energie::aktiviert() {
+    sitzung_.alles_berechnen();
+    EnergRefresh();
+}
+
+void E_Energie::EnergRefresh() {
+    kennwerte_ = energ_refresh(sitzung_.p);
+    auswahl_zeigen();
+    felder_fuellen(kennwerte_);
+    beschriften(kennwerte_.name);
+    if (ebene.sichtbar()) bilder_erneuern();
+}
+
+/// The catalogue row of the heating system in use; the row must exist.
+const Heizsystemzeile& E_Energie::katalogzeile() const {
+    const Projekt& p = sitzung_.p;
+    kombination_pruefen(p.Heizsystem, p.Uebergabe, p.Energietraeger);
+    return Heizsysteme(p.Heizsystem);
+}
+
+void E_Energie::eingaben_anzeigen() {
+    auswahl_zeigen();
+}
+
+void E_Energie::auswahl_zeigen() {
+    const Heizsystemzeile& zeile = katalogzeile();
+    Label_System.schreibe(zeile.Bezeichnung);
+    Label_Übergabe.schreibe(zeile.Uebergabe(sitzung_.p.Uebergabe));
+    Label_Energieträger.schreibe(zeile.Energietraeger(sitzung_.p.Energietraeger));
+}
+
+void E_Energie::felder_fuellen(const Kennwerte& k) {
+    const Projekt& p = sitzung_.p;
+    const double primaer = double{p.q_PE_Energietraeger} + (k.name.elektrisch() ? p.q_PE_Strom : 0.0F);
+    anz_qhs_sum.schreibe(muster(p.qhs_sum, 1));
+    anz_q_verlust.schreibe(muster(double{k.q_s} + k.q_ce + k.q_d, 1));
+    anz_e_g.schreibe(muster(k.e_g, 2));
+    anz_q_HE_Energieträger.schreibe(muster(p.q_HE_Energietraeger, 1));
+    anz_q_HE_Strom.schreibe(muster(p.q_HE_Strom, 1));
+    anz_q_PE_Energieträger.schreibe(muster(primaer, 1));
+    anz_q_PE_Strom.schreibe(muster(p.q_PE_Strom, 1));
+    anz_Primärenergiefaktor_Energieträger.schreibe(muster(k.f_p, 1));
+    anz_Primärenergiefaktor_Strom.schreibe(muster(f_p_Strom, 1));
+    anz_q_ce.schreibe(muster(k.q_ce, 1));
+    anz_q_d.schreibe(muster(k.q_d, 1));
+    anz_q_s.schreibe(muster(k.q_s, 1));
+    anz_q_d_he.schreibe(muster(k.q_d_he, 1));
+    anz_q_s_he.schreibe(muster(k.q_s_he, 1));
+    anz_q_g_he.schreibe(muster(k.q_g_he, 1));
+}
+
+void E_Energie::beschriften(const Kurzname& name) {
+    const bool englisch = sitzung_.p.Sprache == "e";
+    const std::string traeger(name.in(sitzung_.p.Sprache));
+    Label8.schreibe((englisch ? "heating energy demand (" : "Heizenergiebedarf (") + traeger + "):");
+    Label21.schreibe((englisch ? "primary energy demand (" : "Primärenergiebedarf (") + traeger + "):");
+    Label27.schreibe(traeger + ":");
+    for (Anzeige* nur_hilfsstrom :
+         {&Label14, &Label6, &anz_q_PE_Strom, &Label34, &anz_Primärenergiefaktor_Strom})
+        nur_hilfsstrom->zeige(!name.elektrisch());
+}
+
+void E_Energie::bilder_erneuern() const {
+    Picture2.neu_zeichnen();
+    Picture3.neu_zeichnen();
+    Monatsübersicht_Energieträger.neu_zeichnen();
+}
+
+void E_Energie::Label_Auswahl_Click(int i) {
+    if (!Auswahl.Label_Auswahl(i).sichtbar()) return;
+    Projekt& p = sitzung_.p;
+    const std::int16_t index = i16(i, Auswahl.feld());
+    if (Auswahl.feld() == Label_System.name) {
+        p.Heizsystem = index;
+        p.Uebergabe = 1;
+        p.Energietraeger = 1;
+    } else if (Auswahl.feld() == Label_Übergabe.name) {
+        p.Uebergabe = index;
+    } else {
+        p.Energietraeger = index;
+    }
+    auswahl_zeigen();
+    Auswahl.Frame_Auswahl.zeige(false);
+    sitzung_.alles_berechnen();
+}
+
+void E_Energie::Frame_Auswahl_Click() {
+    Auswahl.Frame_Auswahl.zeige(false);
+}
+
+void E_Energie::Label_Tooltip_MouseDown() {
+    Frame_ToolTip.zeige(false);
+}
+
+std::string E_Energie::tooltip_text(int m) const {
+    const Projekt& p = sitzung_.p;
+    const Monatsenergie werte = monatswerte(p);
+    const std::string je_monat = " kWh / (m² " + p.texte.txt_Monat + ")";
+    const auto zeile = [&](const Anzeige& feld, float wert) {
+        return "\r" + feld.text() + ": " + muster(wert, 1) + je_monat;
+    };
+    const std::string kopf = p.texte.txt_Monat + ": " + p.Monat(m).Name;
+    if (kurzname(p.Heizsystem, p.Energietraeger).elektrisch())
+        return kopf + zeile(Label8, werte.E(m)) + zeile(Label21, werte.P(m));
+    return kopf + zeile(Label8, werte.E(m)) + zeile(Label33, werte.H(m)) + zeile(Label21, werte.P(m)) +
+           zeile(Label14, werte.Q(m));
+}
+
+void E_Energie::maus_ueber_chart(double x, double y) {
+    if (!auf_saeule(monatswerte(sitzung_.p), x, y)) {
+        Frame_ToolTip.zeige(false);
+        sitzung_.plattform.zeitgeber_stoppen(zeitgeber);
+        return;
+    }
+    gemerkter_zeiger_ = sitzung_.plattform.zeiger();
+    if (!Frame_ToolTip.sichtbar())
+        sitzung_.plattform.zeitgeber_starten(zeitgeber, tipp_nach_millisekunden, [this] { tip_ein(); });
+    Label_Tooltip.schreibe(tooltip_text(monat_bei(x)));
+}
+
+void E_Energie::tip_ein() {
+    const Bildschirmpunkt zeiger = sitzung_.plattform.zeiger();
+    if (zeiger != gemerkter_zeiger_) return;
+    Frame_ToolTip.setze(tippplatz(zeiger, tipplage ? tipplage() : Tipplage{}));
+    Frame_ToolTip.zeige(true);
+}
+
+}  // namespace velmaris

@@ -1,0 +1,48 @@
+#include "energy/energiebilanz.h"
+
+#include "toolkit/zahlen.h"
+
+namespace velmaris {
+namespace {
+
+/// Smallest `qhs_sum` that is stored, so that a division by it stays defined; stands for no heat demand.
+constexpr float kein_bedarf = 1E-10F;
+
+void ohne_verluste(Kennwerte& k) {
+    k.q_ce = k.q_s = k.q_d = 0;
+    k.q_s_he = k.q_d_he = k.q_g_he = 0;
+}
+
+}  // namespace
+
+Kennwerte energ_refresh(Projekt& p) {
+    Kennwerte k = katalog_werte(p.Heizsystem, p.Uebergabe, p.Energietraeger, p.f_nutz);
+    if (p.qhs_sum < 0.1) ohne_verluste(k);
+    p.q_HE_Energietraeger = f32((double{p.qhs_sum} + k.q_ce + k.q_s + k.q_d) * k.e_g);
+    p.q_HE_Strom = f32(double{k.q_d_he} + k.q_s_he + k.q_g_he);
+    p.q_PE_Energietraeger = f32(double{p.q_HE_Energietraeger} * k.f_p);
+    p.q_PE_Strom = f32(p.q_HE_Strom * f_p_Strom);
+    if (p.qhs_sum < 1E-10) p.qhs_sum = kein_bedarf;
+    return k;
+}
+
+Monatsenergie monatswerte(const Projekt& p) {
+    Monatsenergie werte;
+    if (p.qhs_sum <= kein_bedarf) return werte;
+    const bool elektrisch = kurzname(p.Heizsystem, p.Energietraeger).elektrisch();
+    for (int m = 1; m <= monate; ++m) {
+        const double anteil = double{p.Monat(m).Qh} / p.f_nutz / p.qhs_sum;
+        if (elektrisch) {
+            werte.E(m) = f32(anteil * (double{p.q_HE_Strom} + p.q_HE_Energietraeger));
+            werte.P(m) = f32(anteil * (double{p.q_PE_Strom} + p.q_PE_Energietraeger));
+        } else {
+            werte.E(m) = f32(anteil * p.q_HE_Energietraeger);
+            werte.H(m) = f32(anteil * p.q_HE_Strom);
+            werte.P(m) = f32(anteil * p.q_PE_Energietraeger);
+            werte.Q(m) = f32(anteil * p.q_PE_Strom);
+        }
+    }
+    return werte;
+}
+
+}  // namespace velmaris

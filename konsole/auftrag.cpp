@@ -1,0 +1,79 @@
+#include "konsole/auftrag.h"
+
+#include "documents/temperaturverlauf.h"
+#include "konsole/ausgabe_json.h"
+#include "konsole/konsolenplattform.h"
+#include "konsole/zusammenfassung.h"
+#include "planes/Haupt.h"
+#include "toolkit/fehler.h"
+#include "toolkit/text.h"
+
+#include <functional>
+#include <memory>
+#include <ostream>
+
+namespace velmaris {
+namespace {
+
+std::unique_ptr<Haupt> neues_haupt(const Auftrag& auftrag, Konsolenplattform& plattform) {
+    auto haupt = std::make_unique<Haupt>(plattform, auftrag.programmordner, auftrag.sprache);
+    haupt->datei.projekt_aufbauen();
+    return haupt;
+}
+
+void sichern(Haupt& haupt, const std::string& datei) {
+    haupt.p.Datei = datei;
+    haupt.datei.projekt_sichern();
+}
+
+/// Runs a piece of the order; its fault becomes one line.
+bool versuchen(const Auftrag& auftrag, std::ostream& fehler, const std::function<void()>& stueck) {
+    try {
+        stueck();
+        return true;
+    } catch (const Laufzeitfehler& grund) {
+        fehler << grund.text(auftrag.sprache) << '\n';
+        return false;
+    }
+}
+
+std::unique_ptr<Haupt> projekt_rechnen(const Auftrag& auftrag, Konsolenplattform& plattform,
+                                       const std::string& datei) {
+    auto haupt = neues_haupt(auftrag, plattform);
+    if (!haupt->datei.projekt_laden(datei)) {
+        throw Dateifehler(datei,
+                          {"keine gültige Velmaris-Datendatei: die erste Zeile nennt keine bekannte Version",
+                           "not a valid Velmaris data file: line 1 names no known version"});
+    }
+    return haupt;
+}
+
+}  // namespace
+
+int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) {
+    Konsolenplattform plattform;
+    bool gut = true;
+    if (auftrag.neu) {
+        gut = versuchen(auftrag, fehler, [&] { sichern(*neues_haupt(auftrag, plattform), *auftrag.neu); });
+    }
+    Json ergebnisse = Json::array();
+    for (const std::string& datei : auftrag.projekte) {
+        const bool gelungen = versuchen(auftrag, fehler, [&] {
+            const auto haupt = projekt_rechnen(auftrag, plattform, datei);
+            if (auftrag.temperaturen) temperaturverlauf_exportieren(haupt->p, pfad(*auftrag.temperaturen));
+            if (auftrag.json) {
+                ergebnisse.push_back(als_json(*haupt));
+            } else {
+                aus << zusammenfassung(*haupt) << '\n';
+            }
+            if (auftrag.speichern) sichern(*haupt, *auftrag.speichern);
+        });
+        gut = gut && gelungen;
+    }
+    if (auftrag.json && auftrag.projekte.size() > 1) aus << ergebnisse.dump(2) << '\n';
+    if (auftrag.json && auftrag.projekte.size() == 1 && !ergebnisse.empty())
+        aus << ergebnisse[0].dump(2) << '\n';
+    return gut ? alles_gut : projekt_fehlerhaft;
+}
+
+}  // namespace velmaris

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <filesystem>
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velmaris {
+
+/// What a call of the console program asks for.
+struct Auftrag {
+    std::vector<std::string> projekte;
+    std::string sprache = "d";
+    bool json = false;
+    std::optional<std::string> temperaturen;
+    std::optional<std::string> neu;
+    std::optional<std::string> speichern;
+    std::filesystem::path programmordner;
+};
+
+inline constexpr int alles_gut = 0;
+inline constexpr int projekt_fehlerhaft = 1;
+inline constexpr int falscher_aufruf = 2;
+
+/// Carries out an order: results to `aus`, one line for each fault to `fehler`. A fault in one project does
+/// not keep the others from being calculated. Returns the exit status 0 or 1.
+int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler);
+
+}  // namespace velmaris

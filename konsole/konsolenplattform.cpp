@@ -1,0 +1,65 @@
+#include "konsole/konsolenplattform.h"
+
+#include <algorithm>
+#include <iostream>
+
+namespace velmaris {
+
+Antwort Konsolenplattform::melde(const Meldung& meldung) {
+    std::string zeile = meldung.text;
+    std::replace_if(
+        zeile.begin(), zeile.end(), [](char z) { return z == '\r' || z == '\n'; }, ' ');
+    std::cerr << zeile << '\n';
+    switch (meldung.knoepfe) {
+        case Knoepfe::ja_nein:
+            return Antwort::nein;
+        case Knoepfe::ja_nein_abbrechen:
+            return Antwort::abbrechen;
+        case Knoepfe::ok:
+            break;
+    }
+    return Antwort::ok;
+}
+
+std::optional<std::string> Konsolenplattform::eingabe(const std::string& /*text*/,
+                                                      const std::string& /*titel*/,
+                                                      const std::string& /*vorgabe*/) {
+    return std::nullopt;
+}
+
+std::optional<std::filesystem::path> Konsolenplattform::dateidialog(const Dateidialog& /*dialog*/) {
+    return std::nullopt;
+}
+
+void Konsolenplattform::sanduhr(bool /*an*/) {}
+
+void Konsolenplattform::fenstertitel(const std::string& /*titel*/) {}
+
+Bildschirmpunkt Konsolenplattform::zeiger() const {
+    return {};
+}
+
+double Konsolenplattform::zufall() {
+    return 0;
+}
+
+void Konsolenplattform::zeitgeber_starten(const std::string& /*name*/, int /*millisekunden*/,
+                                          std::function<void()> /*ablauf*/) {}
+
+void Konsolenplattform::zeitgeber_stoppen(const std::string& /*name*/) {}
+
+void Konsolenplattform::hilfe(const std::filesystem::path& /*datei*/, const std::string& /*seite*/) {}
+
+std::vector<std::string> Konsolenplattform::druckerliste() const {
+    return {};
+}
+
+int Konsolenplattform::aktueller_drucker() const {
+    return -1;
+}
+
+void Konsolenplattform::drucker_waehlen(int /*index*/) {}
+
+void Konsolenplattform::beenden() {}
+
+}  // namespace velmaris

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "toolkit/plattform.h"
+
+namespace velmaris {
+
+/// The platform of a program without a screen: no dialogs, no timers, messages to stderr.
+class Konsolenplattform final : public Plattform {
+  public:
+    Antwort melde(const Meldung& meldung) override;
+    std::optional<std::string> eingabe(const std::string& text, const std::string& titel,
+                                       const std::string& vorgabe) override;
+    std::optional<std::filesystem::path> dateidialog(const Dateidialog& dialog) override;
+    void sanduhr(bool an) override;
+    void fenstertitel(const std::string& titel) override;
+    [[nodiscard]] Bildschirmpunkt zeiger() const override;
+    double zufall() override;
+    void zeitgeber_starten(const std::string& name, int millisekunden, std::function<void()> ablauf) override;
+    void zeitgeber_stoppen(const std::string& name) override;
+    void hilfe(const std::filesystem::path& datei, const std::string& seite) override;
+    [[nodiscard]] std::vector<std::string> druckerliste() const override;
+    [[nodiscard]] int aktueller_drucker() const override;
+    void drucker_waehlen(int index) override;
+    void beenden() override;
+};
+
+}  // namespace velmaris

@@ -1,0 +1,63 @@
+#include "konsole/auftrag.h"
+#include "toolkit/text.h"
+#include "toolkit/zahlen.h"
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <iostream>
+
+namespace {
+
+void beschreiben(CLI::App& app, velmaris::Auftrag& auftrag, std::string& ordner) {
+    app.add_option("PROJEKT", auftrag.projekte, "Projektdateien (.vel) / project files");
+    app.add_option("--sprache", auftrag.sprache, "Sprache der Ausgabe: d oder e / language of the output")
+        ->check(CLI::IsMember({"d", "e"}));
+    app.add_flag("--json", auftrag.json, "alle Werte als JSON / all values as JSON");
+    app.add_option("--temperaturen", auftrag.temperaturen,
+                   "Stundentemperaturen als Text / hourly temperatures as text");
+    app.add_option("--neu", auftrag.neu, "schreibt das neue Projekt / writes the new project");
+    app.add_option("--speichern", auftrag.speichern,
+                   "schreibt das geöffnete Projekt / writes the opened project");
+    app.add_option("--ordner", ordner, "Programmordner mit klima/ / program folder with klima/");
+}
+
+void pruefen(const velmaris::Auftrag& auftrag) {
+    if (auftrag.projekte.empty() &&
+        (!auftrag.neu || auftrag.json || auftrag.temperaturen || auftrag.speichern)) {
+        throw CLI::ValidationError("PROJEKT", "kein Projekt angegeben / no project given");
+    }
+    if (auftrag.projekte.size() > 1 && (auftrag.temperaturen || auftrag.speichern)) {
+        throw CLI::ValidationError(
+            "PROJEKT", "--temperaturen und --speichern gelten einem einzigen Projekt / take one project");
+    }
+}
+
+std::filesystem::path ordner_des_programms(const char* aufruf) {
+    std::error_code fehler;
+    const std::filesystem::path selbst = std::filesystem::read_symlink("/proc/self/exe", fehler);
+    return (fehler ? std::filesystem::absolute(aufruf) : selbst).parent_path();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    velmaris::dezimalzeichen_setzen(velmaris::dezimalzeichen_der_umgebung());
+    CLI::App app(
+        "velmaris_rechnen - Heiz- und Kühlenergie eines Gebäudes / heating and cooling energy of a building");
+    velmaris::Auftrag auftrag;
+    std::string ordner;
+    beschreiben(app, auftrag, ordner);
+    try {
+        app.parse(argc, argv);
+        pruefen(auftrag);
+    } catch (const CLI::ParseError& fehler) {
+        return app.exit(fehler) == 0 ? velmaris::alles_gut : velmaris::falscher_aufruf;
+    }
+    auftrag.programmordner = ordner.empty() ? ordner_des_programms(argv[0]) : velmaris::pfad(ordner);
+    try {
+        return velmaris::ausfuehren(auftrag, std::cout, std::cerr);
+    } catch (const std::exception& fehler) {
+        std::cerr << fehler.what() << '\n';
+        return velmaris::projekt_fehlerhaft;
+    }
+}

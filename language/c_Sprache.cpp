@@ -1,0 +1,108 @@
+#include "language/c_Sprache.h"
+
+#include "toolkit/text.h"
+#include "toolkit/textdatei.h"
+
+#include <array>
+#include <system_error>
+
+namespace velmaris {
+namespace {
+
+struct Textzeile {
+    std::string Texte::*feld;
+    const char* de;
+    const char* en;
+};
+
+constexpr std::array<Textzeile, 10> gemeinsame_texte{{
+    {&Texte::txt_Aenderung, "          Ihr Projekt wurde geändert.\n\nMöchten Sie die Änderungen speichern?",
+     "        The project has been changed.\n\nDo you want to save the changes?"},
+    {&Texte::txt_Aenderung_Titel, "Änderungen speichern ?", "Save changes ?"},
+    {&Texte::txt_Ersetzen, "Diese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?",
+     "This file already exists.\n\n      Overwrite it?"},
+    {&Texte::txt_Klima_fehlt, "   Klimadatensatz nicht gefunden!\rDefault-Klimadatensatz wird geladen!",
+     "     Climatic data not found!\rDefault climatic data will be loaded!"},
+    {&Texte::txt_Klima_Titel, "Klimadatensatz nicht vorhanden", "Climatic data not found!"},
+    {&Texte::txt_Ueberwaermung, "Überwärmung", "overheating"},
+    {&Texte::txt_Monat, "Monat", "month"},
+    {&Texte::txt_Jahresbilanz, "Jahresbilanz", "yearly balance"},
+    {&Texte::txt_Raumluft, "Raumlufttemperatur", "room air temperature"},
+    {&Texte::txt_Aussenluft, "Außenlufttemperatur", "outdoor air temperature"},
+}};
+
+constexpr const char* sprache_aendert_sich =
+    "Sprache wird beim nächsten Start des Programms geändert!\r\r"
+    "Language will be changed after the next start of the program!";
+
+struct Monatsname {
+    const char* Name_de;
+    const char* Kurz_de;
+    const char* Name_en;
+    const char* Kurz_en;
+};
+
+constexpr std::array<Monatsname, monate> monatsnamen{{
+    {"Januar", "Jan.", "January", "Jan."},
+    {"Februar", "Feb.", "February", "Feb."},
+    {"März", "Mär.", "March", "Mar."},
+    {"April", "Apr.", "April", "Apr."},
+    {"Mai", "Mai", "May", "May"},
+    {"Juni", "Jun.", "June", "Jun."},
+    {"Juli", "Jul.", "July", "Jul."},
+    {"August", "Aug.", "August", "Aug."},
+    {"September", "Sep.", "September", "Sep."},
+    {"Oktober", "Okt.", "October", "Oct."},
+    {"November", "Nov.", "November", "Nov."},
+    {"Dezember", "Dez.", "December", "Dec."},
+}};
+
+void sprachdatei_schreiben(const Projekt& p, std::string_view buchstabe) {
+    datei_ersetzen(sprachdatei(p), nach_windows1252(buchstabe) + "\r\n");
+}
+
+}  // namespace
+
+void sprachtexte_setzen(Projekt& p) {
+    p.texte.txt_Sprache = sprache_aendert_sich;
+    if (p.Sprache != "d" && p.Sprache != "e") return;
+    const bool englisch = p.Sprache == "e";
+    for (const Textzeile& zeile : gemeinsame_texte)
+        p.texte.*zeile.feld = englisch ? zeile.en : zeile.de;
+    int m = 0;
+    for (const Monatsname& monat : monatsnamen) {
+        ++m;
+        p.Monat(m).Name = englisch ? monat.Name_en : monat.Name_de;
+        p.Monat(m).Kurz = englisch ? monat.Kurz_en : monat.Kurz_de;
+    }
+}
+
+std::filesystem::path sprachdatei(const Projekt& p) {
+    return p.AppPfad / pfad("klima\\typ.dat");
+}
+
+bool datei_da(const std::filesystem::path& datei) {
+    std::error_code fehler;
+    return std::filesystem::is_regular_file(datei, fehler);
+}
+
+void sprache_lesen(Projekt& p, const Sprachfenster& sprachfenster) {
+    if (const auto datei = sprachdatei(p); datei_da(datei)) {
+        const std::string text = bytes_lesen(datei);
+        p.Sprache = aus_windows1252(Listenleser(text).naechster().value_or(""));
+    } else if (const auto buchstabe = sprachfenster()) {
+        schreibe_sprache(p, *buchstabe);
+    }
+}
+
+void schreibe_sprache(Projekt& p, const std::string& buchstabe) {
+    sprachdatei_schreiben(p, buchstabe);
+    p.Sprache = buchstabe;
+}
+
+void sprache_merken(const Projekt& p, Plattform& plattform, std::string_view buchstabe) {
+    plattform.melde({.text = p.texte.txt_Sprache, .titel = "Velmaris", .symbol = Symbol::information});
+    sprachdatei_schreiben(p, buchstabe);
+}
+
+}  // namespace velmaris

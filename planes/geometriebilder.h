@@ -1,0 +1,29 @@
+#pragma once
+
+#include "project/c_glob.h"
+#include "toolkit/zeichenflaeche.h"
+
+#include <string>
+
+namespace velmaris {
+
+/// The numbers of the A/V chart.
+struct AVTexte {
+    std::string av_anz;        ///< the building's A/V in 1/m, with a blank behind
+    double av_oben = 0;        ///< top of that label in pixels of the chart
+    std::string AV_Kugel;      ///< A/V of a sphere of the same volume; empty without volume, as the next two
+    std::string AV_Wuerfel;    ///< of a cube
+    std::string AV_Tetraeder;  ///< of a tetrahedron
+};
+
+[[nodiscard]] AVTexte av_texte(const Projekt& p);
+
+/// The A/V chart: a bar from y = 123 upward, 0.06 to the pixel, that compares the building with bodies of the
+/// same volume whatever its size.
+void av_diagramm_zeichnen(const Projekt& p, Zeichenflaeche& flaeche);
+
+/// The orientation sketch: plan of the house and south arrow, turned by `orient`, around the surface's
+/// centre.
+void lageplan_zeichnen(const Projekt& p, Zeichenflaeche& flaeche);
+
+}  // namespace velmaris

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "project/c_glob.h"
+
+namespace velmaris {
+
+/// Sets the plain inputs of the record to those of a new project: a house of 10 m by 10 m with two floors and
+/// moderate insulation. What lives in controls (heated attic, construction lists) is the planes' to set.
+void neue_eingaben(Projekt& p);
+
+}  // namespace velmaris

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "project/feldtabelle.h"
+#include "toolkit/felder.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace velmaris {
+
+/// A quantity that a scroll field moves: the field's range and steps in positions, how a position becomes
+/// the value, and how the value is shown.
+struct Scrollzeile {
+    std::string_view name;  ///< of the control; the quantity is the name without "_sb"
+    int minimum;
+    int maximum;
+    int klein;
+    int gross;             ///< negative: a click beside the thumb moves against the click
+    Feldzeiger ziel;       ///< the quantity in the record
+    double teiler;         ///< value = position / teiler; negative where the upper end is the largest value
+    int stellen;           ///< decimals of the display
+    double anzeigefaktor;  ///< shown is the value times this
+    std::string_view einheit;  ///< unit of what is shown
+};
+
+/// All scroll fields of the input planes.
+[[nodiscard]] std::span<const Scrollzeile> scrollzeilen();
+
+/// A scroll field over its row of the table.
+class Eingabefeld : public Scrollfeld {
+  public:
+    /// `feldname` must be a name of the table.
+    explicit Eingabefeld(std::string_view feldname);
+
+    /// The value that the present position stands for, rounded as the record stores it.
+    [[nodiscard]] double wert() const;
+
+    /// Stores the value of the position in the record.
+    void uebernehmen(Projekt& p) const;
+
+    /// Moves to the position nearest to the record's value; a position out of range is a Laufzeitfehler.
+    void stellen(const Projekt& p);
+
+    /// The position nearest to a value, a half to the even one.
+    [[nodiscard]] int stellung(double wert) const;
+
+    /// The record's value by the display's pattern.
+    [[nodiscard]] std::string anzeigetext(const Projekt& p) const;
+
+  private:
+    [[nodiscard]] double gespeichert(const Projekt& p) const;
+
+    const Scrollzeile& zeile_;
+};
+
+}  // namespace velmaris

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "project/projektdatei.h"
+#include "project/sitzung.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+
+namespace velmaris {
+
+/// What the life of a project needs of the rooms above it.
+struct Projektwege {
+    std::function<void()> neues_projekt;      ///< sets the record and the planes to the new project
+    std::function<void()> klimadatei_lesen;   ///< reads the station of the record
+    std::function<void()> wetter_laden;       ///< makes the station of the record the current climate
+    std::function<void()> eingaben_anzeigen;  ///< moves all input planes to the record, clears `Geaendert`
+    std::function<void()> erste_ebenen;       ///< back to the first input and the first output plane
+    Ebenenhaken ebenen;                       ///< what the reader sets on the planes
+};
+
+/// The life of a project: new, open, save, leave, and the questions about unsaved changes. The project file
+/// stays open on channel 1 from open or save until it is replaced or the program ends.
+class FILEIO {
+  public:
+    FILEIO(Sitzung& sitzung, Projektwege wege) : s_(sitzung), wege_(std::move(wege)) {}
+
+    /// Builds up a new project and calculates it; the end of the start and the heart of `datei_neu`.
+    void projekt_aufbauen();
+
+    /// Opens a project file: reading, station, planes, one calculation. Returns false if the file has no
+    /// version known here; then the project stays and `Datei` becomes "default.vel".
+    /// Any other fault is a Dateifehler that names file, line and field; what was read up to then stays,
+    /// and so does `FormLoadGuard`.
+    bool projekt_laden(const std::string& datei);
+
+    /// Writes the project to `Datei`, whole or not at all, and keeps it open on channel 1. A fault is
+    /// a Dateifehler.
+    void projekt_sichern();
+
+    /// The commands of the menu. They report faults by message boxes.
+    void datei_neu();
+    void datei_oeffnen(const std::string& datei);
+    void datei_speichern();
+    void datei_speichern_unter();
+    void programm_beenden();
+    void hilfe_zeigen(const std::string& seite = {});
+
+    /// Asks about unsaved changes when the window is closed; 1 = do not close.
+    std::int16_t aenderung_abfragen();
+
+    /// Title of the main window for a project without a name.
+    void titel_unbenannt();
+
+  private:
+    enum class Frage { weiter, abbrechen };
+    enum class Sicherung { gesichert, abgebrochen, gescheitert };
+
+    Frage aenderung_klaeren(Sicherung (FILEIO::*weg)());
+    Sicherung sichern();
+    Sicherung sichern_unter();
+    void kanal_schliessen();
+    void kanal_oeffnen();
+    void titel_der_datei();
+    bool ersetzen_erlaubt();
+    Sicherung schreiben_oder_melden();
+
+    Sitzung& s_;
+    Projektwege wege_;
+    std::ifstream kanal1_;
+};
+
+}  // namespace velmaris

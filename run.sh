@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the program and runs it: ./run.sh [PROJEKT.vel]
+set -euo pipefail
+aufruf=$PWD
+cd "$(dirname "$(readlink -f "$0")")"
+. cmake/pakete.sh
+pakete_holen $PAKETE_PROGRAMM
+cmake --preset release -DVELMARIS_TESTS=OFF -DVELMARIS_BENCH=OFF -B build/run
+cmake --build build/run
+projekt=${1:-beispiele/niedrigenergiehaus.vel}
+[ $# -eq 0 ] || [[ $projekt == /* ]] || projekt=$aufruf/$projekt
+build/run/bin/velmaris_rechnen "$projekt"

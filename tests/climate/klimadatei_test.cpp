@@ -1,0 +1,291 @@
+#include "climate/klimadatei.h"
+
+#include "climate/regionen.h"
+#include "tests/climate/stationsdatei.h"
+#include "tests/hilfen.h"
+#include "toolkit/fehler.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <memory>
+#include <random>
+#include <vector>
+
+namespace velmaris {
+namespace {
+
+using test::Datenzeile;
+using test::Stationsdatei;
+using test::Testordner;
+
+std::unique_ptr<Projekt> gelesen(const std::string& bytes) {
+    auto p = std::make_unique<Projekt>();
+    klimadaten_uebernehmen(*p, bytes, "feld.met");
+    return p;
+}
+
+TEST(Klimadatei, LegtDieErsteZeileAnDasEndeDesJahres) {
+    Stationsdatei datei;
+    datei.zeile = [](int i) { return Datenzeile{std::to_string(i), "0", std::to_string(i % 100)}; };
+    for (const char* zeilenende : {"\r\n", "\n"}) {
+        datei.zeilenende = zeilenende;
+        const auto p = gelesen(datei.text() + "  365 99.9  999  999\r\nmore\r\n\r\n");
+        EXPECT_EQ(p->Wetter(12, 31, 24).Ta, 0);
+        EXPECT_EQ(p->Wetter(1, 1, 1).Ta, 1);
+        EXPECT_EQ(p->Wetter(1, 2, 1).Ta, 25);
+        EXPECT_EQ(p->Wetter(3, 1, 1).Ta, 59 * 24 + 1) << "February has 28 days";
+        EXPECT_EQ(p->Wetter(12, 31, 23).Ta, 8759);
+        EXPECT_EQ(p->Wetter(12, 31, 23).Diffus, 59);
+        EXPECT_EQ(p->Monat(2).Tage, 28);
+        EXPECT_EQ(p->Strahlung.werte.Ta_max, 8759);
+    }
+}
+
+TEST(Klimadatei, NimmtDieZahlenDesKopfesAusDenSpalten15Bis24) {
+    struct Fall {
+        const char* breite;
+        const char* laenge;
+        const char* zone;
+        double breite_grad;
+        float Laengenkorrektur;
+    };
+    const std::vector<Fall> faelle{
+        {"Breitengrad:  50", "Laengengrad:  -8", "Zeitzone:     -1", 50, 7},
+        {"anything here 0", "and here      -15", "and there     -1", 0, 0},
+        {"              -33.9", "              70.5", "              5", -33.9, -4.5},
+        {"                    12.599", "", "              -2 hours", 12.5, 30},
+        {"12", "Laengengrad:", "Zeitzone:     ?", 0, 0},
+    };
+    for (const Fall& fall : faelle) {
+        Stationsdatei datei;
+        datei.breite = fall.breite;
+        datei.laenge = fall.laenge;
+        datei.zone = fall.zone;
+        const auto p = gelesen(datei.text());
+        EXPECT_EQ(p->Breite, static_cast<float>(fall.breite_grad * 0.01745)) << fall.breite;
+        EXPECT_EQ(p->Laengenkorrektur, fall.Laengenkorrektur) << fall.laenge;
+    }
+}
+
+TEST(Klimadatei, NenntDenOrtBisZumKomma) {
+    const std::vector<std::pair<std::string, std::string>> faelle{
+        {"M\xFCnchen (Deutschland)", "München (Deutschland)"}, {"Paris, Orly (France)", "Paris"}, {"", ""}};
+    for (const auto& [ort, name] : faelle) {
+        Stationsdatei datei;
+        datei.ort = ort;
+        const auto p = gelesen(datei.text());
+        EXPECT_EQ(p->Stationsname, name);
+        EXPECT_EQ(p->Breite, static_cast<float>(49.75 * 0.01745)) << "the hourly reader goes by lines";
+    }
+}
+
+TEST(Klimadatei, LeitetDasDirekteLichtAusDemWaagerechtenAb) {
+    struct Fall {
+        std::string breite;
+        Datenzeile werte;
+        int monat, stunde;
+        float von, bis;
+    };
+    // On the equator in March the sun stands in the zenith at noon and 22.5 degrees high at 7:30, at 80
+    // degrees north it stays down in December and 12.5 degrees high at midnight in June.
+    const std::vector<Fall> faelle{
+        {"0", {"20", "800", "100"}, 3, 12, 699, 715},   {"0", {"20", "1000", "0"}, 3, 8, 0, 0},
+        {"0", {"20", "450", "50"}, 3, 8, 950, 1200},    {"0", {"20", "100", "300"}, 3, 12, 0, 0},
+        {"0", {"20", "800", "100"}, 3, 24, 0, 0},       {"80", {"-20", "500", "100"}, 12, 12, 0, 0},
+        {"80", {"-20", "150", "100"}, 6, 24, 190, 270}, {"80", {"-20", "500", "100"}, 6, 24, 0, 0},
+    };
+    for (const Fall& fall : faelle) {
+        Stationsdatei datei;
+        datei.breite = "Breitengrad:  " + fall.breite;
+        datei.laenge = "Laengengrad:  0";
+        datei.zone = "Zeitzone:     0";
+        datei.zeile = [&](int) { return fall.werte; };
+        const auto p = gelesen(datei.text());
+        const Wetterstunde& w = p->Wetter(fall.monat, 21, fall.stunde);
+        EXPECT_GE(w.Direkt, fall.von) << fall.breite << ' ' << fall.monat << ' ' << fall.stunde;
+        EXPECT_LE(w.Direkt, fall.bis) << fall.breite << ' ' << fall.monat << ' ' << fall.stunde;
+        EXPECT_EQ(w.Diffus, std::stof(fall.werte.G_Dh));
+    }
+}
+
+TEST(Klimadatei, LiestKurzeUndBreiteZeilen) {
+    std::string text = Stationsdatei{.zeilen = 0}.text();
+    text += "    1 -1.5  100 123.4\r\n";  // the decimal lies behind column 20
+    text += "    1 -2.5\r\n";
+    text += "\r\n";
+    text += "    1 x4.5   1a 1 2 \r\n";
+    text +=
+        Stationsdatei{.zeilen = stunden_im_jahr - 4}.text().substr(Stationsdatei{.zeilen = 0}.text().size());
+    const auto p = gelesen(text);
+    EXPECT_EQ(p->Wetter(12, 31, 24).Ta, -1.5F);
+    EXPECT_EQ(p->Wetter(12, 31, 24).Diffus, 123);
+    EXPECT_EQ(p->Wetter(1, 1, 1).Ta, -2.5F);
+    EXPECT_EQ(p->Wetter(1, 1, 1).Diffus, 0);
+    EXPECT_EQ(p->Wetter(1, 1, 2).Ta, 0);
+    EXPECT_EQ(p->Wetter(1, 1, 3).Ta, 0);
+    EXPECT_EQ(p->Wetter(1, 1, 3).Diffus, 12);
+    EXPECT_EQ(p->Wetter(1, 1, 4).Ta, 10);
+}
+
+TEST(Klimadatei, FuelltDieTafelDerDachraeume) {
+    const auto p = gelesen(Stationsdatei{}.text());
+    EXPECT_EQ(p->Dachraum(0).Bezeichnung, "Außen oder nicht gedämmte");
+    EXPECT_EQ(p->Dachraum(1).Bezeichnung, "Teilgedämmtes Dach       ");
+    EXPECT_EQ(p->Dachraum(2).Bezeichnung, "Voll gedämmtes Dach      ");
+    EXPECT_EQ(p->Dachraum(0).Faktor, 1.0F);
+    EXPECT_EQ(p->Dachraum(1).Faktor, 0.8F);
+    EXPECT_EQ(p->Dachraum(2).Faktor, 0.5F);
+    EXPECT_EQ(p->Dachraum(3).Bezeichnung, "");
+    EXPECT_EQ(p->Dachraum(3).Faktor, 0);
+}
+
+TEST(Klimadatei, EinFehlerLaesstDasBisherigeKlima) {
+    const Testordner ordner;
+    const std::string ganz = Stationsdatei{}.text();
+    ordner.schreibe("klima/feld.met", ganz);
+    ordner.schreibe("klima/ohne_ende.met", ganz.substr(0, ganz.size() - 2));
+    ordner.schreibe("klima/kurz.met", Stationsdatei{.zeilen = stunden_im_jahr - 1}.text());
+    ordner.schreibe("klima/leer.met", "");
+    ordner.schreibe("klima/ordner.met/x", "");
+    const auto p = std::make_unique<Projekt>();
+    p->AppPfad = ordner.pfad();
+    for (const char* gut : {"ohne_ende.met", "feld.met"}) {
+        p->Klimadatei = gut;
+        klimadatei_lesen(*p);
+    }
+    p->Dachraum(0).Faktor = 7;
+    const auto vorher = std::make_unique<Projekt>(*p);
+    const std::vector<std::pair<std::string, std::string>> faelle{
+        {"kurz.met", "8765 of 8766 lines"}, {"leer.met", "0 of 8766 lines"},
+        {"ordner.met", "is a folder"},      {"", "is a folder"},
+        {"fehlt.met", "not found"},
+    };
+    for (const auto& [name, grund] : faelle) {
+        p->Klimadatei = name;
+        try {
+            klimadatei_lesen(*p);
+            FAIL() << name;
+        } catch (const Dateifehler& fehler) {
+            EXPECT_NE(fehler.datei().find(name), std::string::npos);
+            EXPECT_NE(fehler.text("e").find(grund), std::string::npos) << fehler.text("e");
+        }
+        EXPECT_EQ(p->Stationsname, vorher->Stationsname);
+        EXPECT_EQ(p->Breite, vorher->Breite);
+        EXPECT_EQ(p->Laengenkorrektur, vorher->Laengenkorrektur);
+        EXPECT_EQ(p->Strahlung.station, vorher->Strahlung.station);
+        EXPECT_EQ(p->Dachraum(0).Faktor, 7);
+        EXPECT_EQ(p->Wetter(1, 1, 1).Ta, 10);
+        EXPECT_EQ(p->Monat(1).Tmittel, vorher->Monat(1).Tmittel);
+    }
+}
+
+TEST(Klimadatei, ZaehltDieStationenDesDatensatzes) {
+    const std::string text = Stationsdatei{}.text();
+    const auto p = std::make_unique<Projekt>();
+    klimadaten_uebernehmen(*p, text, "feld.met");
+    const auto erste = p->Strahlung.station;
+    EXPECT_NE(erste, 0U);
+    EXPECT_EQ(p->Strahlung.wand_w.station, erste) << "the walls are ready for the simulation";
+    klimadaten_uebernehmen(*p, text, "feld.met");
+    EXPECT_NE(p->Strahlung.station, erste);
+}
+
+// Bytes changed, cut out, doubled and cut off at random: either a fault of the file, or a climate in its
+// bounds.
+TEST(Klimadatei, UeberstehtVerdorbeneBytes) {
+    Stationsdatei datei;
+    datei.zeile = [](int i) {
+        return Datenzeile{"-3.5", std::to_string(i % 24 * 30), std::to_string(i % 24 * 11)};
+    };
+    const std::string ganz = datei.text();
+    const std::string boese = std::string("\0\r\n\n\n ,.-+9eE\xFF\x80", 15);
+    std::mt19937 zufall(20240229);
+    const auto bis = [&](std::size_t n) { return zufall() % n; };
+    const auto p = std::make_unique<Projekt>();
+    int gut = 0;
+    int fehlerhaft = 0;
+    for (int i = 0; i < 3000; ++i) {
+        std::string bytes = ganz;
+        for (std::size_t j = bis(20); j > 0; --j) {
+            const std::size_t stelle = i % 2 == 0 ? bis(bytes.size()) : bis(200);
+            switch (bis(4)) {
+                case 0:
+                    bytes.erase(stelle, bis(60));
+                    break;
+                case 1:
+                    bytes.insert(stelle, bis(8), boese[bis(boese.size())]);
+                    break;
+                case 2:
+                    bytes[stelle] = boese[bis(boese.size())];
+                    break;
+                default:
+                    bytes.insert(stelle, bytes, bis(bytes.size()), bis(40));
+                    break;
+            }
+        }
+        if (i % 16 == 0) bytes.resize(bis(bytes.size()));
+        try {
+            klimadaten_uebernehmen(*p, bytes, "feld.met");
+            ++gut;
+        } catch (const Dateifehler&) {
+            ++fehlerhaft;
+            continue;
+        }
+        fuer_jede_stunde([&](int m, int d, int h, int) {
+            const Wetterstunde& w = p->Wetter(m, d, h);
+            ASSERT_TRUE(std::isfinite(w.Ta) && std::isfinite(w.Diffus));
+            ASSERT_TRUE(w.Direkt >= 0 && w.Direkt <= 1370);
+        });
+        ASSERT_TRUE(std::isfinite(p->Monat(1 + i % 12).Tmittel));
+    }
+    EXPECT_GT(gut, 300);
+    EXPECT_GT(fehlerhaft, 300);
+}
+
+TEST(Stationskopf, LiestWieDieStationsliste) {
+    const Testordner ordner;
+    const auto kopf = [&](const std::string& bytes) {
+        return stationskopf_lesen(ordner.schreibe("feld.met", bytes));
+    };
+    Stationsdatei datei;
+    const Stationskopf gut = kopf(datei.text());
+    EXPECT_EQ(gut.name, "Testfeld (Deutschland)");
+    EXPECT_DOUBLE_EQ(gut.breite, 49.75);
+    EXPECT_DOUBLE_EQ(gut.laenge, -6.66);
+    EXPECT_DOUBLE_EQ(gut.zeitzone, -1);
+
+    datei.ort = "Testfeld, der Ort 12.25 (Deutschland)";
+    const Stationskopf komma = kopf(datei.text());
+    EXPECT_EQ(komma.name, "Testfeld");
+    EXPECT_DOUBLE_EQ(komma.breite, 0) << "columns 15 to 24 of the rest of line 1";
+    EXPECT_DOUBLE_EQ(komma.laenge, 49.75) << "the longitude comes from the latitude's line";
+    EXPECT_DOUBLE_EQ(komma.zeitzone, -6.66);
+
+    datei.ort = std::string(5000, 'x');
+    EXPECT_EQ(kopf(datei.text()).name.size(), 5000U);
+    EXPECT_DOUBLE_EQ(kopf(datei.text()).breite, 49.75);
+
+    for (const char* kurz : {"", "Ort", "Ort\r\nBreitengrad:  1\r\nLaenge\r\n"})
+        EXPECT_THROW(static_cast<void>(kopf(kurz)), Dateifehler) << kurz;
+    EXPECT_THROW(static_cast<void>(stationskopf_lesen(ordner / "fehlt.met")), Dateifehler);
+    EXPECT_THROW(static_cast<void>(stationskopf_lesen(ordner.pfad())), Dateifehler);
+}
+
+TEST(Regionen, HabenJeIhreDatei) {
+    const auto p = std::make_unique<Projekt>();
+    EXPECT_EQ(region_der_station(*p), 12) << "no names yet: all are equal";
+    regionsdateien_setzen(*p);
+    EXPECT_EQ(p->Regionsdatei(5), "würzburg.met");
+    for (int i = 1; i <= klimaregionen; ++i) {
+        p->Klimadatei = p->Regionsdatei(i);
+        EXPECT_EQ(region_der_station(*p), i);
+        const Klimaregion& region = klimaregion(i);
+        EXPECT_EQ(std::stoi(std::string(region.text)), i);
+        EXPECT_EQ(region.hinweis_1.substr(0, 14), " Klimaregion " + std::to_string(i).substr(0, 1));
+    }
+    p->Klimadatei = "paris.met";
+    EXPECT_EQ(region_der_station(*p), 0);
+}
+
+}  // namespace
+}  // namespace velmaris

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "project/tabellen.h"
+
+#include <functional>
+#include <string>
+
+namespace velmaris::test {
+
+/// The numbers of one data row as they stand in its columns of five characters.
+struct Datenzeile {
+    std::string Ta = "10.0";
+    std::string G_Gh = "0";
+    std::string G_Dh = "0";
+};
+
+/// Text of a station file: the rows follow in the order of the file, `zeile(0)` being the last hour of the
+/// year, `zeile(1)` the first. The head is that of a place at 49.75 degrees north, 6.66 degrees east in
+/// the zone of Central Europe.
+struct Stationsdatei {
+    std::string ort = "Testfeld (Deutschland)";
+    std::string breite = "Breitengrad:  49.75";
+    std::string laenge = "L\xE4ngengrad:   -6.66";
+    std::string zone = "Zeitzone:     -1";
+    std::string zeilenende = "\r\n";
+    int zeilen = stunden_im_jahr;
+    std::function<Datenzeile(int)> zeile = [](int) { return Datenzeile{}; };
+
+    [[nodiscard]] std::string text() const;
+};
+
+}  // namespace velmaris::test

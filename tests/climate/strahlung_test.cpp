@@ -1,0 +1,195 @@
+#include "climate/strahlung.h"
+
+#include "climate/sonne.h"
+
+#include <bit>
+#include <cstdint>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <memory>
+#include <vector>
+
+namespace velmaris {
+namespace {
+
+/// Steps between two positive floats.
+std::int32_t abstand(float a, float b) {
+    return std::abs(std::bit_cast<std::int32_t>(a) - std::bit_cast<std::int32_t>(b));
+}
+
+/// Counts how far a table lies from the factors worked out one by one.
+struct Vergleich {
+    int werte = 0;
+    int verschieden = 0;
+    std::int32_t groesster_abstand = 0;
+
+    void vergleiche(const Projekt& p, const Ebenentabelle& tabelle, double azimut, double neigung) {
+        const Standort ort{p.Breite, p.Laengenkorrektur};
+        fuer_jede_stunde([&](int m, int d, int h, int n) {
+            const float einzeln = einfallsfaktor_ebene(ort, n, h, p.orient, azimut, neigung);
+            const std::int32_t schritte = abstand(tabelle.faktor(m, d, h), einzeln);
+            ++werte;
+            verschieden += schritte != 0 ? 1 : 0;
+            groesster_abstand = std::max(groesster_abstand, schritte);
+        });
+    }
+};
+
+std::unique_ptr<Projekt> station(double breite, float Laengenkorrektur, Wetterstunde wetter = {}) {
+    auto p = std::make_unique<Projekt>();
+    p->Breite = static_cast<float>(breite * 0.01745);
+    p->Laengenkorrektur = Laengenkorrektur;
+    fuer_jede_stunde([&](int m, int d, int h, int) { p->Wetter(m, d, h) = wetter; });
+    station_uebernehmen(*p);
+    return p;
+}
+
+TEST(Ebenen, StimmenMitDerEinzelnenRechnungUeberein) {
+    struct Fall {
+        double breite;
+        float laenge;
+        std::int16_t orient;
+        float Dachneigung;
+    };
+    const std::vector<Fall> faelle{{49.75, 8.34F, 0, 21.8F}, {-33.9, -1.2F, -180, 45},
+                                   {0, 0, 37, 60},           {78.2, 0.5F, 180, 5},
+                                   {-89.9, 15, 90, 33.3F},   {66.5, -7.5F, -45, 89}};
+    Vergleich v;
+    for (const Fall& fall : faelle) {
+        const auto p = station(fall.breite, fall.laenge);
+        p->orient = fall.orient;
+        p->Dachneigung = fall.Dachneigung;
+        p->f_dach_n = p->f_dach_s = p->f_dach_o = p->f_dach_w = p->f_dach_flach = 1;
+        ebenen_bereitstellen(*p);
+        const Strahlungstabellen& s = p->Strahlung;
+        const double dach = fall.Dachneigung;
+        v.vergleiche(*p, s.wand_n, 180, 90);
+        v.vergleiche(*p, s.wand_s, 0, 90);
+        v.vergleiche(*p, s.wand_o, -90, 90);
+        v.vergleiche(*p, s.wand_w, 90, 90);
+        v.vergleiche(*p, s.dach_n, 180, dach);
+        v.vergleiche(*p, s.dach_s, 0, dach);
+        v.vergleiche(*p, s.dach_o, -90, dach);
+        v.vergleiche(*p, s.dach_w, 90, dach);
+        v.vergleiche(*p, s.dach_flach, 0, 0);
+    }
+    RecordProperty("factors", v.werte);
+    RecordProperty("differing", v.verschieden);
+    EXPECT_LE(v.groesster_abstand, 1);
+    EXPECT_LE(v.verschieden, v.werte / 100000);
+}
+
+TEST(Ebenen, WerdenNurNeuGerechnetWennSichIhrSchluesselAendert) {
+    const auto p = station(50, 0);
+    p->f_dach_s = 1;
+    p->Dachneigung = 30;
+    ebenen_bereitstellen(*p);
+    Strahlungstabellen& s = p->Strahlung;
+    EXPECT_EQ(s.dach_n.station, 0U) << "a roof plane without area is left alone";
+    const float marke = 7;
+    const auto bleibt = [&](auto&& aendern) {
+        s.wand_s.faktor(6, 1, 12) = marke;
+        s.dach_s.faktor(6, 1, 12) = marke;
+        aendern();
+        ebenen_bereitstellen(*p);
+        return std::pair(s.wand_s.faktor(6, 1, 12) == marke, s.dach_s.faktor(6, 1, 12) == marke);
+    };
+    EXPECT_EQ(bleibt([] {}), std::pair(true, true));
+    EXPECT_EQ(bleibt([&] { p->l = 99; }), std::pair(true, true));
+    EXPECT_EQ(bleibt([&] { p->Dachneigung = 31; }), std::pair(true, false));
+    EXPECT_EQ(bleibt([&] { p->orient = 10; }), std::pair(false, false));
+    EXPECT_EQ(bleibt([&] { station_uebernehmen(*p); }), std::pair(false, false));
+}
+
+TEST(Monatsstrahlung, SummiertStetigesWetterWieVonHand) {
+    struct Fall {
+        float diffus;
+        int januar;
+        int februar;
+        int april;
+    };
+    // No direct light: each plane gets 0.5 + 0.125 of the diffuse, over 744, 672 and 720 hours.
+    const std::vector<Fall> faelle{
+        {100, 167, 151, 162},      // 62.5 W/m2: 167.4, 151.2, 162.0 MJ/m2
+        {0, 0, 0, 0},              // nothing to add
+        {-100, 0, 0, 0},           // below the range
+        {2191, 3667, 3312, 3549},  // 1369.375 W/m2: 3667.73, 3312.79, 3549.42
+        {2192, 0, 0, 0},           // 1370 W/m2 stay out
+    };
+    for (const Fall& fall : faelle) {
+        const auto p = station(50, 0, {5, 0, fall.diffus});
+        monatsstrahlung_berechnen(*p);
+        for (const auto feld : {&Monatswerte::Strahlung_N, &Monatswerte::Strahlung_S,
+                                &Monatswerte::Strahlung_O, &Monatswerte::Strahlung_W}) {
+            EXPECT_EQ(p->Monat(1).*feld, fall.januar) << fall.diffus;
+            EXPECT_EQ(p->Monat(2).*feld, fall.februar) << fall.diffus;
+            EXPECT_EQ(p->Monat(4).*feld, fall.april) << fall.diffus;
+        }
+        EXPECT_NEAR(p->Monat(1).Tmittel, 5, 1e-4);
+    }
+}
+
+/// The same direct light in each hour in which the sun is up.
+void sonnenschein(Projekt& p, float direkt) {
+    const Standort ort{p.Breite, p.Laengenkorrektur};
+    fuer_jede_stunde([&](int m, int d, int h, int n) {
+        const bool tag = direktfaktor_horizontal(ort, n, h) > 0;
+        p.Wetter(m, d, h).Direkt = tag ? direkt : 0;
+    });
+}
+
+TEST(Monatsstrahlung, NimmtDenBodenVomDirektenLicht) {
+    // At noon the north wall sees no sun, but an eighth of the direct value comes from the ground.
+    const auto p = station(50, 0);
+    for (int m = 1; m <= monate; ++m) {
+        for (int d = 1; d <= tage_im_monat[static_cast<std::size_t>(m)]; ++d)
+            p->Wetter(m, d, 12).Direkt = 1200;
+    }
+    monatsstrahlung_berechnen(*p);
+    EXPECT_EQ(p->Monat(1).Strahlung_N, 16);  // 150 W/m2 over 31 hours: 16.74 MJ/m2
+    EXPECT_EQ(p->Monat(2).Strahlung_N, 15);  // 28 hours: 15.12
+    EXPECT_GT(p->Monat(2).Strahlung_S, 100);
+}
+
+TEST(Monatsstrahlung, DrehtSichMitDemGebaeude) {
+    const auto p = station(49.75, 2, {0, 0, 80});
+    sonnenschein(*p, 500);
+    monatsstrahlung_berechnen(*p);
+    const Reihe<Monatswerte, 1, 12> gerade = p->Monat;
+    p->orient = 180;
+    monatsstrahlung_berechnen(*p);
+    for (int m = 1; m <= monate; ++m) {
+        EXPECT_NEAR(p->Monat(m).Strahlung_N, gerade(m).Strahlung_S, 1) << m;
+        EXPECT_NEAR(p->Monat(m).Strahlung_O, gerade(m).Strahlung_W, 1) << m;
+        EXPECT_GT(gerade(m).Strahlung_S, gerade(m).Strahlung_N) << m;
+    }
+    p->orient = 90;
+    monatsstrahlung_berechnen(*p);
+    for (int m = 1; m <= monate; ++m)
+        EXPECT_NEAR(p->Monat(m).Strahlung_O, gerade(m).Strahlung_S, 1) << m;
+}
+
+TEST(Monatsstrahlung, RundetDieTemperatursummeBeiJedemSchritt) {
+    // The first hour of January brings the sum to 2^24, where adding 1 is lost in 32 bits.
+    const auto p = station(50, 0, {744, 0, 0});
+    p->Wetter(1, 1, 1).Ta = 744.0F * 16777216.0F;
+    monatsstrahlung_berechnen(*p);
+    EXPECT_EQ(p->Monat(1).Tmittel, 16777216.0F);
+}
+
+TEST(Station, KenntTagesmittelUndExtreme) {
+    const auto p = station(50, 0, {12, 0, 0});
+    EXPECT_EQ(p->Strahlung.werte.Tagesmittel(1), 12) << "exactly";
+    p->Wetter(12, 31, 24).Ta = 36;
+    p->Wetter(2, 1, 1).Ta = -36;
+    const std::uint32_t bisher = p->Strahlung.station;
+    station_uebernehmen(*p);
+    EXPECT_NE(p->Strahlung.station, bisher);
+    EXPECT_DOUBLE_EQ(p->Strahlung.werte.Tagesmittel(365), 13);
+    EXPECT_DOUBLE_EQ(p->Strahlung.werte.Tagesmittel(32), 10);
+    EXPECT_EQ(p->Strahlung.werte.Ta_max, 36);
+    EXPECT_EQ(p->Strahlung.werte.Ta_min, -36);
+}
+
+}  // namespace
+}  // namespace velmaris

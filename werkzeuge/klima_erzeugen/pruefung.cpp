@@ -1,0 +1,173 @@
+#include "werkzeuge/klima_erzeugen/pruefung.h"
+
+#include "toolkit/fehler.h"
+#include "toolkit/text.h"
+#include "toolkit/textdatei.h"
+#include "toolkit/zahlen.h"
+#include "werkzeuge/klima_erzeugen/stationsdatei.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace velmaris::klimasatz {
+namespace {
+
+/// The three columns of a year as they stand in the file.
+struct Spaltenjahr {
+    Stundenwerte ta;
+    Stundenwerte global;
+    Stundenwerte diffus;
+};
+
+/// Walks the lines of a file and raises the fault at the line it stands at.
+class Pruefleser {
+  public:
+    Pruefleser(std::string_view bytes, std::string datei) : leser_(bytes), datei_(std::move(datei)) {}
+
+    [[noreturn]] void scheitern(const Zweisprachig& text, const std::string& feld = {}) const {
+        throw Dateifehler(datei_, text, leser_.zeile(), feld);
+    }
+
+    std::string_view zeile() {
+        const auto zeile = leser_.naechste();
+        if (!zeile) scheitern({"die Datei endet zu früh", "the file ends too early"});
+        return *zeile;
+    }
+
+    void genau(std::string_view erwartet) {
+        if (zeile() != erwartet) scheitern({"nicht die Zeile des Kopfs", "not the line of the head"});
+    }
+
+    /// The number in a field of five columns, which must have its only form.
+    [[nodiscard]] double feld(std::string_view zeile, std::size_t von, int stellen, const char* name) const {
+        const std::string_view text = spalten(zeile, von, von + 4);
+        const double wert = zahl_lesen(text);
+        if (rechtsbuendig(muster(wert, stellen), 5) != text)
+            scheitern({"nicht die Form der Spalte", "not the form of the column"}, name);
+        return wert;
+    }
+
+    void ende() {
+        if (leser_.naechste()) scheitern({"die Datei geht weiter", "the file goes on"});
+    }
+
+  private:
+    Zeilenleser leser_;
+    std::string datei_;
+};
+
+void datenzeile(Pruefleser& leser, Spaltenjahr& jahr, int n, int h) {
+    constexpr std::size_t breite = 20;
+    const std::string_view zeile = leser.zeile();
+    if (zeile.size() != breite) leser.scheitern({"nicht 20 Spalten", "not 20 columns"});
+    if (leser.feld(zeile, 1, 0, "dy") != n) leser.scheitern({"falscher Tag", "wrong day"}, "dy");
+    jahr.ta(n)(h) = leser.feld(zeile, 6, 1, "Ta");
+    jahr.global(n)(h) = leser.feld(zeile, 11, 0, "G_Gh");
+    jahr.diffus(n)(h) = leser.feld(zeile, 16, 0, "G_Dh");
+    if (jahr.diffus(n)(h) < 0 || jahr.diffus(n)(h) > jahr.global(n)(h))
+        leser.scheitern({"nicht zwischen 0 und G_Gh", "not between 0 and G_Gh"}, "G_Dh");
+}
+
+Spaltenjahr einlesen(std::string_view bytes, const Stationsfakten& station) {
+    Pruefleser leser(bytes, station.datei);
+    for (const std::string& zeile : kopfzeilen(station))
+        leser.genau(nach_windows1252(zeile));
+    Spaltenjahr jahr;
+    datenzeile(leser, jahr, tage_im_jahr, stunden);
+    for (int n = 1; n <= tage_im_jahr; ++n) {
+        for (int h = 1; h <= (n < tage_im_jahr ? stunden : stunden - 1); ++h)
+            datenzeile(leser, jahr, n, h);
+    }
+    leser.ende();
+    return jahr;
+}
+
+double groesste_abweichung(const Monatswerte& ist, const Monatswerte& soll) {
+    double groesste = 0;
+    for (int m = 1; m <= monate; ++m)
+        groesste = std::max(groesste, std::fabs(ist(m) - soll(m)));
+    return groesste;
+}
+
+/// Lag-one correlation of a year whose last day leads on to the first.
+double autokorrelation(const Tageswerte& werte) {
+    double produkte = 0;
+    double quadrate = 0;
+    for (int n = 1; n <= tage_im_jahr; ++n) {
+        produkte += werte(n) * werte(n % tage_im_jahr + 1);
+        quadrate += werte(n) * werte(n);
+    }
+    return quadrate > 0 ? produkte / quadrate : 0;
+}
+
+void temperatur_messen(Befund& befund, const Stundenwerte& ta, const Stationsfakten& station) {
+    Tageswerte mittel = tagesmittel(ta);
+    befund.temperaturfehler = groesste_abweichung(monatsmittel(mittel), station.ta);
+    const Monatswerte spannen = monatsmittel(tagesspannen(ta));
+    for (int m = 1; m <= monate; ++m)
+        befund.spannenfehler = std::max(befund.spannenfehler, std::fabs(spannen(m) / station.dtr(m) - 1));
+    const Tageswerte gang = jahresgang(station.ta);
+    for (int n = 1; n <= tage_im_jahr; ++n)
+        mittel(n) -= gang(n);
+    befund.gedaechtnis = autokorrelation(mittel);
+}
+
+void strahlung_messen(Befund& befund, const Spaltenjahr& jahr, const Stationsfakten& station) {
+    const Stundenwerte cos_z = zenitkosinus(standort(station));
+    Monatswerte kwh;
+    fuer_jeden_tag([&](int m, int n) {
+        for (int h = 1; h <= stunden; ++h) {
+            const double global = jahr.global(n)(h);
+            kwh(m) += global / 1000;
+            if (global <= 0) continue;
+            if (cos_z(n)(h) <= 0) {
+                const std::string tag = std::to_string(n);
+                throw Dateifehler(station.datei, {"Strahlung ohne Sonne am Tag " + tag,
+                                                  "radiation without a sun on day " + tag});
+            }
+            const double direkt = (global - jahr.diffus(n)(h)) / cos_z(n)(h);
+            befund.klarheit = std::max(befund.klarheit, global / extraterrestrisch(cos_z(n)(h), n));
+            befund.direktstrahl = std::max(befund.direktstrahl, direkt);
+        }
+    });
+    for (int m = 1; m <= monate; ++m) {
+        const double anteil = std::fabs(kwh(m) - station.ghi(m)) / strahlungstoleranz(station.ghi(m));
+        befund.strahlungsfehler = std::max(befund.strahlungsfehler, anteil);
+    }
+}
+
+}  // namespace
+
+Befund untersuchen(std::string_view bytes, const Stationsfakten& station) {
+    const Spaltenjahr jahr = einlesen(bytes, station);
+    Befund befund;
+    temperatur_messen(befund, jahr.ta, station);
+    strahlung_messen(befund, jahr, station);
+    return befund;
+}
+
+void befund_pruefen(const Befund& befund, const Stationsfakten& station) {
+    struct Grenze {
+        double wert;
+        double von;
+        double bis;
+        const char* de;
+        const char* en;
+    };
+    const std::array<Grenze, 6> grenzen{
+        {{befund.temperaturfehler, 0, 0.1, "Monatsmittel der Temperatur", "monthly mean temperature"},
+         {befund.spannenfehler, 0, 0.15, "Tagesspanne der Temperatur", "daily range of temperature"},
+         {befund.strahlungsfehler, 0, 1, "Monatssumme der Strahlung", "monthly sum of radiation"},
+         {befund.klarheit, 0, klarheit_hoechstens, "Klarheit einer Stunde", "clearness of an hour"},
+         {befund.gedaechtnis, 0.5, 0.9, "Gedächtnis der Tagesmittel", "memory of the daily means"},
+         {befund.direktstrahl, 0, 1370, "Direktstrahlung", "direct radiation"}}};
+    for (const Grenze& g : grenzen) {
+        if (g.wert >= g.von && g.wert <= g.bis) continue;
+        const std::string zahlen =
+            ": " + muster(g.wert, 3) + " (" + muster(g.von, 2) + " .. " + muster(g.bis, 2) + ")";
+        throw Dateifehler(station.datei, {g.de + zahlen, g.en + zahlen});
+    }
+}
+
+}  // namespace velmaris::klimasatz

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "werkzeuge/klima_erzeugen/stationsliste.h"
+
+#include <string_view>
+
+namespace velmaris::klimasatz {
+
+/// How a finished station file stands to the facts of its station; the worst of the year each.
+struct Befund {
+    double temperaturfehler = 0;  ///< month's mean less its fact, K, as an amount
+    double spannenfehler = 0;     ///< month's mean daily range against its fact, share of the fact
+    double strahlungsfehler = 0;  ///< month's sum less its fact, share of what may be missed
+    double klarheit = 0;          ///< clearest hour
+    double gedaechtnis = 0;   ///< lag-one correlation of the daily means' deviations from the smooth course
+    double direktstrahl = 0;  ///< strongest direct normal radiation that the program will derive, W/m²
+};
+
+/// Reads the bytes of a station file again and measures them. A file that has not the exact form, radiation
+/// while the sun is down, or more diffuse than global radiation is a Dateifehler.
+[[nodiscard]] Befund untersuchen(std::string_view bytes, const Stationsfakten& station);
+
+/// A Dateifehler for a file whose findings lie outside what is delivered: 0.1 K, 15 % of the range, the
+/// tolerance of the radiation, clearness 0.85, correlation 0.5 to 0.9, 1370 W/m².
+void befund_pruefen(const Befund& befund, const Stationsfakten& station);
+
+}  // namespace velmaris::klimasatz

@@ -1,0 +1,52 @@
+#include "werkzeuge/klima_erzeugen/stationsdatei.h"
+
+#include "toolkit/text.h"
+#include "toolkit/zahlen.h"
+#include "werkzeuge/klima_erzeugen/temperatur.h"
+
+namespace velmaris::klimasatz {
+namespace {
+
+constexpr std::size_t spaltenbreite = 5;
+
+}  // namespace
+
+std::array<std::string, 6> kopfzeilen(const Stationsfakten& station) {
+    const Kopfzahlen zahlen = kopfzahlen(station);
+    return {station.name + " (" + station.land + ")",
+            "Breitengrad:  " + zahlen.breite,
+            "Längengrad:   " + zahlen.laenge,
+            "Zeitzone:     " + zahlen.zeitzone,
+            "",
+            "   dy   Ta G_Gh G_Dh"};
+}
+
+std::string stationsdatei(const Stationsfakten& station, const Stundenwerte& ta,
+                          const Strahlungsjahr& strahlung) {
+    constexpr std::size_t zeilenlaenge = 4 * spaltenbreite + 2;
+    std::string bytes;
+    bytes.reserve(zeilenlaenge * (stunden_im_jahr + 10));
+    for (const std::string& zeile : kopfzeilen(station))
+        bytes += nach_windows1252(zeile) + "\r\n";
+    const auto zeile = [&](int n, int h) {
+        bytes += rechtsbuendig(std::to_string(n), spaltenbreite);
+        bytes += rechtsbuendig(muster(ta(n)(h), 1), spaltenbreite);
+        bytes += rechtsbuendig(muster(strahlung.global(n)(h), 0), spaltenbreite);
+        bytes += rechtsbuendig(muster(strahlung.diffus(n)(h), 0), spaltenbreite);
+        bytes += "\r\n";
+    };
+    zeile(tage_im_jahr, stunden);
+    for (int n = 1; n <= tage_im_jahr; ++n) {
+        for (int h = 1; h <= stunden; ++h) {
+            if (n < tage_im_jahr || h < stunden) zeile(n, h);
+        }
+    }
+    return bytes;
+}
+
+std::string stationsdatei_erzeugen(const Stationsfakten& station) {
+    const Strahlungsjahr strahlung = strahlung_erzeugen(station, zenitkosinus(standort(station)));
+    return stationsdatei(station, temperatur_erzeugen(station, strahlung.klarheit), strahlung);
+}
+
+}  // namespace velmaris::klimasatz

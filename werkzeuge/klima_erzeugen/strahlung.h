@@ -1,0 +1,24 @@
+#pragma once
+
+#include "werkzeuge/klima_erzeugen/sonnenjahr.h"
+
+namespace velmaris::klimasatz {
+
+/// A year's radiation on the horizontal in whole W/m² (hourly means), and how clear its days are.
+struct Strahlungsjahr {
+    Stundenwerte global;
+    Stundenwerte diffus;
+    Tageswerte klarheit;  ///< 0..1; in the polar night that of the sky alone
+};
+
+/// How far a month's sum of global radiation may miss its fact: a hundredth, or half of the last digit with
+/// which the facts are told; kWh/m².
+[[nodiscard]] double strahlungstoleranz(double ghi);
+
+/// Makes the radiation of a station's year: days by the distribution of daily clearness around the month's,
+/// in an autoregressive series that is shifted until the month's sum is the fact; hours by their mean
+/// clearness under that sky with autoregressive scatter; the beam never above that of the cleanest sky. A
+/// month whose fact the sun cannot give is a Dateifehler for the station's file.
+[[nodiscard]] Strahlungsjahr strahlung_erzeugen(const Stationsfakten& station, const Stundenwerte& cos_z);
+
+}  // namespace velmaris::klimasatz
