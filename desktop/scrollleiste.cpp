@@ -1,6 +1,5 @@
 #include "desktop/scrollleiste.h"
 
-#include <QPainter>
 #include <QWheelEvent>
 
 namespace velmaris {
@@ -32,24 +31,6 @@ void Scrollleiste::wheelEvent(QWheelEvent* ereignis) {
     raddrehung_ -= rasten * raste;
     setValue(value() + (invertedControls() ? -rasten : rasten) * singleStep());
     ereignis->accept();
-}
-
-void Scrollleiste::paintEvent(QPaintEvent* ereignis) {
-    QScrollBar::paintEvent(ereignis);
-    if (!hasFocus()) return;
-    QPainter maler(this);
-    maler.setPen(palette().color(QPalette::Highlight));
-    maler.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-}
-
-void Scrollleiste::focusInEvent(QFocusEvent* ereignis) {
-    QScrollBar::focusInEvent(ereignis);
-    update();
-}
-
-void Scrollleiste::focusOutEvent(QFocusEvent* ereignis) {
-    QScrollBar::focusOutEvent(ereignis);
-    update();
 }
 
 }  // namespace velmaris

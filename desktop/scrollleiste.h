@@ -2,13 +2,11 @@
 
 #include <QScrollBar>
 
-class QFocusEvent;
-class QPaintEvent;
 class QWheelEvent;
 
 namespace velmaris {
 
-/// The widget of a scroll field: a scroll bar that takes the focus and shows it, whose large step may be
+/// The widget of a scroll field: a scroll bar that takes the focus, whose large step may be
 /// negative (a click beside the thumb then moves against the click), and whose wheel moves by the small step.
 /// Up, Page Up and the wheel away from the user lead to the upper end of a vertical bar and to the right end
 /// of a horizontal one.
@@ -23,9 +21,6 @@ class Scrollleiste : public QScrollBar {
 
   protected:
     void wheelEvent(QWheelEvent* ereignis) override;
-    void paintEvent(QPaintEvent* ereignis) override;
-    void focusInEvent(QFocusEvent* ereignis) override;
-    void focusOutEvent(QFocusEvent* ereignis) override;
 
   private:
     void grosser_schritt(int aktion);

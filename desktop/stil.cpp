@@ -1,54 +1,12 @@
 #include "desktop/stil.h"
 
+#include "desktop/hausstil.h"
 #include "desktop/qt_schrift.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
-#include <QProxyStyle>
-#include <QStyleFactory>
 #include <QToolTip>
 
 namespace velmaris {
-namespace {
-
-/// Fusion with the same behaviour on every desktop.
-class Hausstil : public QProxyStyle {
-  public:
-    Hausstil() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
-
-    int styleHint(StyleHint hinweis, const QStyleOption* option, const QWidget* fenster,
-                  QStyleHintReturn* rueckgabe) const override {
-        switch (hinweis) {
-            case SH_DialogButtonLayout:
-                return QDialogButtonBox::WinLayout;
-            case SH_ScrollBar_LeftClickAbsolutePosition:
-            case SH_DialogButtonBox_ButtonsHaveIcons:
-            case SH_ComboBox_Popup:
-                return 0;
-            default:
-                return QProxyStyle::styleHint(hinweis, option, fenster, rueckgabe);
-        }
-    }
-
-    int pixelMetric(PixelMetric groesse, const QStyleOption* option, const QWidget* fenster) const override {
-        switch (groesse) {
-            case PM_ScrollBarExtent:
-                return mass::leiste;
-            case PM_LayoutLeftMargin:
-            case PM_LayoutTopMargin:
-            case PM_LayoutRightMargin:
-            case PM_LayoutBottomMargin:
-                return mass::rand;
-            case PM_LayoutHorizontalSpacing:
-            case PM_LayoutVerticalSpacing:
-                return mass::abstand;
-            default:
-                return QProxyStyle::pixelMetric(groesse, option, fenster);
-        }
-    }
-};
-
-}  // namespace
 
 QPalette palette_hell() {
     const QColor fenster(stilfarben::fenster);

@@ -18,9 +18,12 @@ inline constexpr int leiste = 17;          ///< thickness of a scroll field
 
 /// Colours of the windows beyond the palette's.
 namespace stilfarben {
-inline constexpr QRgb fenster = 0xFFF0F0F0;       ///< ground of all windows and planes
-inline constexpr QRgb tafel = 0xFFFAFAFA;         ///< ground of a panel that stands out
-inline constexpr QRgb tafelrand = 0xFFC4C8CC;     ///< frame of panels and charts
+inline constexpr QRgb fenster = 0xFFF0F0F0;    ///< ground of all windows and planes
+inline constexpr QRgb tafel = 0xFFFAFAFA;      ///< ground of a panel that stands out
+inline constexpr QRgb tafelrand = 0xFFC4C8CC;  ///< frame of panels and charts
+inline constexpr QRgb rille = 0xFFE4E7EA;      ///< ground of scroll fields
+inline constexpr QRgb griff = 0xFFC3D2E4;      ///< thumb of scroll fields
+inline constexpr QRgb griffrand = 0xFF8FA5BF;
 inline constexpr QRgb betonung = 0xFF1F5FA8;      ///< what is chosen, focused or marked
 inline constexpr QRgb schrift = 0xFF1A1A1A;       ///< texts
 inline constexpr QRgb nebenschrift = 0xFF5A6068;  ///< notes and units

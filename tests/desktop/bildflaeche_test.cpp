@@ -5,6 +5,7 @@
 #include "tests/hilfen.h"
 #include "toolkit/text.h"
 
+#include <QMouseEvent>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -88,7 +89,9 @@ TEST_F(BildflaecheTest, ReichtZeigerInBildpixelnWeiter) {
                              std::to_string(std::lround(y)));
     };
     abwarten();
-    QTest::mouseMove(&bild, QPoint(7, 9));
+    const QPointF zwischen(7.75, 9.5);  // a screen of higher resolution knows places between the pixels
+    QMouseEvent zug(QEvent::MouseMove, zwischen, bild.mapToGlobal(zwischen), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&bild, &zug);
     QTest::mouseClick(&bild, Qt::LeftButton, {}, QPoint(8, 9));
     QTest::mouseClick(&bild, Qt::RightButton, {}, QPoint(8, 9));
     QTest::mousePress(&bild, Qt::LeftButton, {}, QPoint(8, 9));
