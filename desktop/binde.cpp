@@ -100,9 +100,26 @@ void anzeige_zeigen(QLabel& schild, const Anzeige& anzeige, double pixel_je_einh
 
 }  // namespace
 
+// Bindings without a handler have no use for the guard, but are made in the same way as the others.
+// NOLINTBEGIN(readability-convert-member-functions-to-static)
 void Binder::binde(QWidget& fenster, Feld& feld) const {
     anschliessen(fenster, feld, [&fenster, &feld] { grundzustand(fenster, feld); });
 }
+
+void Binder::binde(QLabel& schild, Anzeige& anzeige, double pixel_je_einheit) const {
+    schild.setTextFormat(Qt::PlainText);
+    anschliessen(schild, anzeige, [&schild, &anzeige, pixel_je_einheit] {
+        anzeige_zeigen(schild, anzeige, pixel_je_einheit);
+    });
+}
+
+void Binder::binde(QGroupBox& rahmen, Anzeige& anzeige) const {
+    anschliessen(rahmen, anzeige, [&rahmen, &anzeige] {
+        rahmen.setTitle(qtext(anzeige.text()));
+        grundzustand(rahmen, anzeige);
+    });
+}
+// NOLINTEND(readability-convert-member-functions-to-static)
 
 void Binder::binde(Scrollleiste& leiste, Scrollfeld& feld) const {
     benennen(leiste, feld);
@@ -169,20 +186,6 @@ void Binder::binde(std::span<QRadioButton* const> knoepfe, Optionsgruppe& gruppe
         });
         ++option;
     }
-}
-
-void Binder::binde(QLabel& schild, Anzeige& anzeige, double pixel_je_einheit) const {
-    schild.setTextFormat(Qt::PlainText);
-    anschliessen(schild, anzeige, [&schild, &anzeige, pixel_je_einheit] {
-        anzeige_zeigen(schild, anzeige, pixel_je_einheit);
-    });
-}
-
-void Binder::binde(QGroupBox& rahmen, Anzeige& anzeige) const {
-    anschliessen(rahmen, anzeige, [&rahmen, &anzeige] {
-        rahmen.setTitle(qtext(anzeige.text()));
-        grundzustand(rahmen, anzeige);
-    });
 }
 
 void Binder::binde(QAbstractButton& schalter, Knopf& knopf) const {

@@ -79,6 +79,17 @@ int Hausstil::pixelMetric(PixelMetric groesse, const QStyleOption* option, const
     }
 }
 
+/// The title of a frame stands inside of it.
+QRect Hausstil::subControlRect(ComplexControl bedienteil, const QStyleOptionComplex* option, SubControl teil,
+                               const QWidget* fenster) const {
+    constexpr int titelabstand = 4;
+    const QRect feld = QProxyStyle::subControlRect(bedienteil, option, teil, fenster);
+    if (bedienteil != CC_GroupBox) return feld;
+    if (teil == SC_GroupBoxLabel) return feld.translated(mass::rand, titelabstand);
+    if (teil == SC_GroupBoxContents) return feld.adjusted(0, titelabstand, 0, 0);
+    return feld;
+}
+
 void Hausstil::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* maler,
                              const QWidget* fenster) const {
     if (element != PE_FrameGroupBox) {

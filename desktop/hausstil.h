@@ -17,6 +17,8 @@ class Hausstil : public QProxyStyle {
                                 QStyleHintReturn* rueckgabe) const override;
     [[nodiscard]] int pixelMetric(PixelMetric groesse, const QStyleOption* option,
                                   const QWidget* fenster) const override;
+    [[nodiscard]] QRect subControlRect(ComplexControl bedienteil, const QStyleOptionComplex* option,
+                                       SubControl teil, const QWidget* fenster) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* maler,
                        const QWidget* fenster) const override;
     void drawComplexControl(ComplexControl bedienteil, const QStyleOptionComplex* option, QPainter* maler,

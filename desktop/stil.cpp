@@ -32,7 +32,7 @@ QPalette palette_hell() {
     return p;
 }
 
-void stil_setzen(QApplication& programm) {
+void stil_setzen() {
     QApplication::setStyle(new Hausstil);
     QApplication::setPalette(palette_hell());
     QToolTip::setPalette(palette_hell());
@@ -42,7 +42,7 @@ void stil_setzen(QApplication& programm) {
     // The desktop may bring fonts of its own for single classes of widgets.
     for (const char* klasse : {"QMenu", "QMenuBar", "QMessageBox", "QTipLabel", "QStatusBar", "QTitleBar"})
         QApplication::setFont(font, klasse);
-    programm.setEffectEnabled(Qt::UI_AnimateCombo, false);
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
 }
 
 }  // namespace velmaris

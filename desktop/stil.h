@@ -3,8 +3,6 @@
 #include <QColor>
 #include <QPalette>
 
-class QApplication;
-
 namespace velmaris {
 
 /// Measures that all views share, in logical pixels.
@@ -32,7 +30,7 @@ inline constexpr QRgb nebenschrift = 0xFF5A6068;  ///< notes and units
 /// The light palette of the program.
 [[nodiscard]] QPalette palette_hell();
 
-/// Gives the program one look on every desktop: style, palette, font, tooltips and panel frames.
-void stil_setzen(QApplication& programm);
+/// Gives the program one look on every desktop: style, palette, fonts. Needs the application object.
+void stil_setzen();
 
 }  // namespace velmaris

@@ -7,6 +7,6 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication programm(argc, argv);
-    velmaris::stil_setzen(programm);
+    velmaris::stil_setzen();
     return RUN_ALL_TESTS();
 }
