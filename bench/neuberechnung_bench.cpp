@@ -1,6 +1,8 @@
 #include "calc/alles_berechnen.h"
+#include "calc/gebaeudekennwerte.h"
 #include "calc/geometrie.h"
 #include "calc/monatsbilanz.h"
+#include "climate/A_Klima.h"
 #include "climate/strahlung.h"
 #include "tests/musterprojekt.h"
 #include "tests/wie_geschrieben.h"
@@ -22,16 +24,24 @@ constexpr Aenderung sollwert{[](Projekt& p, bool gerade) { p.Troom = gerade ? 20
 constexpr Aenderung ausrichtung{[](Projekt& p, bool gerade) { p.orient = gerade ? 10 : 15; }, true};
 constexpr Aenderung dachneigung{[](Projekt& p, bool gerade) { p.hd = gerade ? 3.0F : 3.1F; }, false};
 
+/// The figures of building and climate that are shown after each recalculation.
+void klimawerte(const Projekt& p) {
+    benchmark::DoNotOptimize(gebaeudekennwerte(p));
+    benchmark::DoNotOptimize(heizgrenze(p));
+}
+
 void wie_geschrieben(Projekt& p, bool dreht_das_haus) {
     if (dreht_das_haus) test::monatsstrahlung_wie_geschrieben(p);
     geometrie_berechnen(p);
     monatsbilanz(p);
     test::stundensimulation_wie_geschrieben(p);
+    klimawerte(p);
 }
 
 void im_kern(Projekt& p, bool dreht_das_haus) {
     if (dreht_das_haus) monatsstrahlung_berechnen(p);
     alles_berechnen(p, {});
+    klimawerte(p);
 }
 
 /// Seconds of one recalculation after the change.

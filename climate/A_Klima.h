@@ -21,8 +21,6 @@ struct Heizgrenze {
 /// The plane "Klima / Gebäude": labels with the climate in force and the figures of the building. Each
 /// label keeps its text until its writer runs again.
 struct A_Klima {
-    static constexpr const char* titel = "Velmaris - Klimainformationen";
-
     Anzeige anz_klimaregion{"anz_klimaregion"};
     Anzeige anz_MaxMonatName{"anz_MaxMonatName"};
     Anzeige anz_MinMonatName{"anz_MinMonatName"};

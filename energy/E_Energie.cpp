@@ -3,6 +3,7 @@
 #include "energy/Traegerbild.h"
 #include "energy/energie_zeichnen.h"
 #include "energy/energiebilanz.h"
+#include "language/beschriftungen.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
@@ -13,35 +14,6 @@ namespace {
 
 constexpr const char* zeitgeber = "E_Energie.Timer_Tip_ein";
 constexpr int tipp_nach_millisekunden = 1000;
-constexpr const char* einheit = "kWh/(m² a)";
-
-struct Beschriftung {
-    Anzeige E_Energie::*feld;
-    const char* de;
-    const char* en;
-};
-
-constexpr std::array<Beschriftung, 18> beschriftungen{{
-    {&E_Energie::Label1, "Heizungssystem:", "heating system"},
-    {&E_Energie::Label3, "Wärmeübergabe / Systemtemperatur:", "heat transfer / system temperature"},
-    {&E_Energie::Label2, "Energieträger", "source of energy"},
-    {&E_Energie::Label11, "Heizwärmebedarf:", "heat energy demand:"},
-    {&E_Energie::Label30, "Verluste Verteilung && Speicherung:", "losses of distribution and storage:"},
-    {&E_Energie::Label16, "Aufwandszahl Wärmeerzeugung:", "expense number of heat generation:"},
-    {&E_Energie::Label33, "Hilfsenergiebedarf (Strom):", "auxiliary energy demand (electricity):"},
-    {&E_Energie::Label14, "Primärenergiebedarf (Strom):", "primary energy demand (electricity):"},
-    {&E_Energie::Label34, "Strom:", "electricity"},
-    {&E_Energie::Frame1, "Endenergiebedarf", "end energy demand"},
-    {&E_Energie::Frame8, "Primärenergiefaktoren", "primary energy factors"},
-    {&E_Energie::Monatsverbrauch, "Monatlicher End- und Primärenergiebedarf in kWh/(m² Monat)",
-     "monthly end and primary energy demand in kWh/(m² month)"},
-    {&E_Energie::Einheit_qhs_sum, einheit, einheit},
-    {&E_Energie::Einheit_q_verlust, einheit, einheit},
-    {&E_Energie::Einheit_q_HE_Energieträger, einheit, einheit},
-    {&E_Energie::Einheit_q_HE_Strom, einheit, einheit},
-    {&E_Energie::Einheit_q_PE_Energieträger, einheit, einheit},
-    {&E_Energie::Label6, einheit, einheit},
-}};
 
 template <class Liste>
 std::vector<std::string> als_vektor(const Liste& texte) {
@@ -86,10 +58,12 @@ E_Energie::E_Energie(Sitzung& sitzung) : sitzung_(sitzung) {
 }
 
 void E_Energie::laden() {
-    const bool englisch = sitzung_.p.Sprache == "e";
     Heizsysteme = katalog_laden(sitzung_.p.Sprache);
-    for (const Beschriftung& b : beschriftungen)
-        (this->*b.feld).schreibe(englisch ? b.en : b.de);
+    velmaris::beschriften<Anzeige>(
+        "E_Energie", sitzung_.p.Sprache,
+        {&Label1, &Label2, &Label3, &Label6, &Label11, &Label14, &Label16, &Label30, &Label33, &Label34,
+         &Frame1, &Frame8, &Monatsverbrauch, &Einheit_qhs_sum, &Einheit_q_verlust,
+         &Einheit_q_HE_Energieträger, &Einheit_q_HE_Strom, &Einheit_q_PE_Energieträger});
 }
 
 void E_Energie::aktiviert() {

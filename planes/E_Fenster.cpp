@@ -65,6 +65,13 @@ Fensterseite& E_Fenster::seite(Fassade fassade) {
     return *seiten()[static_cast<std::size_t>(fassade)];
 }
 
+Fensterseite* E_Fenster::seite_mit_typ(std::string_view name) {
+    for (Fensterseite* seite : seiten()) {
+        if (seite->typ.name == name) return seite;
+    }
+    return nullptr;
+}
+
 bool E_Fenster::gleiche_fenster() const {
     return s_.p.Option1 == 0;
 }

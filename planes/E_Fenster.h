@@ -49,6 +49,9 @@ struct E_Fenster {
 
     [[nodiscard]] Fensterseite& seite(Fassade fassade);
 
+    /// The facade whose type list has that name (`fenstern_typ` ...), nullptr if none has.
+    [[nodiscard]] Fensterseite* seite_mit_typ(std::string_view name);
+
   private:
     void binden(Fensterseite& seite);
     void anteil_geaendert(Fensterseite& seite);

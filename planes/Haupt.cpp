@@ -68,6 +68,9 @@ Projektwege Haupt::projektwege() {
     wege.ebenen.Check_Dachgeschoss = [this](int wert) { e_geometrie.dachgeschoss_lesen(wert); };
     wege.ebenen.Option_Dachfirst = [this](int wert) { e_geometrie.dachfirst_lesen(wert); };
     wege.ebenen.Option1 = [this](int wert) { e_fenster.fenstermodus_lesen(wert); };
+    wege.ebenen.zeile_pruefen = [this](std::string_view feld, int zeile) {
+        if (Fensterseite* seite = e_fenster.seite_mit_typ(feld)) seite->typ.pruefe(zeile);
+    };
     return wege;
 }
 

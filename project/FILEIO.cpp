@@ -80,8 +80,14 @@ bool FILEIO::projekt_laden(const std::string& datei) {
 }
 
 void FILEIO::projekt_sichern() {
+    const bool war_offen = s_.p.Datei_offen == 1;
     kanal_schliessen();
-    datei_ersetzen(pfad(s_.p.Datei), projekt_schreiben(s_.p));
+    try {
+        datei_ersetzen(pfad(s_.p.Datei), projekt_schreiben(s_.p));
+    } catch (const Dateifehler&) {
+        if (war_offen) kanal_oeffnen();
+        throw;
+    }
     kanal_oeffnen();
 }
 

@@ -52,6 +52,7 @@ void ablegen(Projekt& p, const Feldzeile& feld, std::string_view posten, const E
         if (const auto* steller = haken_fuer(feld.name, haken)) {
             (*steller)(wert);
         } else {
+            if (haken.zeile_pruefen) haken.zeile_pruefen(feld.name, wert);
             p.*(*ganzzahl) = wert;
         }
     }

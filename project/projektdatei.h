@@ -15,11 +15,14 @@ inline constexpr std::string_view version_frueher = "Velmaris Version 3.0";
 /// What the reader sets on the planes as it comes to the line, since these quantities are controls there.
 /// Each call runs the control's handler.
 struct Ebenenhaken {
-    std::function<void(int)> Innenwandart;
-    std::function<void(int)> Aussenwandart;
-    std::function<void(int)> Check_Dachgeschoss;
-    std::function<void(int)> Option_Dachfirst;
-    std::function<void(int)> Option1;
+    std::function<void(int)> Innenwandart = {};
+    std::function<void(int)> Aussenwandart = {};
+    std::function<void(int)> Check_Dachgeschoss = {};
+    std::function<void(int)> Option_Dachfirst = {};
+    std::function<void(int)> Option1 = {};
+
+    /// Raises a Laufzeitfehler if the list of that quantity has no such row; may be empty.
+    std::function<void(std::string_view feld, int zeile)> zeile_pruefen = {};
 };
 
 /// Reads the text of a project file (windows-1252; `name` is the file's name for messages) into the record,

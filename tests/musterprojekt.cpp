@@ -1,5 +1,6 @@
 #include "tests/musterprojekt.h"
 
+#include "climate/dachraum.h"
 #include "climate/sonne.h"
 #include "climate/strahlung.h"
 #include "toolkit/zahlen.h"
@@ -39,9 +40,7 @@ Wetterstunde wetterstunde(const Standort& ort, double breite, int n, int h) {
 void station_fertigstellen(Projekt& p) {
     for (int m = 1; m <= monate; ++m)
         p.Monat(m).Tage = i16(tage_im_monat[static_cast<std::size_t>(m)], "Tage");
-    p.Dachraum(0).Faktor = 1;
-    p.Dachraum(1).Faktor = 0.8F;
-    p.Dachraum(2).Faktor = 0.5F;
+    dachraum_fuellen(p);
     station_uebernehmen(p);
     monatsstrahlung_berechnen(p);
 }

@@ -45,6 +45,12 @@ void Feld::aktiviere(bool aktiv) {
     melden();
 }
 
+void Feld::lege(const Rechteck& lage) {
+    if (lage_ == lage) return;
+    lage_ = lage;
+    melden();
+}
+
 Scrollfeld::Scrollfeld(std::string feldname, int minimum, int maximum, int klein, int gross)
     : Feld(std::move(feldname)),
       minimum_(minimum),
@@ -78,10 +84,14 @@ void Auswahlliste::fuelle(std::vector<std::string> eintraege) {
 }
 
 void Auswahlliste::setze(int index) {
-    const int zahl = static_cast<int>(eintraege_.size());
-    if (index < 0 || index >= zahl) ausserhalb(groesse_, index, 0, zahl - 1);
+    pruefe(index);
     markiere(index);
     rufe(gewaehlt);
+}
+
+void Auswahlliste::pruefe(int index) const {
+    const int zahl = static_cast<int>(eintraege_.size());
+    if (index < 0 || index >= zahl) ausserhalb(groesse_, index, 0, zahl - 1);
 }
 
 void Auswahlliste::markiere(int index) {
@@ -154,6 +164,12 @@ void Knopf::schreibe(std::string text) {
 
 void Knopf::druecke() const {
     if (aktiv()) rufe(gedrueckt);
+}
+
+void Menuepunkt::kreuze_an(bool angekreuzt) {
+    if (angekreuzt_ == angekreuzt) return;
+    angekreuzt_ = angekreuzt;
+    melden();
 }
 
 void Bildfeld::lade(std::filesystem::path bild) {

@@ -11,9 +11,19 @@
 
 namespace velmaris {
 
-/// What all controls have in common: a name, whether they are shown and can be used, and a call to the view
-/// that shows them. A control is a plain record; it knows no toolkit. A control is bound by its
-/// address, so it cannot be copied.
+/// A place with a size, in pixels of the plane.
+struct Rechteck {
+    double links = 0;
+    double oben = 0;
+    double breite = 0;
+    double hoehe = 0;
+
+    friend bool operator==(const Rechteck&, const Rechteck&) = default;
+};
+
+/// What all controls have in common: a name, whether they are shown and can be used, where they stand if the
+/// program itself says so, and a call to the view that shows them. A control is a plain record; it knows no
+/// toolkit. A control is bound by its address, so it cannot be copied.
 class Feld {
   public:
     explicit Feld(std::string feldname) : name(std::move(feldname)) {}
@@ -25,6 +35,10 @@ class Feld {
     [[nodiscard]] bool aktiv() const { return aktiv_; }
     void zeige(bool sichtbar);
     void aktiviere(bool aktiv);
+
+    /// Place and size, nothing where the view settles them.
+    [[nodiscard]] const std::optional<Rechteck>& lage() const { return lage_; }
+    void lege(const Rechteck& lage);
 
     const std::string name;
 
@@ -38,6 +52,7 @@ class Feld {
   private:
     bool sichtbar_ = true;
     bool aktiv_ = true;
+    std::optional<Rechteck> lage_;
 };
 
 /// A scroll field: an integer position between a minimum and a maximum, a small step (arrow) and
@@ -90,6 +105,9 @@ class Auswahlliste : public Feld {
     /// Selects a row and runs the handler, also if the row was selected before. A row that does not
     /// exist is a Laufzeitfehler that names the list.
     void setze(int index);
+
+    /// The fault of `setze` for a row that does not exist; nothing else.
+    void pruefe(int index) const;
 
     /// Selects a row without the handler; -1 for none.
     void markiere(int index);
@@ -212,6 +230,18 @@ class Knopf : public Feld {
     std::string text_;
 };
 
+/// A menu entry: a button that may carry a check mark.
+class Menuepunkt : public Knopf {
+ public:
+    explicit Menuepunkt(std::string feldname) : Knopf(std::move(feldname)) {}
+
+    [[nodiscard]] bool angekreuzt() const { return angekreuzt_; }
+    void kreuze_an(bool angekreuzt);
+
+ private:
+    bool angekreuzt_ = false;
+};
+
 /// A picture or chart surface: a repaint routine over an image that may be empty.
 class Bildfeld : public Feld {
   public:
@@ -230,6 +260,9 @@ class Bildfeld : public Feld {
     /// Pointer events in surface pixels, where the plane wants them.
     std::function<void(double, double)> maus_bewegt;
     std::function<void(double, double)> maus_geklickt;
+
+    /// The colour of a pixel as it was drawn last; set by the view.
+    std::function<Farbe(double, double)> lies_punkt;
 
   private:
     std::filesystem::path bild_;

@@ -43,7 +43,7 @@ TEST(Stundensimulation, GleichesKaltesWetterLaesstDasHausAuskuehlen) {
     EXPECT_EQ(p->Monat(2).Stunden_komfort, 0);
     EXPECT_EQ(p->Monat(2).Kuehlgradstunden, 0);
     EXPECT_FLOAT_EQ(p->T_frei(1, 1, 1), 11.2574339F);
-    EXPECT_FLOAT_EQ(p->Q_heiz(1, 1, 1), 2.11628246F);
+    EXPECT_FLOAT_EQ(p->Q_heiz(1, 1, 1), 2.11628222F);
 }
 
 TEST(Stundensimulation, GleichesHeissesWetterWirdNachUrsachenGekuehlt) {

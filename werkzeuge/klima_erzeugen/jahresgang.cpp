@@ -10,39 +10,45 @@ double laenge(int m) {
     return tage_im_monat[static_cast<std::size_t>(m)];
 }
 
-/// A node of the course, its place in days from the start of the year.
+/// A node of the course: its place in days from the start of the year, and the slope there, by the day.
 struct Stuetze {
     double ort = 0;
     double wert = 0;
+    double steigung = 0;
 };
 
-/// The node of month m, which may lie in the year before (m < 1) or after (m > 12).
-Stuetze stuetze(const Monatswerte& werte, int m) {
-    const int jahr = m < 1 ? -1 : (m > monate ? 1 : 0);
-    const int monat = m - jahr * monate;
-    return {jahr * tage_im_jahr + erster_tag(monat) - 1 + laenge(monat) / 2, werte(monat)};
+/// The nodes from the November before the year to the February behind it.
+using Stuetzen = Reihe<Stuetze, -1, monate + 2>;
+
+Stuetzen stuetzen(const Monatswerte& werte) {
+    Stuetzen s;
+    for (int i = -1; i <= monate + 2; ++i) {
+        const int jahr = i < 1 ? -1 : (i > monate ? 1 : 0);
+        const int m = i - jahr * monate;
+        s(i).ort = jahr * tage_im_jahr + erster_tag(m) - 1 + laenge(m) / 2;
+        s(i).wert = werte(m);
+    }
+    for (int i = 0; i <= monate + 1; ++i)
+        s(i).steigung = (s(i + 1).wert - s(i - 1).wert) / (s(i + 1).ort - s(i - 1).ort);
+    return s;
 }
 
-double steigung(const Stuetze& davor, const Stuetze& danach) {
-    return (danach.wert - davor.wert) / (danach.ort - davor.ort);
-}
-
-/// Hermite piece from node b to node c at the place x; a and d are the neighbours that give the slopes.
-double hermite(const Stuetze& a, const Stuetze& b, const Stuetze& c, const Stuetze& d, double x) {
-    const double h = c.ort - b.ort;
-    const double t = (x - b.ort) / h;
+/// The Hermite piece between two nodes at the place x.
+double hermite(const Stuetze& a, const Stuetze& b, double x) {
+    const double h = b.ort - a.ort;
+    const double t = (x - a.ort) / h;
     const double u = 1 - t;
-    return b.wert * (1 + 2 * t) * u * u + c.wert * (1 + 2 * u) * t * t +
-           h * t * u * (steigung(a, c) * u - steigung(b, d) * t);
+    return a.wert * (1 + 2 * t) * u * u + b.wert * (1 + 2 * u) * t * t +
+           h * t * u * (a.steigung * u - b.steigung * t);
 }
 
 Tageswerte kurve(const Monatswerte& stuetzwerte) {
+    const Stuetzen s = stuetzen(stuetzwerte);
     Tageswerte tage;
     fuer_jeden_tag([&](int m, int n) {
         const double x = n - 0.5;
-        const int links = x < stuetze(stuetzwerte, m).ort ? m - 1 : m;
-        const auto s = [&](int i) { return stuetze(stuetzwerte, links + i); };
-        tage(n) = hermite(s(-1), s(0), s(1), s(2), x);
+        const int links = x < s(m).ort ? m - 1 : m;
+        tage(n) = hermite(s(links), s(links + 1), x);
     });
     return tage;
 }

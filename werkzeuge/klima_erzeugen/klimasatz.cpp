@@ -48,6 +48,9 @@ class Umzug {
 
     void umziehen(const Klimadatei& datei) {
         const fs::path name = pfad(datei.name);
+        if (fs::is_directory(ordner_ / name))
+            throw Dateifehler(pfadtext(ordner_ / name),
+                              {"ist ein Ordner, keine Datei", "is a folder, not a file"});
         if (fs::exists(ordner_ / name)) fs::rename(ordner_ / name, alt_ / name);
         umgezogen_.push_back(name);
         fs::rename(neu_ / name, ordner_ / name);

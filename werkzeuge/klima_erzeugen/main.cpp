@@ -54,32 +54,22 @@ std::optional<Aufruf> aufruf(const std::vector<std::string_view>& worte) {
     return aufruf;
 }
 
+/// Tells how the files stand to their limits, from the best to the worst of them.
 void zusammenfassen(const std::vector<Klimadatei>& dateien) {
-    Befund schlechtester = dateien.front().befund;
-    double schwaechstes = schlechtester.gedaechtnis;
-    for (const Klimadatei& datei : dateien) {
-        const auto hoechstes = [&](double Befund::*feld) {
-            schlechtester.*feld = std::max(schlechtester.*feld, datei.befund.*feld);
-        };
-        for (const auto feld : {&Befund::temperaturfehler, &Befund::spannenfehler, &Befund::strahlungsfehler,
-                                &Befund::klarheit, &Befund::gedaechtnis, &Befund::direktstrahl})
-            hoechstes(feld);
-        schwaechstes = std::min(schwaechstes, datei.befund.gedaechtnis);
+    std::cout << dateien.size() << " station files\n";
+    for (const Kenngroesse& g : kenngroessen()) {
+        const auto wert = [&g](const Klimadatei& datei) { return datei.befund.*g.wert; };
+        const auto [kleinster, groesster] = std::ranges::minmax_element(dateien, {}, wert);
+        std::cout << "  " << g.en << ": " << muster(wert(*kleinster), 4) << " to "
+                  << muster(wert(*groesster), 4) << " (limit " << muster(g.bis, 2) << ")\n";
     }
-    std::cout << dateien.size() << " station files; at worst: temperature "
-              << muster(schlechtester.temperaturfehler, 4) << " K, daily range "
-              << muster(schlechtester.spannenfehler * 100, 2) << " %, radiation "
-              << muster(schlechtester.strahlungsfehler * 100, 1) << " % of its tolerance, clearness "
-              << muster(schlechtester.klarheit, 3) << ", memory " << muster(schwaechstes, 3) << " to "
-              << muster(schlechtester.gedaechtnis, 3) << ", beam " << muster(schlechtester.direktstrahl, 0)
-              << " W/m2\n";
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     try {
-        const auto wunsch = aufruf({argv + 1, argv + argc});
+        const auto wunsch = aufruf(std::vector<std::string_view>(argv + 1, argv + argc));
         if (!wunsch) {
             std::cerr << gebrauch;
             return 2;

@@ -7,7 +7,6 @@
 #include "werkzeuge/klima_erzeugen/stationsdatei.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace velmaris::klimasatz {
@@ -147,25 +146,30 @@ Befund untersuchen(std::string_view bytes, const Stationsfakten& station) {
     return befund;
 }
 
+const std::array<Kenngroesse, 6>& kenngroessen() {
+    static constexpr std::array<Kenngroesse, 6> tabelle{{
+        {"Monatsmittel der Temperatur, Abweichung in K", "monthly mean temperature, deviation in K",
+         &Befund::temperaturfehler, 0, 0.1},
+        {"Tagesspanne im Monat, Abweichung als Anteil", "daily range in the month, deviation as a share",
+         &Befund::spannenfehler, 0, 0.15},
+        {"Monatssumme der Strahlung, Abweichung als Anteil der erlaubten",
+         "monthly sum of radiation, deviation as a share of the allowed one", &Befund::strahlungsfehler, 0,
+         1},
+        {"klarste Stunde", "clearest hour", &Befund::klarheit, 0, klarheit_hoechstens},
+        {"Autokorrelation der Tagesmittel", "autocorrelation of the daily means", &Befund::gedaechtnis, 0.5,
+         0.9},
+        {"stärkste Direktstrahlung in W/m²", "strongest direct radiation in W/m²", &Befund::direktstrahl, 0,
+         1370},
+    }};
+    return tabelle;
+}
+
 void befund_pruefen(const Befund& befund, const Stationsfakten& station) {
-    struct Grenze {
-        double wert;
-        double von;
-        double bis;
-        const char* de;
-        const char* en;
-    };
-    const std::array<Grenze, 6> grenzen{
-        {{befund.temperaturfehler, 0, 0.1, "Monatsmittel der Temperatur", "monthly mean temperature"},
-         {befund.spannenfehler, 0, 0.15, "Tagesspanne der Temperatur", "daily range of temperature"},
-         {befund.strahlungsfehler, 0, 1, "Monatssumme der Strahlung", "monthly sum of radiation"},
-         {befund.klarheit, 0, klarheit_hoechstens, "Klarheit einer Stunde", "clearness of an hour"},
-         {befund.gedaechtnis, 0.5, 0.9, "Gedächtnis der Tagesmittel", "memory of the daily means"},
-         {befund.direktstrahl, 0, 1370, "Direktstrahlung", "direct radiation"}}};
-    for (const Grenze& g : grenzen) {
-        if (g.wert >= g.von && g.wert <= g.bis) continue;
+    for (const Kenngroesse& g : kenngroessen()) {
+        const double wert = befund.*g.wert;
+        if (wert >= g.von && wert <= g.bis) continue;
         const std::string zahlen =
-            ": " + muster(g.wert, 3) + " (" + muster(g.von, 2) + " .. " + muster(g.bis, 2) + ")";
+            ": " + muster(wert, 3) + " (" + muster(g.von, 2) + " .. " + muster(g.bis, 2) + ")";
         throw Dateifehler(station.datei, {g.de + zahlen, g.en + zahlen});
     }
 }

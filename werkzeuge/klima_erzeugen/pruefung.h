@@ -2,6 +2,7 @@
 
 #include "werkzeuge/klima_erzeugen/stationsliste.h"
 
+#include <array>
 #include <string_view>
 
 namespace velmaris::klimasatz {
@@ -20,8 +21,19 @@ struct Befund {
 /// while the sun is down, or more diffuse than global radiation is a Dateifehler.
 [[nodiscard]] Befund untersuchen(std::string_view bytes, const Stationsfakten& station);
 
-/// A Dateifehler for a file whose findings lie outside what is delivered: 0.1 K, 15 % of the range, the
-/// tolerance of the radiation, clearness 0.85, correlation 0.5 to 0.9, 1370 W/m².
+/// One finding: what it is called, and within what it must lie.
+struct Kenngroesse {
+    const char* de;
+    const char* en;
+    double Befund::*wert;
+    double von;
+    double bis;
+};
+
+/// The table of all findings.
+[[nodiscard]] const std::array<Kenngroesse, 6>& kenngroessen();
+
+/// A Dateifehler for a file of which a finding lies outside its limits.
 void befund_pruefen(const Befund& befund, const Stationsfakten& station);
 
 }  // namespace velmaris::klimasatz

@@ -18,7 +18,7 @@ struct Strahlungsjahr {
 /// Makes the radiation of a station's year: days by the distribution of daily clearness around the month's,
 /// in an autoregressive series that is shifted until the month's sum is the fact; hours by their mean
 /// clearness under that sky with autoregressive scatter; the beam never above that of the cleanest sky. A
-/// month whose fact the sun cannot give is a Dateifehler for the station's file.
+/// month whose fact the sun cannot give is a Dateifehler for the list of stations, its line and column.
 [[nodiscard]] Strahlungsjahr strahlung_erzeugen(const Stationsfakten& station, const Stundenwerte& cos_z);
 
 }  // namespace velmaris::klimasatz

@@ -1,0 +1,150 @@
+#include "charts/bilanzdiagramme.h"
+
+#include "charts/schema.h"
+
+#include <algorithm>
+
+namespace velmaris {
+namespace {
+
+constexpr int bilanzteile = 5;
+constexpr int stundenteile = 4;
+constexpr double monatsstunden_schritt = 200;
+constexpr double jahresstunden_schritt = 2200;
+
+double fassadenmaximum(const Projekt& p) {
+    return std::max({1.0F, p.Fenstergewinn_O, p.Fenstergewinn_S, p.Fenstergewinn_W, p.Fenstergewinn_N,
+                     p.Fensterverlust_O, p.Fensterverlust_S, p.Fensterverlust_W, p.Fensterverlust_N});
+}
+
+double groesster_verlust(const Projekt& p) {
+    double M = 1;
+    for (const Monatswerte& monat : p.Monat)
+        M = std::max(M, (double{monat.Qt} + monat.Qv) / p.f_nutz);
+    return M;
+}
+
+double groesster_bedarf(const Projekt& p) {
+    double M = 0;
+    for (const Monatswerte& monat : p.Monat)
+        M = std::max({M, double{monat.Qh} / p.f_nutz, double{monat.Kuehlbedarf} / p.f_nutz});
+    return M;
+}
+
+/// The classes by drawing over each other, the full height first.
+void stunden_zeichnen(const Balkendiagramm& diagramm, double x1, double x2, const Betriebsstunden& h) {
+    const int ohne_kuehlen = h.kalt + h.komfort;
+    if (h.heiss > 0) balken_zeichnen(diagramm, x1, x2, ohne_kuehlen + h.heiss, balkenfarben::kuehlen);
+    if (h.komfort > 0) balken_zeichnen(diagramm, x1, x2, ohne_kuehlen, balkenfarben::komfort);
+    if (h.kalt > 0) balken_zeichnen(diagramm, x1, x2, h.kalt, balkenfarben::heizen);
+}
+
+}  // namespace
+
+void FassadenbalkenZeichnen(const Projekt& p, const Fassadenbalken& balken, Zeichenflaeche& bild) {
+    const double y = 50 - 50 * double{p.*balken.wert} / fassadenmaximum(p);
+    bild.Cls();
+    bild.flaeche(1, 49, 8, y, balken.farbe);
+    bild.kasten(1, 49, 8, y, farben::schwarz);
+}
+
+void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_heizjahr.schritt(p.qverl_s), bilanzteile};
+    achsen_zeichnen(diagramm, jahresachse);
+    jahresname_zeichnen(bild, p.texte.txt_Jahresbilanz);
+    bild.text(5, 0, einheit_je_jahr(p));
+    stapel_zeichnen(diagramm, 35, 55,
+                    {{p.qtrs, balkenfarben::transmission}, {p.qinfs, balkenfarben::lueftung}});
+    stapel_zeichnen(
+        diagramm, 60, 80,
+        {{p.qhs_sum, balkenfarben::heizen}, {p.qis, balkenfarben::intern}, {p.qsols, balkenfarben::solar}});
+}
+
+void HeizbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_heizmonat.schritt(groesster_verlust(p)),
+                                  bilanzteile};
+    achsen_zeichnen(diagramm, monatsachse);
+    monatsnamen_zeichnen(bild, p);
+    bild.text(3, 0, einheit_je_monat(p));
+    for (int m = 1; m <= monate; ++m) {
+        const Monatswerte& monat = p.Monat(m);
+        const double x = monatsspalte(m);
+        const auto je_flaeche = [&](float wert) { return double{wert} / p.f_nutz; };
+        stapel_zeichnen(diagramm, x, x + 8,
+                        {{je_flaeche(monat.Qt), balkenfarben::transmission},
+                         {je_flaeche(monat.Qv), balkenfarben::lueftung}});
+        stapel_zeichnen(diagramm, x + 10, x + 18,
+                        {{je_flaeche(monat.Qh), balkenfarben::heizen},
+                         {je_flaeche(monat.Qi_genutzt), balkenfarben::intern},
+                         {je_flaeche(monat.Qs_genutzt), balkenfarben::solar}});
+    }
+}
+
+void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsmonat.schritt(groesster_bedarf(p)),
+                                  bilanzteile};
+    achsen_zeichnen(diagramm, monatsachse);
+    monatsnamen_zeichnen(bild, p);
+    bild.text(3, 0, einheit_je_monat(p));
+    for (int m = 1; m <= monate; ++m) {
+        const double heizen = p.Monat(m).Qh;
+        const double kuehlen = p.Monat(m).Kuehlbedarf;
+        const double x = monatsspalte(m);
+        if (heizen > 0) balken_zeichnen(diagramm, x, x + 8, heizen / p.f_nutz, balkenfarben::heizen);
+        if (kuehlen > 0) balken_zeichnen(diagramm, x + 10, x + 18, kuehlen / p.f_nutz, balkenfarben::kuehlen);
+    }
+}
+
+void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    const double heizen = p.qhs_sum;
+    const double kuehlen = jahreskuehlbedarf(p);
+    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsjahr.schritt(std::max(heizen, kuehlen)),
+                                  bilanzteile};
+    achsen_zeichnen(diagramm, jahresachse);
+    jahresname_zeichnen(bild, p.texte.txt_Jahresbilanz);
+    bild.text(5, 0, einheit_je_jahr(p));
+    balken_zeichnen(diagramm, 35, 55, heizen, balkenfarben::heizen);
+    balken_zeichnen(diagramm, 60, 80, kuehlen, balkenfarben::kuehlen);
+}
+
+void UeberGrafikZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    const Balkendiagramm diagramm{bild, bilanzrahmen, monatsstunden_schritt, stundenteile};
+    achsen_zeichnen(diagramm, monatsachse);
+    bild.text(10, 0, beschriftung(p, {"Std./Monat", "h/month"}));
+    monatsnamen_zeichnen(bild, p, 123);
+    for (int m = 1; m <= monate; ++m)
+        stunden_zeichnen(diagramm, monatsspalte(m), monatsspalte(m) + 18, betriebsstunden(p, m));
+}
+
+void UeberJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    const Balkendiagramm diagramm{bild, bilanzrahmen, jahresstunden_schritt, stundenteile};
+    achsen_zeichnen(diagramm, jahresachse);
+    bild.text(22, 123, beschriftung(p, {"Jahressumme", "annual sum"}));
+    bild.text(10, 0, beschriftung(p, {"Std.", "h"}));
+    stunden_zeichnen(diagramm, 45, 70, betriebsstunden_im_jahr(p));
+}
+
+double jahreskuehlbedarf(const Projekt& p) {
+    double summe = 0;
+    for (const Monatswerte& monat : p.Monat)
+        summe += monat.Kuehlbedarf;
+    return summe / p.f_nutz;
+}
+
+Betriebsstunden betriebsstunden(const Projekt& p, int m) {
+    const Monatswerte& monat = p.Monat(m);
+    return {.kalt = monat.Stunden_kalt, .komfort = monat.Stunden_komfort, .heiss = monat.Stunden_heiss};
+}
+
+Betriebsstunden betriebsstunden_im_jahr(const Projekt& p) {
+    Betriebsstunden summe;
+    for (int m = 1; m <= monate; ++m) {
+        const Betriebsstunden monat = betriebsstunden(p, m);
+        summe.kalt += monat.kalt;
+        summe.komfort += monat.komfort;
+        summe.heiss += monat.heiss;
+    }
+    return summe;
+}
+
+}  // namespace velmaris

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "project/c_glob.h"
+#include "toolkit/zeichenflaeche.h"
+
+namespace velmaris {
+
+/// Size of a facade bar's surface, pixels.
+inline constexpr double fassadenflaeche_breite = 10;
+inline constexpr double fassadenflaeche_hoehe = 51;
+
+/// Gains or losses of the windows of one facade, kWh, as one bar.
+struct Fassadenbalken {
+    float Projekt::*wert;
+    Farbe farbe;
+};
+
+/// One of the eight facade bars. All share one scale, the largest of the eight sums (at least 1), so that
+/// they compare.
+void FassadenbalkenZeichnen(const Projekt& p, const Fassadenbalken& balken, Zeichenflaeche& bild);
+
+/// Heating plane: losses and supply of the year, kWh/(m2 a).
+void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
+
+/// Heating plane: losses and supply of each month, kWh/(m2 month).
+void HeizbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
+
+/// Overview plane: heat and cooling demand of each month, kWh/(m2 month), and of the year, kWh/(m2 a).
+void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
+void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild);
+
+/// Overview plane: hours of heating (at the bottom), zero energy and cooling (on top) of each month, and of
+/// the year.
+void UeberGrafikZeichnen(const Projekt& p, Zeichenflaeche& bild);
+void UeberJahrZeichnen(const Projekt& p, Zeichenflaeche& bild);
+
+/// Cooling demand of the year from the months, kWh/(m2 a).
+[[nodiscard]] double jahreskuehlbedarf(const Projekt& p);
+
+/// Hours of the three operating classes.
+struct Betriebsstunden {
+    int kalt = 0;     ///< heating
+    int komfort = 0;  ///< zero energy
+    int heiss = 0;    ///< cooling
+};
+
+/// The hours of month m (1..12), and of the twelve months together.
+[[nodiscard]] Betriebsstunden betriebsstunden(const Projekt& p, int m);
+[[nodiscard]] Betriebsstunden betriebsstunden_im_jahr(const Projekt& p);
+
+}  // namespace velmaris

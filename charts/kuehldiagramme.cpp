@@ -1,0 +1,115 @@
+#include "charts/kuehldiagramme.h"
+
+#include "charts/bilanzdiagramme.h"
+#include "charts/schema.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace velmaris {
+namespace {
+
+constexpr int stundenteile = 4;
+constexpr int bilanzteile = 5;
+constexpr Farbe farbe_stunden{128, 0, 0};
+constexpr Farbe farbe_gradstunden{64, 64, 0};
+
+double kuehlgradstunden(const Projekt& p, int m) {
+    return p.Monat(m).Kuehlgradstunden;
+}
+
+/// What both charts of a pair have in common.
+struct Art {
+    int teile;
+    Farbe farbe;
+    std::string einheit;
+};
+
+template <std::size_t n>
+void monate_zeichnen(const Projekt& p, Zeichenflaeche& bild, const Art& art,
+                     double (*monatswert)(const Projekt&, int), const Stufentabelle<n>& stufen) {
+    double M = 1;
+    for (int m = 1; m <= monate; ++m)
+        M = std::max(M, monatswert(p, m));
+    const Balkendiagramm diagramm{bild, kuehlrahmen, stufen.schritt(M), art.teile};
+    achsen_zeichnen(diagramm, monatsachse);
+    monatsnamen_zeichnen(bild, p);
+    bild.text(3, 0, art.einheit);
+    for (int m = 1; m <= monate; ++m) {
+        const double wert = monatswert(p, m);
+        if (wert > 0) balken_zeichnen(diagramm, monatsspalte(m), monatsspalte(m) + 18, wert, art.farbe);
+    }
+}
+
+template <std::size_t n>
+void jahr_zeichnen(Zeichenflaeche& bild, const Art& art, double wert, const Stufentabelle<n>& stufen,
+                   const std::string& name) {
+    const Balkendiagramm diagramm{bild, kuehlrahmen, stufen.schritt(wert), art.teile};
+    achsen_zeichnen(diagramm, jahresachse);
+    jahresname_zeichnen(bild, name);
+    bild.text(5, 0, art.einheit);
+    if (wert > 0) balken_zeichnen(diagramm, 45, 70, wert, art.farbe);
+}
+
+Art art_tagesstunden(const Projekt& p) {
+    return {stundenteile, farbe_stunden, beschriftung(p, {"Std. / Tag", "h / d"})};
+}
+
+Art art_bedarf(std::string einheit) {
+    return {bilanzteile, balkenfarben::kuehlen, std::move(einheit)};
+}
+
+Art art_gradstunden(const Projekt& p) {
+    return {bilanzteile, farbe_gradstunden, beschriftung(p, {"Kh", "Kh"})};
+}
+
+}  // namespace
+
+double tagesstunden(const Projekt& p, int m) {
+    return static_cast<double>(p.Monat(m).Stunden_heiss) / p.Monat(m).Tage;
+}
+
+double tagesstunden_im_jahr(const Projekt& p) {
+    return static_cast<double>(betriebsstunden_im_jahr(p).heiss) / tage_im_jahr;
+}
+
+double monatskuehlbedarf(const Projekt& p, int m) {
+    return double{p.Monat(m).Kuehlbedarf} / p.f_nutz;
+}
+
+double kuehlgradstunden_im_jahr(const Projekt& p) {
+    double summe = 0;
+    for (int m = 1; m <= monate; ++m)
+        summe += kuehlgradstunden(p, m);
+    return summe;
+}
+
+void StundenProTagMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    monate_zeichnen(p, bild, art_tagesstunden(p), tagesstunden, stufen_tagesstunden);
+}
+
+void StundenProTagJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    jahr_zeichnen(bild, art_tagesstunden(p), tagesstunden_im_jahr(p), stufen_tagesstunden,
+                  beschriftung(p, {"Jahresmittel", "yearly mean"}));
+}
+
+void KuehlBedarfMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    monate_zeichnen(p, bild, art_bedarf(einheit_je_monat(p)), monatskuehlbedarf, stufen_bedarfsmonat);
+}
+
+void KuehlBedarfJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    jahr_zeichnen(bild, art_bedarf(einheit_je_jahr(p)), jahreskuehlbedarf(p), stufen_bedarfsjahr,
+                  p.texte.txt_Jahresbilanz);
+}
+
+void KuehlGradStundenMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    monate_zeichnen(p, bild, art_gradstunden(p), kuehlgradstunden, stufen_gradstunden_monat);
+}
+
+void KuehlGradStundenJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    jahr_zeichnen(bild, art_gradstunden(p), kuehlgradstunden_im_jahr(p), stufen_gradstunden_jahr,
+                  beschriftung(p, {"Jahressumme", "yearly sum"}));
+}
+
+}  // namespace velmaris

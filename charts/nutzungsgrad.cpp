@@ -1,0 +1,74 @@
+#include "charts/nutzungsgrad.h"
+
+#include "charts/schema.h"
+
+#include <algorithm>
+
+namespace velmaris {
+namespace {
+
+constexpr int teile = 5;
+constexpr Farbe solar_ungenutzt{192, 192, 0};
+constexpr Farbe intern_ungenutzt{200, 99, 0};
+
+/// A bar of the usable part and, from it up to the whole, the rest.
+void teil_und_ganzes(const Balkendiagramm& diagramm, double x1, double x2, const Abschnitt& teil,
+                     const Abschnitt& ganzes) {
+    balken_zeichnen(diagramm, x1, x2, teil.wert, teil.farbe);
+    diagramm.bild.flaeche(x1, diagramm.y(teil.wert), x2, diagramm.y(ganzes.wert), ganzes.farbe);
+}
+
+void gewinne_zeichnen(const Balkendiagramm& diagramm, double x, double breite, double abstand,
+                      const Gewinne& g) {
+    teil_und_ganzes(diagramm, x, x + breite, {g.solar_genutzt, balkenfarben::solar},
+                    {g.solar, solar_ungenutzt});
+    teil_und_ganzes(diagramm, x + abstand, x + abstand + breite, {g.intern_genutzt, balkenfarben::intern},
+                    {g.intern, intern_ungenutzt});
+}
+
+}  // namespace
+
+Gewinne gewinne(const Projekt& p, int m) {
+    const Monatswerte& monat = p.Monat(m);
+    const double f_nutz = p.f_nutz;
+    return {.solar_genutzt = monat.Qs_genutzt / f_nutz,
+            .solar = monat.Qs_brutto / f_nutz,
+            .intern_genutzt = monat.Qi_genutzt / f_nutz,
+            .intern = monat.Qi_brutto / f_nutz};
+}
+
+Gewinne gewinne_im_jahr(const Projekt& p) {
+    Gewinne summe;
+    for (int m = 1; m <= monate; ++m) {
+        const Gewinne monat = gewinne(p, m);
+        summe.solar_genutzt += monat.solar_genutzt;
+        summe.solar += monat.solar;
+        summe.intern_genutzt += monat.intern_genutzt;
+        summe.intern += monat.intern;
+    }
+    return summe;
+}
+
+void NutzungsgradMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    double M = 1;
+    for (int m = 1; m <= monate; ++m)
+        M = std::max({M, gewinne(p, m).solar, gewinne(p, m).intern});
+    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_heizmonat.schritt(M), teile};
+    achsen_zeichnen(diagramm, monatsachse);
+    monatsnamen_zeichnen(bild, p);
+    bild.text(3, 0, einheit_je_monat(p));
+    for (int m = 1; m <= monate; ++m)
+        gewinne_zeichnen(diagramm, monatsspalte(m), 8, 10, gewinne(p, m));
+}
+
+void NutzungsgradJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    const Gewinne g = gewinne_im_jahr(p);
+    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsjahr.schritt(std::max(g.solar, g.intern)),
+                                  teile};
+    achsen_zeichnen(diagramm, jahresachse);
+    jahresname_zeichnen(bild, p.texte.txt_Jahresbilanz);
+    bild.text(5, 0, einheit_je_jahr(p));
+    gewinne_zeichnen(diagramm, 35, 20, 25, g);
+}
+
+}  // namespace velmaris

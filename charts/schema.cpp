@@ -1,0 +1,78 @@
+#include "charts/schema.h"
+
+#include "toolkit/zahlen.h"
+
+namespace velmaris {
+namespace {
+
+constexpr double links = 30;  ///< vertical axis
+constexpr double strichanfang = 27;
+constexpr double zahlenrand = 25;
+constexpr double spaltenbreite = 24;
+constexpr double jahresrand = 88;
+
+}  // namespace
+
+void achsen_zeichnen(const Balkendiagramm& diagramm, double rechts) {
+    Zeichenflaeche& bild = diagramm.bild;
+    const Achsenrahmen& rahmen = diagramm.rahmen;
+    bild.Cls();
+    bild.schrift({});
+    bild.linie(links, rahmen.achse, links, rahmen.oben, farben::schwarz);
+    bild.linie(links, rahmen.achse, rechts, rahmen.achse, farben::schwarz);
+    for (int i = 0; i <= diagramm.teile; ++i) {
+        const double y = diagramm.strich(i);
+        const std::string zahl = zahltext(i * diagramm.schritt);
+        bild.linie(strichanfang, y, links, y, farben::schwarz);
+        bild.text(zahlenrand - bild.textbreite(zahl), y - 5, zahl);
+    }
+}
+
+void balken_zeichnen(const Balkendiagramm& diagramm, double x1, double x2, double wert, Farbe farbe) {
+    diagramm.bild.flaeche(x1, diagramm.rahmen.fuss, x2, diagramm.y(wert), farbe);
+}
+
+void stapel_zeichnen(const Balkendiagramm& diagramm, double x1, double x2,
+                     std::initializer_list<Abschnitt> abschnitte) {
+    double unten = 0;
+    for (const Abschnitt& abschnitt : abschnitte) {
+        const double oben = unten + abschnitt.wert;
+        diagramm.bild.flaeche(x1, diagramm.y(unten), x2, diagramm.y(oben), abschnitt.farbe);
+        unten = oben;
+    }
+}
+
+double monatsspalte(int m) {
+    return 35 + spaltenbreite * (m - 1);
+}
+
+std::optional<int> spaltenmonat(double x) {
+    const double m = runden((x - links - 3) / spaltenbreite + 0.5);
+    if (!(m >= 1 && m <= monate)) return std::nullopt;
+    return static_cast<int>(m);
+}
+
+void monatsnamen_zeichnen(Zeichenflaeche& bild, const Projekt& p, double y) {
+    for (int m = 1; m <= monate; ++m) {
+        const std::string& name = p.Monat(m).Kurz;
+        bild.text(47 + spaltenbreite * (m - 1) - bild.textbreite(name) / 2, y, name);
+    }
+}
+
+void jahresname_zeichnen(Zeichenflaeche& bild, const std::string& name) {
+    bild.text(jahresrand - bild.textbreite(name) - 5, 124, name);
+}
+
+std::string beschriftung(const Projekt& p, const Zweisprachig& text) {
+    return p.Sprache == "d" || p.Sprache == "e" ? text.in(p.Sprache) : std::string();
+}
+
+std::string einheit_je_monat(const Projekt& p) {
+    return beschriftung(p, {"kWh/(m² Monat)", "kWh/(m² month)"});
+}
+
+std::string einheit_je_jahr(const Projekt& p) {
+    return beschriftung(p, {"kWh/(m²a)", "kWh/(m²a)"});
+}
+
+}  // namespace velmaris

@@ -1,0 +1,75 @@
+#include "planes/Start.h"
+
+#include "language/c_Sprache.h"
+
+#include <memory>
+
+namespace velmaris {
+namespace {
+
+constexpr const char* Timer1 = "Start.Timer1";
+constexpr int splash_millisekunden = 10000;
+
+const Zweisprachig& ueber_text() {
+    static const Zweisprachig text{
+        "Velmaris 3.2\n\nLernprogramm zum Heiz- und Kühlenergiebedarf\nund zum Temperaturverhalten eines Gebäudes",
+        "Velmaris 3.2\n\nA teaching program on the heating and cooling energy demand\n"
+        "and the temperature behaviour of a building"};
+    return text;
+}
+
+}  // namespace
+
+std::string sprache_bestimmen(const Befehlszeile& befehlszeile, const std::filesystem::path& programmordner,
+                              const std::function<std::optional<std::string>()>& sprachfenster) {
+    if (const auto sprache = befehlszeile.sprache()) return *sprache;
+    const auto vorab = std::make_unique<Projekt>();
+    vorab->AppPfad = programmordner;
+    sprache_lesen(*vorab, sprachfenster);
+    return vorab->Sprache;
+}
+
+Start::Start(Haupt& haupt, Befehlszeile befehlszeile, std::function<void()> hauptfenster_zeigen)
+    : haupt_(haupt), befehlszeile_(std::move(befehlszeile)), hauptfenster_zeigen_(std::move(hauptfenster_zeigen)) {
+    fenster.zeige(false);
+    Text.schreibe(ueber_text().in(haupt_.p.Sprache));
+    OK_Button.schreibe("OK");
+    OK_Button.gedrueckt = [this] { OK_Button_Click(); };
+}
+
+void Start::laden() {
+    fenster.zeige(true);
+    if (haupt_.p.Gestartet == 1) return;
+    if (const auto ordner = befehlszeile_.ordner()) haupt_.p.InitDir = *ordner;
+    if (befehlszeile_.sprache()) {
+        aufbauen();
+        hauptfenster_zeigen_();
+        return;
+    }
+    haupt_.sitzung.plattform.zeitgeber_starten(Timer1, splash_millisekunden, [this] { Timer1_Timer(); });
+}
+
+void Start::aufbauen() {
+    haupt_.sitzung.plattform.sanduhr(true);
+    haupt_.datei.projekt_aufbauen();
+    fenster.zeige(false);
+    haupt_.sitzung.plattform.zeitgeber_stoppen(Timer1);
+    haupt_.p.Gestartet = 1;
+    haupt_.sitzung.plattform.sanduhr(false);
+}
+
+void Start::Timer1_Timer() {
+    aufbauen();
+    if (const auto projekt = befehlszeile_.projekt()) haupt_.datei.datei_oeffnen(*projekt);
+    hauptfenster_zeigen_();
+}
+
+void Start::OK_Button_Click() {
+    if (haupt_.p.Gestartet == 1) {
+        fenster.zeige(false);
+    } else {
+        Timer1_Timer();
+    }
+}
+
+}  // namespace velmaris

@@ -1,0 +1,34 @@
+#include "tests/charts/probe.h"
+
+#include "language/c_Sprache.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmaris::test {
+
+std::unique_ptr<Projekt> leeres_projekt(const std::string& sprache) {
+    auto p = std::make_unique<Projekt>();
+    p->Sprache = sprache;
+    p->f_nutz = 100;
+    sprachtexte_setzen(*p);
+    for (int m = 1; m <= monate; ++m)
+        p->Monat(m).Tage = static_cast<std::int16_t>(tage_im_monat[static_cast<std::size_t>(m)]);
+    return p;
+}
+
+std::vector<Ecken> flaechen(const RekorderFlaeche& bild, Farbe farbe) {
+    std::vector<Ecken> ergebnis;
+    for (const Zeichnung& z : bild.alle(Zeichnung::Art::flaeche, farbe))
+        ergebnis.push_back(z.zahlen);
+    return ergebnis;
+}
+
+bool steht(const RekorderFlaeche& bild, const std::string& text, double x, double y) {
+    const std::vector<Zeichnung> texte = bild.alle(Zeichnung::Art::text);
+    return std::any_of(texte.begin(), texte.end(), [&](const Zeichnung& z) {
+        return z.text == text && std::fabs(z.zahlen[0] - x) < 1e-9 && std::fabs(z.zahlen[1] - y) < 1e-9;
+    });
+}
+
+}  // namespace velmaris::test

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "project/c_glob.h"
+#include "tests/testplattform.h"
+#include "toolkit/rekorder_flaeche.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace velmaris::test {
+
+/// A record with texts of a language and 100 m2 of usable floor, all results zero.
+std::unique_ptr<Projekt> leeres_projekt(const std::string& sprache = "d");
+
+/// A bar or box as it was drawn, {x1, y1, x2, y2}.
+using Ecken = std::vector<double>;
+
+/// The filled boxes of a colour, in the order of drawing.
+std::vector<Ecken> flaechen(const RekorderFlaeche& bild, Farbe farbe);
+
+/// True if the text stands with its top left at (x, y).
+bool steht(const RekorderFlaeche& bild, const std::string& text, double x, double y);
+
+}  // namespace velmaris::test

@@ -1,0 +1,142 @@
+#include "charts/temperaturdiagramm.h"
+
+#include "tests/charts/probe.h"
+
+#include <gtest/gtest.h>
+
+namespace velmaris {
+namespace {
+
+using test::flaechen;
+
+TEST(Temperaturachse, SchritteUndEnden) {
+    struct Fall {
+        double T_min, T_max, schritt, unten, oben;
+    };
+    for (const Fall& f : {
+             Fall{0, 0, 1, 0, 0},
+             Fall{0, 9, 1, 0, 10},
+             Fall{-12, 0, 2, -14, 0},
+             Fall{0.5, 2, 1, 0, 3},   // -0.5 rounds to 0
+             Fall{5, 15, 2, 4, 16},   // 10 is not below 10; 8.5 and 1.5 go to the even number
+             Fall{-5, 8, 2, -8, 10},  // -3.5 goes to -4
+             Fall{10, 35, 5, 5, 40},
+             Fall{-8, 12, 5, -15, 15},    // 20 is not below 20; -2.6, 3.4
+             Fall{-20, 35, 10, -30, 40},  // 4.5 goes to 4
+             Fall{-10, 40, 10, -20, 50},  // 50 is not below 50
+             Fall{0, 1000, 200, 0, 1200},
+         }) {
+        const Temperaturachse achse = temperaturachse(f.T_min, f.T_max);
+        EXPECT_EQ(achse.schritt, f.schritt) << f.T_min << " " << f.T_max;
+        EXPECT_EQ(achse.unten, f.unten) << f.T_min << " " << f.T_max;
+        EXPECT_EQ(achse.oben, f.oben) << f.T_min << " " << f.T_max;
+    }
+}
+
+TEST(Extreme, UeberAlleStundenDesMonats) {
+    Stundentabelle<float> T;
+    T(2, 28, 24) = 3;
+    T(2, 1, 1) = -4;
+    T(2, 29, 1) = 99;  // a day that February does not have
+    T(3, 1, 1) = 98;
+    const Stundenreihe reihe = [&T](int m, int d, int h) { return T(m, d, h); };
+    EXPECT_EQ(max_suchen(reihe, 2), 3);
+    EXPECT_EQ(min_suchen(reihe, 2), -4);
+}
+
+TEST(Pixelort, RundetHalbeZumGeraden) {
+    EXPECT_EQ(X_(0.25, 30, 10), 32);
+    EXPECT_EQ(X_(0.35, 30, 10), 34);
+    EXPECT_EQ(Y_(1, 100.5, 2), 98);
+    EXPECT_EQ(Y_(-1, 100, 2), 102);
+}
+
+/// Outdoor air 10, room 20 with one hour of 15 in July, on a surface that gives ten pixels to the day and
+/// to the kelvin.
+class Temperaturdiagramm : public ::testing::Test {
+  protected:
+    Temperaturdiagramm() {
+        fuer_jede_stunde([this](int m, int d, int h, int) {
+            p->Wetter(m, d, h).Ta = 10;
+            p->T_frei(m, d, h) = 20;
+        });
+        p->T_frei(7, 2, 12) = 15;
+    }
+
+    RekorderFlaeche& zeichne(RekorderFlaeche& bild) const {
+        TemperaturDiagrammZeichnen(*p, bild);
+        return bild;
+    }
+
+    std::unique_ptr<Projekt> p = test::leeres_projekt();
+    RekorderFlaeche bild_{350, 195};
+};
+
+TEST_F(Temperaturdiagramm, KurvenAusKaestenVonPunktZuPunkt) {
+    zeichne(bild_);
+    const auto aussen = flaechen(bild_, farben::blau);
+    const auto raum = flaechen(bild_, farben::rot);
+    ASSERT_EQ(aussen.size(), 1 + 744U);
+    ASSERT_EQ(raum.size(), 1 + 744U);
+    EXPECT_EQ(aussen[1], (test::Ecken{30, 155, 30, 155}));
+    EXPECT_EQ(aussen[12], (test::Ecken{35, 155, 35, 155}));
+    EXPECT_EQ(aussen.back(), (test::Ecken{340, 155, 340, 155}));
+    EXPECT_EQ(raum[24 + 11], (test::Ecken{44, 55, 45, 55}));
+    EXPECT_EQ(raum[24 + 12], (test::Ecken{45, 55, 45, 105}));
+    EXPECT_EQ(raum[24 + 13], (test::Ecken{45, 105, 45, 55}));
+}
+
+TEST_F(Temperaturdiagramm, DerFebruarEndetAmTag28) {
+    p->Monat_Uebersicht = 2;
+    zeichne(bild_);
+    EXPECT_EQ(flaechen(bild_, farben::blau).size(), 1 + 672U);
+    EXPECT_EQ(flaechen(bild_, farben::blau).back()[2], 310);
+}
+
+TEST_F(Temperaturdiagramm, GitterUndZahlen) {
+    zeichne(bild_);
+    EXPECT_EQ(bild_.alle(Zeichnung::Art::linie, farben::schwarz).size(), 2U);
+    EXPECT_EQ(bild_.alle(Zeichnung::Art::linie, farben::grau).size(), 31 + 7U);
+    EXPECT_EQ(bild_.lies_punkt(30, 100), farben::schwarz);
+    EXPECT_EQ(bild_.lies_punkt(340, 100), farben::grau);
+    EXPECT_EQ(bild_.lies_punkt(200, 175), farben::schwarz);
+    EXPECT_EQ(bild_.lies_punkt(201, 35), farben::grau);
+    EXPECT_TRUE(test::steht(bild_, "31", 334, 179));
+    EXPECT_FALSE(test::steht(bild_, "2", 47, 179));
+    EXPECT_TRUE(test::steht(bild_, "22", 13, 28.5));  // at the top of the axis
+    EXPECT_TRUE(test::steht(bild_, "8", 19, 168.5));
+    EXPECT_EQ(bild_.texte().size(), 2 + 16 + 8 + 1U);
+    EXPECT_EQ(bild_.alle(Zeichnung::Art::text).back().schrift.groesse, 8);
+}
+
+TEST_F(Temperaturdiagramm, BreiteFlaechenZaehlenJedenTag) {
+    RekorderFlaeche schmal(600, 195);
+    RekorderFlaeche breit(601, 195);
+    EXPECT_EQ(zeichne(breit).texte().size() - zeichne(schmal).texte().size(), 16U);
+}
+
+TEST_F(Temperaturdiagramm, FrostLegtDieNulllinieInsBild) {
+    p->Wetter(7, 1, 1).Ta = -3;
+    zeichne(bild_);
+    // 23 K take the step 5; the axis goes from -10 to 25, and 140 pixels show 35 K.
+    EXPECT_EQ(bild_.alle(Zeichnung::Art::linie, farben::schwarz).size(), 3U);
+    EXPECT_EQ(bild_.lies_punkt(200, 135), farben::schwarz);
+}
+
+TEST_F(Temperaturdiagramm, LegendeVomRechtenRand) {
+    zeichne(bild_);
+    EXPECT_EQ(flaechen(bild_, farben::rot).front()[0], 70);
+    EXPECT_EQ(flaechen(bild_, farben::blau).front()[0], 220);
+    EXPECT_TRUE(test::steht(bild_, "Raumlufttemperatur", 85, 20.5));
+    EXPECT_TRUE(test::steht(bild_, "Außenlufttemperatur", 235, 20.5));
+}
+
+TEST_F(Temperaturdiagramm, OhneWerteBleibtEsEineLinie) {
+    const auto leer = test::leeres_projekt();
+    RekorderFlaeche bild(350, 195);
+    TemperaturDiagrammZeichnen(*leer, bild);
+    EXPECT_EQ(flaechen(bild, farben::rot).back(), (test::Ecken{340, 175, 340, 175}));
+}
+
+}  // namespace
+}  // namespace velmaris

@@ -1,0 +1,131 @@
+#include "planes/E_Geometrie.h"
+
+#include "planes/geometriebilder.h"
+#include "tests/testflaeche.h"
+#include "tests/testprogramm.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace velmaris {
+namespace {
+
+using test::Testflaeche;
+using test::Testprogramm;
+using Art = test::Zeichnung::Art;
+
+class EGeometrie : public testing::Test {
+  protected:
+    E_Geometrie& e() { return programm.haupt->e_geometrie; }
+    Projekt& p() { return programm.p(); }
+
+    Testprogramm programm;
+};
+
+TEST_F(EGeometrie, SchieberStellenDieWerte) {
+    struct Fall {
+        Eingabefeld* feld;
+        int stellung;
+        float Projekt::*ziel;
+        float wert;
+        Anzeige* anzeige;
+        std::string text;
+    };
+    const std::vector<Fall> faelle{
+        {&e().l_sb, 125, &Projekt::l, 12.5F, &e().l_anz, "Länge: 12.5 m"},
+        {&e().b_sb, 20, &Projekt::b, 2, &e().b_anz, "Breite: 2.0 m"},
+        {&e().h_sb, -102, &Projekt::h, 10.2F, &e().h_anz, "10.2 m"},
+        {&e().ag_sb, -20, &Projekt::ag, 20, &e().ag_anz, " 20"},
+    };
+    for (const Fall& fall : faelle) {
+        p().Geaendert = 0;
+        fall.feld->setze(fall.stellung);
+        EXPECT_EQ(p().*fall.ziel, fall.wert) << fall.feld->name;
+        EXPECT_EQ(p().Geaendert, 1);
+        EXPECT_EQ(fall.anzeige->text(), fall.text);
+    }
+}
+
+TEST_F(EGeometrie, OrientierungWirktAufDieStrahlung) {
+    const std::int16_t west = p().Monat(6).Strahlung_W;
+    e().orient_sb.setze(-45);
+    EXPECT_EQ(p().orient, 45);
+    EXPECT_EQ(e().orient_anz.text(), "45°");
+    EXPECT_NE(p().Monat(6).Strahlung_W, west);
+}
+
+TEST_F(EGeometrie, BeheiztesDachgeschoss) {
+    EXPECT_EQ(p().hd, 2);
+    EXPECT_FALSE(e().hd_sb.sichtbar());
+    e().Check_Dachgeschoss.setze(1);
+    EXPECT_EQ(p().hd, 1);
+    EXPECT_EQ(p().Geaendert, 1);
+    EXPECT_TRUE(e().hd_sb.sichtbar());
+    EXPECT_TRUE(e().Option_Dachfirst.aktiv());
+    EXPECT_EQ(e().Picture3.bild().filename(), "haus1.bmp");
+    EXPECT_EQ(programm.haupt->e_daemmung.liste2.text(), "Dach");
+    EXPECT_TRUE(programm.haupt->e_daemmung.ogd_Dach.sichtbar());
+    e().hd_sb.setze(-30);
+    e().Check_Dachgeschoss.setze(0);
+    EXPECT_EQ(p().hd, 0);
+    EXPECT_FALSE(std::signbit(p().hd));
+    EXPECT_EQ(e().Picture3.bild().filename(), "haus0.bmp");
+    EXPECT_EQ(programm.haupt->e_daemmung.liste2.text(), "Obere Geschoßdecke");
+}
+
+TEST_F(EGeometrie, FirstOhneDachgeschossAendertNurSichSelbst) {
+    const float vorher = p().qh;
+    e().Option_Dachfirst.setze(2);
+    EXPECT_EQ(p().Option_Dachfirst, 2);
+    EXPECT_EQ(e().Picture3.bild().filename(), "haus0.bmp");
+    EXPECT_EQ(p().qh, vorher);
+    EXPECT_EQ(p().Geaendert, 0);
+    e().Check_Dachgeschoss.setze(1);
+    EXPECT_EQ(e().Picture3.bild().filename(), "haus2.bmp");
+    e().Option_Dachfirst.setze(1);
+    EXPECT_EQ(e().Label9.text(), "Dachfläche (West):");
+    EXPECT_EQ(e().Label9.platz(), (Platz{48, 26}));
+    e().Option_Dachfirst.setze(2);
+    EXPECT_EQ(e().Giebel_anz.platz(), (Platz{-10, 70}));
+    EXPECT_GT(p().f_dach_n, 0);
+    EXPECT_EQ(p().f_dach_w, 0);
+}
+
+TEST_F(EGeometrie, AvDiagrammStelltGleicheFormenGleichHoch) {
+    Projekt& wuerfel = p();
+    wuerfel.v_geb = 1000;
+    wuerfel.AV = 0.6F;
+    Testflaeche flaeche(60, 130);
+    av_diagramm_zeichnen(wuerfel, flaeche);
+    const auto rot = flaeche.alle(Art::flaeche, farben::rot);
+    ASSERT_EQ(rot.size(), 1U);
+    EXPECT_EQ(rot[0].zahlen, (std::vector<double>{44, 123, 50, 71}));
+    EXPECT_EQ(av_texte(wuerfel).AV_Wuerfel, "0.60");
+    EXPECT_EQ(av_texte(wuerfel).AV_Kugel, "0.48");
+    EXPECT_EQ(av_texte(wuerfel).AV_Tetraeder, "0.72");
+    EXPECT_EQ(av_texte(wuerfel).av_anz, "0.60 ");
+    wuerfel.AV = 5;
+    Testflaeche hoch(60, 130);
+    av_diagramm_zeichnen(wuerfel, hoch);
+    EXPECT_EQ(hoch.alle(Art::flaeche, farben::rot)[0].zahlen[3], 7);
+    EXPECT_TRUE(hoch.alle(Art::flaeche, farben::weiss).empty());
+    EXPECT_EQ(av_texte(wuerfel).av_oben, 5);
+}
+
+TEST_F(EGeometrie, SuedpfeilZeigtNachUntenUndDrehtMitDerOrientierung) {
+    Testflaeche flaeche(80, 80);
+    lageplan_zeichnen(p(), flaeche);
+    auto pfeil = flaeche.alle(Art::linie, farben::rot);
+    ASSERT_EQ(pfeil.size(), 3U);
+    EXPECT_NEAR(pfeil[0].zahlen[0], 40, 1e-9);
+    EXPECT_NEAR(pfeil[0].zahlen[1], 54, 1e-9);
+    EXPECT_EQ(flaeche.alle(Art::linie, farben::grau).size(), 9U);
+    p().orient = 90;
+    Testflaeche gedreht(80, 80);
+    lageplan_zeichnen(p(), gedreht);
+    EXPECT_NEAR(gedreht.alle(Art::linie, farben::rot)[0].zahlen[0], 26, 0.02);
+}
+
+}  // namespace
+}  // namespace velmaris

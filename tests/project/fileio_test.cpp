@@ -1,0 +1,226 @@
+#include "project/FILEIO.h"
+
+#include "tests/testprogramm.h"
+#include "toolkit/fehler.h"
+#include "toolkit/text.h"
+
+#include <gtest/gtest.h>
+
+namespace velmaris {
+namespace {
+
+using test::inhalt;
+using test::projekttext;
+using test::projektzeilen;
+using test::Testprogramm;
+
+/// A program with a project file "haus.vel" of a house 12 m long.
+class Fileio : public testing::Test {
+  protected:
+    Fileio() {
+        auto zeilen = projektzeilen(programm.p());
+        zeilen[1] = " 12";
+        haus = pfadtext(programm.ordner.schreibe("haus.vel", projekttext(zeilen)));
+    }
+
+    FILEIO& datei() { return programm.haupt->datei; }
+    Projekt& p() { return programm.p(); }
+    test::Testplattform& plattform() { return programm.plattform; }
+
+    Testprogramm programm;
+    std::string haus;
+};
+
+TEST_F(Fileio, StartIstEinUnbenanntesProjekt) {
+    EXPECT_EQ(plattform().titel, "Velmaris - [unbenannt]");
+    EXPECT_EQ(Testprogramm("e").plattform.titel, "Velmaris - [no name]");
+    EXPECT_EQ(p().Datei, "default.vel");
+    EXPECT_EQ(p().Datei_offen, 0);
+    EXPECT_EQ(p().Geaendert, 0);
+    EXPECT_EQ(p().FormLoadGuard, 0);
+    EXPECT_GT(p().qh, 0);
+}
+
+TEST_F(Fileio, OeffnenRechnetUndSetztDenTitel) {
+    const float vorher = p().qh;
+    datei().datei_oeffnen(haus);
+    EXPECT_EQ(p().l, 12);
+    EXPECT_NE(p().qh, vorher);
+    EXPECT_EQ(p().Datei_offen, 1);
+    EXPECT_EQ(p().Geaendert, 0);
+    EXPECT_EQ(plattform().titel, "Velmaris - HAUS.VEL");
+    EXPECT_TRUE(plattform().meldungen.empty());
+    EXPECT_FALSE(plattform().sanduhren.back());
+}
+
+TEST_F(Fileio, AbbruchDesDialogsIstEinDateifehler) {
+    datei().datei_oeffnen("");
+    ASSERT_EQ(plattform().meldungen.size(), 1U);
+    EXPECT_EQ(plattform().meldungen[0].text, "Dateifehler!");
+    EXPECT_EQ(plattform().dialoge[0].filter, "Alle Dateien (*.*)|*.*|VELM Dateien (*.vel)|*.vel");
+    EXPECT_EQ(plattform().dialoge[0].filterindex, 2);
+    EXPECT_EQ(p().Datei, "default.vel");
+}
+
+TEST_F(Fileio, FalscheVersionLaesstDasProjektUndRechnetWeiter) {
+    const auto falsch = pfadtext(programm.ordner.schreibe("alt.vel", "Velmaris Version 2.0\r\n 99\r\n"));
+    datei().datei_oeffnen(haus);
+    datei().datei_oeffnen(falsch);
+    ASSERT_EQ(plattform().meldungen.size(), 1U);
+    EXPECT_EQ(plattform().meldungen[0].titel, "Fehler");
+    EXPECT_EQ(plattform().meldungen[0].text,
+              "Dies ist keine gültige Velmaris-Datendatei.\r\n\r\nDaten konnten nicht geladen werden!");
+    EXPECT_EQ(p().l, 12);
+    EXPECT_EQ(p().Datei, "default.vel");
+    EXPECT_EQ(p().Datei_offen, 1);
+    EXPECT_EQ(p().FormLoadGuard, 0);
+    EXPECT_EQ(plattform().titel, "Velmaris - [unbenannt]");
+}
+
+TEST_F(Fileio, LesefehlerLaesstDenWaechterStehenBisZumNaechstenGutenOeffnen) {
+    auto zeilen = projektzeilen(p());
+    zeilen[1] = " 33";
+    zeilen.resize(20);
+    const auto kurz = pfadtext(programm.ordner.schreibe("kurz.vel", projekttext(zeilen)));
+    datei().datei_oeffnen(kurz);
+    ASSERT_EQ(plattform().meldungen.size(), 1U);
+    EXPECT_EQ(plattform().meldungen[0].text, "Dateifehler!");
+    EXPECT_NE(plattform().meldungen[0].hinweis.find("Zeile 21 (kws)"), std::string::npos);
+    EXPECT_EQ(p().FormLoadGuard, -1);
+    EXPECT_EQ(p().l, 33);
+    datei().datei_oeffnen(haus);
+    EXPECT_EQ(p().FormLoadGuard, 0);
+}
+
+TEST_F(Fileio, StellungenAusserhalbNennenDieZeileDerDatei) {
+    struct Fall {
+        int zeile;
+        std::string inhalt;
+        std::string feld;
+    };
+    const std::vector<Fall> faelle{{2, " 60", "l"},
+                                   {8, "-50", "orient"},
+                                   {16, " 9", "fenstern_typ"},
+                                   {12, " 5", "awn"},
+                                   {28, " 4", "Dachraum_typ"},
+                                   {29, " 7", "ugd_typ"},
+                                   {57, " 3", "Innenwandart"},
+                                   {65, " 10", "Heizsystem"},
+                                   {67, " 3", "Energietraeger"},
+                                   {59, " 2", "Check_Dachgeschoss"},
+                                   {36, " 1.5", "verschn"},
+                                   {63, " 9", "Klimaeffizienz"}};
+    for (const Fall& fall : faelle) {
+        auto zeilen = projektzeilen(p());
+        zeilen[static_cast<std::size_t>(fall.zeile - 1)] = fall.inhalt;
+        const auto name = pfadtext(programm.ordner.schreibe("fall.vel", projekttext(zeilen)));
+        const Testprogramm frisch;
+        try {
+            frisch.haupt->datei.projekt_laden(name);
+            FAIL() << fall.feld;
+        } catch (const Dateifehler& fehler) {
+            EXPECT_EQ(fehler.feld(), fall.feld);
+            EXPECT_EQ(fehler.zeile(), fall.zeile);
+        }
+    }
+}
+
+TEST_F(Fileio, FehlendeStationIstEinDateifehler) {
+    auto zeilen = projektzeilen(p());
+    zeilen[55] = "nirgends.met";
+    const auto name = pfadtext(programm.ordner.schreibe("ort.vel", projekttext(zeilen)));
+    datei().datei_oeffnen(name);
+    ASSERT_EQ(plattform().meldungen.size(), 1U);
+    EXPECT_EQ(plattform().meldungen[0].text, "Dateifehler!");
+    EXPECT_NE(plattform().meldungen[0].hinweis.find("nirgends.met"), std::string::npos);
+}
+
+TEST_F(Fileio, NeuFragtNurNachAenderungen) {
+    datei().datei_oeffnen(haus);
+    p().Geaendert = 1;
+    plattform().antworten = {Antwort::abbrechen};
+    datei().datei_neu();
+    EXPECT_EQ(p().l, 12);
+    EXPECT_EQ(plattform().meldungen.back().text,
+              "          Ihr Projekt wurde geändert.\n\nMöchten Sie die Änderungen speichern?");
+    plattform().antworten = {Antwort::nein};
+    datei().datei_neu();
+    EXPECT_EQ(p().l, 10);
+    EXPECT_EQ(p().Datei_offen, 0);
+    const std::size_t fragen = plattform().meldungen.size();
+    datei().datei_neu();
+    EXPECT_EQ(plattform().meldungen.size(), fragen);
+}
+
+TEST_F(Fileio, DasJaBeimNeuenProjektSpeichertUnterDemNamen) {
+    datei().datei_oeffnen(haus);
+    programm.haupt->e_geometrie.l_sb.setze(150);
+    EXPECT_EQ(p().Geaendert, 1);
+    plattform().antworten = {Antwort::ja};
+    datei().datei_neu();
+    EXPECT_TRUE(plattform().dialoge.empty());
+    EXPECT_NE(inhalt(pfad(haus)).find("Version 3.2\r\n 15\r\n"), std::string::npos);
+}
+
+TEST_F(Fileio, SpeichernUnterErgaenztDieEndungUndFragtVorDemErsetzen) {
+    plattform().dateien = {programm.ordner / "haus", programm.ordner / "mein haus"};
+    plattform().antworten = {Antwort::nein};
+    p().Geaendert = 1;
+    datei().datei_speichern();
+    ASSERT_EQ(plattform().meldungen.size(), 1U);
+    EXPECT_EQ(plattform().meldungen[0].text,
+              haus + "\nDiese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?");
+    EXPECT_EQ(plattform().meldungen[0].vorgabe, Antwort::nein);
+    EXPECT_EQ(p().Datei, pfadtext(programm.ordner / "mein haus.vel"));
+    EXPECT_EQ(plattform().titel, "Velmaris - MEIN HAUS.VEL");
+    EXPECT_EQ(p().Geaendert, 0);
+    EXPECT_EQ(p().Datei_offen, 1);
+    EXPECT_NE(inhalt(pfad(haus)).find("Version 3.2\r\n 12\r\n"), std::string::npos);
+}
+
+TEST_F(Fileio, EinNameMitPunktBleibt) {
+    plattform().dateien = {programm.ordner / "haus.alt"};
+    datei().datei_speichern_unter();
+    EXPECT_EQ(p().Datei, pfadtext(programm.ordner / "haus.alt"));
+}
+
+TEST_F(Fileio, SpeichernDasMisslingtSagtEsUndBehaeltDieAenderung) {
+    datei().datei_oeffnen(haus);
+    const std::string vorher = inhalt(pfad(haus));
+    std::filesystem::create_directories(programm.ordner / "haus.vel.neu~/besetzt");
+    p().Geaendert = 1;
+    datei().datei_speichern();
+    ASSERT_EQ(plattform().meldungen.size(), 1U);
+    EXPECT_NE(plattform().meldungen[0].text.find("haus.vel"), std::string::npos);
+    EXPECT_EQ(p().Geaendert, 1);
+    EXPECT_EQ(inhalt(pfad(haus)), vorher);
+    plattform().antworten = {Antwort::ja};
+    datei().datei_neu();
+    EXPECT_EQ(p().l, 12);
+}
+
+TEST_F(Fileio, BeendenFragtImmerNachEinemNamen) {
+    datei().datei_oeffnen(haus);
+    p().Geaendert = 1;
+    plattform().drucker = {"eins", "zwei"};
+    p().Druckerindex = 1;
+    plattform().antworten = {Antwort::abbrechen, Antwort::ja};
+    datei().programm_beenden();
+    EXPECT_FALSE(plattform().beendet);
+    datei().programm_beenden();
+    EXPECT_EQ(plattform().dialoge.size(), 1U);
+    EXPECT_TRUE(plattform().beendet);
+    EXPECT_EQ(plattform().druckerindex, 1);
+}
+
+TEST_F(Fileio, SchliessenDesFensters) {
+    EXPECT_EQ(datei().aenderung_abfragen(), 0);
+    EXPECT_TRUE(plattform().meldungen.empty());
+    p().Geaendert = 1;
+    plattform().antworten = {Antwort::abbrechen, Antwort::nein};
+    EXPECT_EQ(datei().aenderung_abfragen(), 1);
+    EXPECT_EQ(datei().aenderung_abfragen(), 0);
+}
+
+}  // namespace
+}  // namespace velmaris

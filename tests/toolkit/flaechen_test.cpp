@@ -1,0 +1,149 @@
+#include "toolkit/pixel.h"
+#include "toolkit/rekorder_flaeche.h"
+#include "toolkit/schriftmasse.h"
+#include "toolkit/svg_flaeche.h"
+
+#include <cmath>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <numbers>
+#include <string>
+
+namespace velmaris {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+constexpr double keine_zahl = NAN;
+
+/// The pixels of a colour, as "x,y x,y ..." row by row.
+std::string bemalt(const RekorderFlaeche& bild, Farbe farbe) {
+    std::string orte;
+    for (int y = 0; y < bild.hoehe(); ++y) {
+        for (int x = 0; x < bild.breite(); ++x) {
+            if (bild.lies_punkt(x, y) == farbe) orte += std::to_string(x) + "," + std::to_string(y) + " ";
+        }
+    }
+    return orte;
+}
+
+TEST(Pixel, HalbeWerdenGeradeUndWeitesBleibtFern) {
+    EXPECT_EQ(pixel(0.5), 0);
+    EXPECT_EQ(pixel(1.5), 2);
+    EXPECT_EQ(pixel(-2.5), -2);
+    EXPECT_EQ(pixel(97.2), 97);
+    EXPECT_EQ(pixel(1e30), 30000);
+    EXPECT_EQ(pixel(-INFINITY), -30000);
+    EXPECT_FALSE(pixelkasten(1, 2, 3, keine_zahl));
+}
+
+TEST(RekorderFlaeche, LinienLassenIhrLetztesPixelAus) {
+    struct Fall {
+        double x1, y1, x2, y2;
+        int dicke;
+        const char* orte;
+    };
+    for (const Fall& f :
+         {Fall{1, 1, 4, 1, 1, "1,1 2,1 3,1 "}, Fall{4, 1, 1, 1, 1, "2,1 3,1 4,1 "},
+          Fall{2, 3, 2, 1, 1, "2,2 2,3 "}, Fall{1, 1, 3, 3, 1, "1,1 2,2 "}, Fall{0, 2, 2, 0, 1, "1,1 0,2 "},
+          Fall{2, 2, 2, 2, 1, ""}, Fall{1, 2, 3, 2, 3, "1,1 2,1 1,2 2,2 1,3 2,3 "},
+          Fall{1, 1, 4, keine_zahl, 1, ""}}) {
+        RekorderFlaeche bild(5, 5);
+        bild.linie(f.x1, f.y1, f.x2, f.y2, farben::rot, f.dicke);
+        EXPECT_EQ(bemalt(bild, farben::rot), f.orte) << f.x1 << " " << f.y1;
+    }
+}
+
+TEST(RekorderFlaeche, KastenUndFlaecheSchliessenAlleKantenEin) {
+    RekorderFlaeche bild(6, 5);
+    bild.flaeche(3, 2, 1, 0, farben::rot);
+    EXPECT_EQ(bemalt(bild, farben::rot), "1,0 2,0 3,0 1,1 2,1 3,1 1,2 2,2 3,2 ");
+    bild.kasten(1, 0, 3, 2, farben::blau);
+    EXPECT_EQ(bemalt(bild, farben::rot), "2,1 ");
+    bild.flaeche(-9, 4, 99, 1e9, farben::gelb);
+    EXPECT_EQ(bemalt(bild, farben::gelb), "0,4 1,4 2,4 3,4 4,4 5,4 ");
+    EXPECT_EQ(bild.lies_punkt(-1, 4), bild.hintergrund());
+    bild.Cls();
+    EXPECT_EQ(bemalt(bild, bild.hintergrund()).size(), 6 * 5 * 4U);
+}
+
+TEST(RekorderFlaeche, KreisUndSektor) {
+    RekorderFlaeche bild(9, 9);
+    bild.kreis(4, 4, 2, farben::rot, farben::gelb);
+    EXPECT_EQ(bild.lies_punkt(6, 4), farben::rot);
+    EXPECT_EQ(bild.lies_punkt(4, 4), farben::gelb);
+    EXPECT_EQ(bild.lies_punkt(7, 4), bild.hintergrund());
+
+    bild.Cls();
+    bild.sektor(4, 4, 3, 0, std::numbers::pi / 2, farben::blau);
+    for (const auto& [x, y] : {std::pair{4, 4}, {7, 4}, {4, 1}, {6, 2}})
+        EXPECT_EQ(bild.lies_punkt(x, y), farben::blau) << x << "," << y;
+    for (const auto& [x, y] : {std::pair{2, 4}, {4, 6}, {2, 2}, {6, 6}, {7, 1}})
+        EXPECT_EQ(bild.lies_punkt(x, y), bild.hintergrund()) << x << "," << y;
+}
+
+TEST(RekorderFlaeche, MerktJedenAufrufMitSeinerSchrift) {
+    RekorderFlaeche bild;
+    bild.schrift({.name = "Arial", .groesse = 6.75});
+    bild.text(1, 2, "°C", farben::schwarz);
+    ASSERT_EQ(bild.zeichnungen.size(), 1U);
+    EXPECT_EQ(bild.zeichnungen[0].schrift.groesse, 6.75);
+    EXPECT_EQ(bild.textbreite("°C"), 12);
+}
+
+TEST(Schriftmasse, BreitenDerPublizierteTabelle) {
+    const Schrift zehn_pixel{.groesse = 7.5};
+    const Schrift fett{.groesse = 7.5, .fett = true};
+    EXPECT_NEAR(schriftbreite("Mai", zehn_pixel), 16.11, 1e-9);    // 833 + 556 + 222
+    EXPECT_NEAR(schriftbreite("Mai", fett), 16.67, 1e-9);          // 833 + 556 + 278
+    EXPECT_NEAR(schriftbreite(" 10", zehn_pixel), 13.9, 1e-9);     // 278 + 556 + 556
+    EXPECT_NEAR(schriftbreite("°C m²", zehn_pixel), 25.66, 1e-9);  // 400 + 722 + 278 + 833 + 333
+    EXPECT_NEAR(schriftbreite("Wärme", zehn_pixel), 32.22, 1e-9);  // 944 + 556 + 333 + 833 + 556
+    EXPECT_EQ(schriftbreite("Ω", zehn_pixel), schriftbreite("?", zehn_pixel));
+    EXPECT_EQ(schrifthoehe({}), 13);
+}
+
+TEST(SvgFlaeche, GleicheFarbeTeiltEinenPfad) {
+    SvgFlaeche bild(20, 10);
+    bild.Cls();
+    bild.flaeche(1, 2, 3, 4, farben::rot);
+    bild.linie(5, 9, 5, 6, farben::rot, 1);
+    bild.flaeche(0, 0, 0, 0.5, farben::blau);
+    EXPECT_EQ(bild.svg(),
+              "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"20\" height=\"10\" viewBox=\"0 0 20 10\" "
+              "font-family=\"'Liberation Sans', Arial, Helvetica, sans-serif\" xml:space=\"preserve\">\n"
+              "<path fill=\"#ffffff\" shape-rendering=\"crispEdges\" d=\"M 0 0h 20v 10h-20z\"/>\n"
+              "<path fill=\"#ff0000\" shape-rendering=\"crispEdges\" d=\"M 1 2h 3v 3h-3zM 5 7h 1v 3h-1z\"/>\n"
+              "<path fill=\"#0000ff\" shape-rendering=\"crispEdges\" d=\"M 0 0h 1v 1h-1z\"/>\n"
+              "</svg>\n");
+}
+
+TEST(SvgFlaeche, TextWirdMaskiertUndSitztAufDerGrundlinie) {
+    SvgFlaeche bild(20, 10);
+    bild.schrift({.fett = true});
+    bild.text(1.5, 2, "a < b & \"c\"", farben::blau);
+    EXPECT_THAT(bild.svg(), HasSubstr("<text x=\"1.5\" y=\"12\" font-size=\"11\" font-weight=\"bold\" "
+                                      "fill=\"#0000ff\">a &lt; b &amp; \"c\"</text>"));
+    bild.Cls();
+    EXPECT_THAT(bild.svg(), Not(HasSubstr("<text")));
+}
+
+TEST(SvgFlaeche, RundesUndSchraegesUndWasKeineZahlIst) {
+    SvgFlaeche bild(20, 20);
+    bild.sektor(10, 10, 5, 0, std::numbers::pi / 2, farben::rot);
+    EXPECT_THAT(bild.svg(), HasSubstr("d=\"M 10.5 10.5L 15.5 10.5A 5 5 0 0 0 10.5 5.5Z\""));
+    bild.kreis(4, 4, 2, farben::schwarz, std::nullopt);
+    EXPECT_THAT(bild.svg(),
+                HasSubstr("<circle cx=\"4.5\" cy=\"4.5\" r=\"2\" fill=\"none\" stroke=\"#000000\"/>"));
+    bild.linie(0, 0, 4, 8, farben::blau, 2);
+    EXPECT_THAT(bild.svg(), HasSubstr("stroke-width=\"2\" stroke-linecap=\"square\" d=\"M .5 .5l 3.5 7\""));
+    const std::string vorher = bild.svg();
+    bild.flaeche(0, 0, 4, keine_zahl, farben::rot);
+    bild.kreis(4, keine_zahl, 2, farben::rot, farben::rot);
+    bild.text(keine_zahl, 0, "x", farben::rot);
+    EXPECT_EQ(bild.svg(), vorher);
+}
+
+}  // namespace
+}  // namespace velmaris
