@@ -1,5 +1,6 @@
 #include "desktop/bildflaeche.h"
 
+#include "desktop/binde.h"
 #include "desktop/qt_text.h"
 #include "toolkit/text.h"
 
@@ -18,11 +19,13 @@ Bildflaeche::Bildflaeche(Bildfeld& feld, const Fehlerwache& wache, QWidget* elte
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     feld.ansicht = [this] { feld_zeigen(); };
+    feld.lies_punkt = [this](double x, double y) { return flaeche().lies_punkt(x, y); };
     feld_zeigen();
 }
 
 Bildflaeche::~Bildflaeche() {
     feld_.ansicht = nullptr;
+    feld_.lies_punkt = nullptr;
 }
 
 QtFlaeche& Bildflaeche::flaeche() {
@@ -46,8 +49,7 @@ QtFlaeche& Bildflaeche::flaeche() {
 /// Brings the record's state to the widget; drawing waits for the next paint event.
 void Bildflaeche::feld_zeigen() {
     veraltet_ = true;
-    setEnabled(feld_.aktiv());
-    if (isHidden() == feld_.sichtbar()) setVisible(feld_.sichtbar());
+    grundzustand(*this, feld_);
     update();
 }
 

@@ -4,6 +4,7 @@
 #include "desktop/scrollleiste.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -20,11 +21,6 @@
 
 namespace velmaris {
 namespace {
-
-void grundzustand(QWidget& fenster, const Feld& feld) {
-    fenster.setEnabled(feld.aktiv());
-    if (fenster.isHidden() == feld.sichtbar()) fenster.setVisible(feld.sichtbar());
-}
 
 /// Names the widget after the record, shows the record's state and goes on showing it as long as the
 /// widget lives.
@@ -99,6 +95,13 @@ void anzeige_zeigen(QLabel& schild, const Anzeige& anzeige, double pixel_je_einh
 }
 
 }  // namespace
+
+void grundzustand(QWidget& fenster, const Feld& feld) {
+    fenster.setEnabled(feld.aktiv());
+    if (const std::optional<Rechteck>& lage = feld.lage())
+        fenster.setGeometry(QRectF(lage->links, lage->oben, lage->breite, lage->hoehe).toRect());
+    if (fenster.isHidden() == feld.sichtbar()) fenster.setVisible(feld.sichtbar());
+}
 
 // Bindings without a handler have no use for the guard, but are made in the same way as the others.
 // NOLINTBEGIN(readability-convert-member-functions-to-static)
@@ -195,6 +198,25 @@ void Binder::binde(QAbstractButton& schalter, Knopf& knopf) const {
     });
     QObject::connect(&schalter, &QAbstractButton::clicked, &schalter,
                      [&knopf, wache = wache_] { wache->fuehre_aus([&] { knopf.druecke(); }); });
+}
+
+void Binder::binde(QAction& eintrag, Menuepunkt& punkt) const {
+    eintrag.setObjectName(qtext(punkt.name));
+    const auto zeigen = [&eintrag, &punkt] {
+        const QSignalBlocker still(eintrag);
+        eintrag.setText(qtext(punkt.text()));
+        eintrag.setCheckable(punkt.angekreuzt());
+        eintrag.setChecked(punkt.angekreuzt());
+        eintrag.setEnabled(punkt.aktiv());
+        eintrag.setVisible(punkt.sichtbar());
+    };
+    punkt.ansicht = zeigen;
+    QObject::connect(&eintrag, &QObject::destroyed, [&punkt] { punkt.ansicht = nullptr; });
+    zeigen();
+    QObject::connect(&eintrag, &QAction::triggered, &eintrag, [&punkt, zeigen, wache = wache_] {
+        wache->fuehre_aus([&] { punkt.druecke(); });
+        zeigen();
+    });
 }
 
 std::optional<int> fokusstellung() {

@@ -7,6 +7,7 @@
 #include <span>
 
 class QAbstractButton;
+class QAction;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
@@ -17,6 +18,9 @@ class QWidget;
 namespace velmaris {
 
 class Scrollleiste;
+
+/// Brings what all records have in common to a widget: usable, shown, and the place if the record has one.
+void grundzustand(QWidget& fenster, const Feld& feld);
 
 /// Binds widgets to the records of the planes: the widget gets the record's name and shows its state from
 /// then on, what the user does at the widget goes to the record, and a fault of the record's handler to the
@@ -48,6 +52,9 @@ class Binder {
 
     /// A record without a text leaves the button its own.
     void binde(QAbstractButton& schalter, Knopf& knopf) const;
+
+    /// A menu entry, with its check mark where it carries one.
+    void binde(QAction& eintrag, Menuepunkt& punkt) const;
 
   private:
     const Fehlerwache* wache_;

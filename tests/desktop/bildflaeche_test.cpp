@@ -60,12 +60,15 @@ TEST_F(BildflaecheTest, ZeichnetNurWasGesehenWird) {
     feld.zeige(true);
     abwarten();
     EXPECT_EQ(gezeichnet, 3);
-    EXPECT_EQ(bild.flaeche().lies_punkt(15, 15), farben::blau);
+    EXPECT_EQ(feld.lies_punkt(15, 15), farben::blau);
+    EXPECT_EQ(feld.lies_punkt(2, 2), farben::weiss);
 
     bild.resize(80, 50);
     abwarten();
     EXPECT_EQ(gezeichnet, 4);
     EXPECT_EQ(bild.flaeche().breite(), 80);
+    feld.lege({.links = 20, .oben = 10, .breite = 330, .hoehe = 140});
+    EXPECT_EQ(bild.geometry(), QRect(20, 10, 330, 140));
 }
 
 TEST_F(BildflaecheTest, KommtUnveraendertAufDenSchirm) {

@@ -4,6 +4,7 @@
 #include "desktop/scrollleiste.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -257,6 +258,25 @@ TEST_F(Binde, KnopfRahmenUndFenster) {
     ebene.zeige(false);
     EXPECT_TRUE(flaeche.isHidden());
     EXPECT_EQ(flaeche.objectName(), "E_Fenster");
+}
+
+TEST_F(Binde, MenuepunktMitHaekchen) {
+    Menuepunkt punkt("mnuSpracheDeutsch");
+    QAction eintrag;
+    int gedrueckt = 0;
+    punkt.gedrueckt = [&] { ++gedrueckt; };
+    punkt.schreibe("&Deutsch");
+    binder.binde(eintrag, punkt);
+    EXPECT_EQ(eintrag.objectName(), "mnuSpracheDeutsch");
+    EXPECT_EQ(eintrag.text(), "&Deutsch");
+    EXPECT_FALSE(eintrag.isChecked());
+    punkt.kreuze_an(true);
+    EXPECT_TRUE(eintrag.isChecked());
+    eintrag.trigger();
+    EXPECT_EQ(gedrueckt, 1);
+    EXPECT_TRUE(eintrag.isChecked()) << "the click itself changes no mark";
+    punkt.aktiviere(false);
+    EXPECT_FALSE(eintrag.isEnabled());
 }
 
 TEST_F(Binde, FelderUeberlebenIhreWidgets) {
