@@ -82,7 +82,7 @@ void optionen_zeigen(std::span<QAbstractButton* const> knoepfe, const Optionsgru
 }
 
 void anzeige_zeigen(QLabel& schild, const Anzeige& anzeige, double pixel_je_einheit) {
-    schild.setText(zeilentext(anzeige.text()));
+    schild.setText(schildtext(anzeige.text()));
     std::optional<QColor> farbe;
     if (anzeige.schriftfarbe()) farbe = qfarbe(*anzeige.schriftfarbe());
     if (anzeige.verborgen()) farbe = schild.palette().color(schild.backgroundRole());

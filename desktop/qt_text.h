@@ -18,6 +18,11 @@ namespace velmaris {
     return qtext(utf8).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
 }
 
+/// A text for a label that has no access keys: two ampersands stand for one.
+[[nodiscard]] inline QString schildtext(std::string_view utf8) {
+    return zeilentext(utf8).replace(QLatin1String("&&"), QLatin1String("&"));
+}
+
 [[nodiscard]] inline std::string utf8(const QString& text) {
     return text.toStdString();
 }

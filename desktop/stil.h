@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/zeichenflaeche.h"
+
 #include <QColor>
 #include <QPalette>
 
@@ -10,7 +12,11 @@ namespace mass {
 inline constexpr int rand = 8;             ///< between the edge of a window or frame and what it holds
 inline constexpr int abstand = 6;          ///< between two controls
 inline constexpr int gruppenabstand = 10;  ///< between two frames
+inline constexpr int innenrand = 6;        ///< between the last control of a frame and its lower edge
+inline constexpr int zeilenabstand = 3;    ///< between two rows of a table
+inline constexpr int ebenenschrift = 11;   ///< height of the font of the planes, the same as in the charts
 inline constexpr int schrift = 12;         ///< height of the window font
+inline constexpr int knopf = 22;           ///< height of a button
 inline constexpr int leiste = 17;          ///< thickness of a scroll field
 }  // namespace mass
 
@@ -26,6 +32,12 @@ inline constexpr QRgb betonung = 0xFF1F5FA8;      ///< what is chosen, focused o
 inline constexpr QRgb schrift = 0xFF1A1A1A;       ///< texts
 inline constexpr QRgb nebenschrift = 0xFF5A6068;  ///< notes and units
 }  // namespace stilfarben
+
+/// The grounds on which pictures lie.
+inline constexpr Farbe farben_des_fensters{qRed(stilfarben::fenster), qGreen(stilfarben::fenster),
+                                           qBlue(stilfarben::fenster)};
+inline constexpr Farbe farben_der_tafel{qRed(stilfarben::tafel), qGreen(stilfarben::tafel),
+                                        qBlue(stilfarben::tafel)};
 
 /// The light palette of the program.
 [[nodiscard]] QPalette palette_hell();
