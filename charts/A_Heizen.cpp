@@ -80,8 +80,8 @@ std::string gewinnzeilen(const A_Heizen& ebene, const Gewinne& g, std::string_vi
 
 }  // namespace
 
-A_Heizen::A_Heizen(Sitzung& sitzung) : tooltip(sitzung.plattform, Ebene.name), sitzung_(sitzung) {
-    Ebene.zeige(false);
+A_Heizen::A_Heizen(Sitzung& sitzung) : tooltip(sitzung.plattform, ebene.name), sitzung_(sitzung) {
+    ebene.zeige(false);
     bilder_verbinden();
     tooltip.folge_monaten(Heizbilanz, [this](int m) { return tipp_heizbilanz(m); });
     tooltip.folge(JahrBilanz, [this] { return tipp_jahrbilanz(); });

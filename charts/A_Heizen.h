@@ -12,7 +12,7 @@ namespace velmaris {
 struct A_Heizen {
     explicit A_Heizen(Sitzung& sitzung);
 
-    Feld Ebene{"A_Heizen"};  ///< the plane itself, hidden at first
+    Feld ebene{"A_Heizen"};  ///< the plane itself, hidden at first
 
     // --- Month and year balance, with the legend that the tooltips read ---
     Bildfeld Heizbilanz{"Heizbilanz"}, JahrBilanz{"JahrBilanz"};

@@ -27,8 +27,8 @@ std::string stundenzeile(const Projekt& p, double wert) {
 
 }  // namespace
 
-A_Kuehlen::A_Kuehlen(Sitzung& sitzung) : tooltip(sitzung.plattform, Ebene.name), sitzung_(sitzung) {
-    Ebene.zeige(false);
+A_Kuehlen::A_Kuehlen(Sitzung& sitzung) : tooltip(sitzung.plattform, ebene.name), sitzung_(sitzung) {
+    ebene.zeige(false);
     bilder_verbinden();
     tipps_verbinden();
     anordnen();

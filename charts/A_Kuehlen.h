@@ -12,7 +12,7 @@ namespace velmaris {
 struct A_Kuehlen {
     explicit A_Kuehlen(Sitzung& sitzung);
 
-    Feld Ebene{"A_Kuehlen"};  ///< the plane itself, hidden at first
+    Feld ebene{"A_Kuehlen"};  ///< the plane itself, hidden at first
 
     Anzeige Label1{"Label1"};  ///< heading of each pair of charts
     Bildfeld StundenProTagMonat{"StundenProTagMonat"}, StundenProTagJahr{"StundenProTagJahr"};

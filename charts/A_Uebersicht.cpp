@@ -31,10 +31,10 @@ std::string stundenzeilen(const A_Uebersicht& ebene, const Betriebsstunden& h, d
 
 }  // namespace
 
-A_Uebersicht::A_Uebersicht(Sitzung& sitzung) : tooltip(sitzung.plattform, Ebene.name), sitzung_(sitzung) {
+A_Uebersicht::A_Uebersicht(Sitzung& sitzung) : tooltip(sitzung.plattform, ebene.name), sitzung_(sitzung) {
     const Projekt& p = sitzung.p;
     sitzung.p.Monat_Uebersicht = anfangsmonat;
-    Ebene.zeige(false);
+    ebene.zeige(false);
     Temperaturen.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::TemperaturDiagrammZeichnen(p, bild); };
     Monatsbilanz.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::MonatsbilanzZeichnen(p, bild); };
     JahrBilanz.zeichnen = [&p](Zeichenflaeche& bild) { JahresbedarfZeichnen(p, bild); };

@@ -15,7 +15,7 @@ struct A_Uebersicht {
     /// Sets the month shown to July and the captions to the language of the run.
     explicit A_Uebersicht(Sitzung& sitzung);
 
-    Feld Ebene{"A_Uebersicht"};  ///< the plane itself, hidden at first
+    Feld ebene{"A_Uebersicht"};  ///< the plane itself, hidden at first
 
     Bildfeld Temperaturen{"Temperaturen"};
     Monatsleiste monatsleiste;

@@ -7,10 +7,10 @@
 namespace velmaris {
 
 A_Zoom::A_Zoom(Sitzung& sitzung) : sitzung_(sitzung) {
-    Ebene.zeige(false);
+    ebene.zeige(false);
     Temperaturen.zeichnen = [&p = sitzung.p](Zeichenflaeche& bild) { TemperaturDiagrammZeichnen(p, bild); };
     monatsleiste.gewaehlt = [this](int m) { Monatsbutton_Click(m); };
-    Command_Schliessen.gedrueckt = [this] { Ebene.zeige(false); };
+    Command_Schliessen.gedrueckt = [this] { ebene.zeige(false); };
     laden();
 }
 
@@ -21,7 +21,7 @@ void A_Zoom::laden() {
 
 void A_Zoom::oeffnen() {
     monatsleiste.markiere(sitzung_.p.Monat_Uebersicht);
-    Ebene.zeige(true);
+    ebene.zeige(true);
 }
 
 void A_Zoom::anordnen(double breite, double hoehe) {

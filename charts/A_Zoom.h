@@ -10,7 +10,7 @@ namespace velmaris {
 struct A_Zoom {
     explicit A_Zoom(Sitzung& sitzung);
 
-    Feld Ebene{"A_Zoom"};  ///< the window itself, hidden at first
+    Feld ebene{"A_Zoom"};  ///< the window itself, hidden at first
 
     Bildfeld Temperaturen{"Temperaturen"};
     Monatsleiste monatsleiste;

@@ -21,6 +21,10 @@ struct Heizgrenze {
 /// The plane "Klima / Gebäude": labels with the climate in force and the figures of the building. Each
 /// label keeps its text until its writer runs again.
 struct A_Klima {
+    A_Klima() { ebene.zeige(false); }
+
+    Feld ebene{"A_Klima"};  ///< the plane itself, hidden at first
+
     Anzeige anz_klimaregion{"anz_klimaregion"};
     Anzeige anz_MaxMonatName{"anz_MaxMonatName"};
     Anzeige anz_MinMonatName{"anz_MinMonatName"};

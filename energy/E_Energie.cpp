@@ -72,7 +72,15 @@ void E_Energie::aktiviert() {
 }
 
 void E_Energie::EnergRefresh() {
+    rechnen();
+    zeigen();
+}
+
+void E_Energie::rechnen() {
     kennwerte_ = energ_refresh(sitzung_.p);
+}
+
+void E_Energie::zeigen() {
     auswahl_zeigen();
     felder_fuellen(kennwerte_);
     beschriften(kennwerte_.name);
@@ -87,6 +95,9 @@ const Heizsystemzeile& E_Energie::katalogzeile() const {
 }
 
 void E_Energie::eingaben_anzeigen() {
+    Projekt& p = sitzung_.p;
+    kombination_pruefen(p.Heizsystem, p.Uebergabe, p.Energietraeger);
+    if (ohne_uebergabe(p.Heizsystem)) p.Uebergabe = 1;
     auswahl_zeigen();
 }
 

@@ -82,11 +82,15 @@ struct E_Energie {
     /// while the plane is visible. Errors as in `kombination_pruefen`.
     void EnergRefresh();
 
+    /// The two halves of it: the arithmetic alone, and the plane alone.
+    void rechnen();
+    void zeigen();
+
     /// Takes entry i (1..9) of the open list: stores the choice and recalculates. The dirty flag stays. An
     /// entry that is hidden cannot be taken.
     void Label_Auswahl_Click(int i);
 
-    /// Shows the texts of the record's choice. Errors as in `kombination_pruefen`.
+    /// Shows the texts of the record's choice; a heating without transfer gets transfer 1. Errors as in `kombination_pruefen`.
     void eingaben_anzeigen();
 
     /// The characteristic values of the last `EnergRefresh`.

@@ -5,8 +5,10 @@
 #include "konsole/konsolenplattform.h"
 #include "konsole/zusammenfassung.h"
 #include "planes/Haupt.h"
+#include "project/projektdatei.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
+#include "toolkit/textdatei.h"
 
 #include <functional>
 #include <memory>
@@ -17,13 +19,12 @@ namespace {
 
 std::unique_ptr<Haupt> neues_haupt(const Auftrag& auftrag, Konsolenplattform& plattform) {
     auto haupt = std::make_unique<Haupt>(plattform, auftrag.programmordner, auftrag.sprache);
-    haupt->datei.projekt_aufbauen();
+    haupt->datei.projekt_vorbereiten();
     return haupt;
 }
 
-void sichern(Haupt& haupt, const std::string& datei) {
-    haupt.p.Datei = datei;
-    haupt.datei.projekt_sichern();
+void sichern(const Haupt& haupt, const std::string& datei) {
+    datei_ersetzen(pfad(datei), projekt_schreiben(haupt.p));
 }
 
 /// Runs a piece of the order; its fault becomes one line.
@@ -39,12 +40,14 @@ bool versuchen(const Auftrag& auftrag, std::ostream& fehler, const std::function
 
 std::unique_ptr<Haupt> projekt_rechnen(const Auftrag& auftrag, Konsolenplattform& plattform,
                                        const std::string& datei) {
-    auto haupt = neues_haupt(auftrag, plattform);
-    if (!haupt->datei.projekt_laden(datei)) {
+    if (!bekannte_version(bytes_lesen(pfad(datei)))) {
         throw Dateifehler(datei,
                           {"keine gültige Velmaris-Datendatei: die erste Zeile nennt keine bekannte Version",
                            "not a valid Velmaris data file: line 1 names no known version"});
     }
+    auto haupt = neues_haupt(auftrag, plattform);
+    haupt->datei.projekt_laden(datei);
+    haupt->a_klima.Ausfuellen(haupt->p);
     return haupt;
 }
 
@@ -60,19 +63,24 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
     for (const std::string& datei : auftrag.projekte) {
         const bool gelungen = versuchen(auftrag, fehler, [&] {
             const auto haupt = projekt_rechnen(auftrag, plattform, datei);
+            if (auftrag.speichern) sichern(*haupt, *auftrag.speichern);
             if (auftrag.temperaturen) temperaturverlauf_exportieren(haupt->p, pfad(*auftrag.temperaturen));
             if (auftrag.json) {
                 ergebnisse.push_back(als_json(*haupt));
             } else {
                 aus << zusammenfassung(*haupt) << '\n';
             }
-            if (auftrag.speichern) sichern(*haupt, *auftrag.speichern);
         });
         gut = gut && gelungen;
     }
     if (auftrag.json && auftrag.projekte.size() > 1) aus << ergebnisse.dump(2) << '\n';
     if (auftrag.json && auftrag.projekte.size() == 1 && !ergebnisse.empty())
         aus << ergebnisse[0].dump(2) << '\n';
+    if (!aus.flush()) {
+        const Zweisprachig voll{"die Ausgabe kann nicht geschrieben werden", "the output cannot be written"};
+        fehler << voll.in(auftrag.sprache) << '\n';
+        gut = false;
+    }
     return gut ? alles_gut : projekt_fehlerhaft;
 }
 

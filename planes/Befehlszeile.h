@@ -6,11 +6,11 @@
 
 namespace velmaris {
 
-/// What the command line of the desktop program asks for, read as one text: "d" or "e" chooses the language of
-/// the run and starts at once, a path that ends in ".vel" (quoted or not) opens a project, what follows the
-/// last "|" is the first folder of the file dialogs.
+/// What the command line of the desktop program asks for, read as one text: "d" or "e" chooses the language
+/// of the run and starts at once, a path that ends in ".vel" (quoted or not) opens a project, what follows
+/// the last "|" is the first folder of the file dialogs.
 class Befehlszeile {
- public:
+  public:
     explicit Befehlszeile(std::string text) : text_(std::move(text)) {}
 
     /// The language letter, which also asks for the fast start without the start window.
@@ -22,7 +22,7 @@ class Befehlszeile {
     /// The project to open, in lower case; in its own spelling where only that exists.
     [[nodiscard]] std::optional<std::string> projekt() const;
 
- private:
+  private:
     std::string text_;
 };
 

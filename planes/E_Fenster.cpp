@@ -184,10 +184,9 @@ void E_Fenster::Command_HR_Click(int index) {
 }
 
 void E_Fenster::fenstermodus_lesen(int wert) {
-    if (wert == 0 || wert == 1) {
-        Option1.markiere(wert);
-        s_.p.Option1 = i16(wert, "Option1");
-    }
+    Option1.pruefe(wert);
+    Option1.markiere(wert);
+    s_.p.Option1 = i16(wert, "Option1");
     Option1_Click(wert);
 }
 

@@ -34,8 +34,8 @@ struct E_Fenster {
     /// Shows the panel of a tab.
     void Command_HR_Click(int index);
 
-    /// Sets the mode as a project file has it, and runs its logic; a value other than 0 and 1 leaves the
-    /// mode.
+    /// Sets the mode as a project file has it, and runs its logic; a value other than 0 and 1 is
+    /// a Laufzeitfehler.
     void fenstermodus_lesen(int wert);
 
     /// Locks or frees the window share of a facade whose wall adjoins a heated neighbour or not.

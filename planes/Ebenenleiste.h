@@ -11,7 +11,7 @@ namespace velmaris {
 
 /// A button bar that shows one of several planes. The button of the plane on show is disabled.
 class Ebenenleiste {
- public:
+  public:
     /// A plane and its button; `aktivieren` runs when the plane has come to the front.
     struct Eintrag {
         std::unique_ptr<Knopf> knopf;
@@ -29,13 +29,13 @@ class Ebenenleiste {
     /// Hides all planes and enables all buttons.
     void Alle_Fenster_Schliessen();
 
-    /// A click on the button of that name: its plane alone is shown. Works also for the plane that is on show, as
-    /// the menu entries need it.
+    /// A click on the button of that name: its plane alone is shown. Works also for the plane that is on
+    /// show, as the menu entries need it.
     void klicke(const std::string& knopf);
 
     [[nodiscard]] const std::vector<Eintrag>& eintraege() const { return eintraege_; }
 
- private:
+  private:
     std::vector<Eintrag> eintraege_;
 };
 

@@ -1,10 +1,13 @@
 #include "planes/Haupt.h"
 
 #include "climate/klimadatei.h"
+#include "language/beschriftungen.h"
 #include "language/c_Sprache.h"
 #include "planes/neues_projekt.h"
-#include "toolkit/fehler.h"
+#include "toolkit/sanduhr.h"
 #include "toolkit/zahlen.h"
+
+#include <algorithm>
 
 namespace velmaris {
 namespace {
@@ -26,10 +29,88 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       e_fenster(sitzung),
       e_daemmung(sitzung),
       e_gebaeude(sitzung),
+      e_klima(sitzung, [this] { wetter_laden(); }),
       e_energie(sitzung),
+      a_uebersicht(sitzung),
+      a_heizen(sitzung),
+      a_kuehlen(sitzung),
+      a_zoom(sitzung),
       datei(sitzung, projektwege()),
+      menue(sprache),
       plan_(rechenplan()) {
     verbinden();
+    leisten_fuellen();
+    menue_verbinden();
+}
+
+void Haupt::leisten_fuellen() {
+    e_menue.aufnehmen("Geometrie", e_geometrie.ebene, [this] { e_geometrie.aktivieren(); });
+    e_menue.aufnehmen("Fenster", e_fenster.ebene, {});
+    e_menue.aufnehmen("Daemmung", e_daemmung.ebene, {});
+    e_menue.aufnehmen("Gebaeude", e_gebaeude.ebene, {});
+    e_menue.aufnehmen("Klima", e_klima.ebene, {});
+    e_menue.aufnehmen("Energie", e_energie.ebene, [this] { e_energie.aktiviert(); });
+    a_menue.aufnehmen("Uebersicht", a_uebersicht.ebene, [this] { a_uebersicht.aktiviert(); });
+    a_menue.aufnehmen("Klima", a_klima.ebene, [this] { a_klima.Ausfuellen(p); });
+    a_menue.aufnehmen("Heizen", a_heizen.ebene, [this] { a_heizen.aktiviert(); });
+    a_menue.aufnehmen("Kuehlen", a_kuehlen.ebene, [this] { a_kuehlen.aktiviert(); });
+    for (Ebenenleiste* leiste : {&e_menue, &a_menue}) {
+        for (const auto& eintrag : leiste->eintraege()) {
+            eintrag.knopf->schreibe(beschriftung(leiste->leiste.name, eintrag.knopf->name, p.Sprache));
+        }
+    }
+}
+
+void Haupt::menue_verbinden() {
+    const auto tut = [this](const char* name, std::function<void()> aktion) {
+        menue.punkt(name).gedrueckt = std::move(aktion);
+    };
+    const auto oeffnet = [&tut](const char* name, std::function<void()>& weg) {
+        tut(name, [&weg] {
+            if (weg) weg();
+        });
+    };
+    tut("mnuFileNeu", [this] { datei.datei_neu(); });
+    tut("mnuFileOeffnen", [this] { datei.datei_oeffnen({}); });
+    tut("mnuFileSpeichern", [this] { datei.datei_speichern(); });
+    tut("mnuFileunter", [this] { datei.datei_speichern_unter(); });
+    tut("mnuFileExit", [this] { datei.programm_beenden(); });
+    tut("mnuWinGeo", [this] { e_menue.klicke("Geometrie"); });
+    tut("mnuWinFens", [this] { e_menue.klicke("Fenster"); });
+    tut("mnuWinDaem", [this] { e_menue.klicke("Daemmung"); });
+    tut("mnuWinGeb", [this] { e_menue.klicke("Gebaeude"); });
+    tut("mnuWinKlima", [this] { e_menue.klicke("Klima"); });
+    tut("mnuWinEnerg", [this] { e_menue.klicke("Energie"); });
+    tut("mnuSpracheDeutsch", [this] { sprache_waehlen("d"); });
+    tut("mnuSpracheEnglisch", [this] { sprache_waehlen("e"); });
+    tut("mnuQuestHilfe", [this] { datei.hilfe_zeigen(); });
+    oeffnet("mnuFileDrucken", fenster.drucken);
+    oeffnet("mnuBerechnungsergebnisseExportieren", fenster.report);
+    oeffnet("mnuTemperaturExport", fenster.temperaturen);
+    oeffnet("mnuKlimaImportieren", fenster.klimaimport);
+    oeffnet("mnuQuestInfo", fenster.info);
+}
+
+void Haupt::sprache_waehlen(const std::string& buchstabe) {
+    Menuepunkt& deutsch = menue.punkt("mnuSpracheDeutsch");
+    Menuepunkt& englisch = menue.punkt("mnuSpracheEnglisch");
+    Menuepunkt& gewaehlt = buchstabe == "e" ? englisch : deutsch;
+    if (gewaehlt.angekreuzt()) return;
+    deutsch.kreuze_an(&gewaehlt == &deutsch);
+    englisch.kreuze_an(&gewaehlt == &englisch);
+    sprache_merken(p, sitzung.plattform, buchstabe);
+}
+
+void Haupt::laden() {
+    e_menue.leiste.zeige(true);
+    a_menue.leiste.zeige(true);
+    erste_ebenen();
+    p.Druckerindex = i16(std::max(sitzung.plattform.aktueller_drucker(), 0), "Druckerindex");
+}
+
+void Haupt::erste_ebenen() {
+    e_menue.klicke("Geometrie");
+    a_menue.klicke("Uebersicht");
 }
 
 void Haupt::verbinden() {
@@ -45,24 +126,40 @@ Rechenplan Haupt::rechenplan() {
         e_geometrie.geometrie_zeigen();
         e_fenster.geometrie_zeigen();
     };
-    plan.gebaeude_zeigen = [this] { e_gebaeude.gebaeude_zeigen(); };
-    plan.energie = [this] { e_energie.EnergRefresh(); };
-    plan.energie_zeigen = [this] { a_klima.kennwerte_zeigen(p); };
-    plan.tabelle = {
-        {"AV_diagramm", [this] { return e_geometrie.ebene.sichtbar(); },
-         [this] { e_geometrie.AV_diagramm(); }},
-        {"Ausfuellen", [] { return true; }, [this] { a_klima.Ausfuellen(p); }},
+    plan.gebaeude_zeigen = [this] {
+        e_gebaeude.gebaeude_zeigen();
+        a_klima.kennwerte_zeigen(p);
     };
+    plan.energie = [this] { e_energie.rechnen(); };
+    plan.energie_zeigen = [this] { e_energie.zeigen(); };
+    const auto zeile = [&plan](const char* name, const Feld& ebene, std::function<void()> zeichnen) {
+        plan.tabelle.push_back({name, [&ebene] { return ebene.sichtbar(); }, std::move(zeichnen)});
+    };
+    zeile("AV_diagramm", e_geometrie.ebene, [this] { e_geometrie.AV_diagramm(); });
+    zeile("MonatsbilanzZeichnen", a_uebersicht.ebene, [this] { a_uebersicht.MonatsbilanzZeichnen(); });
+    zeile("UeberGrafikZeichnen", a_uebersicht.ebene, [this] { a_uebersicht.UeberGrafikZeichnen(); });
+    zeile("TemperaturDiagrammZeichnen", a_uebersicht.ebene,
+          [this] { a_uebersicht.TemperaturDiagrammZeichnen(); });
+    zeile("HeizFelderAusfuellen", a_heizen.ebene, [this] { a_heizen.HeizFelderAusfuellen(); });
+    zeile("FassadenbalkenZeichnen", a_heizen.ebene, [this] { a_heizen.FassadenbalkenZeichnen(); });
+    zeile("JahrBilanzZeichnen", a_heizen.ebene, [this] { a_heizen.JahrBilanzZeichnen(); });
+    zeile("HeizbilanzZeichnen", a_heizen.ebene, [this] { a_heizen.HeizbilanzZeichnen(); });
+    zeile("NutzungsgradZeichnen", a_heizen.ebene, [this] { a_heizen.NutzungsgradZeichnen(); });
+    zeile("StundenProTagZeichnen", a_kuehlen.ebene, [this] { a_kuehlen.StundenProTagZeichnen(); });
+    zeile("KuehlBedarfZeichnen", a_kuehlen.ebene, [this] { a_kuehlen.KuehlBedarfZeichnen(); });
+    zeile("KuehlGradStundenZeichnen", a_kuehlen.ebene, [this] { a_kuehlen.KuehlGradStundenZeichnen(); });
+    zeile("Ausfuellen", a_klima.ebene, [this] { a_klima.Ausfuellen(p); });
     return plan;
 }
 
 Projektwege Haupt::projektwege() {
     Projektwege wege;
     wege.neues_projekt = [this] { neues_projekt(); };
-    wege.klimadatei_lesen = [this] { klimadatei_lesen(p); };
+    wege.klimadatei_lesen = [this] { klimadatei_lesen(); };
     wege.wetter_laden = [this] { wetter_laden(); };
     wege.eingaben_anzeigen = [this] { eingaben_anzeigen(); };
-    wege.erste_ebenen = [] {};
+    wege.bauteile_anzeigen = [this] { bauteile_anzeigen(); };
+    wege.erste_ebenen = [this] { erste_ebenen(); };
     wege.ebenen.Innenwandart = [this](int zeile) { e_gebaeude.Innenwandart.setze(zeile); };
     wege.ebenen.Aussenwandart = [this](int zeile) { e_gebaeude.Aussenwandart.setze(zeile); };
     wege.ebenen.Check_Dachgeschoss = [this](int wert) { e_geometrie.dachgeschoss_lesen(wert); };
@@ -83,18 +180,29 @@ void Haupt::neues_projekt() {
 }
 
 void Haupt::wetter_laden() {
-    klimadatei_lesen(p);
+    const Sanduhr sanduhr(sitzung.plattform);
+    klimadatei_lesen();
     alles_berechnen();
+}
+
+void Haupt::klimadatei_lesen() {
+    velmaris::klimadatei_lesen(p);
+    e_klima.klima_zeigen();
     a_klima.stationswerte_zeigen(p);
 }
 
 void Haupt::eingaben_anzeigen() {
+    bauteile_anzeigen();
+    e_klima.klima_anzeigen();
+    p.Geaendert = 0;
+}
+
+void Haupt::bauteile_anzeigen() {
     e_geometrie.eingaben_anzeigen();
     e_daemmung.eingaben_anzeigen();
     e_fenster.eingaben_anzeigen();
     e_gebaeude.eingaben_anzeigen();
     e_energie.eingaben_anzeigen();
-    p.Geaendert = 0;
 }
 
 void Haupt::alles_berechnen() {

@@ -1,12 +1,19 @@
 #pragma once
 
 #include "calc/alles_berechnen.h"
+#include "charts/A_Heizen.h"
+#include "charts/A_Kuehlen.h"
+#include "charts/A_Uebersicht.h"
+#include "charts/A_Zoom.h"
 #include "climate/A_Klima.h"
+#include "climate/E_Klima.h"
 #include "energy/E_Energie.h"
 #include "planes/E_Daemmung.h"
 #include "planes/E_Fenster.h"
 #include "planes/E_Gebaeude.h"
 #include "planes/E_Geometrie.h"
+#include "planes/Ebenenleiste.h"
+#include "planes/Hauptmenue.h"
 #include "project/FILEIO.h"
 #include "project/sitzung.h"
 
@@ -30,9 +37,33 @@ struct Haupt {
     E_Fenster e_fenster;
     E_Daemmung e_daemmung;
     E_Gebaeude e_gebaeude;
+    E_Klima e_klima;
     E_Energie e_energie;
+    A_Uebersicht a_uebersicht;
     A_Klima a_klima;
+    A_Heizen a_heizen;
+    A_Kuehlen a_kuehlen;
+    A_Zoom a_zoom;
     FILEIO datei;
+    Ebenenleiste e_menue{"E_Menue"};
+    Ebenenleiste a_menue{"A_Menue"};
+    Hauptmenue menue;
+
+    /// Windows that stand beside the planes; set by the desktop.
+    struct Fenster {
+        std::function<void()> drucken;       ///< the print dialog
+        std::function<void()> report;        ///< the report
+        std::function<void()> temperaturen;  ///< the temperature course
+        std::function<void()> klimaimport;   ///< the climate data import
+        std::function<void()> info;          ///< the about box
+    };
+    Fenster fenster;
+
+    /// What the main window does when it comes up: shows both bars and the first planes, notes the printer.
+    void laden();
+
+    /// Shows the first input and the first output plane.
+    void erste_ebenen();
 
     /// Sets all inputs, the controls that keep state and the title to those of a new project.
     void neues_projekt();
@@ -47,6 +78,9 @@ struct Haupt {
     /// quantity.
     void eingaben_anzeigen();
 
+    /// The same without the climate plane.
+    void bauteile_anzeigen();
+
     /// Recalculates and refreshes what is visible.
     void alles_berechnen();
 
@@ -54,6 +88,12 @@ struct Haupt {
     [[nodiscard]] Projektwege projektwege();
     [[nodiscard]] Rechenplan rechenplan();
     void verbinden();
+    void leisten_fuellen();
+    void menue_verbinden();
+    void sprache_waehlen(const std::string& buchstabe);
+
+    /// Reads the station of the record and shows its figures.
+    void klimadatei_lesen();
 
     Rechenplan plan_;
 };

@@ -65,7 +65,8 @@ Menuepunkt* suchen(const std::vector<Menueknoten>& ebene, std::string_view name)
 Hauptmenue::Hauptmenue(std::string_view sprache) {
     for (const Menuezeile& zeile : zeilen) {
         std::vector<Menueknoten>* ebene = &menues_;
-        for (std::size_t i = 0; i < zeile.tiefe; ++i) ebene = &ebene->back().kinder;
+        for (std::size_t i = 0; i < zeile.tiefe; ++i)
+            ebene = &ebene->back().kinder;
         ebene->push_back(knoten(zeile.name, sprache));
     }
     punkt(sprache == "e" ? "mnuSpracheEnglisch" : "mnuSpracheDeutsch").kreuze_an(true);

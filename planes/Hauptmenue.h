@@ -18,7 +18,7 @@ struct Menueknoten {
 
 /// The menu of the main window: its tree, captions and check marks. What an entry does is set by the program.
 class Hauptmenue {
- public:
+  public:
     /// Builds the tree with the captions of the language and the language's check mark.
     explicit Hauptmenue(std::string_view sprache);
 
@@ -27,7 +27,7 @@ class Hauptmenue {
     /// The entry of a name; a name that the menu does not have is a std::out_of_range.
     [[nodiscard]] Menuepunkt& punkt(std::string_view name);
 
- private:
+  private:
     std::vector<Menueknoten> menues_;
 };
 

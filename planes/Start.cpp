@@ -1,6 +1,7 @@
 #include "planes/Start.h"
 
 #include "language/c_Sprache.h"
+#include "toolkit/fehler.h"
 
 #include <memory>
 
@@ -12,7 +13,8 @@ constexpr int splash_millisekunden = 10000;
 
 const Zweisprachig& ueber_text() {
     static const Zweisprachig text{
-        "Velmaris 3.2\n\nLernprogramm zum Heiz- und Kühlenergiebedarf\nund zum Temperaturverhalten eines Gebäudes",
+        "Velmaris 3.2\n\nLernprogramm zum Heiz- und Kühlenergiebedarf\nund zum Temperaturverhalten eines "
+        "Gebäudes",
         "Velmaris 3.2\n\nA teaching program on the heating and cooling energy demand\n"
         "and the temperature behaviour of a building"};
     return text;
@@ -30,7 +32,9 @@ std::string sprache_bestimmen(const Befehlszeile& befehlszeile, const std::files
 }
 
 Start::Start(Haupt& haupt, Befehlszeile befehlszeile, std::function<void()> hauptfenster_zeigen)
-    : haupt_(haupt), befehlszeile_(std::move(befehlszeile)), hauptfenster_zeigen_(std::move(hauptfenster_zeigen)) {
+    : haupt_(haupt),
+      befehlszeile_(std::move(befehlszeile)),
+      hauptfenster_zeigen_(std::move(hauptfenster_zeigen)) {
     fenster.zeige(false);
     Text.schreibe(ueber_text().in(haupt_.p.Sprache));
     OK_Button.schreibe("OK");

@@ -2,23 +2,12 @@
 
 #include "project/feldtabelle.h"
 #include "toolkit/fehler.h"
+#include "toolkit/sanduhr.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
 namespace velmaris {
 namespace {
-
-/// Shows the wait cursor while it lives.
-class Sanduhr {
-  public:
-    explicit Sanduhr(Plattform& plattform) : plattform_(plattform) { plattform_.sanduhr(true); }
-    Sanduhr(const Sanduhr&) = delete;
-    Sanduhr& operator=(const Sanduhr&) = delete;
-    ~Sanduhr() { plattform_.sanduhr(false); }
-
-  private:
-    Plattform& plattform_;
-};
 
 /// The part of a path behind its last separator.
 std::string dateiname(const std::string& datei) {
@@ -56,6 +45,24 @@ void FILEIO::projekt_aufbauen() {
     s_.alles_berechnen();
 }
 
+void FILEIO::projekt_vorbereiten() {
+    s_.p.FormLoadGuard = -1;
+    wege_.neues_projekt();
+    wege_.bauteile_anzeigen();
+    s_.p.FormLoadGuard = 0;
+    s_.p.Geaendert = 0;
+}
+
+/// A fault of the station is told as one of the project file that names it.
+void FILEIO::wetter_der_datei_laden() {
+    try {
+        wege_.wetter_laden();
+    } catch (const Dateifehler& fehler) {
+        const Zweisprachig grund{fehler.text("d"), fehler.text("e")};
+        throw Dateifehler(s_.p.Datei, grund, feld_suchen("Klimadatei")->zeile, "Klimadatei");
+    }
+}
+
 bool FILEIO::projekt_laden(const std::string& datei) {
     Projekt& p = s_.p;
     p.Datei = datei;
@@ -67,7 +74,7 @@ bool FILEIO::projekt_laden(const std::string& datei) {
     try {
         const bool gelesen = projekt_lesen(p, bytes, datei, wege_.ebenen);
         if (!gelesen) p.Datei = unbenannt;
-        wege_.wetter_laden();
+        wetter_der_datei_laden();
         wege_.eingaben_anzeigen();
         p.FormLoadGuard = 0;
         s_.alles_berechnen();

@@ -16,6 +16,7 @@ struct Projektwege {
     std::function<void()> neues_projekt;      ///< sets the record and the planes to the new project
     std::function<void()> klimadatei_lesen;   ///< reads the station of the record
     std::function<void()> wetter_laden;       ///< makes the station of the record the current climate
+    std::function<void()> bauteile_anzeigen;  ///< moves the input planes but the climate's to the record
     std::function<void()> eingaben_anzeigen;  ///< moves all input planes to the record, clears `Geaendert`
     std::function<void()> erste_ebenen;       ///< back to the first input and the first output plane
     Ebenenhaken ebenen;                       ///< what the reader sets on the planes
@@ -29,6 +30,10 @@ class FILEIO {
 
     /// Builds up a new project and calculates it; the end of the start and the heart of `datei_neu`.
     void projekt_aufbauen();
+
+    /// Builds up a new project without its climate and without a calculation, for a program that opens
+    /// another one at once, or that only writes the new one.
+    void projekt_vorbereiten();
 
     /// Opens a project file: reading, station, planes, one calculation. Returns false if the file has no
     /// version known here; then the project stays and `Datei` becomes "default.vel".
@@ -61,6 +66,7 @@ class FILEIO {
     Frage aenderung_klaeren(Sicherung (FILEIO::*weg)());
     Sicherung sichern();
     Sicherung sichern_unter();
+    void wetter_der_datei_laden();
     void kanal_schliessen();
     void kanal_oeffnen();
     void titel_der_datei();

@@ -6,6 +6,7 @@
 #include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -29,7 +30,9 @@ const std::function<void(int)>* haken_fuer(std::string_view name, const Ebenenha
 double zahl_des_postens(std::string_view posten) {
     const std::optional<double> zahl = zahl_pruefen(posten);
     if (zahl) return *zahl;
-    const std::string text = " \"" + std::string(posten.substr(0, 40)) + "\"";
+    std::string text = " \"" + std::string(posten.substr(0, 40)) + "\"";
+    std::replace_if(
+        text.begin(), text.end(), [](char z) { return z >= 0 && z < ' '; }, '?');
     throw Laufzeitfehler({"keine Zahl:" + text, "not a number:" + text});
 }
 
@@ -88,11 +91,16 @@ std::string zeilentext(const Projekt& p, const Feldzeile& feld) {
 
 }  // namespace
 
+bool bekannte_version(std::string_view bytes) {
+    const auto version = Listenleser(bytes).naechster();
+    return version == version_jetzt || version == version_frueher;
+}
+
 bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, const Ebenenhaken& haken) {
+    if (!bekannte_version(bytes)) return false;
     const std::string text = aus_windows1252(bytes);
     Listenleser leser(text);
     const auto version = leser.naechster();
-    if (version != version_jetzt && version != version_frueher) return false;
     for (int zeile = 2; zeile <= letzte_zeile_frueher; ++zeile)
         zeile_lesen(p, zeile, leser, name, haken);
     if (version == version_frueher) {

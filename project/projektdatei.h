@@ -25,6 +25,9 @@ struct Ebenenhaken {
     std::function<void(std::string_view feld, int zeile)> zeile_pruefen = {};
 };
 
+/// True if the first line of a project file's text is a version known here.
+[[nodiscard]] bool bekannte_version(std::string_view bytes);
+
 /// Reads the text of a project file (windows-1252; `name` is the file's name for messages) into the record,
 /// line by line in the file's order. Returns false if the first line is no version known here; then nothing
 /// is changed. A missing line, an item that is no number where one belongs, a number that the field cannot

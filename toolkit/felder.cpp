@@ -120,8 +120,12 @@ void Pruefeld::markiere(int wert) {
     melden();
 }
 
-void Optionsgruppe::setze(int option) {
+void Optionsgruppe::pruefe(int option) const {
     if (option < erste_ || option >= erste_ + anzahl_) ausserhalb(name, option, erste_, erste_ + anzahl_ - 1);
+}
+
+void Optionsgruppe::setze(int option) {
+    pruefe(option);
     if (gesetzt_ == option) return;
     markiere(option);
     if (geklickt) geklickt(option);

@@ -163,6 +163,9 @@ class Optionsgruppe : public Feld {
     /// the group does not have is a Laufzeitfehler.
     void setze(int option);
 
+    /// The fault of `setze` for an option that does not exist; nothing else.
+    void pruefe(int option) const;
+
     /// Sets an option, or none, without the handler.
     void markiere(std::optional<int> option);
 
@@ -232,13 +235,13 @@ class Knopf : public Feld {
 
 /// A menu entry: a button that may carry a check mark.
 class Menuepunkt : public Knopf {
- public:
+  public:
     explicit Menuepunkt(std::string feldname) : Knopf(std::move(feldname)) {}
 
     [[nodiscard]] bool angekreuzt() const { return angekreuzt_; }
     void kreuze_an(bool angekreuzt);
 
- private:
+  private:
     bool angekreuzt_ = false;
 };
 

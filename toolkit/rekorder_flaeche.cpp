@@ -18,7 +18,7 @@ constexpr double zeichenbreite = 6;
 template <class Tu>
 void fuer_jeden_kreispunkt(double cx, double cy, double radius, int spalten, int zeilen, Tu&& tu) {
     const std::optional<Pixelkasten> feld = pixelkasten(cx - radius, cy - radius, cx + radius, cy + radius);
-    if (!feld || radius < 0) return;
+    if (!feld || radius <= 0) return;
     for (int y = std::max(feld->oben, 0); y <= std::min(feld->unten, zeilen - 1); ++y) {
         for (int x = std::max(feld->links, 0); x <= std::min(feld->rechts, spalten - 1); ++x) {
             const double abstand = std::hypot(x - cx, y - cy);

@@ -54,8 +54,12 @@ std::string maskiert(std::string_view text) {
     return ergebnis;
 }
 
-bool sind_zahlen(double x, double y, double radius) {
-    return std::isfinite(x) && std::isfinite(y) && radius >= 0 && std::isfinite(radius);
+bool ist_ort(double x, double y) {
+    return std::isfinite(x) && std::isfinite(y);
+}
+
+bool ist_kreis(double cx, double cy, double radius) {
+    return ist_ort(cx, cy) && radius > 0 && std::isfinite(radius);
 }
 
 }  // namespace
@@ -107,7 +111,7 @@ void SvgFlaeche::flaeche(double x1, double y1, double x2, double y2, Farbe farbe
 }
 
 void SvgFlaeche::kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) {
-    if (!sind_zahlen(cx, cy, radius)) return;
+    if (!ist_kreis(cx, cy, radius)) return;
     element("<circle" + attribut("cx", wert(cx + mitte)) + attribut("cy", wert(cy + mitte)) +
             attribut("r", wert(radius)) + attribut("fill", fuellung ? farbtext(*fuellung) : "none") +
             attribut("stroke", farbtext(rand)) + "/>\n");
@@ -115,7 +119,7 @@ void SvgFlaeche::kreis(double cx, double cy, double radius, Farbe rand, std::opt
 
 void SvgFlaeche::sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) {
     const double winkel = bis - von;
-    if (!sind_zahlen(cx, cy, radius) || !std::isfinite(winkel)) return;
+    if (!ist_kreis(cx, cy, radius) || !std::isfinite(winkel)) return;
     if (std::fabs(winkel) >= 2 * std::numbers::pi) {
         kreis(cx, cy, radius, farbe, farbe);
         return;
@@ -137,7 +141,7 @@ void SvgFlaeche::punkt(double x, double y, Farbe farbe) {
 }
 
 void SvgFlaeche::text(double x, double y, std::string_view text, Farbe farbe) {
-    if (text.empty() || !sind_zahlen(x, y, 0)) return;
+    if (text.empty() || !ist_ort(x, y)) return;
     element("<text" + attribut("x", wert(x)) + attribut("y", wert(y + oberlaenge(schrift_))) +
             attribut("font-size", wert(schriftpixel(schrift_))) +
             (schrift_.fett ? attribut("font-weight", "bold") : std::string()) +

@@ -119,11 +119,9 @@ std::optional<std::string_view> Listenleser::naechster() {
     std::string_view posten = rest_.substr(0, ende);
     neue_zeile_ = ende == std::string_view::npos || rest_[ende] == '\n';
     rest_.remove_prefix(ende == std::string_view::npos ? rest_.size() : ende + 1);
-    const auto ist_rand = [](char z) { return z == ' ' || z == '\t' || z == '\r'; };
-    while (!posten.empty() && ist_rand(posten.front()))
+    while (!posten.empty() && (posten.front() == ' ' || posten.front() == '\t'))
         posten.remove_prefix(1);
-    while (!posten.empty() && ist_rand(posten.back()))
-        posten.remove_suffix(1);
+    if (neue_zeile_ && !posten.empty() && posten.back() == '\r') posten.remove_suffix(1);
     return posten;
 }
 

@@ -39,7 +39,7 @@ class Listenleser {
   public:
     explicit Listenleser(std::string_view text) : rest_(text) {}
 
-    /// The next item, without blanks around it; nothing behind the last one.
+    /// The next item, without the blanks in front of it; nothing behind the last one.
     [[nodiscard]] std::optional<std::string_view> naechster();
 
     /// Line (from 1) of the item taken last.

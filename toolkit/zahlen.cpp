@@ -139,7 +139,7 @@ double zahl_lesen(std::string_view text) {
     bool begonnen = false;
     bool komma = false;
     for (const char zeichen : text) {
-        if (ist_blank(zeichen)) continue;
+        if (zeichen == ' ') continue;
         if (ist_ziffer(zeichen)) {
             if (z.ziffern < 15) {
                 z.ganz = z.ganz * 10 + static_cast<std::uint64_t>(zeichen - '0');

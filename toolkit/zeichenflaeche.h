@@ -35,7 +35,8 @@ struct Schrift {
 };
 
 /// The chart surface: coordinates in pixels from the top left, y downward, fractions allowed. A coordinate is
-/// rounded to the nearest pixel (a half to the even one) by surfaces that are made of pixels.
+/// rounded to the nearest pixel (a half to the even one) by surfaces that are made of pixels. What has
+/// a coordinate that is not a number is not drawn.
 /// Implementations: the screen, an SVG file, a recorder for tests.
 class Zeichenflaeche {
   public:
@@ -63,10 +64,11 @@ class Zeichenflaeche {
     /// The filled rectangle with these corners, all four edges included.
     virtual void flaeche(double x1, double y1, double x2, double y2, Farbe farbe) = 0;
 
-    /// A circle, filled if a fill colour is given.
+    /// A circle, filled if a fill colour is given; a radius of 0 or less draws nothing.
     virtual void kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) = 0;
 
-    /// A filled pie with its two radii; angles in radians, counter-clockwise from the right.
+    /// A filled pie with its two radii; angles in radians, counter-clockwise from the right. A radius of 0 or
+    /// less draws nothing.
     virtual void sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) = 0;
 
     /// One pixel.

@@ -117,7 +117,7 @@ TEST(AllesBerechnen, RechenfehlerNennenDieStufe) {
              p.intg = 0;
              p.Tueber = 19;
          },
-         "Die stündliche Temperatursimulation", "The hourly temperature simulation"},
+         "Das Gebäude wird wärmer als die Überwärmungsgrenze", "although it has no gains of any kind"},
     };
     for (const Fall& fall : faelle) {
         SCOPED_TRACE(fall.name);

@@ -168,6 +168,7 @@ TEST(Stundensimulation, SchraegdachRechnetDenKosinusDerGradzahl) {
     p->awn = p->aws = p->awo = p->aww = 0;
     p->absfaktor = 1;
     p->intg = 0;
+    p->Tueber = 1000;
     p->infiltration = 0;
     p->ugd_typ = 5;
     p->Fx_ugd = 1;

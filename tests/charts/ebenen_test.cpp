@@ -208,7 +208,7 @@ TEST(A_Zoom, TeiltDenMonatUndDieFensterbreite) {
     A_Zoom z(s.sitzung);
     u.zoom_oeffnen = [&] { z.oeffnen(); };
     u.Temperaturen.maus_geklickt(10, 10);
-    EXPECT_TRUE(z.Ebene.sichtbar());
+    EXPECT_TRUE(z.ebene.sichtbar());
     EXPECT_EQ(z.monatsleiste.AktiverMonat1.text(), "Jul.");
     EXPECT_EQ(z.Command_Schliessen.text(), "Close");
 
@@ -225,7 +225,7 @@ TEST(A_Zoom, TeiltDenMonatUndDieFensterbreite) {
     z.monatsleiste.knopf(12).druecke();
     EXPECT_EQ(s.p->Monat_Uebersicht, 12);
     z.Command_Schliessen.druecke();
-    EXPECT_FALSE(z.Ebene.sichtbar());
+    EXPECT_FALSE(z.ebene.sichtbar());
     u.aktiviert();
     EXPECT_EQ(u.monatsleiste.AktiverMonat1.text(), "Dec.");
 }

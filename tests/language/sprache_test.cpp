@@ -100,7 +100,7 @@ class Sprachdatei : public testing::Test {
 
 TEST_F(Sprachdatei, WirdGelesenWieSieIst) {
     for (const auto& [bytes, sprache] : std::vector<std::pair<std::string, std::string>>{
-             {"e\r\n", "e"}, {"d", "d"}, {" e , d\n", "e"}, {"fr\r\ne\r\n", "fr"}, {"", ""}}) {
+             {"e\r\n", "e"}, {"d", "d"}, {" e, d\n", "e"}, {"fr\r\ne\r\n", "fr"}, {"", ""}}) {
         ordner.schreibe("klima/typ.dat", bytes);
         sprache_lesen(*p, fenster);
         EXPECT_EQ(p->Sprache, sprache);

@@ -74,6 +74,8 @@ TEST(RekorderFlaeche, KreisUndSektor) {
     EXPECT_EQ(bild.lies_punkt(6, 4), farben::rot);
     EXPECT_EQ(bild.lies_punkt(4, 4), farben::gelb);
     EXPECT_EQ(bild.lies_punkt(7, 4), bild.hintergrund());
+    bild.kreis(4, 4, 0, farben::schwarz, farben::schwarz);
+    EXPECT_EQ(bild.lies_punkt(4, 4), farben::gelb);
 
     bild.Cls();
     bild.sektor(4, 4, 3, 0, std::numbers::pi / 2, farben::blau);
