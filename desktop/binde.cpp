@@ -9,8 +9,10 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStringList>
@@ -122,6 +124,13 @@ void Binder::binde(QGroupBox& rahmen, Anzeige& anzeige) const {
         grundzustand(rahmen, anzeige);
     });
 }
+
+void Binder::binde(QDialog& fenster, Anzeige& anzeige) const {
+    anschliessen(fenster, anzeige, [&fenster, &anzeige] {
+        fenster.setWindowTitle(qtext(anzeige.text()));
+        grundzustand(fenster, anzeige);
+    });
+}
 // NOLINTEND(readability-convert-member-functions-to-static)
 
 void Binder::binde(Scrollleiste& leiste, Scrollfeld& feld) const {
@@ -189,6 +198,23 @@ void Binder::binde(std::span<QRadioButton* const> knoepfe, Optionsgruppe& gruppe
         });
         ++option;
     }
+}
+
+void Binder::binde(QLineEdit& zeile, Textfeld& feld) const {
+    benennen(zeile, feld);
+    const auto zeigen = [&zeile, &feld] {
+        const QString text = qtext(feld.text());
+        if (zeile.text() != text) zeile.setText(text);
+        grundzustand(zeile, feld);
+    };
+    anschliessen(zeile, feld, zeigen);
+    QObject::connect(&zeile, &QLineEdit::textEdited, &zeile,
+                     [&feld, zeigen, wache = wache_](const QString& text) {
+                         wache->fuehre_aus([&] { feld.tippe(utf8(text)); });
+                         zeigen();
+                     });
+    QObject::connect(&zeile, &QLineEdit::returnPressed, &zeile,
+                     [&feld, wache = wache_] { wache->fuehre_aus([&] { feld.bestaetige(); }); });
 }
 
 void Binder::binde(QAbstractButton& schalter, Knopf& knopf) const {

@@ -2,6 +2,7 @@
 
 #include "desktop/fehlerwache.h"
 #include "toolkit/felder.h"
+#include "toolkit/textfeld.h"
 
 #include <optional>
 #include <span>
@@ -10,8 +11,10 @@ class QAbstractButton;
 class QAction;
 class QCheckBox;
 class QComboBox;
+class QDialog;
 class QGroupBox;
 class QLabel;
+class QLineEdit;
 class QRadioButton;
 class QWidget;
 
@@ -49,6 +52,11 @@ class Binder {
 
     /// A frame whose title is the text.
     void binde(QGroupBox& rahmen, Anzeige& anzeige) const;
+
+    /// A window whose title is the text.
+    void binde(QDialog& fenster, Anzeige& anzeige) const;
+
+    void binde(QLineEdit& zeile, Textfeld& feld) const;
 
     /// A record without a text leaves the button its own.
     void binde(QAbstractButton& schalter, Knopf& knopf) const;

@@ -13,6 +13,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -122,6 +123,13 @@ QComboBox* Ebenenbau::liste(Auswahlliste& liste, const std::string& zweck) const
     auto* neu = new QComboBox(&ebene_);
     neu->setAccessibleName(qtext(zweck));
     mittel_.binder.binde(*neu, liste);
+    return neu;
+}
+
+QLineEdit* Ebenenbau::textfeld(Textfeld& feld, const std::string& zweck) const {
+    auto* neu = new QLineEdit(&ebene_);
+    neu->setAccessibleName(qtext(zweck));
+    mittel_.binder.binde(*neu, feld);
     return neu;
 }
 

@@ -16,6 +16,7 @@ class QComboBox;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QVBoxLayout;
@@ -64,12 +65,13 @@ class Ebenenbau {
     [[nodiscard]] Scrollleiste* leiste(Scrollfeld& feld, const std::string& zweck,
                                        Qt::Orientation richtung = Qt::Horizontal) const;
     [[nodiscard]] QComboBox* liste(Auswahlliste& liste, const std::string& zweck) const;
+    [[nodiscard]] QLineEdit* textfeld(Textfeld& feld, const std::string& zweck) const;
     [[nodiscard]] QCheckBox* pruefung(Pruefeld& feld) const;
     [[nodiscard]] std::vector<QRadioButton*> optionen(Optionsgruppe& gruppe) const;
 
     /// A button with its record's text, or else with the caption of its name, if there is one.
-    [[nodiscard]] QPushButton* knopf(Knopf& knopf) const;
-    [[nodiscard]] Bildflaeche* bild(Bildfeld& feld, Farbe hintergrund = farben::weiss) const;
+    QPushButton* knopf(Knopf& knopf) const;
+    Bildflaeche* bild(Bildfeld& feld, Farbe hintergrund = farben::weiss) const;
 
     /// A row of a table of scroll fields: caption, scroll field, value, unit. An empty caption leaves its
     /// column to the scroll field.

@@ -20,8 +20,6 @@ class Tippfenster : public QFrame {
     void showEvent(QShowEvent* ereignis) override;
 
   private:
-    void hineinruecken();
-
     QLabel* text_;
 };
 

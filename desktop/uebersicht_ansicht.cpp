@@ -4,8 +4,8 @@
 #include "desktop/ebene.h"
 #include "desktop/legende.h"
 #include "desktop/monatsleiste_ansicht.h"
+#include "desktop/nebenfenster.h"
 #include "desktop/tooltip_ansicht.h"
-#include "desktop/zoomfenster.h"
 
 #include <QPushButton>
 #include <QWidget>
@@ -29,12 +29,17 @@ QWidget* uebersicht_ansicht(A_Uebersicht& a, const Ansichtsmittel& mittel, QWidg
 }
 
 QWidget* zoom_ansicht(A_Zoom& a, const Ansichtsmittel& mittel, QWidget* eltern) {
-    auto* fenster = new Zoomfenster(a, eltern);
+    auto* fenster = new Nebenfenster(
+        mittel.wache, [&a] { a.ebene.zeige(false); }, eltern);
+    fenster->setWindowTitle(QStringLiteral("Velmaris"));
+    fenster->setMinimumSize(400, 240);
+    fenster->resize(784, 500);
+    fenster->anordnen = [&a](QSize innen) { a.anordnen(innen.width(), innen.height()); };
     const Ebenenbau bau(*fenster, "A_Zoom", mittel);
     monatsleiste_ansicht(a.monatsleiste, bau, fenster);
     bau.bild(a.Temperaturen);
     bau.knopf(a.Command_Schliessen);
-    mittel.binder.binde(*fenster, a.ebene);
+    mittel.binder.binde(static_cast<QWidget&>(*fenster), a.ebene);
     return fenster;
 }
 
