@@ -17,6 +17,7 @@
 #include <QSignalBlocker>
 #include <QStringList>
 #include <QStyle>
+#include <QVariant>
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
@@ -38,11 +39,14 @@ void benennen(QWidget& fenster, const Feld& feld) {
     if (fenster.accessibleName().isEmpty()) fenster.setAccessibleName(qtext(feld.name));
 }
 
-/// Text colour of a label; nothing stands for that of its surroundings.
+/// Text colour of a label; nothing stands for the one that the view gave it.
 void farbe_setzen(QWidget& fenster, std::optional<QColor> farbe) {
-    if (!farbe && !fenster.testAttribute(Qt::WA_SetPalette)) return;
-    QPalette palette;
-    if (farbe) palette.setColor(QPalette::WindowText, *farbe);
+    constexpr const char* eigene = "farbe_der_ansicht";
+    const QVariant gemerkt = fenster.property(eigene);
+    if (!farbe && !gemerkt.isValid()) return;
+    QPalette palette = fenster.palette();
+    if (!gemerkt.isValid()) fenster.setProperty(eigene, palette.color(QPalette::WindowText));
+    palette.setColor(QPalette::WindowText, farbe ? *farbe : gemerkt.value<QColor>());
     fenster.setPalette(palette);
 }
 

@@ -19,8 +19,8 @@ QWidget* ebene_bauen(Feld& feld, QSize groesse, const Ansichtsmittel& mittel, QW
 
 QVBoxLayout* ebenenspalte(QWidget& ebene) {
     auto* spalte = new QVBoxLayout(&ebene);
-    spalte->setContentsMargins(mass::abstand, mass::abstand, mass::abstand, mass::abstand);
-    spalte->setSpacing(mass::abstand);
+    spalte->setContentsMargins(mass::abstand, mass::ebenenabstand, mass::abstand, mass::ebenenabstand);
+    spalte->setSpacing(mass::ebenenabstand);
     return spalte;
 }
 

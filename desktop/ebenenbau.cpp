@@ -2,6 +2,7 @@
 
 #include "desktop/bildflaeche.h"
 #include "desktop/bruch.h"
+#include "desktop/ebenenknopf.h"
 #include "desktop/qt_text.h"
 #include "desktop/scrollleiste.h"
 #include "desktop/stil.h"
@@ -121,6 +122,7 @@ Scrollleiste* Ebenenbau::leiste(Scrollfeld& feld, const std::string& zweck, Qt::
 
 QComboBox* Ebenenbau::liste(Auswahlliste& liste, const std::string& zweck) const {
     auto* neu = new QComboBox(&ebene_);
+    neu->setFixedHeight(mass::liste);
     neu->setAccessibleName(qtext(zweck));
     mittel_.binder.binde(*neu, liste);
     return neu;
@@ -148,7 +150,16 @@ std::vector<QRadioButton*> Ebenenbau::optionen(Optionsgruppe& gruppe) const {
 }
 
 QPushButton* Ebenenbau::knopf(Knopf& knopf) const {
-    auto* neu = new QPushButton(&ebene_);
+    return beschriftet(new QPushButton(&ebene_), knopf);
+}
+
+QPushButton* Ebenenbau::reiter(Knopf& knopf) const {
+    auto* neu = new Ebenenknopf(&ebene_);
+    neu->setMinimumHeight(mass::knopf);
+    return beschriftet(neu, knopf);
+}
+
+QPushButton* Ebenenbau::beschriftet(QPushButton* neu, Knopf& knopf) const {
     for (const Beschriftung& zeile : beschriftungen(name_)) {
         if (zeile.feld == knopf.name) neu->setText(qtext(text(knopf.name)));
     }

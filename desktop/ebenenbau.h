@@ -71,6 +71,9 @@ class Ebenenbau {
 
     /// A button with its record's text, or else with the caption of its name, if there is one.
     QPushButton* knopf(Knopf& knopf) const;
+
+    /// A button that shows one of several panels.
+    QPushButton* reiter(Knopf& knopf) const;
     Bildflaeche* bild(Bildfeld& feld, Farbe hintergrund = farben::weiss) const;
 
     /// A row of a table of scroll fields: caption, scroll field, value, unit. An empty caption leaves its
@@ -82,6 +85,7 @@ class Ebenenbau {
 
   private:
     [[nodiscard]] QLabel* schild(const std::string& text) const;
+    QPushButton* beschriftet(QPushButton* neu, Knopf& knopf) const;
 
     QWidget& ebene_;
     std::string name_;

@@ -8,7 +8,11 @@ namespace velmaris {
 
 Ebenenknopf::Ebenenknopf(QWidget* leiste) : QPushButton(leiste) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
+    QFont schrift = font();
+    schrift.setPixelSize(mass::ebenenschrift);
+    setFont(schrift);
 }
 
 void Ebenenknopf::paintEvent(QPaintEvent*) {

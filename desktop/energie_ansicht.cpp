@@ -117,8 +117,8 @@ void auswahlliste(E_Energie& e, const Ansichtsmittel& mittel, QWidget* ebene) {
     };
     e.Auswahl.eintragshoehe = [halter, breite](const Anzeige& eintrag) {
         auto* schild = halter->findChild<QLabel*>(qtext(eintrag.name));
-        schild->setFixedWidth(breite());
-        return static_cast<double>(schild->heightForWidth(breite()) * twips);
+        schild->setFixedSize(breite(), schild->heightForWidth(breite()));
+        return static_cast<double>(schild->height() * twips);
     };
     e.Auswahl.unterkante = [ebene](const Anzeige& feld) {
         const auto* schild = ebene->findChild<QLabel*>(qtext(feld.name));

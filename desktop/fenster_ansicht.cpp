@@ -69,7 +69,7 @@ QGridLayout* panels(E_Fenster& e, const Ebenenbau& bau) {
     platz->setSpacing(mass::zeilenabstand);
     int spalte = 0;
     for (Knopf& knopf : e.Command_HR)
-        platz->addWidget(bau.knopf(knopf), 0, spalte++);
+        platz->addWidget(bau.reiter(knopf), 0, spalte++);
     platz->setRowMinimumHeight(0, mass::knopf);
     for (Fensterseite* seite : {&e.nord, &e.sued, &e.ost, &e.west})
         platz->addWidget(panel(*seite, bau), 1, 0, 1, spalte);

@@ -116,7 +116,8 @@ QGroupBox* orientierung(E_Geometrie& e, const Ebenenbau& bau) {
     QGroupBox* rahmen = bau.rahmen("Frame2");
     auto* rose = new QGridLayout(rahmen);
     rose->setContentsMargins(mass::rand, 0, mass::rand, mass::innenrand);
-    rose->setSpacing(1);
+    rose->setHorizontalSpacing(mass::abstand);
+    rose->setVerticalSpacing(1);
     Bildflaeche* plan = bau.bild(e.Picture1, farben_der_tafel);
     plan->setFixedSize(64, 64);
     rose->addWidget(bau.wort("Label29"), 0, 0, 1, 3, Qt::AlignHCenter);
@@ -132,7 +133,7 @@ QGroupBox* orientierung(E_Geometrie& e, const Ebenenbau& bau) {
     enden->addWidget(bau.wort("Label30"));
     rose->addLayout(enden, 3, 0, 1, 3);
     rose->addWidget(bau.leiste(e.orient_sb, bau.text("Label23")), 4, 0, 1, 3);
-    rose->addWidget(bau.wort("Label23"), 5, 0, 1, 3, Qt::AlignHCenter);
+    rose->addWidget(umbrochen(bau.wort("Label23")), 5, 0, 1, 3);
     return rahmen;
 }
 

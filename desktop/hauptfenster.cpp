@@ -143,6 +143,7 @@ void Hauptfenster::zeigen() {
     move(schirm.center() - QPoint(width() / 2, height() / 2 + hoeher));
     mittel_.wache.fuehre_aus([this] { haupt_.laden(); });
     show();
+    flaeche_->setFocus();
 }
 
 void Hauptfenster::closeEvent(QCloseEvent* ereignis) {

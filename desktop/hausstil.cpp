@@ -82,7 +82,7 @@ int Hausstil::pixelMetric(PixelMetric groesse, const QStyleOption* option, const
 /// The title of a frame stands inside of it.
 QRect Hausstil::subControlRect(ComplexControl bedienteil, const QStyleOptionComplex* option, SubControl teil,
                                const QWidget* fenster) const {
-    constexpr int titelabstand = 4;
+    constexpr int titelabstand = 2;
     const QRect feld = QProxyStyle::subControlRect(bedienteil, option, teil, fenster);
     if (bedienteil != CC_GroupBox) return feld;
     if (teil == SC_GroupBoxLabel) return feld.translated(mass::rand, titelabstand);

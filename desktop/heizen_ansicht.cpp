@@ -47,17 +47,17 @@ void jahrestabelle(A_Heizen& a, const Ebenenbau& bau, QWidget* ebene) {
         tabelle->addWidget(bau.zahl(reihe.absolut), nummer, 2);
         ++nummer;
     }
-    setze(tafel, ebene, 8, 362, 290, 132);
+    setze(tafel, ebene, 8, 362, 288, 132);
 }
 
 /// Gains and losses of the windows, a pair of bars for each facade.
 void fassaden(A_Heizen& a, const Ebenenbau& bau, QWidget* ebene) {
-    legende(bau, ebene, 306, 362, 140, {{balkenfarben::solar, &a.Label17}});
-    legende(bau, ebene, 306, 380, 140, {{balkenfarben::transmission, &a.Label18}});
+    legende(bau, ebene, 304, 362, 142, {{balkenfarben::solar, &a.Label17}});
+    legende(bau, ebene, 304, 378, 142, {{balkenfarben::transmission, &a.Label18}}, 40);
     for (Bildfeld* feld : {&a.Gewinne_N, &a.Verluste_N, &a.Gewinne_S, &a.Verluste_S, &a.Gewinne_O,
                            &a.Verluste_O, &a.Gewinne_W, &a.Verluste_W})
         bau.bild(*feld, farben_des_fensters);
-    setze(bau.anzeige(a.Label19), ebene, 312, 464, 130, 14);
+    setze(bau.anzeige(a.Label19), ebene, 315, 475, 130, 14);
 }
 
 }  // namespace

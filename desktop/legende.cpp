@@ -15,7 +15,6 @@ QWidget* farbfeld(Farbe farbe, QWidget* eltern) {
     auto* feld = new QWidget(eltern);
     feld->setFixedSize(seite, seite);
     feld->setAutoFillBackground(true);
-    feld->setPalette(QPalette(qfarbe(farbe)));
     QPalette palette = feld->palette();
     palette.setColor(QPalette::Window, qfarbe(farbe));
     feld->setPalette(palette);
@@ -25,19 +24,23 @@ QWidget* farbfeld(Farbe farbe, QWidget* eltern) {
 }  // namespace
 
 void legende(const Ebenenbau& bau, QWidget* ebene, int x, int y, int breite,
-             std::initializer_list<std::pair<Farbe, Anzeige*>> eintraege) {
-    constexpr int hoehe = 16;
+             std::initializer_list<std::pair<Farbe, Anzeige*>> eintraege, int hoehe) {
+    constexpr int zeilenhoehe = 16;
     constexpr int textabstand = 3;
     auto* zeile = new QWidget(ebene);
     auto* reihe = new QHBoxLayout(zeile);
     reihe->setContentsMargins(0, 0, 0, 0);
     reihe->setSpacing(textabstand);
     for (const auto& [farbe, anzeige] : eintraege) {
-        reihe->addWidget(farbfeld(farbe, zeile));
-        reihe->addWidget(bau.anzeige(*anzeige));
-        reihe->addSpacing(mass::gruppenabstand);
+        const bool umbruch = hoehe > zeilenhoehe;
+        QWidget* feld = farbfeld(farbe, zeile);
+        reihe->addWidget(feld, 0, umbruch ? Qt::AlignTop : Qt::AlignVCenter);
+        QLabel* text = bau.anzeige(*anzeige);
+        text->setWordWrap(umbruch);
+        reihe->addWidget(text, umbruch ? 1 : 0, umbruch ? Qt::AlignTop : Qt::AlignVCenter);
+        if (!umbruch) reihe->addSpacing(mass::gruppenabstand);
     }
-    reihe->addStretch();
+    if (hoehe == zeilenhoehe) reihe->addStretch();
     setze(zeile, ebene, x, y, breite, hoehe);
 }
 

@@ -12,8 +12,10 @@ namespace mass {
 inline constexpr int rand = 8;             ///< between the edge of a window or frame and what it holds
 inline constexpr int abstand = 6;          ///< between two controls
 inline constexpr int gruppenabstand = 10;  ///< between two frames
-inline constexpr int innenrand = 6;        ///< between the last control of a frame and its lower edge
-inline constexpr int zeilenabstand = 3;    ///< between two rows of a table
+inline constexpr int innenrand = 5;        ///< between the last control of a frame and its lower edge
+inline constexpr int zeilenabstand = 2;    ///< between two rows of a table
+inline constexpr int ebenenabstand = 4;    ///< between two frames of a plane
+inline constexpr int liste = 22;           ///< height of a closed list on a plane
 inline constexpr int ebenenschrift = 11;   ///< height of the font of the planes, the same as in the charts
 inline constexpr int schrift = 12;         ///< height of the window font
 inline constexpr int knopf = 22;           ///< height of a button
