@@ -163,9 +163,9 @@ void E_Klima::deutschland_abgleichen() {
     if (const int region = region_der_station(s_.p); region > 0) {
         Picture1.lade(regionenbild(s_.p, region));
         Klimaregionwahl.markiere(region - 1);
-    } else if (const int index = stationsindex(stationen.Welt, s_.p.Klimadatei); index >= 0) {
+    } else if (stationsindex(stationen.Welt, s_.p.Klimadatei) >= 0) {
         Picture1.lade(regionenbild(s_.p, 0));
-        Klimaregionwahl.schreibe(stationen.Welt[static_cast<std::size_t>(index)].name);
+        Klimaregionwahl.schreibe(stationsname());
     } else {
         fehlt_melden();
         Klimaregionwahl.setze(ersatzregion - 1);
@@ -176,8 +176,8 @@ void E_Klima::stationen_abgleichen(const std::vector<Station>& liste) {
     Klimaregionwahl2.fuelle(stationsnamen(liste));
     if (const int index = stationsindex(liste, s_.p.Klimadatei); index >= 0) {
         Klimaregionwahl2.setze(index);
-    } else if (const int fern = stationsindex(stationen.Welt, s_.p.Klimadatei); fern >= 0) {
-        Klimaregionwahl2.schreibe(stationen.Welt[static_cast<std::size_t>(fern)].name);
+    } else if (stationsindex(stationen.Welt, s_.p.Klimadatei) >= 0) {
+        Klimaregionwahl2.schreibe(stationsname());
     } else if (!liste.empty()) {
         fehlt_melden();
         Klimaregionwahl2.setze(
@@ -189,11 +189,21 @@ void E_Klima::stationen_abgleichen(const std::vector<Station>& liste) {
 
 /// Brings the selection back to the record's station, without a handler.
 void E_Klima::auswahl_nachziehen() {
-    if (s_.p.Klimaauswahl == deutschland) {
-        Klimaregionwahl.markiere(region_der_station(s_.p) - 1);
+    const bool regionen = s_.p.Klimaauswahl == deutschland;
+    Auswahlliste& liste = regionen ? Klimaregionwahl : Klimaregionwahl2;
+    const int index =
+        regionen ? region_der_station(s_.p) - 1 : stationsindex(stationen_des_bereichs(), s_.p.Klimadatei);
+    if (index >= 0) {
+        liste.markiere(index);
     } else {
-        Klimaregionwahl2.markiere(stationsindex(stationen_des_bereichs(), s_.p.Klimadatei));
+        liste.schreibe(stationsname());
     }
+}
+
+/// Name of the record's station, empty if it is not listed.
+std::string E_Klima::stationsname() const {
+    const int index = stationsindex(stationen.Welt, s_.p.Klimadatei);
+    return index < 0 ? std::string() : stationen.Welt[static_cast<std::size_t>(index)].name;
 }
 
 void E_Klima::region_gewaehlt() {

@@ -71,7 +71,7 @@ struct E_Klima {
 
     /// The logic behind the options: shows the controls of the scope and brings its list and the record's
     /// station together. A station that no list has is replaced, with a message: by that of region 4 in
-    /// Germany, by one drawn by lot elsewhere.
+    /// Germany, by one drawn by lot elsewhere, if there is any.
     void Option_Click(int bereich);
 
     /// Shows the record's station on the German map, if it is that of a region, and the temperatures of the
@@ -97,6 +97,7 @@ struct E_Klima {
     void melde(const std::string& text);
     [[nodiscard]] bool in_region(double x, double y, int region) const;
     [[nodiscard]] const std::vector<Station>& stationen_des_bereichs() const;
+    [[nodiscard]] std::string stationsname() const;
 
     Sitzung& s_;
     std::function<void()> wetter_laden_;

@@ -27,9 +27,9 @@ void Stationskarte::verbinden() {
 void Stationskarte::zeichnen(Zeichenflaeche& bild) const {
     for (const Station& station : stationen)
         punkt_zeichnen(bild, ort(station), farben::gelb);
-    const int gewaehlt = liste.index();
-    punkt_zeichnen(bild,
-                   gewaehlt < 0 ? neben_dem_bild : ort(stationen.at(static_cast<std::size_t>(gewaehlt))),
+    const int index = liste.index();
+    const bool gewaehlt = index >= 0 && index < static_cast<int>(stationen.size());
+    punkt_zeichnen(bild, gewaehlt ? ort(stationen[static_cast<std::size_t>(index)]) : neben_dem_bild,
                    farben::rot);
 }
 

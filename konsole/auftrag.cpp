@@ -2,6 +2,7 @@
 
 #include "documents/temperaturverlauf.h"
 #include "konsole/ausgabe_json.h"
+#include "konsole/diagramme.h"
 #include "konsole/konsolenplattform.h"
 #include "konsole/zusammenfassung.h"
 #include "planes/Haupt.h"
@@ -64,6 +65,7 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
         const bool gelungen = versuchen(auftrag, fehler, [&] {
             const auto haupt = projekt_rechnen(auftrag, plattform, datei);
             if (auftrag.speichern) sichern(*haupt, *auftrag.speichern);
+            if (auftrag.diagramme) diagramme_schreiben(*haupt, pfad(*auftrag.diagramme));
             if (auftrag.temperaturen) temperaturverlauf_exportieren(haupt->p, pfad(*auftrag.temperaturen));
             if (auftrag.json) {
                 ergebnisse.push_back(als_json(*haupt));

@@ -16,6 +16,7 @@ struct Auftrag {
     std::optional<std::string> temperaturen;
     std::optional<std::string> neu;
     std::optional<std::string> speichern;
+    std::optional<std::string> diagramme;
     std::filesystem::path programmordner;
 };
 

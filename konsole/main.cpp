@@ -18,17 +18,24 @@ void beschreiben(CLI::App& app, velmaris::Auftrag& auftrag, std::string& ordner)
     app.add_option("--neu", auftrag.neu, "schreibt das neue Projekt / writes the new project");
     app.add_option("--speichern", auftrag.speichern,
                    "schreibt das geöffnete Projekt / writes the opened project");
+    app.add_option("--diagramme", auftrag.diagramme,
+                   "alle Diagramme als SVG in einen Ordner / all charts as SVG");
     app.add_option("--ordner", ordner, "Programmordner mit klima/ / program folder with klima/");
 }
 
+/// True for an order whose output takes a single project.
+bool nur_eines(const velmaris::Auftrag& auftrag) {
+    return auftrag.temperaturen || auftrag.speichern || auftrag.diagramme;
+}
+
 void pruefen(const velmaris::Auftrag& auftrag) {
-    if (auftrag.projekte.empty() &&
-        (!auftrag.neu || auftrag.json || auftrag.temperaturen || auftrag.speichern)) {
+    if (auftrag.projekte.empty() && (!auftrag.neu || auftrag.json || nur_eines(auftrag))) {
         throw CLI::ValidationError("PROJEKT", "kein Projekt angegeben / no project given");
     }
-    if (auftrag.projekte.size() > 1 && (auftrag.temperaturen || auftrag.speichern)) {
+    if (auftrag.projekte.size() > 1 && nur_eines(auftrag)) {
         throw CLI::ValidationError(
-            "PROJEKT", "--temperaturen und --speichern gelten einem einzigen Projekt / take one project");
+            "PROJEKT",
+            "--temperaturen, --speichern und --diagramme gelten einem einzigen Projekt / take one project");
     }
 }
 

@@ -38,13 +38,13 @@ bool im_winkel(double dx, double dy, double abstand, double von, double bis) {
 
 }  // namespace
 
-RekorderFlaeche::RekorderFlaeche(double breite, double hoehe)
+RekorderFlaeche::RekorderFlaeche(double breite, double hoehe, Farbe hintergrund)
     : breite_(breite),
       hoehe_(hoehe),
+      hintergrund_(hintergrund),
       spalten_(pixel(breite)),
       zeilen_(pixel(hoehe)),
-      raster_(static_cast<std::size_t>(spalten_) * static_cast<std::size_t>(zeilen_),
-              RekorderFlaeche::hintergrund()) {}
+      raster_(static_cast<std::size_t>(spalten_) * static_cast<std::size_t>(zeilen_), hintergrund) {}
 
 std::vector<Zeichnung> RekorderFlaeche::alle(Art art) const {
     std::vector<Zeichnung> ergebnis;

@@ -27,7 +27,7 @@ class RekorderFlaeche : public Zeichenflaeche {
   public:
     using Art = Zeichnung::Art;
 
-    explicit RekorderFlaeche(double breite = 330, double hoehe = 140);
+    explicit RekorderFlaeche(double breite = 330, double hoehe = 140, Farbe hintergrund = {240, 240, 240});
 
     std::vector<Zeichnung> zeichnungen;
 
@@ -40,7 +40,7 @@ class RekorderFlaeche : public Zeichenflaeche {
 
     [[nodiscard]] double breite() const override { return breite_; }
     [[nodiscard]] double hoehe() const override { return hoehe_; }
-    [[nodiscard]] Farbe hintergrund() const override { return {240, 240, 240}; }
+    [[nodiscard]] Farbe hintergrund() const override { return hintergrund_; }
     void Cls() override;
     void linie(double x1, double y1, double x2, double y2, Farbe farbe, int dicke) override;
     void kasten(double x1, double y1, double x2, double y2, Farbe farbe) override;
@@ -63,6 +63,7 @@ class RekorderFlaeche : public Zeichenflaeche {
 
     double breite_;
     double hoehe_;
+    Farbe hintergrund_;
     Schrift schrift_;
     int spalten_;
     int zeilen_;

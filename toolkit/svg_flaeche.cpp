@@ -136,6 +136,24 @@ void SvgFlaeche::sektor(double cx, double cy, double radius, double von, double 
              "Z");
 }
 
+/// An element of its own: in one path with others, overlapping outlines of opposite turn would leave a hole.
+bool SvgFlaeche::umriss(const Umriss& umriss, Farbe farbe) {
+    std::string verlauf;
+    for (const auto& [x, y, radius] : umriss.ecken) {
+        if (verlauf.empty()) {
+            verlauf = "M";
+        } else if (radius == 0) {
+            verlauf += "L";
+        } else {
+            const std::string halbachse = koordinate(std::fabs(radius));
+            verlauf.append("A").append(halbachse).append(halbachse).append(radius > 0 ? " 0 0 0" : " 0 0 1");
+        }
+        verlauf += koordinate(x) + koordinate(y);
+    }
+    element("<path" + attribut("fill", farbtext(farbe)) + attribut("d", verlauf + "Z") + "/>\n");
+    return true;
+}
+
 void SvgFlaeche::punkt(double x, double y, Farbe farbe) {
     flaeche(x, y, x, y, farbe);
 }

@@ -27,6 +27,7 @@ class SvgFlaeche : public Zeichenflaeche {
     void flaeche(double x1, double y1, double x2, double y2, Farbe farbe) override;
     void kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) override;
     void sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) override;
+    [[nodiscard]] bool umriss(const Umriss& umriss, Farbe farbe) override;
     void punkt(double x, double y, Farbe farbe) override;
     void text(double x, double y, std::string_view text, Farbe farbe) override;
     [[nodiscard]] double textbreite(std::string_view text) const override;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/umriss.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -70,6 +72,10 @@ class Zeichenflaeche {
     /// A filled pie with its two radii; angles in radians, counter-clockwise from the right. A radius of 0 or
     /// less draws nothing.
     virtual void sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) = 0;
+
+    /// Fills the outline with smooth edges and returns true. A surface whose shapes are built pixel by pixel
+    /// draws nothing and returns false.
+    [[nodiscard]] virtual bool umriss(const Umriss& /*umriss*/, Farbe /*farbe*/) { return false; }
 
     /// One pixel.
     virtual void punkt(double x, double y, Farbe farbe) = 0;

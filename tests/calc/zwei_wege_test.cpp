@@ -1,9 +1,13 @@
 #include "calc/alles_berechnen.h"
 #include "calc/geometrie.h"
 #include "calc/monatsbilanz.h"
+#include "climate/klimadatei.h"
 #include "climate/strahlung.h"
+#include "planes/Haupt.h"
 #include "tests/musterprojekt.h"
+#include "tests/testplattform.h"
 #include "tests/wie_geschrieben.h"
+#include "toolkit/text.h"
 
 #include <cmath>
 #include <cstdint>
@@ -77,23 +81,44 @@ Vergleich vergleichen(const Projekt& a, const Projekt& b) {
     return v;
 }
 
+/// Calculates the record as it stands both ways and compares.
+void beide_wege(Projekt& schnell) {
+    const auto geschrieben = std::make_unique<Projekt>(schnell);
+    monatsstrahlung_berechnen(schnell);
+    alles_berechnen(schnell, {});
+
+    test::monatsstrahlung_wie_geschrieben(*geschrieben);
+    geometrie_berechnen(*geschrieben);
+    monatsbilanz(*geschrieben);
+    test::stundensimulation_wie_geschrieben(*geschrieben);
+
+    const Vergleich v = vergleichen(schnell, *geschrieben);
+    EXPECT_LE(v.groesster, 4) << v.ort;
+}
+
 TEST(ZweiWege, SchnelleRechnungSpeichertDasselbeWieDieFormelnJederStunde) {
     for (const test::Musterort& ort : test::musterorte()) {
         for (const test::Musterhaus& haus : test::musterhaeuser()) {
             SCOPED_TRACE(ort.name + ", " + haus.name);
-            const auto schnell = test::musterprojekt(ort);
-            haus.einrichten(*schnell);
-            const auto geschrieben = std::make_unique<Projekt>(*schnell);
-            monatsstrahlung_berechnen(*schnell);
-            alles_berechnen(*schnell, {});
+            const auto projekt = test::musterprojekt(ort);
+            haus.einrichten(*projekt);
+            beide_wege(*projekt);
+        }
+    }
+}
 
-            test::monatsstrahlung_wie_geschrieben(*geschrieben);
-            geometrie_berechnen(*geschrieben);
-            monatsbilanz(*geschrieben);
-            test::stundensimulation_wie_geschrieben(*geschrieben);
-
-            const Vergleich v = vergleichen(*schnell, *geschrieben);
-            EXPECT_LE(v.groesster, 4) << v.ort;
+TEST(ZweiWege, AuchFuerDieBeispieleAnGeliefertenStationen) {
+    test::Testplattform plattform;
+    for (const char* beispiel : {"altes_haus.vel", "niedrigenergiehaus.vel", "glasbuero.vel"}) {
+        Haupt haupt(plattform, pfad(VELMARIS_PROGRAMMORDNER), "d");
+        haupt.datei.projekt_vorbereiten();
+        haupt.datei.projekt_laden(std::string(VELMARIS_BEISPIELE) + "/" + beispiel);
+        for (const char* station : {"hamburg.met", "freiburg.met", "tromsö.met", "murmansk.met",
+                                    "singapur.met", "sydney.met", "punta_arenas.met"}) {
+            SCOPED_TRACE(std::string(beispiel) + ", " + station);
+            haupt.p.Klimadatei = station;
+            klimadatei_lesen(haupt.p);
+            beide_wege(haupt.p);
         }
     }
 }

@@ -159,23 +159,28 @@ TEST(EKlima, WahlInDenListenLaedtDieStation) {
 TEST(EKlima, EineVerschwundeneDateiLaesstAllesWieEsWar) {
     struct Fall {
         int bereich;
+        std::string vorher;
         int zeile;
         std::string datei;
     };
-    for (const Fall& fall : {Fall{deutschland, 1, "braunschweig.met"}, Fall{europa, 1, "paris.met"},
-                             Fall{welt, 4, "tokyo.met"}}) {
+    for (const Fall& fall :
+         {Fall{deutschland, "trier.met", 1, "braunschweig.met"},
+          Fall{deutschland, "tokyo.met", 0, "bremen.met"}, Fall{europa, "trier.met", 1, "paris.met"},
+          Fall{europa, "tokyo.met", 1, "paris.met"}, Fall{welt, "trier.met", 4, "tokyo.met"}}) {
         Klimaprobe probe("e");
-        probe.oeffne(fall.bereich, "trier.met");
+        probe.oeffne(fall.bereich, fall.vorher);
         std::filesystem::remove(probe.ordner / ("klima/" + fall.datei));
         Auswahlliste& liste =
             fall.bereich == deutschland ? probe.e->Klimaregionwahl : probe.e->Klimaregionwahl2;
-        const int vorher = liste.index();
+        const int index = liste.index();
+        const std::string text = liste.text();
         liste.setze(fall.zeile);
         ASSERT_EQ(probe.plattform.meldungen.size(), 1U) << fall.datei;
         EXPECT_THAT(probe.plattform.meldungen[0].text, HasSubstr(fall.datei + ": file not found"));
-        EXPECT_EQ(probe.p->Klimadatei, "trier.met");
+        EXPECT_EQ(probe.p->Klimadatei, fall.vorher);
         EXPECT_EQ(probe.p->Geaendert, 0);
-        EXPECT_EQ(liste.index(), vorher);
+        EXPECT_EQ(liste.index(), index);
+        EXPECT_EQ(liste.text(), text);
         EXPECT_THAT(probe.geladen, IsEmpty());
     }
 }

@@ -4,9 +4,8 @@
 #include "tests/testflaeche.h"
 #include "tests/testprogramm.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
+#include <gtest/gtest.h>
 
 namespace velmaris {
 namespace {

@@ -1,0 +1,104 @@
+#include "planes/Haupt.h"
+
+#include "project/rettung.h"
+#include "tests/testprogramm.h"
+#include "toolkit/text.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace velmaris {
+namespace {
+
+using test::Testprogramm;
+
+class Hauptprogramm : public testing::Test {
+  protected:
+    Hauptprogramm() { haupt().laden(); }
+
+    Haupt& haupt() { return *programm.haupt; }
+    Projekt& p() { return programm.p(); }
+
+    /// Names of the planes of a bar that are shown.
+    static std::set<std::string> gezeigt(const Ebenenleiste& leiste) {
+        std::set<std::string> namen;
+        for (const auto& eintrag : leiste.eintraege()) {
+            EXPECT_EQ(eintrag.ebene->sichtbar(), !eintrag.knopf->aktiv());
+            if (eintrag.ebene->sichtbar()) namen.insert(eintrag.ebene->name);
+        }
+        return namen;
+    }
+
+    Testprogramm programm;
+};
+
+TEST_F(Hauptprogramm, JedeLeisteZeigtEineEbene) {
+    using Namen = std::set<std::string>;
+    EXPECT_EQ(gezeigt(haupt().e_menue), Namen{"E_Geometrie"});
+    EXPECT_EQ(gezeigt(haupt().a_menue), Namen{"A_Uebersicht"});
+    haupt().menue.punkt("mnuWinFens").druecke();
+    haupt().menue.punkt("mnuWinFens").druecke();
+    EXPECT_EQ(gezeigt(haupt().e_menue), Namen{"E_Fenster"});
+    for (const auto& eintrag : haupt().a_menue.eintraege()) {
+        eintrag.knopf->druecke();
+        EXPECT_EQ(gezeigt(haupt().a_menue), Namen{eintrag.ebene->name});
+    }
+    haupt().erste_ebenen();
+    EXPECT_EQ(gezeigt(haupt().e_menue), Namen{"E_Geometrie"});
+}
+
+TEST_F(Hauptprogramm, NurSichtbareEbenenWerdenGezeichnet) {
+    int heizen = 0;
+    int uebersicht = 0;
+    haupt().a_heizen.Heizbilanz.ansicht = [&] { ++heizen; };
+    haupt().a_uebersicht.Monatsbilanz.ansicht = [&] { ++uebersicht; };
+    haupt().e_geometrie.l_sb.setze(200);
+    EXPECT_EQ(heizen, 0);
+    EXPECT_EQ(uebersicht, 1);
+    haupt().a_menue.klicke("Heizen");
+    heizen = uebersicht = 0;
+    haupt().e_geometrie.l_sb.setze(210);
+    EXPECT_EQ(heizen, 1);
+    EXPECT_EQ(uebersicht, 0);
+}
+
+TEST_F(Hauptprogramm, MenueKenntJedenEintragInBeidenSprachen) {
+    EXPECT_EQ(haupt().menue.menues().size(), 5U);
+    EXPECT_EQ(haupt().menue.punkt("mnuFileunter").text(), "Speichern &unter...");
+    EXPECT_EQ(Testprogramm("e").haupt->menue.punkt("mnuFileunter").text(), "Save as ...");
+    EXPECT_THROW(haupt().menue.punkt("mnuFehlt").druecke(), std::out_of_range);
+    bool gedruckt = false;
+    haupt().fenster.drucken = [&] { gedruckt = true; };
+    haupt().menue.punkt("mnuFileDrucken").druecke();
+    EXPECT_TRUE(gedruckt);
+    haupt().menue.punkt("mnuQuestHilfe").druecke();
+    EXPECT_EQ(programm.plattform.hilfeseiten.size(), 1U);
+}
+
+TEST_F(Hauptprogramm, SpracheGiltErstBeimNaechstenStart) {
+    Menuepunkt& deutsch = haupt().menue.punkt("mnuSpracheDeutsch");
+    Menuepunkt& englisch = haupt().menue.punkt("mnuSpracheEnglisch");
+    EXPECT_TRUE(deutsch.angekreuzt());
+    deutsch.druecke();
+    EXPECT_TRUE(programm.plattform.meldungen.empty());
+    englisch.druecke();
+    EXPECT_TRUE(englisch.angekreuzt());
+    EXPECT_FALSE(deutsch.angekreuzt());
+    EXPECT_EQ(programm.plattform.meldungen.size(), 1U);
+    EXPECT_EQ(p().Sprache, "d");
+    EXPECT_EQ(test::inhalt(programm.ordner / "klima/typ.dat").front(), 'e');
+}
+
+TEST_F(Hauptprogramm, DieRettungBehaeltDieEingaben) {
+    p().Datei = pfadtext(programm.ordner / "haus.vel");
+    haupt().e_geometrie.l_sb.setze(333);
+    const auto erste = projekt_retten(p());
+    const auto zweite = projekt_retten(p());
+    ASSERT_TRUE(erste && zweite);
+    EXPECT_EQ(erste->filename(), "Velmaris_Rettung.vel");
+    EXPECT_EQ(zweite->filename(), "Velmaris_Rettung_2.vel");
+    EXPECT_NE(test::inhalt(*erste).find("\r\n 33.3\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace velmaris
