@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -31,13 +32,20 @@ QGroupBox* tuer(E_Daemmung& e, const Ebenenbau& bau) {
     return rahmen;
 }
 
-/// The two lists share one place; one of them shows.
+/// What a closure borders on: a caption and the lists to choose from, all at one place, of which one shows.
+QHBoxLayout* gegen(std::string_view wort, std::initializer_list<Auswahlliste*> listen,
+                   const std::string& zweck, const Ebenenbau& bau) {
+    auto* reihe = new QHBoxLayout;
+    reihe->addWidget(bau.wort(wort));
+    for (Auswahlliste* liste : listen)
+        reihe->addWidget(bau.liste(*liste, zweck), 1);
+    return reihe;
+}
+
 QGroupBox* oberer_abschluss(E_Daemmung& e, const Ebenenbau& bau) {
     QGroupBox* rahmen = bau.rahmen(e.liste2);
     QGridLayout& tabelle = *schiebertabelle(*rahmen);
-    tabelle.addWidget(bau.wort("Label18"), 0, 0);
-    tabelle.addWidget(bau.liste(e.ogd, bau.text("Label18")), 0, 1, 1, 3);
-    tabelle.addWidget(bau.liste(e.ogd_Dach, bau.text("Label18")), 0, 1, 1, 3);
+    tabelle.addLayout(gegen("Label18", {&e.ogd, &e.ogd_Dach}, e.liste2.text(), bau), 0, 0, 1, 4);
     bau.zeile(tabelle, "Label19", e.kd_sb, e.kd_anz, bau.einheit("Einheit_kd"));
     tabelle.addWidget(bau.pruefung(e.cbk_hDach), 2, 1, 1, 3);
     return rahmen;
@@ -46,8 +54,7 @@ QGroupBox* oberer_abschluss(E_Daemmung& e, const Ebenenbau& bau) {
 QGroupBox* unterer_abschluss(E_Daemmung& e, const Ebenenbau& bau) {
     QGroupBox* rahmen = bau.rahmen("Frame2");
     QGridLayout& tabelle = *schiebertabelle(*rahmen);
-    tabelle.addWidget(bau.wort("Label15"), 0, 0);
-    tabelle.addWidget(bau.liste(e.ugd, bau.text("Frame2")), 0, 1, 1, 3);
+    tabelle.addLayout(gegen("Label15", {&e.ugd}, bau.text("Frame2"), bau), 0, 0, 1, 4);
     bau.zeile(tabelle, "Label16", e.kk_sb, e.kk_anz, bau.einheit("Einheit_kk"));
     return rahmen;
 }

@@ -53,8 +53,14 @@ QGroupBox* ueberwaermung(E_Gebaeude& e, const Ebenenbau& bau) {
 }
 
 QGroupBox* bauart(std::string_view frame, Auswahlliste& liste, const Ebenenbau& bau) {
+    constexpr int titelschrift = 10;  // half a plane is narrow for the titles
     QGroupBox* rahmen = bau.rahmen(frame);
-    stapel(*rahmen)->addWidget(bau.liste(liste, bau.text(frame)));
+    QFont schrift = rahmen->font();
+    QComboBox* kasten = bau.liste(liste, bau.text(frame));
+    kasten->setFont(schrift);
+    schrift.setPixelSize(titelschrift);
+    rahmen->setFont(schrift);
+    stapel(*rahmen)->addWidget(kasten);
     return rahmen;
 }
 

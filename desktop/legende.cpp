@@ -32,13 +32,13 @@ void legende(const Ebenenbau& bau, QWidget* ebene, int x, int y, int breite,
     reihe->setContentsMargins(0, 0, 0, 0);
     reihe->setSpacing(textabstand);
     for (const auto& [farbe, anzeige] : eintraege) {
+        if (reihe->count() > 0) reihe->addSpacing(mass::gruppenabstand);
         const bool umbruch = hoehe > zeilenhoehe;
         QWidget* feld = farbfeld(farbe, zeile);
         reihe->addWidget(feld, 0, umbruch ? Qt::AlignTop : Qt::AlignVCenter);
         QLabel* text = bau.anzeige(*anzeige);
         text->setWordWrap(umbruch);
         reihe->addWidget(text, umbruch ? 1 : 0, umbruch ? Qt::AlignTop : Qt::AlignVCenter);
-        if (!umbruch) reihe->addSpacing(mass::gruppenabstand);
     }
     if (hoehe == zeilenhoehe) reihe->addStretch();
     setze(zeile, ebene, x, y, breite, hoehe);
