@@ -72,6 +72,7 @@ QGroupBox* waermebruecken(E_Daemmung& e, const Ebenenbau& bau) {
     QGroupBox* rahmen = bau.rahmen("Frame5");
     QVBoxLayout& spalte = *stapel(*rahmen);
     spalte.setSpacing(1);
+    spalte.setContentsMargins(mass::ebenenabstand, 0, mass::ebenenabstand, mass::innenrand);
     const auto notiz = [&](std::string_view feld) {
         QLabel* schild = bau.einheit(feld);
         schild->setIndent(unter_dem_text);
