@@ -17,7 +17,7 @@ constexpr Beschriftungen<A_Sankey, 2> beschriftungen{{
 
 A_Sankey::A_Sankey(Sitzung& sitzung) : sitzung_(sitzung) {
     const Projekt& p = sitzung.p;
-    Ebene.zeige(false);
+    ebene.zeige(false);
     Sankey.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::SankeyHeizen(p, bild); };
     Sankey_Kühlen.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::SankeyKuehlen(p, bild); };
     anordnen();

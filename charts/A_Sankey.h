@@ -9,7 +9,7 @@ namespace velmaris {
 struct A_Sankey {
     explicit A_Sankey(Sitzung& sitzung);
 
-    Feld Ebene{"A_Sankey"};  ///< the plane itself, hidden at first
+    Feld ebene{"A_Sankey"};  ///< the plane itself, hidden at first
 
     Anzeige Label1{"Label1"}, Label2{"Label2"};  ///< headings
     Bildfeld Sankey{"Sankey"}, Sankey_Kühlen{"Sankey_Kühlen"};

@@ -3,6 +3,7 @@
 #include "documents/temperaturverlauf.h"
 #include "konsole/ausgabe_json.h"
 #include "konsole/diagramme.h"
+#include "konsole/importieren.h"
 #include "konsole/konsolenplattform.h"
 #include "konsole/zusammenfassung.h"
 #include "planes/Haupt.h"
@@ -34,7 +35,7 @@ bool versuchen(const Auftrag& auftrag, std::ostream& fehler, const std::function
         stueck();
         return true;
     } catch (const Laufzeitfehler& grund) {
-        fehler << grund.text(auftrag.sprache) << '\n';
+        fehler << in_einer_zeile(grund.text(auftrag.sprache)) << '\n';
         return false;
     }
 }
@@ -57,8 +58,15 @@ std::unique_ptr<Haupt> projekt_rechnen(const Auftrag& auftrag, Konsolenplattform
 int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) {
     Konsolenplattform plattform;
     bool gut = true;
+    if (auftrag.klimaimport) {
+        gut = versuchen(auftrag, fehler, [&] {
+            const std::string bericht =
+                importieren(*auftrag.klimaimport, auftrag.programmordner, auftrag.sprache);
+            if (!auftrag.json) aus << bericht << '\n';
+        });
+    }
     if (auftrag.neu) {
-        gut = versuchen(auftrag, fehler, [&] { sichern(*neues_haupt(auftrag, plattform), *auftrag.neu); });
+        gut &= versuchen(auftrag, fehler, [&] { sichern(*neues_haupt(auftrag, plattform), *auftrag.neu); });
     }
     Json ergebnisse = Json::array();
     for (const std::string& datei : auftrag.projekte) {

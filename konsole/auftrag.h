@@ -8,6 +8,14 @@
 
 namespace velmaris {
 
+/// The climate data to import.
+struct Importauftrag {
+    std::string quelle;  ///< path of the source
+    std::string name;    ///< of the station file, without extension
+    std::optional<std::string> land;
+    bool ersetzen = false;  ///< overwrites a station of that name
+};
+
 /// What a call of the console program asks for.
 struct Auftrag {
     std::vector<std::string> projekte;
@@ -17,6 +25,7 @@ struct Auftrag {
     std::optional<std::string> neu;
     std::optional<std::string> speichern;
     std::optional<std::string> diagramme;
+    std::optional<Importauftrag> klimaimport;  ///< done before all else
     std::filesystem::path programmordner;
 };
 

@@ -46,6 +46,7 @@ std::vector<Diagramm> diagramme(const Haupt& haupt) {
     dazu(kuehlen.ebene,
          {&kuehlen.StundenProTagMonat, &kuehlen.StundenProTagJahr, &kuehlen.KuehlbedarfMonat,
           &kuehlen.KuehlbedarfJahr, &kuehlen.KuehlGradStundenMonat, &kuehlen.KuehlGradStundenJahr});
+    dazu(haupt.a_sankey.ebene, {&haupt.a_sankey.Sankey, &haupt.a_sankey.Sankey_Kühlen});
     return alle;
 }
 

@@ -5,11 +5,14 @@
 
 namespace velmaris {
 
+std::string in_einer_zeile(std::string text) {
+    std::erase(text, '\r');
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
+}
+
 Antwort Konsolenplattform::melde(const Meldung& meldung) {
-    std::string zeile = meldung.text;
-    std::replace_if(
-        zeile.begin(), zeile.end(), [](char z) { return z == '\r' || z == '\n'; }, ' ');
-    std::cerr << zeile << '\n';
+    std::cerr << in_einer_zeile(meldung.text) << '\n';
     switch (meldung.knoepfe) {
         case Knoepfe::ja_nein:
             return Antwort::nein;

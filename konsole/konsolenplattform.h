@@ -4,6 +4,9 @@
 
 namespace velmaris {
 
+/// A message without its line breaks, as one line of the error stream.
+[[nodiscard]] std::string in_einer_zeile(std::string text);
+
 /// The platform of a program without a screen: no dialogs, no timers, messages to stderr.
 class Konsolenplattform final : public Plattform {
   public:

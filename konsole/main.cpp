@@ -8,6 +8,20 @@
 
 namespace {
 
+void import_beschreiben(CLI::App& app, velmaris::Importauftrag& auftrag) {
+    CLI::Option* quelle = app.add_option(
+        "--import", auftrag.quelle,
+        "liest Klimadaten (Meteonorm, EnergyPlus) in den Programmordner ein / imports climate data");
+    CLI::Option* name = app.add_option("--name", auftrag.name,
+                                       "Name der neuen Klimadatei ohne Endung / name of the new climate file")
+                            ->needs(quelle);
+    quelle->needs(name);
+    app.add_option("--land", auftrag.land, "Land des Standorts / country of the location")->needs(quelle);
+    app.add_flag("--ersetzen", auftrag.ersetzen,
+                 "überschreibt eine vorhandene Klimadatei / overwrites a climate file of that name")
+        ->needs(quelle);
+}
+
 void beschreiben(CLI::App& app, velmaris::Auftrag& auftrag, std::string& ordner) {
     app.add_option("PROJEKT", auftrag.projekte, "Projektdateien (.vel) / project files");
     app.add_option("--sprache", auftrag.sprache, "Sprache der Ausgabe: d oder e / language of the output")
@@ -29,7 +43,8 @@ bool nur_eines(const velmaris::Auftrag& auftrag) {
 }
 
 void pruefen(const velmaris::Auftrag& auftrag) {
-    if (auftrag.projekte.empty() && (!auftrag.neu || auftrag.json || nur_eines(auftrag))) {
+    const bool anderes = auftrag.neu || auftrag.klimaimport;
+    if (auftrag.projekte.empty() && (!anderes || auftrag.json || nur_eines(auftrag))) {
         throw CLI::ValidationError("PROJEKT", "kein Projekt angegeben / no project given");
     }
     if (auftrag.projekte.size() > 1 && nur_eines(auftrag)) {
@@ -52,10 +67,13 @@ int main(int argc, char** argv) {
     CLI::App app(
         "velmaris_rechnen - Heiz- und Kühlenergie eines Gebäudes / heating and cooling energy of a building");
     velmaris::Auftrag auftrag;
+    velmaris::Importauftrag klimaimport;
     std::string ordner;
     beschreiben(app, auftrag, ordner);
+    import_beschreiben(app, klimaimport);
     try {
         app.parse(argc, argv);
+        if (app.count("--import") > 0) auftrag.klimaimport = klimaimport;
         pruefen(auftrag);
     } catch (const CLI::ParseError& fehler) {
         return app.exit(fehler) == 0 ? velmaris::alles_gut : velmaris::falscher_aufruf;

@@ -34,6 +34,7 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       a_uebersicht(sitzung),
       a_heizen(sitzung),
       a_kuehlen(sitzung),
+      a_sankey(sitzung),
       a_zoom(sitzung),
       datei(sitzung, projektwege()),
       menue(sprache),
@@ -54,6 +55,7 @@ void Haupt::leisten_fuellen() {
     a_menue.aufnehmen("Klima", a_klima.ebene, [this] { a_klima.Ausfuellen(p); });
     a_menue.aufnehmen("Heizen", a_heizen.ebene, [this] { a_heizen.aktiviert(); });
     a_menue.aufnehmen("Kuehlen", a_kuehlen.ebene, [this] { a_kuehlen.aktiviert(); });
+    a_menue.aufnehmen("Sankey", a_sankey.ebene, [this] { a_sankey.aktiviert(); });
     for (Ebenenleiste* leiste : {&e_menue, &a_menue}) {
         for (const auto& eintrag : leiste->eintraege()) {
             eintrag.knopf->schreibe(beschriftung(leiste->leiste.name, eintrag.knopf->name, p.Sprache));
@@ -140,6 +142,8 @@ Rechenplan Haupt::rechenplan() {
     zeile("UeberGrafikZeichnen", a_uebersicht.ebene, [this] { a_uebersicht.UeberGrafikZeichnen(); });
     zeile("TemperaturDiagrammZeichnen", a_uebersicht.ebene,
           [this] { a_uebersicht.TemperaturDiagrammZeichnen(); });
+    zeile("SankeyHeizen", a_sankey.ebene, [this] { a_sankey.SankeyHeizen(); });
+    zeile("SankeyKuehlen", a_sankey.ebene, [this] { a_sankey.SankeyKuehlen(); });
     zeile("HeizFelderAusfuellen", a_heizen.ebene, [this] { a_heizen.HeizFelderAusfuellen(); });
     zeile("FassadenbalkenZeichnen", a_heizen.ebene, [this] { a_heizen.FassadenbalkenZeichnen(); });
     zeile("JahrBilanzZeichnen", a_heizen.ebene, [this] { a_heizen.JahrBilanzZeichnen(); });

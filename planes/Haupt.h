@@ -3,6 +3,7 @@
 #include "calc/alles_berechnen.h"
 #include "charts/A_Heizen.h"
 #include "charts/A_Kuehlen.h"
+#include "charts/A_Sankey.h"
 #include "charts/A_Uebersicht.h"
 #include "charts/A_Zoom.h"
 #include "climate/A_Klima.h"
@@ -43,6 +44,7 @@ struct Haupt {
     A_Klima a_klima;
     A_Heizen a_heizen;
     A_Kuehlen a_kuehlen;
+    A_Sankey a_sankey;
     A_Zoom a_zoom;
     FILEIO datei;
     Ebenenleiste e_menue{"E_Menue"};

@@ -54,7 +54,7 @@ void FILEIO::projekt_vorbereiten() {
 }
 
 /// A fault of the station is told as one of the project file that names it.
-void FILEIO::wetter_der_datei_laden() {
+void FILEIO::wetter_der_datei_laden() const {
     try {
         wege_.wetter_laden();
     } catch (const Dateifehler& fehler) {

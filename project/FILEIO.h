@@ -66,7 +66,7 @@ class FILEIO {
     Frage aenderung_klaeren(Sicherung (FILEIO::*weg)());
     Sicherung sichern();
     Sicherung sichern_unter();
-    void wetter_der_datei_laden();
+    void wetter_der_datei_laden() const;
     void kanal_schliessen();
     void kanal_oeffnen();
     void titel_der_datei();

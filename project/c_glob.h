@@ -183,8 +183,6 @@ struct Projekt {
     Texte texte;                        ///< shared texts in the language of the run
 };
 
-static_assert(sizeof(Projekt) < 2'000'000, "the record is to fit the caches of its time");
-
 /// The name that stands for a project without a file.
 inline constexpr const char* unbenannt = "default.vel";
 

@@ -15,7 +15,7 @@ set(documents_darf charts calc climate energy language project toolkit)
 set(planes_darf documents charts calc climate energy language project toolkit)
 set(konsole_darf planes documents charts calc climate energy language project toolkit)
 set(desktop_darf planes documents charts calc climate energy language project toolkit)
-set(werkzeuge_darf planes climate project toolkit)
+set(werkzeuge_darf planes climate energy project toolkit)
 # Planes outside planes/ and what only they use may also see the calculation.
 set(ebenen_darf calc charts climate energy language project toolkit)
 

@@ -92,8 +92,8 @@ class Scrollfeld : public Feld {
 class Auswahlliste : public Feld {
   public:
     /// `groesse` names the quantity behind the list, for fault messages, where it is not the list's name.
-    explicit Auswahlliste(std::string feldname, std::string groesse = {})
-        : Feld(std::move(feldname)), groesse_(groesse.empty() ? name : std::move(groesse)) {}
+    explicit Auswahlliste(std::string feldname, const std::string& groesse = {})
+        : Feld(std::move(feldname)), groesse_(groesse.empty() ? name : groesse) {}
 
     [[nodiscard]] const std::vector<std::string>& eintraege() const { return eintraege_; }
     [[nodiscard]] int index() const { return index_; }

@@ -44,6 +44,26 @@ constexpr Breitentabelle fett{
     611, 611, 611, 611, 611, 611,  549,  611,  611, 611, 611,  611, 556, 611,  556,
 };
 
+constexpr Breitentabelle antiqua{
+    250, 333, 408, 500, 500, 833,  778,  180, 333, 333, 500,  564, 250, 333, 250, 278, 500, 500, 500,
+    500, 500, 500, 500, 500, 500,  500,  278, 278, 564, 564,  564, 444, 921, 722, 667, 667, 722, 611,
+    556, 722, 722, 333, 389, 722,  611,  889, 722, 722, 556,  722, 667, 556, 611, 722, 722, 944, 722,
+    722, 611, 333, 278, 333, 469,  500,  333, 444, 500, 444,  500, 444, 333, 500, 500, 278, 278, 500,
+    278, 778, 500, 500, 500, 500,  333,  389, 278, 500, 500,  722, 500, 500, 444, 480, 200, 480, 541,
+    0,   500, 0,   333, 500, 444,  1000, 500, 500, 333, 1000, 556, 333, 889, 0,   611, 0,   0,   333,
+    333, 444, 444, 350, 500, 1000, 333,  980, 389, 333, 722,  0,   444, 722, 250, 333, 500, 500, 500,
+    500, 200, 500, 333, 760, 276,  500,  564, 333, 760, 500,  400, 549, 300, 300, 333, 576, 453, 250,
+    333, 300, 310, 500, 750, 750,  750,  444, 722, 722, 722,  722, 722, 722, 889, 667, 611, 611, 611,
+    611, 333, 333, 333, 333, 722,  722,  722, 722, 722, 722,  722, 564, 722, 722, 722, 722, 722, 722,
+    556, 500, 444, 444, 444, 444,  444,  444, 667, 444, 444,  444, 444, 444, 278, 278, 278, 278, 500,
+    500, 500, 500, 500, 500, 500,  549,  500, 500, 500, 500,  500, 500, 500, 500,
+};
+
+const Breitentabelle& breiten(const Schrift& schrift) {
+    if (schrift.name == "Times New Roman") return antiqua;
+    return schrift.fett ? fett : mager;
+}
+
 /// Share of the em above the baseline, and height of a line in ems.
 constexpr double anteil_oberlaenge = 0.905;
 constexpr double anteil_zeile = 1.149;
@@ -55,7 +75,7 @@ double schriftpixel(const Schrift& schrift) {
 }
 
 double schriftbreite(std::string_view utf8, const Schrift& schrift) {
-    const Breitentabelle& tabelle = schrift.fett ? fett : mager;
+    const Breitentabelle& tabelle = breiten(schrift);
     double tausendstel = 0;
     for (const char zeichen : nach_windows1252(utf8)) {
         const auto byte = static_cast<unsigned char>(zeichen);

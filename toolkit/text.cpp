@@ -100,6 +100,18 @@ std::string aus_windows1252(std::string_view bytes) {
     return text;
 }
 
+bool in_windows1252(std::string_view utf8) {
+    return aus_windows1252(nach_windows1252(utf8)) == utf8;
+}
+
+bool ist_utf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const std::size_t vorher = bytes.size();
+        if (naechstes_zeichen(bytes) == ersatzzeichen && vorher - bytes.size() == 1) return false;
+    }
+    return true;
+}
+
 std::size_t zeichenzahl(std::string_view utf8) {
     return utf8.size() - static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), ist_folgebyte));
 }

@@ -14,6 +14,12 @@ namespace velmaris {
 /// of the same number.
 [[nodiscard]] std::string aus_windows1252(std::string_view bytes);
 
+/// True if windows-1252 has all characters of the text.
+[[nodiscard]] bool in_windows1252(std::string_view utf8);
+
+/// True if the bytes are whole UTF-8 characters throughout.
+[[nodiscard]] bool ist_utf8(std::string_view bytes);
+
 /// Number of characters (code points) of a UTF-8 text.
 [[nodiscard]] std::size_t zeichenzahl(std::string_view utf8);
 

@@ -48,7 +48,7 @@ struct Ziffernfolge {
 
 Ziffernfolge ziffernfolge(double betrag) {
     std::array<char, 32> puffer{};
-    const auto ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), betrag,
+    auto* const ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), betrag,
                                     std::chars_format::scientific, hoechstens_stellen - 1)
                           .ptr;
     const std::string_view text(puffer.data(), static_cast<std::size_t>(ende - puffer.data()));
@@ -116,7 +116,7 @@ std::string muster(double wert, int stellen) {
     if (!std::isfinite(wert)) return std::isnan(wert) ? "NaN" : (wert < 0 ? "-INF" : "INF");
     if (ist_mitte(wert, stellen)) wert = weg_von_null(wert);
     std::array<char, 400> puffer{};
-    const auto ende =
+    auto* const ende =
         std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert, std::chars_format::fixed, stellen)
             .ptr;
     std::string text(puffer.data(), ende);

@@ -179,7 +179,7 @@ TEST(A_Sankey, FlaechenUndUeberschriften) {
         test::Testplattform plattform;
         Sitzung sitzung{*p, plattform, [] {}};
         const A_Sankey ebene(sitzung);
-        EXPECT_FALSE(ebene.Ebene.sichtbar());
+        EXPECT_FALSE(ebene.ebene.sichtbar());
         EXPECT_EQ(ebene.Label1.text(), englisch ? "Energy flow (Sankey) diagram for heating"
                                                 : "Energiefluß- (Sankey-) Diagramm Heizen");
         EXPECT_EQ(ebene.Label2.text(), englisch ? "Energy flow (Sankey) diagram for cooling"

@@ -51,6 +51,33 @@ TEST(Temperaturverlauf, EnglischerKopf) {
     EXPECT_EQ(alle[16], "       day     Month      hour     T out    T free      T HC");
 }
 
+TEST(Temperaturverlauf, DerSchirmZeigtEinenMonat) {
+    const auto p = projekt("e");
+    p->Monat(2).Name = "February";
+    p->Wetter(2, 1, 1).Ta = -3.04F;
+    const auto alle = zeilen(temperaturverlauf_schreiben(*p, 2));
+    ASSERT_EQ(alle.size(), 23U + 28U * 24U);
+    EXPECT_EQ(alle[0], "      ");
+    EXPECT_EQ(alle[4], "                      Temperature courses");
+    EXPECT_EQ(alle[6], "Month:      February");
+    EXPECT_EQ(alle[7], "");
+    EXPECT_EQ(alle[8], "Legend:");
+    EXPECT_EQ(alle[19], "       day     month      hour     T out    T fret      T HC");
+    EXPECT_EQ(alle[20], "                                   in °C     in °C     in °C");
+    EXPECT_EQ(alle[23], "         1         2         1      -3.0       0.0       0.0");
+    EXPECT_EQ(alle.back().substr(0, 30), "        28         2        24");
+}
+
+TEST(Temperaturverlauf, DerSchirmZeigtAlleMonateOhneMonatszeile) {
+    const auto alle = zeilen(temperaturverlauf_schreiben(*projekt("d"), 0));
+    ASSERT_EQ(alle.size(), 21U + 8760U);
+    EXPECT_EQ(alle[0], "");
+    EXPECT_EQ(alle[4], "                      Temperaturverläufe");
+    EXPECT_EQ(alle[6], "Legende:");
+    EXPECT_EQ(alle[17], "       Tag     Monat    Stunde   T außen    T frei      T HK");
+    EXPECT_EQ(alle[21], "         1         1         1     -10.5      20.0      20.0");
+}
+
 TEST(Temperaturverlauf, DieDateiIstWindows1252) {
     const test::Testordner ordner;
     temperaturverlauf_exportieren(*projekt("d"), ordner / "jahr.txt");

@@ -33,6 +33,8 @@ std::vector<std::string> nummerierte_zeilen() {
     return zeilen;
 }
 
+TEST(Projekt, DerDatensatzBleibtUnterZweiMegabyte) { EXPECT_LT(sizeof(Projekt), 2'000'000U); }
+
 TEST(Projektdatei, JedeZeileKommtInIhrFeld) {
     auto p = std::make_unique<Projekt>();
     Haken haken;

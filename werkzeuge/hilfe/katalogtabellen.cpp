@@ -46,9 +46,9 @@ constexpr int zeilen_der_tabelle = (letzte_wertzeile - erste_wertzeile + paare_j
 std::string fenstertypentabelle(std::string_view sprache) {
     Tabelle tabelle(kopf({{"Nr.", "No."},
                           {"Fenstertyp", "Window type"},
-                          {"U-Wert Glas in W/(m² K)", "U-value glazing in W/(m² K)"},
+                          {"U-Wert Glas<br>in W/(m² K)", "U-value glazing<br>in W/(m² K)"},
                           {"g-Wert", "g-value"},
-                          {"U-Wert Rahmen in W/(m² K)", "U-value frame in W/(m² K)"}},
+                          {"U-Wert Rahmen<br>in W/(m² K)", "U-value frame<br>in W/(m² K)"}},
                          sprache));
     int nummer = 0;
     for (const Fenstertyp& typ : fenstertypen()) {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "toolkit/fehler.h"
+#include "toolkit/plattform.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmaris {
+
+/// The name that is proposed for a station file: that of the source without drive, folders and extension.
+[[nodiscard]] std::string vorgabename(std::string_view quellpfad);
+
+/// Why a name (UTF-8, without extension) cannot be that of a station file on all systems and in a project,
+/// nothing if it can.
+[[nodiscard]] std::optional<Zweisprachig> namensfehler(std::string_view name);
+
+/// The station file of that name in the program's folder.
+[[nodiscard]] std::filesystem::path stationspfad(const std::filesystem::path& programmordner,
+                                                 std::string_view name);
+
+/// Asks for the name of a station file until it is a good one, and before an old file is overwritten.
+/// `station` is the name of the place, `vorgabe` the name proposed. Nothing if the user gives up.
+[[nodiscard]] std::optional<std::filesystem::path> ziel_erfragen(Plattform& plattform,
+                                                                 const std::string& sprache,
+                                                                 const std::filesystem::path& programmordner,
+                                                                 const std::string& station,
+                                                                 std::string vorgabe);
+
+}  // namespace velmaris

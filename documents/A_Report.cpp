@@ -1,0 +1,144 @@
+#include "documents/A_Report.h"
+
+#include "documents/report.h"
+#include "documents/temperaturverlauf.h"
+#include "language/beschriftungen.h"
+#include "toolkit/fehler.h"
+#include "toolkit/text.h"
+#include "toolkit/textdatei.h"
+
+#include <optional>
+
+namespace velmaris {
+namespace {
+
+constexpr double rand_ = 8;
+constexpr double knopfhoehe = 25;
+constexpr double seitenbreite = 28;
+constexpr double seitenabstand = 30;
+constexpr double befehlsbreite = 136;
+constexpr double markenabstand = 2;
+
+/// What a save dialog offers, and the ending of a name that has none.
+struct Dateiart {
+    const char* filter;
+    const char* endung;
+};
+
+constexpr Dateiart report_datei{"Rich Text Format (*.rtf)|*.rtf", ".rtf"};
+constexpr Dateiart text_datei{"Textdatei (*.txt)|*.txt", ".txt"};
+
+std::optional<std::filesystem::path> zieldatei(Sitzung& sitzung, const Dateiart& art) {
+    auto datei = sitzung.plattform.dateidialog({.art = Dateidialog::Art::speichern,
+                                                .filter = art.filter,
+                                                .filterindex = 1,
+                                                .ordner = sitzung.p.InitDir,
+                                                .dateiname = {},
+                                                .ueberschreiben_fragen = true});
+    if (datei && !datei->has_extension()) datei->replace_extension(art.endung);
+    return datei;
+}
+
+/// The buttons of the pages, by name and number.
+std::array<Knopf, A_Report::knoepfe> seitenknoepfe() {
+    const auto knopf = [](const char* nummer) { return Knopf(std::string("Seite") + nummer, nummer); };
+    return {knopf("1"), knopf("2"), knopf("3"), knopf("4"),  knopf("5"),  knopf("6"),
+            knopf("7"), knopf("8"), knopf("9"), knopf("10"), knopf("11"), knopf("12")};
+}
+
+}  // namespace
+
+A_Report::A_Report(Sitzung& sitzung, std::function<Reportquelle()> quelle)
+    : sitzung_(sitzung), quelle_(std::move(quelle)), seiten_(seitenknoepfe()) {
+    fenster.zeige(false);
+    Temperaturverlauf1.zeige(false);
+    for (int i = 1; i <= knoepfe; ++i)
+        Seite(i).gedrueckt = [this, i] { Seite_Click(i); };
+    Command_Speichern.gedrueckt = [this] { speichern(); };
+    Command_Schliessen.gedrueckt = [this] { fenster.zeige(false); };
+    beschriften("A_Report", sitzung.p.Sprache, {&Command_Speichern, &Command_Schliessen});
+}
+
+void A_Report::report_zeigen() {
+    oeffnen(true);
+}
+
+void A_Report::temperaturverlauf_zeigen() {
+    oeffnen(false);
+}
+
+void A_Report::oeffnen(bool report) {
+    Report1.zeige(report);
+    Temperaturverlauf1.zeige(!report);
+    for (int i = reportseiten + 1; i <= knoepfe; ++i)
+        Seite(i).zeige(!report);
+    Seite_Click(1);
+    fenster.zeige(true);
+}
+
+void A_Report::Seite_Click(int i) {
+    markieren(i);
+    if (Temperaturverlauf1.sichtbar()) {
+        temperatur_text = temperaturverlauf_schreiben(sitzung_.p, i);
+        Temperaturverlauf1.schreibe(temperatur_text);
+    } else {
+        report_text = report_in_sprache(quelle_(), i);
+        Report1.schreibe(report_text);
+    }
+}
+
+void A_Report::markieren(int i) {
+    seite_ = i;
+    AktSeite.schreibe(Seite(i).text());
+    if (const auto& lage = Seite(i).lage()) AktSeite.setze({lage->links + markenabstand, lage->oben});
+}
+
+void A_Report::speichern() {
+    const bool temperaturen = Temperaturverlauf1.sichtbar();
+    const auto datei = zieldatei(sitzung_, temperaturen ? text_datei : report_datei);
+    if (!datei) return;
+    try {
+        if (temperaturen) {
+            temperaturverlauf_exportieren(sitzung_.p, *datei);
+        } else {
+            report_speichern(*datei);
+        }
+    } catch (const Dateifehler&) {
+        return;
+    }
+}
+
+void A_Report::report_speichern(const std::filesystem::path& datei) {
+    std::string text = report_in_sprache(quelle_(), 0);
+    datei_ersetzen(datei, nach_windows1252(text) + "\r\n");
+    report_text = std::move(text);
+    Report1.schreibe(report_text);
+}
+
+double A_Report::mindestbreite() {
+    return rand_ + knoepfe * seitenabstand + 2 * (rand_ + befehlsbreite) + rand_;
+}
+
+void A_Report::anordnen(double breite, double hoehe) {
+    const double oben = hoehe - knopfhoehe - rand_;
+    const Rechteck texte{
+        .links = rand_, .oben = rand_, .breite = breite - 2 * rand_, .hoehe = oben - 2 * rand_};
+    Report1.lege(texte);
+    Temperaturverlauf1.lege(texte);
+    for (int i = 1; i <= knoepfe; ++i)
+        Seite(i).lege({.links = rand_ + (i - 1) * seitenabstand,
+                       .oben = oben,
+                       .breite = seitenbreite,
+                       .hoehe = knopfhoehe});
+    Command_Schliessen.lege({.links = breite - rand_ - befehlsbreite,
+                             .oben = oben,
+                             .breite = befehlsbreite,
+                             .hoehe = knopfhoehe});
+    Command_Speichern.lege({.links = breite - 2 * (rand_ + befehlsbreite),
+                            .oben = oben,
+                            .breite = befehlsbreite,
+                            .hoehe = knopfhoehe});
+    markieren(seite_);
+}
+
+}  // namespace velmaris

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "documents/reportquelle.h"
+
+#include <string>
+
+namespace velmaris {
+
+inline constexpr int reportseiten = 7;
+
+/// The report as Rich Text source (UTF-8, without line ends): page 1..7, or all pages for 0. In German, and
+/// in English; names of months, lists and labels are in the language of the run in both.
+[[nodiscard]] std::string report_schreiben(const Reportquelle& quelle, int seite);
+[[nodiscard]] std::string report_schreiben_englisch(const Reportquelle& quelle, int seite);
+
+/// The report in the language of the record.
+[[nodiscard]] std::string report_in_sprache(const Reportquelle& quelle, int seite);
+
+}  // namespace velmaris

@@ -1,0 +1,113 @@
+#include "konsole/importieren.h"
+
+#include "tests/climate/importprobe.h"
+#include "toolkit/text.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace velmaris {
+namespace {
+
+using test::Quellbau;
+using testing::HasSubstr;
+
+class Konsolenimport : public testing::Test {
+  protected:
+    Konsolenimport() {
+        std::filesystem::create_directories(ordner / "klima");
+        auftrag.programmordner = ordner.pfad();
+        auftrag.sprache = "e";
+    }
+
+    /// The exit status of an import of that source; `aus` and `fehler` hold its output.
+    int importiere(const std::string& bytes, const std::string& name, std::optional<std::string> land = {},
+                   bool ersetzen = false) {
+        aus.str({});
+        fehler.str({});
+        const auto quelle = pfadtext(ordner.schreibe("quelle.txt", bytes));
+        auftrag.klimaimport = Importauftrag{quelle, name, std::move(land), ersetzen};
+        return ausfuehren(auftrag, aus, fehler);
+    }
+
+    [[nodiscard]] std::string station(const std::string& name) const {
+        const auto datei = ordner / ("klima/" + name + ".met");
+        return std::filesystem::exists(datei) ? test::inhalt(datei) : std::string();
+    }
+
+    test::Testordner ordner;
+    Auftrag auftrag;
+    std::ostringstream aus;
+    std::ostringstream fehler;
+};
+
+TEST_F(Konsolenimport, SchreibtDieselbeDateiWieDasFenster) {
+    test::Importprobe fenster;
+    struct Fall {
+        std::string quelle;
+        std::optional<std::string> land;
+    };
+    for (const Fall& fall : {Fall{Quellbau{.zeilen = 8784}.epw(true), std::nullopt},
+                             Fall{Quellbau{}.meteonorm(), "Schweiz"}, Fall{Quellbau{}.epw(), "Suisse"}}) {
+        ASSERT_EQ(importiere(fall.quelle, "bern", fall.land, true), alles_gut) << fehler.str();
+        fenster.e->oeffnen();
+        fenster.oeffne("quelle.txt", fall.quelle);
+        if (fall.land) fenster.e->Land.tippe(*fall.land);
+        fenster.plattform.antworten = {Antwort::ja};
+        fenster.importiere("bern");
+        EXPECT_EQ(test::zeilen(station("bern")).size(), 8766U);
+        EXPECT_EQ(station("bern"), fenster.station("bern"));
+        EXPECT_THAT(aus.str(), HasSubstr("bern.met: Bern ("));
+        EXPECT_THAT(aus.str(), HasSubstr(" file was recognised as a"));
+        EXPECT_EQ(aus.str().find('\n'), aus.str().size() - 1);
+    }
+}
+
+TEST_F(Konsolenimport, EinFehlerIstEineZeileUndKeineDatei) {
+    Quellbau kurz;
+    kurz.zeilen = 8759;
+    Quellbau falsch;
+    falsch.ersetzt[3] = "x";
+    std::string ohne_ort = Quellbau{}.epw();
+    ohne_ort.erase(ohne_ort.find("Bern"), 4);
+    std::string polar = Quellbau{}.epw();
+    polar.replace(polar.find("46.92"), 5, "96.92");
+    struct Fall {
+        std::string quelle, name, grund;
+    };
+    for (const Fall& fall :
+         {Fall{"1\t2\t3\n", "neu", "quelle.txt: neither a Meteonorm nor an EnergyPlus file"},
+          Fall{Quellbau{}.meteonorm(), "neu",
+               "quelle.txt: the file does not name its country; give it by --land"},
+          Fall{ohne_ort, "neu", "the file does not name its location"},
+          Fall{kurz.epw(), "neu",
+               "quelle.txt: Error! - Not enough data. 8760 hourly data is needed! 8759 rows"},
+          Fall{falsch.epw(), "neu", "quelle.txt: Error in line 11 Import has been aborted! Column 7: "},
+          Fall{polar, "neu", "Latitude: \"96.92\" is not between 0 and 90."},
+          Fall{Quellbau{}.epw(), "../neu", "../neu: The filename must not contain"},
+          Fall{Quellbau{}.epw(), "nul", "nul: The filename is reserved"},
+          Fall{Quellbau{}.epw(), "", ": The filename is empty."}}) {
+        EXPECT_EQ(importiere(fall.quelle, fall.name), projekt_fehlerhaft) << fall.grund;
+        EXPECT_THAT(fehler.str(), HasSubstr(fall.grund));
+        EXPECT_EQ(fehler.str().find('\n'), fehler.str().size() - 1) << fehler.str();
+        EXPECT_EQ(aus.str(), "");
+        EXPECT_TRUE(std::filesystem::is_empty(ordner / "klima")) << fall.grund;
+        EXPECT_FALSE(std::filesystem::exists(ordner / "neu.met"));
+    }
+}
+
+TEST_F(Konsolenimport, ErsetztNurAufVerlangen) {
+    ordner.schreibe("klima/bern.met", "alt");
+    EXPECT_EQ(importiere(Quellbau{}.epw(), "bern"), projekt_fehlerhaft);
+    EXPECT_THAT(fehler.str(), HasSubstr("bern.met: the file exists already; --ersetzen overwrites it"));
+    EXPECT_EQ(station("bern"), "alt");
+    EXPECT_EQ(importiere(Quellbau{}.epw(), "bern", {}, true), alles_gut);
+    EXPECT_NE(station("bern"), "alt");
+    std::filesystem::remove_all(ordner / "klima");
+    EXPECT_EQ(importiere(Quellbau{}.epw(), "bern"), projekt_fehlerhaft);
+    EXPECT_THAT(fehler.str(), HasSubstr("bern.met: file cannot be written"));
+}
+
+}  // namespace
+}  // namespace velmaris
