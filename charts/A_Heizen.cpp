@@ -107,14 +107,14 @@ void A_Heizen::bilder_verbinden() {
 void A_Heizen::anordnen() {
     constexpr double links = 8;
     constexpr double jahr = links + monatsflaeche_breite + 4;
-    Heizbilanz.lege({links, 20, monatsflaeche_breite, chart_hoehe});
-    JahrBilanz.lege({jahr, 20, jahresflaeche_breite, chart_hoehe});
-    NutzungsgradMonat.lege({links, 184, monatsflaeche_breite, chart_hoehe});
-    NutzungsgradJahr.lege({jahr, 184, jahresflaeche_breite, chart_hoehe});
-    constexpr double paarabstand = 10;
+    Heizbilanz.lege({links, 36, monatsflaeche_breite, chart_hoehe});
+    JahrBilanz.lege({jahr, 36, jahresflaeche_breite, chart_hoehe});
+    NutzungsgradMonat.lege({links, 214, monatsflaeche_breite, chart_hoehe});
+    NutzungsgradJahr.lege({jahr, 214, jahresflaeche_breite, chart_hoehe});
+    constexpr double paarabstand = 4;
     double x = 312;
     for (const Fassadenbild& f : fassadenbilder) {
-        (this->*f.bild).lege({x, 412, fassadenflaeche_breite, fassadenflaeche_hoehe});
+        (this->*f.bild).lege({x, 424, fassadenflaeche_breite, fassadenflaeche_hoehe});
         x += fassadenflaeche_breite;
         if (f.balken.farbe == balkenfarben::transmission) x += paarabstand;
     }

@@ -14,6 +14,27 @@ std::vector<std::string> bauarten(const std::string& sprache) {
     return {"Schwere Bauweise", "Mittelschwere Bauweise", "Leichte Bauweise"};
 }
 
+/// The stacked weight on a base line near the lower edge; what is too high for the surface goes beyond it.
+void gewicht_zeichnen(const Projekt& p, Zeichenflaeche& flaeche) {
+    constexpr double twips = 15;
+    constexpr double grundlinie = 1500;
+    constexpr double halbe_breite_unten = 30, halbe_breite_oben = 14;
+    constexpr Farbe eisen{112, 118, 126};
+    const double boden = flaeche.hoehe() - 3;
+    const double mitte = flaeche.breite() / 2;
+    const auto stueck = [&](const Gewicht& gewicht, double halbe_breite) {
+        const double oben = boden - (grundlinie - gewicht.oben) / twips;
+        const double unten = oben + gewicht.hoehe / twips;
+        flaeche.flaeche(mitte - halbe_breite, oben, mitte + halbe_breite, unten, eisen);
+        flaeche.kasten(mitte - halbe_breite, oben, mitte + halbe_breite, unten, farben::schwarz);
+    };
+    flaeche.Cls();
+    const Gewichte g = gewichte(p);
+    stueck(g.Gewicht2, halbe_breite_oben);
+    stueck(g.Gewicht1, halbe_breite_unten);
+    flaeche.linie(0, boden, flaeche.breite(), boden, farben::schwarz);
+}
+
 }  // namespace
 
 E_Gebaeude::E_Gebaeude(Sitzung& sitzung) : s_(sitzung) {
@@ -33,6 +54,7 @@ E_Gebaeude::E_Gebaeude(Sitzung& sitzung) : s_(sitzung) {
     Innenwandart.fuelle(bauarten(s_.p.Sprache));
     Aussenwandart.gewaehlt = [this] { bauart_gewaehlt(&Projekt::Aussenwandart, Aussenwandart); };
     Innenwandart.gewaehlt = [this] { bauart_gewaehlt(&Projekt::Innenwandart, Innenwandart); };
+    Traegheit.zeichnen = [this](Zeichenflaeche& flaeche) { gewicht_zeichnen(s_.p, flaeche); };
     ebene.zeige(false);
 }
 

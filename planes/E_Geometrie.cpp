@@ -25,20 +25,24 @@ struct Dachbeschriftung {
 const Dachbeschriftung& dachbeschriftung(int first) {
     static const std::array<Dachbeschriftung, 2> zeilen{{
         {{"Dachfläche (West):", "roof area (west):"},
-         {48, 26},
+         {.links = 26, .oben = 48},
          {"Giebel", "gable:"},
-         {72, 88},
+         {.links = 88, .oben = 72},
          {24, 76},
          {72, 88}},
         {{"Giebel:", "gable:"},
-         {56, 4},
+         {.links = 4, .oben = 56},
          {"Dachfläche (Süd):", "roof area (south):"},
-         {68, 48},
+         {.links = 48, .oben = 68},
          {80, 84},
          {-10, 70}},
     }};
     return zeilen[first == 1 ? 0 : 1];
 }
+
+/// Places of the height's scroll field on the plane: below that of the roof height, and without it.
+constexpr Rechteck hoehe_unter_dach{.links = 78, .oben = 128, .breite = 17, .hoehe = 80};
+constexpr Rechteck hoehe_allein{.links = 78, .oben = 111, .breite = 17, .hoehe = 97};
 
 constexpr int dachhoehe_null = 0;
 constexpr int dachhoehe_ein_meter = -10;
@@ -98,6 +102,7 @@ void E_Geometrie::dach_zeigen() {
     dachbild_zeigen();
     if (dachgeschoss_gezeigt) dachgeschoss_gezeigt(beheizt);
     hd_sb.zeige(beheizt);
+    h_sb.lege(beheizt ? hoehe_unter_dach : hoehe_allein);
     for (Anzeige* anzeige : {&Label9, &Label6, &Label4, &hd_anz, &dachfläche_anz, &Giebel_anz}) {
         anzeige->zeige(beheizt);
     }

@@ -84,7 +84,7 @@ TEST_F(EGeometrie, FirstOhneDachgeschossAendertNurSichSelbst) {
     EXPECT_EQ(e().Picture3.bild().filename(), "haus2.bmp");
     e().Option_Dachfirst.setze(1);
     EXPECT_EQ(e().Label9.text(), "Dachfläche (West):");
-    EXPECT_EQ(e().Label9.platz(), (Platz{48, 26}));
+    EXPECT_EQ(e().Label9.platz(), (Platz{.links = 26, .oben = 48}));
     e().Option_Dachfirst.setze(2);
     EXPECT_EQ(e().Giebel_anz.platz(), (Platz{-10, 70}));
     EXPECT_GT(p().f_dach_n, 0);

@@ -1,0 +1,36 @@
+#include "desktop/ebenenknopf.h"
+
+#include "desktop/stil.h"
+
+#include <QPainter>
+
+namespace velmaris {
+
+Ebenenknopf::Ebenenknopf(QWidget* leiste) : QPushButton(leiste) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+    QFont schrift = font();
+    schrift.setPixelSize(mass::ebenenschrift);
+    setFont(schrift);
+}
+
+void Ebenenknopf::paintEvent(QPaintEvent*) {
+    constexpr qreal rundung = 3;
+    const bool gewaehlt = !isEnabled();
+    const QColor betonung(stilfarben::betonung);
+    QColor grund(stilfarben::tafel);
+    if (gewaehlt)
+        grund = betonung;
+    else if (isDown() || underMouse())
+        grund = QColor(stilfarben::griff);
+    QPainter maler(this);
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(hasFocus() ? betonung : QColor(stilfarben::tafelrand));
+    maler.setBrush(grund);
+    maler.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), rundung, rundung);
+    maler.setPen(gewaehlt ? QColor(Qt::white) : palette().color(QPalette::Active, QPalette::ButtonText));
+    maler.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+}
+
+}  // namespace velmaris

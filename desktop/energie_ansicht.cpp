@@ -1,0 +1,193 @@
+#include "desktop/ansichten.h"
+#include "desktop/auswahleintrag.h"
+#include "desktop/bildflaeche.h"
+#include "desktop/ebene.h"
+#include "desktop/qt_text.h"
+#include "desktop/stil.h"
+#include "desktop/tippfenster.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QWidget>
+#include <array>
+
+namespace velmaris {
+namespace {
+
+constexpr int twips = 15;
+
+/// The three choices: caption, field, button that opens the list.
+struct Wahl {
+    Anzeige& wort;
+    Anzeige& feld;
+    Knopf& knopf;
+};
+
+std::array<Wahl, 3> wahlen(E_Energie& e) {
+    return {Wahl{e.Label1, e.Label_System, e.Command1}, Wahl{e.Label3, e.Label_Übergabe, e.Command2},
+            Wahl{e.Label2, e.Label_Energieträger, e.Command3}};
+}
+
+QWidget* versorgung(E_Energie& e, const Ebenenbau& bau, QWidget* ebene) {
+    auto* block = new QWidget(ebene);
+    auto* tabelle = new QGridLayout(block);
+    tabelle->setContentsMargins(0, 0, 0, 0);
+    tabelle->setSpacing(2);
+    tabelle->setColumnStretch(0, 1);
+    int reihe = 0;
+    for (const Wahl& wahl : wahlen(e)) {
+        tabelle->addWidget(bau.anzeige(wahl.wort), reihe++, 0, 1, 2);
+        QLabel* feld = bau.anzeige(wahl.feld);
+        feld->setFrameShape(QFrame::StyledPanel);
+        feld->setBackgroundRole(QPalette::Base);
+        feld->setAutoFillBackground(true);
+        feld->setMargin(2);
+        feld->setWordWrap(true);
+        tabelle->addWidget(feld, reihe, 0);
+        QPushButton* knopf = bau.knopf(wahl.knopf);
+        knopf->setText(QStringLiteral("▾"));
+        knopf->setAccessibleName(schildtext(wahl.wort.text()));
+        knopf->setFixedSize(mass::knopf, mass::knopf);
+        tabelle->addWidget(knopf, reihe++, 1, Qt::AlignTop);
+    }
+    return block;
+}
+
+QGroupBox* endenergie(E_Energie& e, const Ebenenbau& bau) {
+    struct Reihe {
+        Anzeige& wort;
+        Anzeige& wert;
+        Anzeige* einheit;
+    };
+    QGroupBox* rahmen = bau.rahmen(e.Frame1);
+    auto* tabelle = new QGridLayout(rahmen);
+    tabelle->setContentsMargins(mass::rand, 0, mass::rand, mass::innenrand);
+    tabelle->setHorizontalSpacing(mass::abstand);
+    tabelle->setVerticalSpacing(mass::zeilenabstand);
+    tabelle->setColumnStretch(0, 1);
+    int nummer = 0;
+    for (const Reihe& reihe : {Reihe{e.Label11, e.anz_qhs_sum, &e.Einheit_qhs_sum},
+                               {e.Label30, e.anz_q_verlust, &e.Einheit_q_verlust},
+                               {e.Label16, e.anz_e_g, nullptr},
+                               {e.Label8, e.anz_q_HE_Energieträger, &e.Einheit_q_HE_Energieträger},
+                               {e.Label33, e.anz_q_HE_Strom, &e.Einheit_q_HE_Strom},
+                               {e.Label21, e.anz_q_PE_Energieträger, &e.Einheit_q_PE_Energieträger},
+                               {e.Label14, e.anz_q_PE_Strom, &e.Label6}}) {
+        tabelle->addWidget(bau.anzeige(reihe.wort), nummer, 0);
+        tabelle->addWidget(bau.zahl(reihe.wert), nummer, 1);
+        if (reihe.einheit != nullptr) tabelle->addWidget(bau.anzeige(*reihe.einheit), nummer, 2);
+        ++nummer;
+    }
+    return rahmen;
+}
+
+QGroupBox* faktoren(E_Energie& e, const Ebenenbau& bau) {
+    QGroupBox* rahmen = bau.rahmen(e.Frame8);
+    auto* tabelle = new QGridLayout(rahmen);
+    tabelle->setContentsMargins(mass::rand, 0, mass::rand, mass::innenrand);
+    tabelle->setVerticalSpacing(mass::zeilenabstand);
+    tabelle->setColumnStretch(0, 1);
+    tabelle->addWidget(bau.anzeige(e.Label27), 0, 0);
+    tabelle->addWidget(bau.zahl(e.anz_Primärenergiefaktor_Energieträger), 0, 1);
+    tabelle->addWidget(bau.anzeige(e.Label34), 1, 0);
+    tabelle->addWidget(bau.zahl(e.anz_Primärenergiefaktor_Strom), 1, 1);
+    return rahmen;
+}
+
+/// The list that drops down from a field, on top of everything else on the plane.
+void auswahlliste(E_Energie& e, const Ansichtsmittel& mittel, QWidget* ebene) {
+    constexpr int innen = 6;
+    auto* rahmen = new QFrame(ebene);
+    rahmen->setFrameShape(QFrame::Box);
+    rahmen->setBackgroundRole(QPalette::Base);
+    rahmen->setAutoFillBackground(true);
+    auto* halter = new QWidget(rahmen);
+    for (int i = 1; i <= Auswahlrahmen::eintraege; ++i) {
+        auto* eintrag = new Auswahleintrag(halter);
+        mittel.binder.binde(*eintrag, e.Auswahl.Label_Auswahl(i), 1.0 / twips);
+        eintrag->gewaehlt = [&e, i, &wache = mittel.wache] {
+            wache.fuehre_aus([&] { e.Label_Auswahl_Click(i); });
+        };
+    }
+    const auto breite = [&e, ebene] {
+        return ebene->findChild<QLabel*>(qtext(e.Label_System.name))->width() - 2 * innen;
+    };
+    e.Auswahl.eintragshoehe = [halter, breite](const Anzeige& eintrag) {
+        auto* schild = halter->findChild<QLabel*>(qtext(eintrag.name));
+        schild->setFixedSize(breite(), schild->heightForWidth(breite()));
+        return static_cast<double>(schild->height() * twips);
+    };
+    e.Auswahl.unterkante = [ebene](const Anzeige& feld) {
+        const auto* schild = ebene->findChild<QLabel*>(qtext(feld.name));
+        const QPoint ecke = schild->mapTo(ebene, QPoint(0, schild->height()));
+        return Platz{.links = static_cast<double>(ecke.x() * twips),
+                     .oben = static_cast<double>(ecke.y() * twips)};
+    };
+    mittel.binder.binde(static_cast<QWidget&>(*rahmen), e.Auswahl.Frame_Auswahl);
+    e.Auswahl.Frame_Auswahl.ansicht = [&e, rahmen, halter, breite] {
+        const Platz ort = e.Auswahl.platz();
+        const int hoehe = static_cast<int>(e.Auswahl.hoehe() / twips);
+        rahmen->setGeometry(static_cast<int>(ort.links / twips), static_cast<int>(ort.oben / twips),
+                            breite() + 2 * innen, hoehe + innen);
+        halter->setGeometry(innen, innen, breite(), hoehe);
+        grundzustand(*rahmen, e.Auswahl.Frame_Auswahl);
+        rahmen->raise();
+    };
+    bei_mausdruck(*rahmen, mittel.wache, [&e] { e.Frame_Auswahl_Click(); });
+}
+
+void tooltip(E_Energie& e, const Ansichtsmittel& mittel, QWidget* ebene) {
+    auto* fenster = new Tippfenster(ebene);
+    mittel.binder.binde(*fenster->text(), e.Label_Tooltip);
+    mittel.binder.binde(static_cast<QWidget&>(*fenster), e.Frame_ToolTip);
+    e.Frame_ToolTip.ansicht = [&e, fenster] {
+        fenster->adjustSize();
+        if (const auto& platz = e.Frame_ToolTip.platz())
+            fenster->move(QPointF(platz->links, platz->oben).toPoint());
+        grundzustand(*fenster, e.Frame_ToolTip);
+    };
+    bei_mausdruck(*fenster->text(), mittel.wache, [&e] { e.Label_Tooltip_MouseDown(); });
+    e.tipplage = [ebene, fenster] {
+        const QPoint haupt = ebene->window()->frameGeometry().topLeft();
+        return Tipplage{.haupt_links = static_cast<double>(haupt.x()),
+                        .haupt_oben = static_cast<double>(haupt.y()),
+                        .ebene_links = static_cast<double>(ebene->x()),
+                        .ebene_oben = static_cast<double>(ebene->y()),
+                        .ebene_hoehe = static_cast<double>(ebene->height()),
+                        .breite = static_cast<double>(fenster->sizeHint().width())};
+    };
+}
+
+}  // namespace
+
+QWidget* energie_ansicht(E_Energie& e, const Ansichtsmittel& mittel, QWidget* eltern) {
+    constexpr int traegerbreite = 80;
+    QWidget* ebene = ebene_bauen(e.ebene, eingabegroesse, mittel, eltern);
+    const Ebenenbau bau(*ebene, "E_Energie", mittel);
+    QVBoxLayout& spalte = *ebenenspalte(*ebene);
+    spalte.addWidget(versorgung(e, bau, ebene));
+    spalte.addWidget(endenergie(e, bau));
+    auto* mitte = new QHBoxLayout;
+    mitte->addWidget(faktoren(e, bau), 1);
+    for (Bildfeld* bild : {&e.Picture2, &e.Picture3}) {
+        Bildflaeche* flaeche = bau.bild(*bild, farben_des_fensters);
+        flaeche->setFixedSize(traegerbreite, 64);
+        mitte->addWidget(flaeche);
+    }
+    spalte.addLayout(mitte);
+    QLabel* titel = bau.anzeige(e.Monatsverbrauch);
+    titel->setWordWrap(true);
+    spalte.addWidget(titel);
+    Bildflaeche* diagramm = bau.bild(e.Monatsübersicht_Energieträger);
+    diagramm->setFixedSize(330, 114);
+    spalte.addWidget(diagramm);
+    spalte.addStretch();
+    auswahlliste(e, mittel, ebene);
+    tooltip(e, mittel, ebene);
+    return ebene;
+}
+
+}  // namespace velmaris

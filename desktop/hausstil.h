@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QProxyStyle>
+
+class QStyleOptionSlider;
+
+namespace velmaris {
+
+/// Fusion with the program's own scroll bars and frames, and the same behaviour on every desktop.
+class Hausstil : public QProxyStyle {
+    Q_OBJECT
+
+  public:
+    Hausstil();
+
+    [[nodiscard]] int styleHint(StyleHint hinweis, const QStyleOption* option, const QWidget* fenster,
+                                QStyleHintReturn* rueckgabe) const override;
+    [[nodiscard]] int pixelMetric(PixelMetric groesse, const QStyleOption* option,
+                                  const QWidget* fenster) const override;
+    [[nodiscard]] QRect subControlRect(ComplexControl bedienteil, const QStyleOptionComplex* option,
+                                       SubControl teil, const QWidget* fenster) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* maler,
+                       const QWidget* fenster) const override;
+    void drawComplexControl(ComplexControl bedienteil, const QStyleOptionComplex* option, QPainter* maler,
+                            const QWidget* fenster) const override;
+
+  private:
+    void zeichne_rollbalken(const QStyleOptionSlider& balken, QPainter& maler, const QWidget* fenster) const;
+};
+
+}  // namespace velmaris

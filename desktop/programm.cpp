@@ -1,0 +1,72 @@
+#include "desktop/programm.h"
+
+#include "desktop/startfenster.h"
+#include "project/rettung.h"
+#include "toolkit/text.h"
+
+#include <QCoreApplication>
+
+namespace velmaris {
+namespace {
+
+/// Where the rescued project is, if it could be rescued.
+std::string rettungstext(const Projekt& p) {
+    const std::optional<std::filesystem::path> datei = projekt_retten(p);
+    if (!datei) {
+        return Zweisprachig{"Das Projekt konnte nicht gerettet werden.", "The project could not be rescued."}
+            .in(p.Sprache);
+    }
+    return Zweisprachig{"Ihr Projekt wurde gesichert in: ", "Your project has been kept in: "}.in(p.Sprache) +
+           pfadtext(*datei);
+}
+
+}  // namespace
+
+Programm::Programm(const std::filesystem::path& programmordner, const std::string& sprache,
+                   const Befehlszeile& befehlszeile)
+    : binder_(wache_),
+      mittel_{wache_, binder_, sprache},
+      plattform_(wache_, [sprache] { return sprache; }),
+      haupt_(std::make_unique<Haupt>(plattform_, programmordner, sprache)),
+      start_(std::make_unique<Start>(*haupt_, befehlszeile, [this] { fenster_->zeigen(); })),
+      fenster_(std::make_unique<Hauptfenster>(*haupt_, mittel_)),
+      startfenster_(startfenster(*start_, *haupt_, mittel_, [this] { plattform_.beenden(); })) {
+    wache_.fehler_behandeln = [this](const Laufzeitfehler& f) { fehler(f); };
+    plattform_.hauptfenster(fenster_.get());
+    plattform_.hilfe_zeigen = [this](const std::filesystem::path& datei, const std::string&) {
+        hilfe(datei);
+    };
+    haupt_->fenster.info = [this] { start_->laden(); };
+}
+
+Programm::~Programm() = default;
+
+void Programm::starten() {
+    wache_.fuehre_aus([this] { start_->laden(); });
+}
+
+void Programm::fehler(const Laufzeitfehler& fehler) {
+    if (am_ende_) return;
+    plattform_.sanduhr(false);
+    const std::string& sprache = haupt_->p.Sprache;
+    Meldung meldung{.text = fehler.text(sprache), .titel = "Velmaris", .symbol = Symbol::ausrufezeichen};
+    if (dynamic_cast<const Dateifehler*>(&fehler) != nullptr) {
+        plattform_.melde(meldung);
+        return;
+    }
+    am_ende_ = true;
+    meldung.hinweis = rettungstext(haupt_->p);
+    plattform_.melde(meldung);
+    QMetaObject::invokeMethod(
+        qApp, [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
+}
+
+void Programm::hilfe(const std::filesystem::path& datei) {
+    const Zweisprachig grund{"Die Hilfedatei wurde nicht gefunden.", "The help file was not found."};
+    plattform_.melde({.text = grund.in(haupt_->p.Sprache),
+                      .titel = "Velmaris",
+                      .symbol = Symbol::information,
+                      .hinweis = pfadtext(datei)});
+}
+
+}  // namespace velmaris

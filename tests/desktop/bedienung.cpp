@@ -1,0 +1,38 @@
+#include "bedienung.h"
+
+#include <QStyleOptionSlider>
+#include <QTest>
+#include <QWheelEvent>
+
+namespace velmaris::test {
+
+Testfenster::Testfenster() {
+    resize(400, 300);
+    show();
+    activateWindow();
+    if (!QTest::qWaitForWindowActive(this)) throw std::runtime_error("the window did not become active");
+}
+
+QPoint teil(const Scrollleiste& leiste, QStyle::SubControl stueck) {
+    QStyleOptionSlider option;
+    option.initFrom(&leiste);
+    option.orientation = leiste.orientation();
+    option.minimum = leiste.minimum();
+    option.maximum = leiste.maximum();
+    option.sliderPosition = leiste.sliderPosition();
+    option.sliderValue = leiste.value();
+    option.singleStep = leiste.singleStep();
+    option.pageStep = leiste.pageStep();
+    if (leiste.orientation() == Qt::Horizontal) option.state |= QStyle::State_Horizontal;
+    return leiste.style()->subControlRect(QStyle::CC_ScrollBar, &option, stueck, &leiste).center();
+}
+
+void rad(QWidget& fenster, int rasten) {
+    const QPointF mitte = QRectF(fenster.rect()).center();
+    QWheelEvent ereignis(mitte, fenster.mapToGlobal(mitte), QPoint(),
+                         QPoint(0, rasten * QWheelEvent::DefaultDeltasPerStep), Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&fenster, &ereignis);
+}
+
+}  // namespace velmaris::test

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "desktop/scrollleiste.h"
+
+#include <QApplication>
+#include <QStyle>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace velmaris::test {
+
+/// A shown window with the input focus that holds the widgets of one test.
+class Testfenster : public QWidget {
+  public:
+    Testfenster();
+};
+
+/// Centre of a part of a scroll bar.
+QPoint teil(const Scrollleiste& leiste, QStyle::SubControl stueck);
+
+/// One notch of the wheel over a widget, away from the user if positive.
+void rad(QWidget& fenster, int rasten);
+
+/// Runs `schritt` on the dialog of that class which comes up next; fails the test if none comes.
+template <typename Dialog>
+void am_naechsten_dialog(const std::function<void(Dialog&)>& schritt, int versuche = 200) {
+    QTimer::singleShot(10, qApp, [schritt, versuche] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (dialog != nullptr && dialog->isVisible()) {
+            schritt(*dialog);
+        } else if (versuche > 0) {
+            am_naechsten_dialog<Dialog>(schritt, versuche - 1);
+        }
+    });
+}
+
+}  // namespace velmaris::test

@@ -1,0 +1,224 @@
+#include "desktop/programm.h"
+
+#include "programmprobe.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+
+namespace velmaris {
+namespace {
+
+using test::am_naechsten_dialog;
+
+using ProgrammTest = test::Programmprobe;
+
+/// Answers the next message box by a button, after a look at it.
+void antworte(
+    QMessageBox::StandardButton knopf,
+    const std::function<void(QMessageBox&)>& pruefe = [](QMessageBox&) {}) {
+    am_naechsten_dialog<QMessageBox>([=](QMessageBox& box) {
+        pruefe(box);
+        QTest::mouseClick(box.button(knopf), Qt::LeftButton);
+    });
+}
+
+/// Types a file name into the next file dialog and confirms it.
+void waehle_datei(const std::filesystem::path& datei) {
+    am_naechsten_dialog<QFileDialog>([=](QFileDialog& box) {
+        auto* name = box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        name->setText(QString::fromStdString(datei.string()));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+TEST_F(ProgrammTest, KommtInBeidenSprachenHoch) {
+    struct Fall {
+        const char* sprache;
+        const char* titel;
+        const char* datei;
+        const char* energie;
+        const char* gewinne;
+        const char* haekchen;
+    };
+    for (const Fall& fall :
+         {Fall{"d", "Velmaris - [unbenannt]", "&Datei", "Energie", "Interne Gewinne", "mnuSpracheDeutsch"},
+          Fall{"e", "Velmaris - [no name]", "File", "Energy", "internal gains", "mnuSpracheEnglisch"}}) {
+        starte(fall.sprache);
+        EXPECT_TRUE(programm->fenster().isVisible());
+        EXPECT_EQ(programm->fenster().windowTitle(), fall.titel);
+        EXPECT_EQ(menue("mnuFile").text(), fall.datei);
+        EXPECT_EQ(such<QAbstractButton>("E_Menue", "Energie").text(), fall.energie);
+        EXPECT_EQ(such("E_Gebaeude", "Frame2").property("title").toString(), fall.gewinne);
+        for (const char* eintrag : {"mnuSpracheDeutsch", "mnuSpracheEnglisch"})
+            EXPECT_EQ(menue(eintrag).isChecked(), std::string(eintrag) == fall.haekchen) << eintrag;
+        EXPECT_TRUE(such("Haupt", "E_Geometrie").isVisible());
+        EXPECT_TRUE(such("Haupt", "A_Uebersicht").isVisible());
+        EXPECT_EQ(p().Geaendert, 0);
+    }
+}
+
+TEST_F(ProgrammTest, EbenenWechselnMitKnoepfenUndMenue) {
+    starte("d");
+    struct Fall {
+        const char* leiste;
+        const char* knopf;
+        const char* ebene;
+        const char* eintrag;
+    };
+    for (const Fall& fall : {Fall{"E_Menue", "Fenster", "E_Fenster", "mnuWinFens"},
+                             {"E_Menue", "Daemmung", "E_Daemmung", "mnuWinDaem"},
+                             {"E_Menue", "Gebaeude", "E_Gebaeude", "mnuWinGeb"},
+                             {"E_Menue", "Klima", "E_Klima", "mnuWinKlima"},
+                             {"E_Menue", "Energie", "E_Energie", "mnuWinEnerg"},
+                             {"E_Menue", "Geometrie", "E_Geometrie", "mnuWinGeo"},
+                             {"A_Menue", "Klima", "A_Klima", nullptr},
+                             {"A_Menue", "Heizen", "A_Heizen", nullptr},
+                             {"A_Menue", "Kuehlen", "A_Kuehlen", nullptr},
+                             {"A_Menue", "Uebersicht", "A_Uebersicht", nullptr}}) {
+        auto& knopf = such<QAbstractButton>(fall.leiste, fall.knopf);
+        klicke(knopf);
+        EXPECT_TRUE(such("Haupt", fall.ebene).isVisible()) << fall.ebene;
+        EXPECT_FALSE(knopf.isEnabled()) << "marks the plane on show";
+        if (fall.eintrag == nullptr) continue;
+        menue(fall.eintrag).trigger();
+        EXPECT_TRUE(such("Haupt", fall.ebene).isVisible()) << fall.eintrag;
+        int sichtbare = 0;
+        for (const QWidget* ebene : programm->fenster().centralWidget()->findChildren<QWidget*>(
+                 QRegularExpression("^E_[A-Z].*"), Qt::FindDirectChildrenOnly))
+            sichtbare += ebene->isVisible() && ebene->objectName() != "E_Menue" ? 1 : 0;
+        EXPECT_EQ(sichtbare, 1) << fall.eintrag;
+    }
+}
+
+TEST_F(ProgrammTest, SpeichertUnterNamenUndOeffnetWieder) {
+    starte("d");
+    auto& laenge = such<Scrollleiste>("E_Geometrie", "l_sb");
+    laenge.setFocus();
+    QTest::keyClick(&laenge, Qt::Key_Right);
+    ASSERT_EQ(p().l, 11.0F);
+    EXPECT_EQ(p().Geaendert, 1);
+    waehle_datei(ordner / "mein haus");
+    menue("mnuFileunter").trigger();
+    EXPECT_TRUE(std::filesystem::exists(ordner / "mein haus.vel"));
+    EXPECT_EQ(programm->fenster().windowTitle(), "Velmaris - MEIN HAUS.VEL");
+    EXPECT_EQ(p().Geaendert, 0);
+
+    menue("mnuFileNeu").trigger();
+    EXPECT_EQ(laenge.value(), 100);
+    klicke(such<QAbstractButton>("E_Menue", "Klima"));
+    waehle_datei(ordner / "mein haus.vel");
+    menue("mnuFileOeffnen").trigger();
+    EXPECT_EQ(laenge.value(), 110);
+    EXPECT_EQ(programm->fenster().windowTitle(), "Velmaris - MEIN HAUS.VEL");
+    EXPECT_TRUE(laenge.isVisible()) << "back on the first plane";
+}
+
+TEST_F(ProgrammTest, AbgebrochenesOeffnenIstEinDateifehler) {
+    starte("e");
+    am_naechsten_dialog<QFileDialog>([](QFileDialog& box) {
+        QTest::keyClick(&box, Qt::Key_Escape);
+        antworte(QMessageBox::Ok, [](QMessageBox& meldung) { EXPECT_EQ(meldung.text(), "Dateifehler!"); });
+    });
+    menue("mnuFileOeffnen").trigger();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(ProgrammTest, NimmtEineFallengelasseneDatei) {
+    starte("d");
+    waehle_datei(ordner / "a.vel");
+    menue("mnuFileunter").trigger();
+    menue("mnuFileNeu").trigger();
+    QMimeData ding;
+    ding.setUrls({QUrl::fromLocalFile(QString::fromStdString((ordner / "a.vel").string()))});
+    QDragEnterEvent kommt(QPoint(9, 9), Qt::CopyAction, &ding, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&programm->fenster(), &kommt);
+    EXPECT_TRUE(kommt.isAccepted());
+    QDropEvent faellt(QPointF(9, 9), Qt::CopyAction, &ding, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&programm->fenster(), &faellt);
+    EXPECT_EQ(programm->fenster().windowTitle(), "Velmaris - A.VEL");
+
+    ding.setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/bild.png"))});
+    QDragEnterEvent fremd(QPoint(9, 9), Qt::CopyAction, &ding, Qt::LeftButton, Qt::NoModifier);
+    fremd.ignore();
+    QApplication::sendEvent(&programm->fenster(), &fremd);
+    EXPECT_FALSE(fremd.isAccepted());
+}
+
+TEST_F(ProgrammTest, SchliessenFragtNachAenderungen) {
+    starte("d");
+    p().Geaendert = 1;
+    antworte(QMessageBox::Cancel, [](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), QString::fromUtf8("Änderungen speichern ?"));
+        EXPECT_EQ(box.text(), QString::fromUtf8("          Ihr Projekt wurde geändert.\n\n"
+                                                "Möchten Sie die Änderungen speichern?"));
+    });
+    EXPECT_FALSE(programm->fenster().close());
+    EXPECT_TRUE(programm->fenster().isVisible());
+    antworte(QMessageBox::No);
+    QTimer::singleShot(0, &programm->fenster(), &QWidget::close);
+    QTimer::singleShot(3000, qApp, [] { QCoreApplication::exit(99); });
+    EXPECT_EQ(QApplication::exec(), 0) << "ends without saving";
+}
+
+TEST_F(ProgrammTest, FehlerInDateienBeendenNichtAndereSchon) {
+    starte("e");
+    programm->haupt().e_geometrie.l_sb.geaendert = [] { throw Dateifehler("x.bmp", {"fehlt", "missing"}); };
+    auto& laenge = such<Scrollleiste>("E_Geometrie", "l_sb");
+    antworte(QMessageBox::Ok, [](QMessageBox& box) { EXPECT_TRUE(box.text().contains("x.bmp")); });
+    QTest::keyClick(&laenge, Qt::Key_Right);
+
+    programm->haupt().e_geometrie.l_sb.geaendert = [] {
+        throw Laufzeitfehler({"Überlauf", "overflow"}, "qh");
+    };
+    QString rettung;
+    antworte(QMessageBox::Ok, [&](QMessageBox& box) {
+        EXPECT_TRUE(box.text().contains("overflow"));
+        rettung = box.informativeText();
+    });
+    QTimer::singleShot(0, &laenge, [&] { QTest::keyClick(&laenge, Qt::Key_Right); });
+    QTimer::singleShot(3000, qApp, [] { QCoreApplication::exit(99); });
+    EXPECT_EQ(QApplication::exec(), 1);
+    const std::filesystem::path datei = rettung.section(QStringLiteral(": "), 1).toStdString();
+    EXPECT_TRUE(std::filesystem::exists(datei)) << rettung.toStdString();
+    std::filesystem::remove(datei);
+}
+
+TEST_F(ProgrammTest, StartfensterBautAufKnopfdruckAuf) {
+    programm = std::make_unique<Programm>(ordner.pfad(), "e", Befehlszeile(""));
+    programm->starten();
+    QWidget* start = QApplication::activeModalWidget();
+    ASSERT_NE(start, nullptr);
+    EXPECT_EQ(start->objectName(), "Start");
+    EXPECT_FALSE(programm->fenster().isVisible());
+    klicke(*start->findChild<QAbstractButton*>(QStringLiteral("OK_Button")));
+    EXPECT_FALSE(start->isVisible());
+    EXPECT_TRUE(programm->fenster().isVisible());
+
+    menue("mnuQuestInfo").trigger();
+    EXPECT_TRUE(start->isVisible()) << "now the about box";
+    start->close();
+    EXPECT_FALSE(start->isVisible());
+    EXPECT_TRUE(programm->fenster().isVisible());
+}
+
+TEST_F(ProgrammTest, F1ZeigtDieHilfeDerEbene) {
+    starte("d");
+    std::vector<std::string> seiten;
+    programm->plattform().hilfe_zeigen = [&](const std::filesystem::path& datei, const std::string& seite) {
+        EXPECT_EQ(datei.filename(), "Velmaris_d.chm");
+        seiten.push_back(seite);
+    };
+    klicke(such<QAbstractButton>("E_Menue", "Daemmung"));
+    such("E_Daemmung", "kwn_sb").setFocus();
+    QTest::keyClick(&such("E_Daemmung", "kwn_sb"), Qt::Key_F1);
+    such("A_Uebersicht", "Monatsbutton3").setFocus();
+    QTest::keyClick(&such("A_Uebersicht", "Monatsbutton3"), Qt::Key_F1);
+    EXPECT_EQ(seiten, (std::vector<std::string>{"E_Daemmung", "A_Uebersicht"}));
+}
+
+}  // namespace
+}  // namespace velmaris

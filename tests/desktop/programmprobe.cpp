@@ -1,0 +1,32 @@
+#include "programmprobe.h"
+
+#include "tests/testprogramm.h"
+
+#include <QTest>
+
+namespace velmaris::test {
+
+Programmprobe::Programmprobe() {
+    ordner.schreibe("klima/trier.met", stationsbytes("Trier (Deutschland)"));
+    ordner.schreibe("klima/fern.met", stationsbytes("Fern (Ausland)"));
+    std::filesystem::copy(VELMARIS_GRAFIKEN, ordner / "Grafiken");
+}
+
+void Programmprobe::starte(const std::string& sprache) {
+    programm = std::make_unique<Programm>(ordner.pfad(), sprache, Befehlszeile(sprache));
+    programm->starten();
+    programm->fenster().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&programm->fenster()));
+}
+
+QAction& Programmprobe::menue(const char* name) {
+    auto* eintrag = programm->fenster().findChild<QAction*>(QLatin1String(name));
+    if (eintrag == nullptr) throw std::runtime_error(std::string("no menu entry ") + name);
+    return *eintrag;
+}
+
+void Programmprobe::klicke(QAbstractButton& knopf) {
+    QTest::mouseClick(&knopf, Qt::LeftButton);
+}
+
+}  // namespace velmaris::test
