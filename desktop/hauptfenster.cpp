@@ -132,7 +132,8 @@ void Hauptfenster::ausgabeebenen_bauen() {
     for (QWidget* ebene : {uebersicht_ansicht(haupt_.a_uebersicht, mittel_, flaeche_),
                            klima_gebaeude_ansicht(haupt_.a_klima, mittel_, flaeche_),
                            heizen_ansicht(haupt_.a_heizen, mittel_, flaeche_),
-                           kuehlen_ansicht(haupt_.a_kuehlen, mittel_, flaeche_)})
+                           kuehlen_ansicht(haupt_.a_kuehlen, mittel_, flaeche_),
+                           sankey_ansicht(haupt_.a_sankey, mittel_, flaeche_)})
         ebene->move(ausgabe_links, 0);
 }
 
