@@ -22,7 +22,6 @@ namespace {
 using test::Druckzeichen;
 using test::Testdrucker;
 using testing::Contains;
-using testing::ElementsAre;
 using Art = Druckzeichen::Art;
 
 constexpr double genau = 1E-6;
