@@ -170,6 +170,16 @@ TEST(Ausdrucken, TexteUeberlappenNicht) {
     });
 }
 
+TEST(Ausdrucken, NurUeberlangesWirdGekuerzt) {
+    fuer_jeden_ausdruck([](const Ausdruck& ausdruck) {
+        const bool ueberlang = ausdruck.programm->p().Datei != unbenannt;
+        bool gekuerzt = false;
+        for (const Druckzeichen& z : ausdruck.drucker.zeichen)
+            gekuerzt |= z.text.ends_with("…");
+        EXPECT_EQ(gekuerzt, ueberlang);
+    });
+}
+
 TEST(Ausdrucken, ZahlenspaltenStehenBuendig) {
     struct Tabelle {
         int seite;
