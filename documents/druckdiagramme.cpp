@@ -207,7 +207,6 @@ void Diagramm_Kuehlen(Blatt& blatt, const Projekt& p) {
 }
 
 void Diagramm_Heizenergie(Blatt& blatt, const Projekt& p) {
-    constexpr Wort strom{"Strom", "electricity"};
     const Monatsenergie werte = monatswerte(p);
     energiediagramm(blatt, p, [&](int m) -> Energiesaeulen {
         return {{werte.E(m), druckfarben::endenergie},
@@ -216,9 +215,11 @@ void Diagramm_Heizenergie(Blatt& blatt, const Projekt& p) {
                 {werte.Q(m), druckfarben::primaerenergie_strom}};
     });
     legendeneintrag(blatt, legende, 215, druckfarben::endenergie, {"Endenergiebedarf", "End energy demand"});
-    legendeneintrag(blatt, legende, 221, druckfarben::endenergie_strom, strom);
     legendeneintrag(blatt, legende, 227, druckfarben::primaerenergie,
                     {"Primärenergiebedarf", "Primary energy demand"});
+    if (kurzname(p.Heizsystem, p.Energietraeger).elektrisch()) return;
+    constexpr Wort strom{"Strom", "electricity"};
+    legendeneintrag(blatt, legende, 221, druckfarben::endenergie_strom, strom);
     legendeneintrag(blatt, legende, 233, druckfarben::primaerenergie_strom, strom);
 }
 

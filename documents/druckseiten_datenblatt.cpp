@@ -205,7 +205,7 @@ void seite_datenblatt_2(Blatt& blatt, const Reportquelle& quelle) {
     const E_Energie& e = quelle.e_energie;
     Formular kopf(blatt, seitenanfang, zeilenhoehe);
     kopf.abschnitt({"Fenster:", "Windows:"});
-    blatt.schrift({.groesse = 8.5});
+    blatt.schrift({.groesse = 8});
     const double unten = fenstertabelle(blatt, kopf.y() + 1, quelle);
     Formular f(blatt, unten + 8, zeilenhoehe);
     f.abschnitt({"Energie:", "Energy:"});

@@ -6,8 +6,8 @@ namespace velmaris {
 
 struct Haupt;
 
-/// What the documents show of the program: its record, labels and the present choices of its lists. The
-/// record and the planes must outlive it.
+/// What the documents show of the program: its record, labels and the present choices of its lists. Labels
+/// that are kept only while their plane is on the screen are written anew. The program must outlive it.
 [[nodiscard]] Reportquelle reportquelle(Haupt& haupt);
 
 }  // namespace velmaris

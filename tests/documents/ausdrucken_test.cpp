@@ -22,7 +22,6 @@ namespace {
 using test::Druckzeichen;
 using test::Testdrucker;
 using testing::Contains;
-using testing::ElementsAre;
 using Art = Druckzeichen::Art;
 
 constexpr double genau = 1E-6;
@@ -168,6 +167,16 @@ TEST(Ausdrucken, TexteUeberlappenNicht) {
                     << texte[i].seite << ": " << texte[i].text << " / " << texte[j].text;
             }
         }
+    });
+}
+
+TEST(Ausdrucken, NurUeberlangesWirdGekuerzt) {
+    fuer_jeden_ausdruck([](const Ausdruck& ausdruck) {
+        const bool ueberlang = ausdruck.programm->p().Datei != unbenannt;
+        bool gekuerzt = false;
+        for (const Druckzeichen& z : ausdruck.drucker.zeichen)
+            gekuerzt |= z.text.ends_with("…");
+        EXPECT_EQ(gekuerzt, ueberlang);
     });
 }
 
