@@ -82,7 +82,7 @@ Quellkopf Meteonorm_Lesen(const Importquelle& quelle) {
     kopf.ort.Laengengrad = betrag(ohne_rand(posten(rest)), kopf.ort.west);
     static_cast<void>(posten(rest));
     bool oestlich = false;
-    kopf.ort.Zeitzone = betrag(ohne_rand(rest), oestlich);
+    kopf.ort.Zeitzone = betrag(ohne_rand(posten(rest)), oestlich);
     kopf.ort.gmt_minus = !oestlich;
     return kopf;
 }

@@ -16,7 +16,7 @@ enum class Quellform {
 };
 
 /// The text of an import source and its lines, which end at LF or CR LF. A byte order mark at the
-/// beginning does not belong to the text.
+/// beginning does not belong to the text, and neither do lines behind the millionth.
 class Importquelle {
   public:
     Importquelle() = default;

@@ -72,10 +72,10 @@ std::string vorgabename(std::string_view quellpfad) {
 
 std::optional<Zweisprachig> namensfehler(std::string_view name) {
     if (name.empty()) return Zweisprachig{"Der Dateiname ist leer.", "The filename is empty."};
-    const auto treffer = std::find_if(name.begin(), name.end(), [](char zeichen) {
+    const bool verboten = std::any_of(name.begin(), name.end(), [](char zeichen) {
         return ist_steuerzeichen(zeichen) || verbotene_zeichen.find(zeichen) != std::string_view::npos;
     });
-    if (treffer != name.end()) {
+    if (verboten) {
         return Zweisprachig{"Der Dateiname darf keines der Zeichen \\ / : * ? \" < > | , enthalten.",
                             "The filename must not contain any of the characters \\ / : * ? \" < > | ,"};
     }

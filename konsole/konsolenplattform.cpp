@@ -1,13 +1,12 @@
 #include "konsole/konsolenplattform.h"
 
-#include <algorithm>
 #include <iostream>
 
 namespace velmaris {
 
 std::string in_einer_zeile(std::string text) {
-    std::erase(text, '\r');
-    std::replace(text.begin(), text.end(), '\n', ' ');
+    for (std::size_t ende = 0; (ende = text.find_first_of("\r\n", ende)) != std::string::npos;)
+        text.replace(ende, text.compare(ende, 2, "\r\n") == 0 ? 2 : 1, " ");
     return text;
 }
 

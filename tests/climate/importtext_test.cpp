@@ -157,7 +157,7 @@ TEST(Importkopf, MeteonormNenntDenOrtOhneDasLand) {
          {"Lima", "", "12.05", true, "77.05", true, "5", true},
          {3, 0, 4, 0, 1, 2, 0}},
         // The seventh column is out of reach, and the later of two columns of a name counts.
-        {"Ort\n50, 10, 0, -1\n\nTa\tG_Gh\tx\tx\tx\tG_Dh\tTa\n",
+        {"Ort\n50, 10, 0, -1 , 7\n\nTa\tG_Gh\tx\tx\tx\tG_Dh\tTa\n",
          {"Ort", "", "50", false, "10", false, "1", false},
          {0, 2, 0, 0, 0, 4, 0}},
         {"\"\n50\n\nTa G_Gh\n", {"", "", "50", false, "", false, "", true}, {2, 0, 0, 0, 0, 0, 0}}};

@@ -1,6 +1,7 @@
 #include "konsole/auftrag.h"
 
 #include "konsole/ausgabe_json.h"
+#include "konsole/konsolenplattform.h"
 #include "project/feldtabelle.h"
 #include "tests/testprogramm.h"
 #include "toolkit/text.h"
@@ -57,6 +58,11 @@ TEST_F(Konsole, JsonGibtJedesFeldGenauZurueck) {
           "anz_tau", "anz_Heiztage", "anz_heizlast_spez", "Breite", "tau"}) {
         EXPECT_TRUE(objekt.contains(name)) << name;
     }
+}
+
+TEST(Konsolenplattform, MeldungenStehenInEinerZeile) {
+    EXPECT_EQ(in_einer_zeile("eins\rzwei\r\ndrei\nvier"), "eins zwei drei vier");
+    EXPECT_EQ(in_einer_zeile("\n"), " ");
 }
 
 TEST_F(Konsole, EinFehlerHaeltDieAnderenNichtAuf) {
