@@ -2,6 +2,7 @@
 
 #include "charts/A_Heizen.h"
 #include "charts/A_Kuehlen.h"
+#include "charts/A_Sankey.h"
 #include "charts/A_Uebersicht.h"
 #include "charts/A_Zoom.h"
 #include "climate/A_Klima.h"
@@ -37,6 +38,7 @@ QWidget* uebersicht_ansicht(A_Uebersicht& a, const Ansichtsmittel& mittel, QWidg
 QWidget* klima_gebaeude_ansicht(A_Klima& a, const Ansichtsmittel& mittel, QWidget* eltern);
 QWidget* heizen_ansicht(A_Heizen& a, const Ansichtsmittel& mittel, QWidget* eltern);
 QWidget* kuehlen_ansicht(A_Kuehlen& a, const Ansichtsmittel& mittel, QWidget* eltern);
+QWidget* sankey_ansicht(A_Sankey& a, const Ansichtsmittel& mittel, QWidget* eltern);
 
 /// The windows of the enlarged temperature chart and of the enlarged map of the world.
 QWidget* zoom_ansicht(A_Zoom& a, const Ansichtsmittel& mittel, QWidget* eltern);

@@ -58,7 +58,7 @@ class Ebenenbau {
     [[nodiscard]] QGroupBox* rahmen(Anzeige& titel) const;
 
     /// A label whose text the record carries; `zahl` stands at the right of its place.
-    [[nodiscard]] QLabel* anzeige(Anzeige& anzeige) const;
+    QLabel* anzeige(Anzeige& anzeige) const;
     [[nodiscard]] QLabel* zahl(Anzeige& anzeige) const;
 
     /// A scroll field; `zweck` is what screen readers call it.

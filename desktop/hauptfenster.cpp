@@ -47,7 +47,7 @@ const std::array<Tastenzeile, 6>& tasten() {
 /// The project file among dropped things, empty without one.
 QString projektdatei(const QMimeData& ding) {
     for (const QUrl& adresse : ding.urls()) {
-        const QString datei = adresse.toLocalFile();
+        QString datei = adresse.toLocalFile();
         if (datei.endsWith(QLatin1String(".vel"), Qt::CaseInsensitive)) return datei;
     }
     return {};
@@ -132,7 +132,8 @@ void Hauptfenster::ausgabeebenen_bauen() {
     for (QWidget* ebene : {uebersicht_ansicht(haupt_.a_uebersicht, mittel_, flaeche_),
                            klima_gebaeude_ansicht(haupt_.a_klima, mittel_, flaeche_),
                            heizen_ansicht(haupt_.a_heizen, mittel_, flaeche_),
-                           kuehlen_ansicht(haupt_.a_kuehlen, mittel_, flaeche_)})
+                           kuehlen_ansicht(haupt_.a_kuehlen, mittel_, flaeche_),
+                           sankey_ansicht(haupt_.a_sankey, mittel_, flaeche_)})
         ebene->move(ausgabe_links, 0);
 }
 

@@ -78,6 +78,7 @@ TEST_F(ProgrammTest, EbenenWechselnMitKnoepfenUndMenue) {
                              {"A_Menue", "Klima", "A_Klima", nullptr},
                              {"A_Menue", "Heizen", "A_Heizen", nullptr},
                              {"A_Menue", "Kuehlen", "A_Kuehlen", nullptr},
+                             {"A_Menue", "Sankey", "A_Sankey", nullptr},
                              {"A_Menue", "Uebersicht", "A_Uebersicht", nullptr}}) {
         auto& knopf = such<QAbstractButton>(fall.leiste, fall.knopf);
         klicke(knopf);
