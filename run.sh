@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the program and runs it: ./run.sh [PROJEKT.vel]
+# Opens the window where there is a display, otherwise prints the summary of the project.
 set -euo pipefail
 aufruf=$PWD
 cd "$(dirname "$(readlink -f "$0")")"
@@ -9,4 +10,8 @@ cmake --preset release -DVELMARIS_TESTS=OFF -DVELMARIS_BENCH=OFF -B build/run
 cmake --build build/run
 projekt=${1:-beispiele/niedrigenergiehaus.vel}
 [ $# -eq 0 ] || [[ $projekt == /* ]] || projekt=$aufruf/$projekt
-build/run/bin/velmaris_rechnen "$projekt"
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    build/run/bin/velmaris "$projekt"
+else
+    build/run/bin/velmaris_rechnen "$projekt"
+fi

@@ -72,8 +72,8 @@ class Reporttext {
     void jahreszeile(const Wort& name, const Zellen& zellen);
 
   private:
-    void wertreihe(std::string_view einzug, const Wort& name, std::string_view wert);
-    void textreihe(std::string_view einzug, const Wort& name, std::string_view wert);
+    void wertreihe(std::string_view abstand, const Wort& name, std::string_view wert);
+    void textreihe(std::string_view abstand, const Wort& name, std::string_view wert);
 
     std::string_view sprache_;
     std::string report_text_;

@@ -18,7 +18,8 @@ std::string waermebruecken(const Haupt& haupt) {
 
 }  // namespace
 
-Reportquelle reportquelle(const Haupt& haupt) {
+Reportquelle reportquelle(Haupt& haupt) {
+    haupt.a_klima.Ausfuellen(haupt.p);
     const E_Fenster& fenster = haupt.e_fenster;
     return {.p = haupt.p,
             .a_klima = haupt.a_klima,
