@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the program and runs it: ./run.sh [PROJEKT.vel]
-# Opens the window where there is a display, otherwise prints the results.
 # Opens the window where there is a display, otherwise prints the summary of the project.
 set -euo pipefail
 aufruf=$PWD
@@ -14,9 +13,5 @@ projekt=${1:-beispiele/niedrigenergiehaus.vel}
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     build/run/bin/velmaris "$projekt"
 else
-    if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-    build/run/bin/velmaris "$projekt"
-else
     build/run/bin/velmaris_rechnen "$projekt"
-fi
 fi
