@@ -36,6 +36,7 @@ QGroupBox* tuer(E_Daemmung& e, const Ebenenbau& bau) {
 QHBoxLayout* gegen(std::string_view wort, std::initializer_list<Auswahlliste*> listen,
                    const std::string& zweck, const Ebenenbau& bau) {
     auto* reihe = new QHBoxLayout;
+    reihe->setSpacing(mass::gruppenabstand);
     reihe->addWidget(bau.wort(wort));
     for (Auswahlliste* liste : listen)
         reihe->addWidget(bau.liste(*liste, zweck), 1);

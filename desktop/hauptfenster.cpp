@@ -47,7 +47,7 @@ const std::array<Tastenzeile, 6>& tasten() {
 /// The project file among dropped things, empty without one.
 QString projektdatei(const QMimeData& ding) {
     for (const QUrl& adresse : ding.urls()) {
-        const QString datei = adresse.toLocalFile();
+        QString datei = adresse.toLocalFile();
         if (datei.endsWith(QLatin1String(".vel"), Qt::CaseInsensitive)) return datei;
     }
     return {};

@@ -24,7 +24,7 @@ class Hauptfenster : public QMainWindow {
 
   private:
     void menue_bauen();
-    void menue_fuellen(QMenu& menue, const std::vector<Menueknoten>& knoten);
+    void menue_fuellen(QMenu& menue, const std::vector<Menueknoten>& alle);
     void leiste_bauen(Ebenenleiste& leiste, const QRect& platz);
     void eingabeebenen_bauen();
     void ausgabeebenen_bauen();

@@ -17,7 +17,9 @@ namespace velmaris {
 namespace {
 
 QPixmap grafik(const std::filesystem::path& programmordner, const char* name) {
-    return QPixmap(QFileInfo(programmordner / "Grafiken" / name).filePath());
+    QPixmap bild;
+    bild.load(QFileInfo(programmordner / "Grafiken" / name).filePath());
+    return bild;
 }
 
 QLabel* ueberschrift(QWidget* fenster) {
