@@ -42,7 +42,7 @@ E_Fenster::E_Fenster(Sitzung& sitzung) : s_(sitzung) {
     for (Fensterseite* seite : seiten()) {
         seite->typ.fuelle(typnamen(s_.p.Sprache));
         binden(*seite);
-        seite->rahmen.zeige(seite->fassade == Fassade::sued);
+        seite->rahmen.zeige(seite->fassade == Wandseite::sued);
     }
     Option1.markiere(0);
     Option1.geklickt = [this](int index) {
@@ -61,7 +61,7 @@ std::array<Fensterseite*, 4> E_Fenster::seiten() {
     return {&nord, &sued, &ost, &west};
 }
 
-Fensterseite& E_Fenster::seite(Fassade fassade) {
+Fensterseite& E_Fenster::seite(Wandseite fassade) {
     return *seiten()[static_cast<std::size_t>(fassade)];
 }
 
@@ -94,7 +94,7 @@ void E_Fenster::anteil_geaendert(Fensterseite& seite) {
 }
 
 void E_Fenster::folgen(Fensterseite& seite, const std::function<void(Fensterseite&)>& kopieren) {
-    if (seite.fassade != Fassade::sued) {
+    if (seite.fassade != Wandseite::sued) {
         if (!gleiche_fenster()) s_.alles_berechnen();
         return;
     }
@@ -172,7 +172,7 @@ void E_Fenster::Option1_Click(int index) {
         }
     }
     for (Fensterseite* seite : seiten())
-        seite->rahmen.zeige(seite->fassade == Fassade::sued);
+        seite->rahmen.zeige(seite->fassade == Wandseite::sued);
     s_.alles_berechnen();
 }
 
@@ -190,7 +190,7 @@ void E_Fenster::fenstermodus_lesen(int wert) {
     Option1_Click(wert);
 }
 
-void E_Fenster::nachbar_zeigen(Fassade fassade, bool nachbar) {
+void E_Fenster::nachbar_zeigen(Wandseite fassade, bool nachbar) {
     Fensterschieber& anteil = seite(fassade).f;
     anteil.sb.aktiviere(!nachbar);
     anteil.anz.verberge(nachbar);

@@ -17,7 +17,7 @@ struct E_Fenster {
 
     Feld ebene{"E_Fenster"};
 
-    Fensterseite nord{Fassade::nord}, sued{Fassade::sued}, ost{Fassade::ost}, west{Fassade::west};
+    Fensterseite nord{Wandseite::nord}, sued{Wandseite::sued}, ost{Wandseite::ost}, west{Wandseite::west};
 
     Optionsgruppe Option1{"Option1", 0, 2};  ///< 0 the same windows, 1 individual
     std::array<Knopf, 4> Command_HR{Knopf{"Command_HR0"}, Knopf{"Command_HR1"}, Knopf{"Command_HR2"},
@@ -39,7 +39,7 @@ struct E_Fenster {
     void fenstermodus_lesen(int wert);
 
     /// Locks or frees the window share of a facade whose wall adjoins a heated neighbour or not.
-    void nachbar_zeigen(Fassade fassade, bool nachbar);
+    void nachbar_zeigen(Wandseite fassade, bool nachbar);
 
     /// Copies the driver's texts into the displays.
     void geometrie_zeigen();
@@ -47,7 +47,7 @@ struct E_Fenster {
     /// Moves all controls to the record's state.
     void eingaben_anzeigen();
 
-    [[nodiscard]] Fensterseite& seite(Fassade fassade);
+    [[nodiscard]] Fensterseite& seite(Wandseite fassade);
 
     /// The facade whose type list has that name (`fenstern_typ` ...), nullptr if none has.
     [[nodiscard]] Fensterseite* seite_mit_typ(std::string_view name);

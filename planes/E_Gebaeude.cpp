@@ -59,10 +59,10 @@ E_Gebaeude::E_Gebaeude(Sitzung& sitzung) : s_(sitzung) {
 }
 
 std::array<E_Gebaeude::Wand, 4> E_Gebaeude::waende() {
-    return {{{Fassade::nord, &awn_cb, &Projekt::awn},
-             {Fassade::sued, &aws_cb, &Projekt::aws},
-             {Fassade::west, &aww_cb, &Projekt::aww},
-             {Fassade::ost, &awo_cb, &Projekt::awo}}};
+    return {{{Wandseite::nord, &awn_cb, &Projekt::awn},
+             {Wandseite::sued, &aws_cb, &Projekt::aws},
+             {Wandseite::west, &aww_cb, &Projekt::aww},
+             {Wandseite::ost, &awo_cb, &Projekt::awo}}};
 }
 
 void E_Gebaeude::zeigen(const Eingabefeld& feld) {
@@ -98,7 +98,7 @@ void E_Gebaeude::tueber_geaendert() {
     s_.alles_berechnen();
 }
 
-void E_Gebaeude::wand_geklickt(Fassade fassade) {
+void E_Gebaeude::wand_geklickt(Wandseite fassade) {
     for (const Wand& wand : waende()) {
         if (wand.fassade != fassade) continue;
         s_.p.*wand.feld = i16(1 - wand.check->wert(), wand.check->name);

@@ -33,7 +33,7 @@ struct E_Gebaeude {
     Bildfeld Traegheit{"Traegheit"};  ///< the stacked weight
 
     /// Tells the windows plane whether the wall of a facade adjoins a heated neighbour.
-    std::function<void(Fassade, bool)> nachbar_gezeigt;
+    std::function<void(Wandseite, bool)> nachbar_gezeigt;
 
     /// Copies the heat capacity into its displays.
     void gebaeude_zeigen();
@@ -45,11 +45,11 @@ struct E_Gebaeude {
     void troom_geaendert();
     void tueber_geaendert();
     void zeigen(const Eingabefeld& feld);
-    void wand_geklickt(Fassade fassade);
+    void wand_geklickt(Wandseite fassade);
     void bauart_gewaehlt(std::int16_t Projekt::*ziel, const Auswahlliste& liste);
 
     struct Wand {
-        Fassade fassade;
+        Wandseite fassade;
         Pruefeld* check;
         std::int16_t Projekt::*feld;
     };

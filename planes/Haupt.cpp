@@ -117,7 +117,7 @@ void Haupt::erste_ebenen() {
 
 void Haupt::verbinden() {
     e_geometrie.dachgeschoss_gezeigt = [this](bool beheizt) { e_daemmung.dachgeschoss_zeigen(beheizt); };
-    e_gebaeude.nachbar_gezeigt = [this](Fassade fassade, bool nachbar) {
+    e_gebaeude.nachbar_gezeigt = [this](Wandseite fassade, bool nachbar) {
         e_fenster.nachbar_zeigen(fassade, nachbar);
     };
 }

@@ -43,17 +43,17 @@ constexpr std::array<Seitenzeile, 4> seitenzeilen{{
      &Projekt::raw},
 }};
 
-const Seitenzeile& zeile(Fassade fassade) {
+const Seitenzeile& zeile(Wandseite fassade) {
     return seitenzeilen[static_cast<std::size_t>(fassade)];
 }
 
-std::string name(std::string_view vorn, Fassade fassade, std::string_view hinten) {
+std::string name(std::string_view vorn, Wandseite fassade, std::string_view hinten) {
     return std::string(vorn) + buchstabe(fassade) + std::string(hinten);
 }
 
 }  // namespace
 
-char buchstabe(Fassade fassade) {
+char buchstabe(Wandseite fassade) {
     return zeile(fassade).buchstabe;
 }
 
@@ -61,7 +61,7 @@ std::span<const Fenstertyp> fenstertypen() {
     return typen;
 }
 
-Fensterseite::Fensterseite(Fassade seite)
+Fensterseite::Fensterseite(Wandseite seite)
     : fassade(seite),
       f("f", seite),
       gf("gf", seite),

@@ -9,10 +9,10 @@
 
 namespace velmaris {
 
-enum class Fassade { nord, sued, ost, west };
+enum class Wandseite { nord, sued, ost, west };
 
 /// The letter of a facade in the names of the record: n, s, o, w.
-[[nodiscard]] char buchstabe(Fassade fassade);
+[[nodiscard]] char buchstabe(Wandseite fassade);
 
 /// A row of the window type table.
 struct Fenstertyp {
@@ -31,7 +31,7 @@ inline constexpr int typ_sonstiges = 7;
 
 /// A scroll field with its display.
 struct Fensterschieber {
-    Fensterschieber(std::string_view groesse, Fassade fassade)
+    Fensterschieber(std::string_view groesse, Wandseite fassade)
         : sb(std::string(groesse) + buchstabe(fassade) + "_sb"),
           anz(std::string(groesse) + buchstabe(fassade) + "_anz") {}
 
@@ -41,9 +41,9 @@ struct Fensterschieber {
 
 /// The controls of one facade. Their names carry the facade's letter: `fn_sb`, `fn_anz`, `fenstern_typ` ...
 struct Fensterseite {
-    explicit Fensterseite(Fassade seite);
+    explicit Fensterseite(Wandseite seite);
 
-    Fassade fassade;
+    Wandseite fassade;
     Fensterschieber f;       ///< window share
     Fensterschieber gf;      ///< g value
     Fensterschieber kfg;     ///< U value of the glazing
