@@ -36,7 +36,7 @@ Programm::Programm(const std::filesystem::path& programmordner, const std::strin
     plattform_.hilfe_zeigen = [this](const std::filesystem::path& datei, const std::string&) {
         hilfe(datei);
     };
-    haupt_->fenster.info = [this] { start_->laden(); };
+    haupt_->info_zeigen = [this] { start_->laden(); };
 }
 
 Programm::~Programm() = default;

@@ -4,6 +4,7 @@
 #include "language/beschriftungen.h"
 #include "language/c_Sprache.h"
 #include "planes/neues_projekt.h"
+#include "planes/reportquelle.h"
 #include "toolkit/sanduhr.h"
 #include "toolkit/zahlen.h"
 
@@ -36,6 +37,9 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       a_kuehlen(sitzung),
       a_sankey(sitzung),
       a_zoom(sitzung),
+      e_klimaimport(sitzung),
+      a_report(sitzung, [this] { return reportquelle(*this); }),
+      drucken(sitzung, [this] { return reportquelle(*this); }),
       datei(sitzung, projektwege()),
       menue(sprache),
       plan_(rechenplan()) {
@@ -67,11 +71,6 @@ void Haupt::menue_verbinden() {
     const auto tut = [this](const char* name, std::function<void()> aktion) {
         menue.punkt(name).gedrueckt = std::move(aktion);
     };
-    const auto oeffnet = [&tut](const char* name, std::function<void()>& weg) {
-        tut(name, [&weg] {
-            if (weg) weg();
-        });
-    };
     tut("mnuFileNeu", [this] { datei.datei_neu(); });
     tut("mnuFileOeffnen", [this] { datei.datei_oeffnen({}); });
     tut("mnuFileSpeichern", [this] { datei.datei_speichern(); });
@@ -86,11 +85,13 @@ void Haupt::menue_verbinden() {
     tut("mnuSpracheDeutsch", [this] { sprache_waehlen("d"); });
     tut("mnuSpracheEnglisch", [this] { sprache_waehlen("e"); });
     tut("mnuQuestHilfe", [this] { datei.hilfe_zeigen(); });
-    oeffnet("mnuFileDrucken", fenster.drucken);
-    oeffnet("mnuBerechnungsergebnisseExportieren", fenster.report);
-    oeffnet("mnuTemperaturExport", fenster.temperaturen);
-    oeffnet("mnuKlimaImportieren", fenster.klimaimport);
-    oeffnet("mnuQuestInfo", fenster.info);
+    tut("mnuFileDrucken", [this] { drucken.oeffnen(); });
+    tut("mnuBerechnungsergebnisseExportieren", [this] { a_report.report_zeigen(); });
+    tut("mnuTemperaturExport", [this] { a_report.temperaturverlauf_zeigen(); });
+    tut("mnuKlimaImportieren", [this] { e_klimaimport.oeffnen(); });
+    tut("mnuQuestInfo", [this] {
+        if (info_zeigen) info_zeigen();
+    });
 }
 
 void Haupt::sprache_waehlen(const std::string& buchstabe) {

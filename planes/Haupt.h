@@ -8,6 +8,9 @@
 #include "charts/A_Zoom.h"
 #include "climate/A_Klima.h"
 #include "climate/E_Klima.h"
+#include "climate/E_Klimaimport.h"
+#include "documents/A_Report.h"
+#include "documents/Drucken.h"
 #include "energy/E_Energie.h"
 #include "planes/E_Daemmung.h"
 #include "planes/E_Fenster.h"
@@ -46,20 +49,16 @@ struct Haupt {
     A_Kuehlen a_kuehlen;
     A_Sankey a_sankey;
     A_Zoom a_zoom;
+    E_Klimaimport e_klimaimport;
+    A_Report a_report;
+    Drucken drucken;
     FILEIO datei;
     Ebenenleiste e_menue{"E_Menue"};
     Ebenenleiste a_menue{"A_Menue"};
     Hauptmenue menue;
 
-    /// Windows that stand beside the planes; set by the desktop.
-    struct Fenster {
-        std::function<void()> drucken;       ///< the print dialog
-        std::function<void()> report;        ///< the report
-        std::function<void()> temperaturen;  ///< the temperature course
-        std::function<void()> klimaimport;   ///< the climate data import
-        std::function<void()> info;          ///< the about box
-    };
-    Fenster fenster;
+    /// Shows the about box; set by the desktop.
+    std::function<void()> info_zeigen;
 
     /// What the main window does when it comes up: shows both bars and the first planes, notes the printer.
     void laden();

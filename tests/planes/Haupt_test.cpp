@@ -67,10 +67,13 @@ TEST_F(Hauptprogramm, MenueKenntJedenEintragInBeidenSprachen) {
     EXPECT_EQ(haupt().menue.punkt("mnuFileunter").text(), "Speichern &unter...");
     EXPECT_EQ(Testprogramm("e").haupt->menue.punkt("mnuFileunter").text(), "Save as ...");
     EXPECT_THROW(haupt().menue.punkt("mnuFehlt").druecke(), std::out_of_range);
-    bool gedruckt = false;
-    haupt().fenster.drucken = [&] { gedruckt = true; };
     haupt().menue.punkt("mnuFileDrucken").druecke();
-    EXPECT_TRUE(gedruckt);
+    EXPECT_TRUE(haupt().drucken.fenster.sichtbar());
+    haupt().menue.punkt("mnuTemperaturExport").druecke();
+    EXPECT_TRUE(haupt().a_report.fenster.sichtbar());
+    EXPECT_FALSE(haupt().a_report.Report1.sichtbar());
+    haupt().menue.punkt("mnuKlimaImportieren").druecke();
+    EXPECT_TRUE(haupt().e_klimaimport.ebene.sichtbar());
     haupt().menue.punkt("mnuQuestHilfe").druecke();
     EXPECT_EQ(programm.plattform.hilfeseiten.size(), 1U);
 }
