@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <benchmark/benchmark.h>
+#include <chrono>
+#include <string_view>
 
 namespace velmaris {
 namespace {
@@ -27,6 +29,29 @@ void Start_bis_Hauptfenster(benchmark::State& zustand) {
     }
 }
 BENCHMARK(Start_bis_Hauptfenster)->Unit(benchmark::kMillisecond);
+
+/// From the click on an output plane's button to its first full picture, in a program newly started.
+void Erstes_Bild(benchmark::State& zustand, const char* ebene) {
+    using Uhr = std::chrono::steady_clock;
+    const Ordner ordner;
+    for ([[maybe_unused]] auto _ : zustand) {
+        Programm programm(ordner.pfad(), "d", Befehlszeile("d"));
+        programm.starten();
+        QApplication::processEvents();
+        if (std::string_view(ebene) == "Uebersicht") programm.haupt().a_menue.klicke("Heizen");
+        QApplication::processEvents();
+        const Uhr::time_point beginn = Uhr::now();
+        programm.haupt().a_menue.klicke(ebene);
+        QApplication::processEvents();
+        zustand.SetIterationTime(std::chrono::duration<double>(Uhr::now() - beginn).count());
+    }
+}
+
+BENCHMARK_CAPTURE(Erstes_Bild, Uebersicht, "Uebersicht")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Erstes_Bild, Klima, "Klima")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Erstes_Bild, Heizen, "Heizen")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Erstes_Bild, Kuehlen, "Kuehlen")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Erstes_Bild, Sankey, "Sankey")->UseManualTime()->Unit(benchmark::kMillisecond);
 
 /// One step of a scroll field, all visible charts repainted, with each output plane in front.
 void Schritt(benchmark::State& zustand, const char* ebene) {
