@@ -17,8 +17,6 @@ namespace {
 constexpr double seitenanfang = 50;
 constexpr double zeilenhoehe = 4.5;
 
-constexpr Wort u_wert{"U-Wert", "U value"};
-
 std::string mit_einheit(double wert, int stellen, std::string_view einheit) {
     return muster(wert, stellen).append(einheit);
 }
