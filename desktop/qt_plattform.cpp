@@ -144,6 +144,7 @@ std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog&
     Dateidialog naechster = dialog;
     while (true) {
         std::optional<std::filesystem::path> datei = datei_waehlen(naechster);
+        if (datei && !datei->has_extension()) *datei += dialog.endung;
         if (!datei || !dialog.ueberschreiben_fragen || ersetzen_erlaubt(*datei)) return datei;
         naechster.ordner = datei->parent_path();
         naechster.dateiname = pfadtext(datei->filename());
@@ -244,12 +245,13 @@ std::vector<std::string> QtPlattform::druckerliste() const {
 }
 
 int QtPlattform::aktueller_drucker() const {
-    const QString name = drucker_.isEmpty() ? QPrinterInfo::defaultPrinterName() : drucker_;
+    const QString name = drucker_ ? *drucker_ : QPrinterInfo::defaultPrinterName();
     return static_cast<int>(QPrinterInfo::availablePrinterNames().indexOf(name));
 }
 
 void QtPlattform::drucker_waehlen(int index) {
     const QStringList namen = QPrinterInfo::availablePrinterNames();
+    if (index < 0) drucker_ = QString();
     if (index >= 0 && index < namen.size()) drucker_ = namen[index];
 }
 

@@ -51,9 +51,6 @@ class QtPlattform final : public Plattform {
     [[nodiscard]] int aktueller_drucker() const override;
     void drucker_waehlen(int index) override;
 
-    /// Name of the printer in use, empty for the desktop's default.
-    [[nodiscard]] const QString& drucker() const { return drucker_; }
-
     void beenden() override;
 
   private:
@@ -75,7 +72,7 @@ class QtPlattform final : public Plattform {
     bool sanduhr_ = false;
     QRandomGenerator zufall_;
     std::map<std::string, Zeitgeber> zeitgeber_;
-    QString drucker_;
+    std::optional<QString> drucker_;  ///< the one chosen, empty for a PDF file
 };
 
 }  // namespace velmaris
