@@ -16,7 +16,7 @@
 namespace velmaris {
 namespace {
 
-constexpr int mindestbreite = 400;
+constexpr int mindestbreite = 460;
 constexpr int knopfbreite = 90;
 
 /// An empty dialog, as large as what it holds, with a column for that.

@@ -46,6 +46,7 @@ void binde_text(Textart& feld, Anzeige& anzeige, const Ansichtsmittel& mittel,
             *gezeigt = anzeige.text();
             zeigen(*gezeigt);
             feld.moveCursor(QTextCursor::Start);
+            feld.horizontalScrollBar()->setValue(0);
             feld.verticalScrollBar()->setValue(0);
         }
         grundzustand(feld, anzeige);
