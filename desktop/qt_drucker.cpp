@@ -71,7 +71,10 @@ class QtDrucker : public Drucker {
         return true;
     }
 
-    QPainter& maler() { return maler_; }
+    [[nodiscard]] bool am_zeichnen() const { return maler_.isActive(); }
+
+    /// Ends the drawing, before the device goes; false if the device reports a failure.
+    bool abschliessen() { return !maler_.isActive() || maler_.end(); }
 
   private:
     [[nodiscard]] QPointF ort(double x, double y) const {
@@ -100,11 +103,14 @@ class Pdfdatei final : public QtDrucker {
         geraet_.setCreator(QStringLiteral("Velmaris"));
         beginnen(geraet_);
     }
+    Pdfdatei(const Pdfdatei&) = delete;
+    Pdfdatei& operator=(const Pdfdatei&) = delete;
+    ~Pdfdatei() override { abschliessen(); }
 
     [[nodiscard]] std::string DeviceName() const override { return "PDF"; }
     void NewPage() override { geraet_.newPage(); }
     void EndDoc() override {
-        maler().end();
+        abschliessen();
         datei_ersetzen(datei_, puffer_.data().toStdString());
     }
 
@@ -123,12 +129,15 @@ class Druckerdokument final : public QtDrucker {
         geraet_.setPageOrientation(QPageLayout::Portrait);
         geraet_.setDocName(qtext(ziel.titel));
         geraet_.setCreator(QStringLiteral("Velmaris"));
-        if (!geraet_.isValid() || !beginnen(geraet_)) gestoert(ziel.drucker);
+        // For a name that is not known the default printer would step in.
+        const bool gefunden = geraet_.isValid() && utf8(geraet_.printerName()) == ziel.drucker;
+        if (!gefunden || !beginnen(geraet_)) gestoert(ziel.drucker);
     }
     Druckerdokument(const Druckerdokument&) = delete;
     Druckerdokument& operator=(const Druckerdokument&) = delete;
     ~Druckerdokument() override {
-        if (maler().isActive()) geraet_.abort();
+        if (am_zeichnen()) geraet_.abort();
+        abschliessen();
     }
 
     [[nodiscard]] std::string DeviceName() const override { return utf8(geraet_.printerName()); }
@@ -136,7 +145,7 @@ class Druckerdokument final : public QtDrucker {
         if (!geraet_.newPage()) gestoert(DeviceName());
     }
     void EndDoc() override {
-        if (!maler().end() || geraet_.printerState() == QPrinter::Error) gestoert(DeviceName());
+        if (!abschliessen() || geraet_.printerState() == QPrinter::Error) gestoert(DeviceName());
     }
 
   private:

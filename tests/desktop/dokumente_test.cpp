@@ -245,7 +245,8 @@ TEST_F(DokumenteTest, DruckenSchreibtDieGewaehltenSeitenAlsPdf) {
          {Fall{"d", "PDF-Datei", "Ausgabe: Wärmebilanz", "Effizienzfaktor Klimaanlage:", "- Seite 2 / 2 -"},
           Fall{"e", "PDF file", "Output: Heat balance", "Efficiency factor", "- Page 2 / 2 -"}}) {
         QWidget& fenster = oeffne_drucken(fall.sprache);
-        programm->plattform().drucker_waehlen(-1);
+        programm->plattform().drucker_waehlen(-1);  // there may be printers
+        menue("mnuFileDrucken").trigger();
         EXPECT_TRUE(such<QLabel>("Drucken", "DruckerName").text().endsWith(fall.drucker));
         EXPECT_EQ(such<QLabel>("Drucken", "DruckerNameUnten").text(),
                   such<QLabel>("Drucken", "DruckerName").text());
@@ -310,6 +311,14 @@ TEST(QtDrucker, MisstInMillimetern) {
     EXPECT_FALSE(std::filesystem::exists(ordner / "a.pdf")) << "not before the end";
     drucker->EndDoc();
     EXPECT_TRUE(test::inhalt(ordner / "a.pdf").starts_with("%PDF"));
+}
+
+TEST(QtDrucker, EinAufgegebenesDokumentHinterlaesstNichts) {
+    const test::Testordner ordner;
+    auto drucker = qt_drucker({.titel = "t", .pdf = ordner / "a.pdf"});
+    drucker->text(10, 10, "a");
+    drucker.reset();
+    EXPECT_FALSE(std::filesystem::exists(ordner / "a.pdf"));
 }
 
 TEST(QtDrucker, FehlenderDruckerIstEinLaufzeitfehler) {
