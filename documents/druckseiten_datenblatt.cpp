@@ -157,7 +157,7 @@ double zahlenzeilen(Blatt& blatt, double y, std::initializer_list<Fensterzeile> 
 double fenstertabelle(Blatt& blatt, double y, const Reportquelle& quelle) {
     const Projekt& p = quelle.p;
     constexpr std::array<Wort, 4> namen{
-        {{"Nord", "north"}, {"Süd", "south"}, {"Ost", "east"}, {"West", "west"}}};
+        {{"Nord", "North"}, {"Süd", "South"}, {"Ost", "East"}, {"West", "West"}}};
     blatt.regel(y);
     y += 0.7;
     for (std::size_t i = 0; i < namen.size(); ++i)

@@ -95,10 +95,17 @@ constexpr std::array Drucken{
                  "Primary and end energy demand for cooling (1 page)"},
 };
 
+constexpr std::array Druckerwahl{
+    Beschriftung{fenstertitel, "Drucker wählen", "Choose printer"},
+    Beschriftung{"Frame1", "Drucker", "Printer"},
+    Beschriftung{"OK_Button", "OK", "OK"},
+    Beschriftung{"Abbrechen", "Abbrechen", "Cancel"},
+};
+
 constexpr std::array fenster{
     Fenster{"Haupt", Haupt},           Fenster{"Start", Start},
     Fenster{"Sprachwahl", Sprachwahl}, Fenster{"E_Klimaimport", E_Klimaimport},
-    Fenster{"Drucken", Drucken},
+    Fenster{"Drucken", Drucken},       Fenster{"Druckerwahl", Druckerwahl},
 };
 
 }  // namespace

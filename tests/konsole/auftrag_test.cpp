@@ -1,7 +1,7 @@
 #include "konsole/auftrag.h"
 
 #include "konsole/ausgabe_json.h"
-#include "konsole/konsolenplattform.h"
+#include "toolkit/konsolenplattform.h"
 #include "project/feldtabelle.h"
 #include "tests/testprogramm.h"
 #include "toolkit/text.h"
