@@ -7,6 +7,7 @@
 #include "charts/A_Zoom.h"
 #include "climate/A_Klima.h"
 #include "climate/E_Klima.h"
+#include "climate/E_Klimaimport.h"
 #include "desktop/ebenenbau.h"
 #include "energy/E_Energie.h"
 #include "planes/E_Daemmung.h"
@@ -43,5 +44,8 @@ QWidget* sankey_ansicht(A_Sankey& a, const Ansichtsmittel& mittel, QWidget* elte
 /// The windows of the enlarged temperature chart and of the enlarged map of the world.
 QWidget* zoom_ansicht(A_Zoom& a, const Ansichtsmittel& mittel, QWidget* eltern);
 QWidget* zoom_klima_ansicht(E_Zoom_Klima& e, const Ansichtsmittel& mittel, QWidget* eltern);
+
+/// The window that imports climate data.
+QWidget* klimaimport_ansicht(E_Klimaimport& e, const Ansichtsmittel& mittel, QWidget* eltern);
 
 }  // namespace velmaris

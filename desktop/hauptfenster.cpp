@@ -70,9 +70,12 @@ Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
                                       flaechengroesse.height() - ausgabeleiste_oben));
     zoom_ansicht(haupt.a_zoom, mittel, this);
     zoom_klima_ansicht(haupt.e_klima.zoom, mittel, this);
+    QWidget* klimaimport = klimaimport_ansicht(haupt.e_klimaimport, mittel, this);
     haupt.a_uebersicht.zoom_oeffnen = [&haupt] { haupt.a_zoom.oeffnen(); };
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
             &Hauptfenster::hilfe_zur_ebene);
+    connect(new QShortcut(QKeySequence(Qt::Key_F1), klimaimport), &QShortcut::activated, this,
+            [this, klimaimport] { hilfe_zeigen(utf8(klimaimport->objectName())); });
 }
 
 void Hauptfenster::menue_bauen() {
@@ -172,6 +175,10 @@ void Hauptfenster::hilfe_zur_ebene() {
         if (seite.empty() || ebene->isAncestorOf(QApplication::focusWidget()))
             seite = utf8(ebene->objectName());
     }
+    hilfe_zeigen(seite);
+}
+
+void Hauptfenster::hilfe_zeigen(const std::string& seite) {
     mittel_.wache.fuehre_aus([&] { haupt_.datei.hilfe_zeigen(seite); });
 }
 

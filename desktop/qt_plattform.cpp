@@ -102,10 +102,15 @@ QString QtPlattform::wort(const char* de, const char* en) const {
     return qtext(sprache_() == "e" ? en : de);
 }
 
+QWidget* QtPlattform::eltern() const {
+    QWidget* offen = QApplication::activeModalWidget();
+    return offen != nullptr ? offen : hauptfenster_.data();
+}
+
 Antwort QtPlattform::melde(const Meldung& meldung) {
     const Zeigerpause pause(sanduhr_);
     QMessageBox fenster(symbolbild(meldung.symbol), zeilentext(meldung.titel), zeilentext(meldung.text),
-                        QMessageBox::NoButton, hauptfenster_);
+                        QMessageBox::NoButton, eltern());
     if (!meldung.hinweis.empty()) fenster.setInformativeText(zeilentext(meldung.hinweis));
     als_klartext(fenster);
     const std::vector<Antwort> moeglich = antworten(meldung.knoepfe);
@@ -124,7 +129,7 @@ Antwort QtPlattform::melde(const Meldung& meldung) {
 std::optional<std::string> QtPlattform::eingabe(const std::string& text, const std::string& titel,
                                                 const std::string& vorgabe) {
     const Zeigerpause pause(sanduhr_);
-    QInputDialog fenster(hauptfenster_);
+    QInputDialog fenster(eltern());
     fenster.setWindowTitle(zeilentext(titel));
     fenster.setLabelText(zeilentext(text));
     fenster.setTextValue(qtext(vorgabe));
@@ -151,7 +156,7 @@ std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog&
 }
 
 std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialog& dialog) {
-    QFileDialog fenster(hauptfenster_);
+    QFileDialog fenster(eltern());
     // A name that does not exist is the caller's to judge, and so is one that does.
     fenster.setFileMode(QFileDialog::AnyFile);
     fenster.setAcceptMode(dialog.art == Dateidialog::Art::oeffnen ? QFileDialog::AcceptOpen

@@ -17,7 +17,8 @@ class QFileDialog;
 
 namespace velmaris {
 
-/// The desktop behind the platform interface. Dialogs are modal to the main window, once that is known.
+/// The desktop behind the platform interface. Dialogs belong to the modal window that is open, else to the
+/// main window, once that is known.
 class QtPlattform final : public Plattform {
   public:
     /// `sprache` gives the language letter for buttons and labels of dialogs; faults of timer routines go to
@@ -63,6 +64,7 @@ class QtPlattform final : public Plattform {
         std::function<void()> ablauf;
     };
 
+    [[nodiscard]] QWidget* eltern() const;
     [[nodiscard]] QString wort(const char* de, const char* en) const;
     [[nodiscard]] std::optional<std::filesystem::path> datei_waehlen(const Dateidialog& dialog);
     void beschriften(QFileDialog& fenster, Dateidialog::Art art) const;

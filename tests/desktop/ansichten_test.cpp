@@ -3,12 +3,9 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -30,36 +27,12 @@ class AnsichtenTest : public test::Programmprobe {
     }
 };
 
-/// The width that the text of a control needs, 0 for what has none or wraps.
-int noetige_breite(const QWidget& fenster) {
-    if (const auto* schild = qobject_cast<const QLabel*>(&fenster))
-        return schild->wordWrap() || !schild->pixmap().isNull() ? 0 : schild->sizeHint().width();
-    if (const auto* rahmen = qobject_cast<const QGroupBox*>(&fenster))
-        return rahmen->fontMetrics().horizontalAdvance(rahmen->title()) + 10;
-    if (const auto* knopf = qobject_cast<const QPushButton*>(&fenster))
-        return knopf->fontMetrics().horizontalAdvance(knopf->text()) + 2;
-    if (qobject_cast<const QCheckBox*>(&fenster) != nullptr ||
-        qobject_cast<const QRadioButton*>(&fenster) != nullptr)
-        return fenster.sizeHint().width() - 4;
-    return 0;
-}
-
 TEST_F(AnsichtenTest, KeinTextIstAbgeschnittenUndNichtsRagtHinaus) {
     for (const char* sprache : {"d", "e"}) {
         starte(sprache);
         programm->haupt().e_geometrie.Check_Dachgeschoss.setze(1);
         programm->haupt().e_fenster.Option1.setze(1);
-        fuer_jede_ebene([&](QWidget& ebene) {
-            for (const QWidget* teil : ebene.findChildren<QWidget*>()) {
-                if (!teil->isVisible()) continue;
-                const std::string name = std::string(sprache) + " " + ebene.objectName().toStdString() + "." +
-                                         teil->objectName().toStdString();
-                EXPECT_LE(noetige_breite(*teil), teil->width()) << name;
-                const QRect platz(teil->mapTo(&ebene, QPoint(0, 0)), teil->size());
-                const bool karte = teil->objectName() == "Picture3";  // moves behind its frame
-                EXPECT_TRUE(karte || ebene.rect().adjusted(-10, 0, 0, 0).contains(platz)) << name;
-            }
-        });
+        fuer_jede_ebene([&](QWidget& ebene) { test::pruefe_platz(ebene, sprache); });
     }
 }
 
@@ -84,18 +57,7 @@ TEST_F(AnsichtenTest, JedeEbeneHatIhrEigenesBild) {
 TEST_F(AnsichtenTest, AllesZuBedienendeHatNamenUndFokus) {
     starte("e");
     programm->haupt().e_geometrie.Check_Dachgeschoss.setze(1);
-    fuer_jede_ebene([&](QWidget& ebene) {
-        for (QWidget* teil : ebene.findChildren<QWidget*>()) {
-            const auto* knopf = qobject_cast<QAbstractButton*>(teil);
-            const bool bedienbar = qobject_cast<Scrollleiste*>(teil) != nullptr ||
-                                   qobject_cast<QComboBox*>(teil) != nullptr || knopf != nullptr ||
-                                   qobject_cast<Bildflaeche*>(teil) != nullptr;
-            if (!bedienbar || teil->objectName().startsWith("qt_")) continue;
-            const QString name =
-                teil->accessibleName().isEmpty() && knopf != nullptr ? knopf->text() : teil->accessibleName();
-            EXPECT_FALSE(name.isEmpty()) << teil->objectName().toStdString();
-        }
-    });
+    fuer_jede_ebene([](QWidget& ebene) { test::pruefe_namen(ebene); });
 }
 
 TEST_F(AnsichtenTest, JedesScrollfeldBewegtSeinenWert) {
