@@ -24,7 +24,7 @@ namespace velmaris {
 namespace {
 
 /// What the window takes once all its steps are shown; it has the width of them from the beginning.
-constexpr QSize ganze_groesse(1010, 666);
+constexpr QSize ganze_groesse(1010, 670);
 
 constexpr int spalten_der_tabelle = static_cast<int>(E_Klimaimport::reihen);
 
@@ -42,16 +42,23 @@ void zeilen_angleichen(QGridLayout& tabelle) {
         tabelle.setRowMinimumHeight(reihe, mass::liste);
 }
 
+/// A button with some air beside its caption.
+QPushButton* knopf(Knopf& feld, const Ebenenbau& bau) {
+    QPushButton* neu = bau.knopf(feld);
+    neu->setMinimumWidth(neu->sizeHint().width() + 2 * mass::rand);
+    return neu;
+}
+
 QGroupBox* quelle(E_Klimaimport& e, const Ebenenbau& bau) {
     QGroupBox* rahmen = bau.rahmen(e.Frame1);
     QGridLayout& tabelle = *raster(*rahmen);
     tabelle.addWidget(bau.textfeld(e.DateinameBox, e.Frame1.text()), 0, 0);
-    tabelle.addWidget(bau.knopf(e.Command1), 0, 1);
+    tabelle.addWidget(knopf(e.Command1, bau), 0, 1);
     QLabel* erkannt = bau.anzeige(e.Erkannt);
     QPalette palette = erkannt->palette();
     palette.setColor(QPalette::WindowText, QColor(stilfarben::betonung));
     erkannt->setPalette(palette);
-    erkannt->setMinimumHeight(erkannt->fontMetrics().height());
+    erkannt->setFixedHeight(mass::leiste);
     tabelle.addWidget(erkannt, 1, 0, 1, 2);
     return rahmen;
 }
@@ -208,8 +215,8 @@ QWidget* klimaimport_ansicht(E_Klimaimport& e, const Ansichtsmittel& mittel, QWi
     spalte->addWidget(datenzuordnung(e, bau));
     auto* reihe = new QHBoxLayout;
     reihe->addWidget(fortschrittsbalken(e, bau, fenster), 1);
-    reihe->addWidget(bau.knopf(e.Command2));
-    reihe->addWidget(bau.knopf(e.Command3));
+    reihe->addWidget(knopf(e.Command2, bau));
+    reihe->addWidget(knopf(e.Command3, bau));
     spalte->addLayout(reihe);
     spalte->setSizeConstraint(QLayout::SetFixedSize);
     mittel.binder.binde(*fenster, e.ebene);

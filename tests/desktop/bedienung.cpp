@@ -86,11 +86,11 @@ void waehle_datei(const std::filesystem::path& datei) {
 
 void waehle_zeile(QComboBox& liste, int zeile) {
     QTest::mouseClick(&liste, Qt::LeftButton);
-    QAbstractItemView& eintraege = *liste.view();
-    const QRect ort = eintraege.visualRect(liste.model()->index(zeile, 0));
-    QTest::mouseMove(eintraege.viewport(), ort.center());
-    QTest::qWait(QApplication::doubleClickInterval() / 2);  // the list ignores the click that opened it
-    QTest::mouseClick(eintraege.viewport(), Qt::LeftButton, {}, ort.center());
+    QAbstractItemView* eintraege = liste.view();
+    QTest::keyClick(eintraege, Qt::Key_Home);
+    for (int i = 0; i < zeile; ++i)
+        QTest::keyClick(eintraege, Qt::Key_Down);
+    QTest::keyClick(eintraege, Qt::Key_Return);
 }
 
 void pruefe_platz(const QWidget& fenster, const std::string& wo) {

@@ -48,7 +48,7 @@ void antworte(
 /// Types a file name into the next file dialog and confirms it.
 void waehle_datei(const std::filesystem::path& datei);
 
-/// Opens a list by the mouse and clicks on a row of it.
+/// Opens a list by the mouse and picks a row of it by the keyboard.
 void waehle_zeile(QComboBox& liste, int zeile);
 
 /// Fails the test for every visible control of a window or plane whose text is cut off or which juts out.
