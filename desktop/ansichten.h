@@ -7,6 +7,7 @@
 #include "charts/A_Zoom.h"
 #include "climate/A_Klima.h"
 #include "climate/E_Klima.h"
+#include "climate/E_Klimaimport.h"
 #include "desktop/ebenenbau.h"
 #include "documents/A_Report.h"
 #include "documents/Drucken.h"
@@ -50,5 +51,7 @@ QWidget* zoom_klima_ansicht(E_Zoom_Klima& e, const Ansichtsmittel& mittel, QWidg
 /// the dialog prints through the desktop from then on.
 QWidget* report_ansicht(A_Report& a, const Ansichtsmittel& mittel, QWidget* eltern);
 QWidget* druck_ansicht(Drucken& drucken, const Ansichtsmittel& mittel, QWidget* eltern);
+/// The window that imports climate data.
+QWidget* klimaimport_ansicht(E_Klimaimport& e, const Ansichtsmittel& mittel, QWidget* eltern);
 
 }  // namespace velmaris

@@ -13,6 +13,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStringList>
@@ -126,6 +127,15 @@ void Binder::binde(QGroupBox& rahmen, Anzeige& anzeige) const {
     anschliessen(rahmen, anzeige, [&rahmen, &anzeige] {
         rahmen.setTitle(qtext(anzeige.text()));
         grundzustand(rahmen, anzeige);
+    });
+}
+
+void Binder::binde(QPlainTextEdit& ansicht, Anzeige& anzeige) const {
+    benennen(ansicht, anzeige);
+    anschliessen(ansicht, anzeige, [&ansicht, &anzeige] {
+        const QString text = zeilentext(anzeige.text());
+        if (ansicht.toPlainText() != text) ansicht.setPlainText(text);
+        grundzustand(ansicht, anzeige);
     });
 }
 

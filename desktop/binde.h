@@ -15,6 +15,7 @@ class QDialog;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
 class QRadioButton;
 class QWidget;
 
@@ -55,6 +56,9 @@ class Binder {
 
     /// A window whose title is the text.
     void binde(QDialog& fenster, Anzeige& anzeige) const;
+
+    /// A view of a long text, shown from its beginning.
+    void binde(QPlainTextEdit& ansicht, Anzeige& anzeige) const;
 
     void binde(QLineEdit& zeile, Textfeld& feld) const;
 

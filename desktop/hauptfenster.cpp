@@ -72,9 +72,12 @@ Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
     zoom_klima_ansicht(haupt.e_klima.zoom, mittel, this);
     report_ansicht(haupt.a_report, mittel, this);
     druck_ansicht(haupt.drucken, mittel, this);
+    QWidget* klimaimport = klimaimport_ansicht(haupt.e_klimaimport, mittel, this);
     haupt.a_uebersicht.zoom_oeffnen = [&haupt] { haupt.a_zoom.oeffnen(); };
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
             &Hauptfenster::hilfe_zur_ebene);
+    connect(new QShortcut(QKeySequence(Qt::Key_F1), klimaimport), &QShortcut::activated, this,
+            [this, klimaimport] { hilfe_zeigen(utf8(klimaimport->objectName())); });
 }
 
 void Hauptfenster::menue_bauen() {
@@ -174,6 +177,10 @@ void Hauptfenster::hilfe_zur_ebene() {
         if (seite.empty() || ebene->isAncestorOf(QApplication::focusWidget()))
             seite = utf8(ebene->objectName());
     }
+    hilfe_zeigen(seite);
+}
+
+void Hauptfenster::hilfe_zeigen(const std::string& seite) {
     mittel_.wache.fuehre_aus([&] { haupt_.datei.hilfe_zeigen(seite); });
 }
 

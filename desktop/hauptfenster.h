@@ -29,6 +29,7 @@ class Hauptfenster : public QMainWindow {
     void eingabeebenen_bauen();
     void ausgabeebenen_bauen();
     void hilfe_zur_ebene();
+    void hilfe_zeigen(const std::string& seite);
 
     Haupt& haupt_;
     const Ansichtsmittel& mittel_;

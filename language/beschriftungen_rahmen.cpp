@@ -72,6 +72,9 @@ constexpr std::array E_Klimaimport{
     Beschriftung{"Label_Zeitzone", "Zeitzone:", "Time zone:"},
     Beschriftung{"Frame4", "Datenzuordnung", "Data assignment"},
     Beschriftung{"Frame5", "Vorschau der Datei", "Preview of file"},
+    Beschriftung{"VScroll1", "Gezeigte Zeilen", "Rows shown"},
+    Beschriftung{"HScroll1", "Gezeigte Spalten", "Columns shown"},
+    Beschriftung{"Fortschritt", "Fortschritt des Imports", "Progress of the import"},
     Beschriftung{"Command2", "Klimaimport starten", "Start climate import"},
     Beschriftung{"Command3", "Abbrechen", "Abort"},
 };

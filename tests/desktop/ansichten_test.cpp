@@ -1,15 +1,11 @@
 #include "desktop/bildflaeche.h"
 #include "programmprobe.h"
 
-#include <QAbstractScrollArea>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -31,41 +27,12 @@ class AnsichtenTest : public test::Programmprobe {
     }
 };
 
-/// The width that the text of a control needs, 0 for what has none or wraps.
-int noetige_breite(const QWidget& fenster) {
-    if (const auto* schild = qobject_cast<const QLabel*>(&fenster))
-        return schild->wordWrap() || !schild->pixmap().isNull() ? 0 : schild->sizeHint().width();
-    if (const auto* rahmen = qobject_cast<const QGroupBox*>(&fenster))
-        return rahmen->fontMetrics().horizontalAdvance(rahmen->title()) + 10;
-    if (const auto* knopf = qobject_cast<const QPushButton*>(&fenster))
-        return knopf->fontMetrics().horizontalAdvance(knopf->text()) + 2;
-    if (qobject_cast<const QCheckBox*>(&fenster) != nullptr ||
-        qobject_cast<const QRadioButton*>(&fenster) != nullptr)
-        return fenster.sizeHint().width() - 4;
-    return 0;
-}
-
-/// Nothing in a window is cut off or reaches beyond it.
-void pruefe_platz(const QWidget& fenster, const std::string& sprache) {
-    for (const QWidget* teil : fenster.findChildren<QWidget*>()) {
-        if (!teil->isVisible() || teil->window() != fenster.window()) continue;
-        const std::string name =
-            sprache + " " + fenster.objectName().toStdString() + "." + teil->objectName().toStdString();
-        EXPECT_LE(noetige_breite(*teil), teil->width()) << name;
-        const QRect platz(teil->mapTo(&fenster, QPoint(0, 0)), teil->size());
-        // The map moves behind its frame, and so does what is longer than a text field.
-        const bool karte = teil->objectName() == "Picture3";
-        const bool rollt = qobject_cast<QAbstractScrollArea*>(teil->parentWidget()) != nullptr;
-        EXPECT_TRUE(karte || rollt || fenster.rect().adjusted(-10, 0, 0, 0).contains(platz)) << name;
-    }
-}
-
 TEST_F(AnsichtenTest, KeinTextIstAbgeschnittenUndNichtsRagtHinaus) {
     for (const char* sprache : {"d", "e"}) {
         starte(sprache);
         programm->haupt().e_geometrie.Check_Dachgeschoss.setze(1);
         programm->haupt().e_fenster.Option1.setze(1);
-        fuer_jede_ebene([&](QWidget& ebene) { pruefe_platz(ebene, sprache); });
+        fuer_jede_ebene([&](QWidget& ebene) { test::pruefe_platz(ebene, sprache); });
     }
 }
 
@@ -112,7 +79,7 @@ TEST_F(AnsichtenTest, FensterDerDokumenteZeigenAllesGanz) {
             fall.oeffnen(programm->haupt());
             QApplication::processEvents();
             QWidget& fenster = such("Haupt", fall.fenster(programm->haupt()).name.c_str());
-            pruefe_platz(fenster, sprache);
+            test::pruefe_platz(fenster, sprache);
             const QString datei =
                 QLatin1String(fall.name) + QLatin1Char('_') + QLatin1String(sprache) + ".png";
             EXPECT_TRUE(fenster.grab().save(bilderordner() + datei));
@@ -123,18 +90,7 @@ TEST_F(AnsichtenTest, FensterDerDokumenteZeigenAllesGanz) {
 TEST_F(AnsichtenTest, AllesZuBedienendeHatNamenUndFokus) {
     starte("e");
     programm->haupt().e_geometrie.Check_Dachgeschoss.setze(1);
-    fuer_jede_ebene([&](QWidget& ebene) {
-        for (QWidget* teil : ebene.findChildren<QWidget*>()) {
-            const auto* knopf = qobject_cast<QAbstractButton*>(teil);
-            const bool bedienbar = qobject_cast<Scrollleiste*>(teil) != nullptr ||
-                                   qobject_cast<QComboBox*>(teil) != nullptr || knopf != nullptr ||
-                                   qobject_cast<Bildflaeche*>(teil) != nullptr;
-            if (!bedienbar || teil->objectName().startsWith("qt_")) continue;
-            const QString name =
-                teil->accessibleName().isEmpty() && knopf != nullptr ? knopf->text() : teil->accessibleName();
-            EXPECT_FALSE(name.isEmpty()) << teil->objectName().toStdString();
-        }
-    });
+    fuer_jede_ebene([](QWidget& ebene) { test::pruefe_namen(ebene); });
 }
 
 TEST_F(AnsichtenTest, JedesScrollfeldBewegtSeinenWert) {

@@ -3,12 +3,16 @@
 #include "desktop/scrollleiste.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QStyle>
 #include <QTimer>
 #include <QWidget>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
+
+class QComboBox;
 
 namespace velmaris::test {
 
@@ -36,5 +40,21 @@ void am_naechsten_dialog(const std::function<void(Dialog&)>& schritt, int versuc
         }
     });
 }
+
+/// Answers the next message box by a button, after a look at it.
+void antworte(
+    QMessageBox::StandardButton knopf, const std::function<void(QMessageBox&)>& pruefe = [](QMessageBox&) {});
+
+/// Types a file name into the next file dialog and confirms it.
+void waehle_datei(const std::filesystem::path& datei);
+
+/// Opens a list by the mouse and picks a row of it by the keyboard.
+void waehle_zeile(QComboBox& liste, int zeile);
+
+/// Fails the test for every visible control of a window or plane whose text is cut off or which juts out.
+void pruefe_platz(const QWidget& fenster, const std::string& wo);
+
+/// Fails the test for every control of a window or plane that screen readers have no name for.
+void pruefe_namen(const QWidget& fenster);
 
 }  // namespace velmaris::test

@@ -3,7 +3,6 @@
 #include "programmprobe.h"
 
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTest>
@@ -13,27 +12,10 @@ namespace velmaris {
 namespace {
 
 using test::am_naechsten_dialog;
+using test::antworte;
+using test::waehle_datei;
 
 using ProgrammTest = test::Programmprobe;
-
-/// Answers the next message box by a button, after a look at it.
-void antworte(
-    QMessageBox::StandardButton knopf,
-    const std::function<void(QMessageBox&)>& pruefe = [](QMessageBox&) {}) {
-    am_naechsten_dialog<QMessageBox>([=](QMessageBox& box) {
-        pruefe(box);
-        QTest::mouseClick(box.button(knopf), Qt::LeftButton);
-    });
-}
-
-/// Types a file name into the next file dialog and confirms it.
-void waehle_datei(const std::filesystem::path& datei) {
-    am_naechsten_dialog<QFileDialog>([=](QFileDialog& box) {
-        auto* name = box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        name->setText(QString::fromStdString(datei.string()));
-        QTest::keyClick(name, Qt::Key_Return);
-    });
-}
 
 TEST_F(ProgrammTest, KommtInBeidenSprachenHoch) {
     struct Fall {
