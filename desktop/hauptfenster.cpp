@@ -5,7 +5,6 @@
 #include "desktop/qt_text.h"
 #include "desktop/stil.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -14,7 +13,6 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
-#include <QShortcut>
 #include <array>
 
 namespace velmaris {
@@ -71,8 +69,6 @@ Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
     zoom_ansicht(haupt.a_zoom, mittel, this);
     zoom_klima_ansicht(haupt.e_klima.zoom, mittel, this);
     haupt.a_uebersicht.zoom_oeffnen = [&haupt] { haupt.a_zoom.oeffnen(); };
-    connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
-            &Hauptfenster::hilfe_zur_ebene);
 }
 
 void Hauptfenster::menue_bauen() {
@@ -162,17 +158,6 @@ void Hauptfenster::dropEvent(QDropEvent* ereignis) {
     const std::string datei = utf8(projektdatei(*ereignis->mimeData()));
     ereignis->acceptProposedAction();
     mittel_.wache.fuehre_aus([&] { haupt_.datei.datei_oeffnen(datei); });
-}
-
-/// The help page of the plane that holds the focus, of the output plane on show if none does.
-void Hauptfenster::hilfe_zur_ebene() {
-    std::string seite;
-    for (const QWidget* ebene : flaeche_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-        if (ebene->isHidden() || ebene->objectName().endsWith(QLatin1String("_Menue"))) continue;
-        if (seite.empty() || ebene->isAncestorOf(QApplication::focusWidget()))
-            seite = utf8(ebene->objectName());
-    }
-    mittel_.wache.fuehre_aus([&] { haupt_.datei.hilfe_zeigen(seite); });
 }
 
 }  // namespace velmaris
