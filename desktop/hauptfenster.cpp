@@ -7,7 +7,6 @@
 
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
@@ -56,7 +55,6 @@ QString projektdatei(const QMimeData& ding) {
 Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
     : haupt_(haupt), mittel_(mittel), flaeche_(new QWidget(this)) {
     setObjectName(QStringLiteral("Haupt"));
-    setWindowIcon(QIcon(QFileInfo(haupt.p.AppPfad / "Grafiken" / "velmaris.bmp").filePath()));
     setAcceptDrops(true);
     setCentralWidget(flaeche_);
     flaeche_->setMinimumSize(flaechengroesse);

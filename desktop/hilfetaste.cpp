@@ -17,9 +17,9 @@ bool hat_seite(const QString& name) {
     return (ebene && !name.endsWith(leiste)) || name == QLatin1String("Drucken");
 }
 
-/// The plane on show among the children of a widget whose name begins so.
+/// The plane on show within a widget whose name begins so.
 QString gezeigte_ebene(const QWidget& flaeche, QStringView anfang) {
-    for (const QWidget* ebene : flaeche.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    for (const QWidget* ebene : flaeche.findChildren<QWidget*>()) {
         const QString name = ebene->objectName();
         if (!ebene->isHidden() && !ebene->isWindow() && hat_seite(name) && name.startsWith(anfang))
             return name;

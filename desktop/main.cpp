@@ -21,6 +21,7 @@ int ausfuehren() {
     const Befehlszeile befehlszeile(befehlstext());
     const std::filesystem::path ordner =
         QFileInfo(QCoreApplication::applicationDirPath()).filesystemFilePath();
+    symbol_setzen(ordner);
     const std::string sprache =
         sprache_bestimmen(befehlszeile, ordner, [&] { return sprachfenster(ordner); });
     Programm programm(ordner, sprache, befehlszeile);
