@@ -13,6 +13,7 @@ QWidget* ebene_bauen(Feld& feld, QSize groesse, const Ansichtsmittel& mittel, QW
     QFont schrift = ebene->font();
     schrift.setPixelSize(mass::ebenenschrift);
     ebene->setFont(schrift);
+    ebene->setFocusPolicy(Qt::ClickFocus);
     mittel.binder.binde(*ebene, feld);
     return ebene;
 }

@@ -5,16 +5,13 @@
 #include "desktop/qt_text.h"
 #include "desktop/stil.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
-#include <QShortcut>
 #include <array>
 
 namespace velmaris {
@@ -58,7 +55,6 @@ QString projektdatei(const QMimeData& ding) {
 Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
     : haupt_(haupt), mittel_(mittel), flaeche_(new QWidget(this)) {
     setObjectName(QStringLiteral("Haupt"));
-    setWindowIcon(QIcon(QFileInfo(haupt.p.AppPfad / "Grafiken" / "velmaris.bmp").filePath()));
     setAcceptDrops(true);
     setCentralWidget(flaeche_);
     flaeche_->setMinimumSize(flaechengroesse);
@@ -72,12 +68,8 @@ Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
     zoom_klima_ansicht(haupt.e_klima.zoom, mittel, this);
     report_ansicht(haupt.a_report, mittel, this);
     druck_ansicht(haupt.drucken, mittel, this);
-    QWidget* klimaimport = klimaimport_ansicht(haupt.e_klimaimport, mittel, this);
+    klimaimport_ansicht(haupt.e_klimaimport, mittel, this);
     haupt.a_uebersicht.zoom_oeffnen = [&haupt] { haupt.a_zoom.oeffnen(); };
-    connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
-            &Hauptfenster::hilfe_zur_ebene);
-    connect(new QShortcut(QKeySequence(Qt::Key_F1), klimaimport), &QShortcut::activated, this,
-            [this, klimaimport] { hilfe_zeigen(utf8(klimaimport->objectName())); });
 }
 
 void Hauptfenster::menue_bauen() {
@@ -167,21 +159,6 @@ void Hauptfenster::dropEvent(QDropEvent* ereignis) {
     const std::string datei = utf8(projektdatei(*ereignis->mimeData()));
     ereignis->acceptProposedAction();
     mittel_.wache.fuehre_aus([&] { haupt_.datei.datei_oeffnen(datei); });
-}
-
-/// The help page of the plane that holds the focus, of the output plane on show if none does.
-void Hauptfenster::hilfe_zur_ebene() {
-    std::string seite;
-    for (const QWidget* ebene : flaeche_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-        if (ebene->isHidden() || ebene->objectName().endsWith(QLatin1String("_Menue"))) continue;
-        if (seite.empty() || ebene->isAncestorOf(QApplication::focusWidget()))
-            seite = utf8(ebene->objectName());
-    }
-    hilfe_zeigen(seite);
-}
-
-void Hauptfenster::hilfe_zeigen(const std::string& seite) {
-    mittel_.wache.fuehre_aus([&] { haupt_.datei.hilfe_zeigen(seite); });
 }
 
 }  // namespace velmaris

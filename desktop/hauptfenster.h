@@ -28,8 +28,6 @@ class Hauptfenster : public QMainWindow {
     void leiste_bauen(Ebenenleiste& leiste, const QRect& platz);
     void eingabeebenen_bauen();
     void ausgabeebenen_bauen();
-    void hilfe_zur_ebene();
-    void hilfe_zeigen(const std::string& seite);
 
     Haupt& haupt_;
     const Ansichtsmittel& mittel_;

@@ -26,6 +26,7 @@ std::filesystem::path programmordner() {
 int ausfuehren() {
     const Befehlszeile befehlszeile(befehlstext());
     const std::filesystem::path ordner = programmordner();
+    symbol_setzen(ordner);
     const std::string sprache =
         sprache_bestimmen(befehlszeile, ordner, [&] { return sprachfenster(ordner); });
     Programm programm(ordner, sprache, befehlszeile);

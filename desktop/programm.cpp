@@ -1,10 +1,13 @@
 #include "desktop/programm.h"
 
+#include "desktop/qt_text.h"
 #include "desktop/startfenster.h"
 #include "project/rettung.h"
 #include "toolkit/text.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
+#include <QLibraryInfo>
 
 namespace velmaris {
 namespace {
@@ -20,6 +23,12 @@ std::string rettungstext(const Projekt& p) {
            pfadtext(*datei);
 }
 
+/// German for what the toolkit's own dialogs and menus say, where its translations are installed.
+void qt_deutsch(QTranslator& texte) {
+    if (texte.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&texte);
+}
+
 }  // namespace
 
 Programm::Programm(const std::filesystem::path& programmordner, const std::string& sprache,
@@ -30,12 +39,18 @@ Programm::Programm(const std::filesystem::path& programmordner, const std::strin
       haupt_(std::make_unique<Haupt>(plattform_, programmordner, sprache)),
       start_(std::make_unique<Start>(*haupt_, befehlszeile, [this] { fenster_->zeigen(); })),
       fenster_(std::make_unique<Hauptfenster>(*haupt_, mittel_)),
-      startfenster_(startfenster(*start_, *haupt_, mittel_, [this] { plattform_.beenden(); })) {
+      startfenster_(startfenster(*start_, *haupt_, mittel_, [this] { plattform_.beenden(); })),
+      hilfefenster_(wache_, sprache),
+      hilfetaste_([this](const std::string& seite) {
+          wache_.fuehre_aus([&] { haupt_->datei.hilfe_zeigen(seite); });
+      }) {
+    if (sprache != "e") qt_deutsch(qt_texte_);
     wache_.fehler_behandeln = [this](const Laufzeitfehler& f) { fehler(f); };
     plattform_.hauptfenster(fenster_.get());
-    plattform_.hilfe_zeigen = [this](const std::filesystem::path& datei, const std::string&) {
-        hilfe(datei);
+    plattform_.hilfe_zeigen = [this](const std::filesystem::path& datei, const std::string& seite) {
+        hilfefenster_.zeige(datei, seite);
     };
+    hilfefenster_.fremder_verweis = [this](const QUrl& verweis) { verweis_nach_aussen(verweis); };
     haupt_->info_zeigen = [this] { start_->laden(); };
 }
 
@@ -61,12 +76,17 @@ void Programm::fehler(const Laufzeitfehler& fehler) {
         qApp, [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
 }
 
-void Programm::hilfe(const std::filesystem::path& datei) {
-    const Zweisprachig grund{"Die Hilfedatei wurde nicht gefunden.", "The help file was not found."};
-    plattform_.melde({.text = grund.in(haupt_->p.Sprache),
-                      .titel = "Velmaris",
-                      .symbol = Symbol::information,
-                      .hinweis = pfadtext(datei)});
+/// A link of the help that leads to the network is followed only if the user wants it.
+void Programm::verweis_nach_aussen(const QUrl& verweis) {
+    if (!verweis.scheme().startsWith(QLatin1String("http"))) return;
+    const Zweisprachig frage{"Dieser Verweis führt ins Netz. Im Browser öffnen?",
+                             "This link leads to the network. Open it in the browser?"};
+    if (plattform_.melde({.text = frage.in(haupt_->p.Sprache),
+                          .titel = "Velmaris",
+                          .knoepfe = Knoepfe::ja_nein,
+                          .vorgabe = Antwort::nein,
+                          .hinweis = utf8(verweis.toDisplayString())}) == Antwort::ja)
+        QDesktopServices::openUrl(verweis);
 }
 
 }  // namespace velmaris

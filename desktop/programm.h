@@ -1,9 +1,12 @@
 #pragma once
 
 #include "desktop/hauptfenster.h"
+#include "desktop/hilfefenster.h"
+#include "desktop/hilfetaste.h"
 #include "desktop/qt_plattform.h"
 #include "planes/Start.h"
 
+#include <QTranslator>
 #include <filesystem>
 #include <memory>
 
@@ -26,12 +29,14 @@ class Programm {
     [[nodiscard]] Haupt& haupt() { return *haupt_; }
     [[nodiscard]] Start& start() { return *start_; }
     [[nodiscard]] Hauptfenster& fenster() { return *fenster_; }
+    [[nodiscard]] Hilfefenster& hilfefenster() { return hilfefenster_; }
     [[nodiscard]] QtPlattform& plattform() { return plattform_; }
 
   private:
     void fehler(const Laufzeitfehler& fehler);
-    void hilfe(const std::filesystem::path& datei);
+    void verweis_nach_aussen(const QUrl& verweis);
 
+    QTranslator qt_texte_;
     Fehlerwache wache_;
     Binder binder_;
     Ansichtsmittel mittel_;
@@ -40,6 +45,8 @@ class Programm {
     std::unique_ptr<Start> start_;
     std::unique_ptr<Hauptfenster> fenster_;
     std::unique_ptr<QWidget> startfenster_;
+    Hilfefenster hilfefenster_;
+    Hilfetaste hilfetaste_;
     bool am_ende_ = false;
 };
 

@@ -4,6 +4,8 @@
 #include "desktop/qt_schrift.h"
 
 #include <QApplication>
+#include <QFileInfo>
+#include <QIcon>
 #include <QToolTip>
 
 namespace velmaris {
@@ -43,6 +45,10 @@ void stil_setzen() {
     for (const char* klasse : {"QMenu", "QMenuBar", "QMessageBox", "QTipLabel", "QStatusBar", "QTitleBar"})
         QApplication::setFont(font, klasse);
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+}
+
+void symbol_setzen(const std::filesystem::path& programmordner) {
+    QApplication::setWindowIcon(QIcon(QFileInfo(programmordner / "Grafiken" / "velmaris.bmp").filePath()));
 }
 
 }  // namespace velmaris

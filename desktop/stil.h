@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <filesystem>
 
 namespace velmaris {
 
@@ -46,5 +47,8 @@ inline constexpr Farbe farben_der_tafel{qRed(stilfarben::tafel), qGreen(stilfarb
 
 /// Gives the program one look on every desktop: style, palette, fonts. Needs the application object.
 void stil_setzen();
+
+/// The program's picture on all its windows; it is in the folder Grafiken.
+void symbol_setzen(const std::filesystem::path& programmordner);
 
 }  // namespace velmaris

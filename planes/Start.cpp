@@ -42,15 +42,28 @@ Start::Start(Haupt& haupt, Befehlszeile befehlszeile, std::function<void()> haup
 }
 
 void Start::laden() {
-    fenster.zeige(true);
-    if (haupt_.p.Gestartet == 1) return;
-    if (const auto ordner = befehlszeile_.ordner()) haupt_.p.InitDir = *ordner;
-    if (befehlszeile_.sprache()) {
-        aufbauen();
-        hauptfenster_zeigen_();
+    if (haupt_.p.Gestartet == 1) {
+        fenster.zeige(true);
         return;
     }
+    if (const auto ordner = befehlszeile_.ordner()) haupt_.p.InitDir = *ordner;
+    if (befehlszeile_.sprache()) {
+        schnell_starten();
+        return;
+    }
+    fenster.zeige(true);
     haupt_.sitzung.plattform.zeitgeber_starten(Timer1, splash_millisekunden, [this] { Timer1_Timer(); });
+}
+
+/// The start window stays away, unless a fault leaves the program without its main window.
+void Start::schnell_starten() {
+    try {
+        aufbauen();
+    } catch (const Laufzeitfehler&) {
+        fenster.zeige(true);
+        throw;
+    }
+    hauptfenster_zeigen_();
 }
 
 void Start::aufbauen() {

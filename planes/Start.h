@@ -18,14 +18,16 @@ struct Start {
     Anzeige Text{"Text"};  ///< the about text
     Knopf OK_Button{"OK_Button"};
 
-    /// The start of the program: at once after a language letter on the command line, otherwise after ten
-    /// seconds or `OK_Button`. Once the program runs it only shows the window, as about box.
+    /// The start of the program: at once and without this window after a language letter on the command line,
+    /// otherwise after ten seconds or `OK_Button`. A fault during the fast start brings the window up, whose
+    /// button tries again. Once the program runs it only shows the window, as about box.
     void laden();
 
     /// Builds up the project, opens the one that the command line names, and shows the main window.
     void Timer1_Timer();
 
   private:
+    void schnell_starten();
     void aufbauen();
     void OK_Button_Click();
 

@@ -188,20 +188,5 @@ TEST_F(ProgrammTest, StartfensterBautAufKnopfdruckAuf) {
     EXPECT_TRUE(programm->fenster().isVisible());
 }
 
-TEST_F(ProgrammTest, F1ZeigtDieHilfeDerEbene) {
-    starte("d");
-    std::vector<std::string> seiten;
-    programm->plattform().hilfe_zeigen = [&](const std::filesystem::path& datei, const std::string& seite) {
-        EXPECT_EQ(datei.filename(), "Velmaris_d.chm");
-        seiten.push_back(seite);
-    };
-    klicke(such<QAbstractButton>("E_Menue", "Daemmung"));
-    such("E_Daemmung", "kwn_sb").setFocus();
-    QTest::keyClick(&such("E_Daemmung", "kwn_sb"), Qt::Key_F1);
-    such("A_Uebersicht", "Monatsbutton3").setFocus();
-    QTest::keyClick(&such("A_Uebersicht", "Monatsbutton3"), Qt::Key_F1);
-    EXPECT_EQ(seiten, (std::vector<std::string>{"E_Daemmung", "A_Uebersicht"}));
-}
-
 }  // namespace
 }  // namespace velmaris
