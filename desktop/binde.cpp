@@ -5,7 +5,6 @@
 
 #include <QAbstractItemView>
 #include <QAction>
-#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -259,8 +258,8 @@ void Binder::binde(QAction& eintrag, Menuepunkt& punkt) const {
     });
 }
 
-std::optional<int> fokusstellung() {
-    const auto* leiste = qobject_cast<const Scrollleiste*>(QApplication::focusWidget());
+std::optional<int> fokusstellung(const QWidget& fenster) {
+    const auto* leiste = qobject_cast<const Scrollleiste*>(fenster.window()->focusWidget());
     return leiste ? std::optional(leiste->value()) : std::nullopt;
 }
 

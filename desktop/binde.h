@@ -72,7 +72,8 @@ class Binder {
     const Fehlerwache* wache_;
 };
 
-/// Position of the scroll field that has the input focus, nothing if none has.
-[[nodiscard]] std::optional<int> fokusstellung();
+/// Position of the scroll field that has the input focus in the window around a widget, nothing if none has.
+/// The window keeps its focus while it is not the active one, as after a list that dropped down.
+[[nodiscard]] std::optional<int> fokusstellung(const QWidget& fenster);
 
 }  // namespace velmaris
