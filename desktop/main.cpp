@@ -1,6 +1,7 @@
 #include "desktop/programm.h"
 #include "desktop/startfenster.h"
 #include "desktop/stil.h"
+#include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 
 #include <QApplication>
@@ -36,6 +37,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Velmaris"));
     QApplication::setQuitOnLastWindowClosed(false);
     velmaris::stil_setzen();
+    velmaris::dateigrenze_melden();
     velmaris::dezimalzeichen_setzen(velmaris::dezimalzeichen_der_umgebung());
     try {
         return ausfuehren();

@@ -57,3 +57,12 @@ list(LENGTH jahr zeilen)
 if(zeilen LESS 8760)
     message(SEND_ERROR "the year file has ${zeilen} lines")
 endif()
+
+if(UNIX)
+    execute_process(COMMAND sh -c "ulimit -f 0; '${PROGRAMM}' --neu grenze.vel"
+        RESULT_VARIABLE ist ERROR_VARIABLE fehlertext WORKING_DIRECTORY ${ORDNER})
+    file(GLOB reste ${ORDNER}/grenze.vel*)
+    if(NOT ist EQUAL 1 OR NOT fehlertext MATCHES "^grenze.vel: " OR reste)
+        message(SEND_ERROR "a limit of the file size: status ${ist}, files \"${reste}\"\n${fehlertext}")
+    endif()
+endif()
