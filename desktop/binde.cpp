@@ -78,6 +78,15 @@ void liste_zeigen(QComboBox& kasten, const Auswahlliste& liste) {
     grundzustand(kasten, liste);
 }
 
+/// The cursor keeps its distance from the end, so that it stays behind what is typed when characters drop
+/// out.
+void zeile_zeigen(QLineEdit& zeile, const QString& text) {
+    if (zeile.text() == text) return;
+    const auto dahinter = zeile.text().size() - zeile.cursorPosition();
+    zeile.setText(text);
+    zeile.setCursorPosition(static_cast<int>(std::max<qsizetype>(text.size() - dahinter, 0)));
+}
+
 void optionen_zeigen(std::span<QAbstractButton* const> knoepfe, const Optionsgruppe& gruppe) {
     for (int i = 0; i < static_cast<int>(knoepfe.size()); ++i) {
         QAbstractButton& knopf = *knoepfe[static_cast<std::size_t>(i)];
@@ -216,8 +225,7 @@ void Binder::binde(std::span<QRadioButton* const> knoepfe, Optionsgruppe& gruppe
 void Binder::binde(QLineEdit& zeile, Textfeld& feld) const {
     benennen(zeile, feld);
     const auto zeigen = [&zeile, &feld] {
-        const QString text = qtext(feld.text());
-        if (zeile.text() != text) zeile.setText(text);
+        zeile_zeigen(zeile, qtext(feld.text()));
         grundzustand(zeile, feld);
     };
     anschliessen(zeile, feld, zeigen);

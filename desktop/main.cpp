@@ -2,6 +2,7 @@
 #include "desktop/programm.h"
 #include "desktop/startfenster.h"
 #include "desktop/stil.h"
+#include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 
 #include <QApplication>
@@ -64,6 +65,7 @@ int ohne_fenster(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    dateigrenze_melden();
     dezimalzeichen_setzen(dezimalzeichen_der_umgebung());
     return ist_drucklauf(argc, argv) ? ohne_fenster(argc, argv) : mit_fenster(argc, argv);
 }

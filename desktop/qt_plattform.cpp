@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPrinterInfo>
 #include <QPushButton>
@@ -139,7 +140,7 @@ std::optional<std::string> QtPlattform::eingabe(const std::string& text, const s
         schild->setTextFormat(Qt::PlainText);
         schild->setWordWrap(true);
     }
-    fenster.setMinimumWidth(400);
+    if (auto* zeile = fenster.findChild<QLineEdit*>()) zeile->setMinimumWidth(400);
     if (fenster.exec() != QDialog::Accepted) return std::nullopt;
     return utf8(fenster.textValue());
 }

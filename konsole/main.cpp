@@ -1,6 +1,7 @@
 #include "documents/report.h"
 #include "konsole/auftrag.h"
 #include "toolkit/text.h"
+#include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 
 #include <CLI/CLI.hpp>
@@ -71,6 +72,7 @@ std::filesystem::path ordner_des_programms(const char* aufruf) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    velmaris::dateigrenze_melden();
     velmaris::dezimalzeichen_setzen(velmaris::dezimalzeichen_der_umgebung());
     CLI::App app(
         "velmaris_rechnen - Heiz- und Kühlenergie eines Gebäudes / heating and cooling energy of a building");

@@ -119,8 +119,8 @@ TEST_F(KlimaimportTest, NichtsIstAbgeschnitten) {
             e().HScroll1.bewege(fall.spalte);
             e().Fortschritt.zeige(fall.spalte > 1);
             QTest::qWait(50);
-            EXPECT_EQ(fenster.width(), 1010) << fall.bild;
-            EXPECT_LE(fenster.height(), 670) << fall.bild;
+            EXPECT_LE(fenster.width(), 1024) << fall.bild;
+            EXPECT_LE(fenster.height(), 700) << fall.bild;
             test::pruefe_platz(fenster, std::string(sprache) + " " + fall.bild);
             const QString datei =
                 QStringLiteral("import_%1_%2.png").arg(QLatin1String(fall.bild), QLatin1String(sprache));
@@ -195,7 +195,11 @@ TEST_F(KlimaimportTest, JedesBedienelementWirkt) {
         tippe(feld, text);
     }
     EXPECT_TRUE(start.isEnabled());
-    EXPECT_EQ(such<QLineEdit>(ebene, "Breitengrad").text(), "47,3");
+    auto& breite = such<QLineEdit>(ebene, "Breitengrad");
+    EXPECT_EQ(breite.text(), "47,3");
+    QTest::keyClick(&breite, Qt::Key_Left);
+    QTest::keyClicks(&breite, QStringLiteral("x5"));
+    EXPECT_EQ(breite.text(), "47,53") << "the cursor stays where it was";
     EXPECT_TRUE(such<QLabel>(ebene, "Namenshinweis").text().startsWith("A comma in the name"));
 
     tippe("DateinameBox", (ordner / "fehlt.txt").string().c_str());

@@ -75,3 +75,12 @@ list(LENGTH umbrueche zahl)
 if(NOT zahl EQUAL 6 OR NOT bericht MATCHES "7d0d0a$")
     message(SEND_ERROR "bericht.rtf has ${zahl} page breaks, or does not end with its line")
 endif()
+
+if(UNIX)
+    execute_process(COMMAND sh -c "ulimit -f 0; '${PROGRAMM}' --neu grenze.vel"
+        RESULT_VARIABLE ist ERROR_VARIABLE fehlertext WORKING_DIRECTORY ${ORDNER})
+    file(GLOB reste ${ORDNER}/grenze.vel*)
+    if(NOT ist EQUAL 1 OR NOT fehlertext MATCHES "^grenze.vel: " OR reste)
+        message(SEND_ERROR "a limit of the file size: status ${ist}, files \"${reste}\"\n${fehlertext}")
+    endif()
+endif()
