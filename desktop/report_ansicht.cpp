@@ -54,7 +54,7 @@ void binde_text(Textart& feld, Anzeige& anzeige, const Ansichtsmittel& mittel,
     anzeige.ansicht();
 }
 
-void reportfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fenster) {
+QWidget* reportfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fenster) {
     auto* feld = new QTextEdit(fenster);
     const double pixel_je_punkt = feld->logicalDpiX() / punkte_je_zoll;
     feld->setAccessibleName(fenster->windowTitle());
@@ -64,9 +64,10 @@ void reportfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fenster
     binde_text(*feld, anzeige, mittel, [feld, pixel_je_punkt](const std::string& rtf) {
         setze_absaetze(*feld->document(), rtf_lesen(rtf), pixel_je_punkt);
     });
+    return feld;
 }
 
-void temperaturfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fenster) {
+QWidget* temperaturfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fenster) {
     auto* feld = new QPlainTextEdit(fenster);
     feld->setAccessibleName(fenster->windowTitle());
     QFont schrift(feste_familie());
@@ -76,6 +77,7 @@ void temperaturfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fen
     feld->document()->setDocumentMargin(seitenrand);
     binde_text(*feld, anzeige, mittel,
                [feld](const std::string& text) { feld->setPlainText(zeilentext(text)); });
+    return feld;
 }
 
 /// The number of the page shown, over the button of the page.
@@ -105,14 +107,20 @@ QWidget* report_ansicht(A_Report& a, const Ansichtsmittel& mittel, QWidget* elte
     fenster->resize(bevorzugt.boundedTo(fenster->screen()->availableSize() - QSize(0, bildschirmrest)));
     fenster->anordnen = [&a](QSize innen) { a.anordnen(innen.width(), innen.height()); };
     const Ebenenbau bau(*fenster, "A_Report", mittel);
-    reportfeld(a.Report1, mittel, fenster);
-    temperaturfeld(a.Temperaturverlauf1, mittel, fenster);
+    QWidget* report = reportfeld(a.Report1, mittel, fenster);
+    QWidget* temperaturen = temperaturfeld(a.Temperaturverlauf1, mittel, fenster);
     for (int i = 1; i <= A_Report::knoepfe; ++i)
         bau.knopf(a.Seite(i));
     bau.knopf(a.Command_Speichern);
     bau.knopf(a.Command_Schliessen);
     marke(a.AktSeite, bau);
     mittel.binder.binde(static_cast<QWidget&>(*fenster), a.fenster);
+    a.fenster.ansicht = [&a, fenster, report, temperaturen] {
+        const bool kommt = fenster->isHidden();
+        grundzustand(*fenster, a.fenster);
+        // The keys scroll the text that is shown.
+        if (kommt) (a.Report1.sichtbar() ? report : temperaturen)->setFocus();
+    };
     return fenster;
 }
 

@@ -125,7 +125,9 @@ TEST_F(DokumenteTest, ReportStehtFormatiertAufDemSchirm) {
     const double punkt = feld.logicalDpiX() / 72.0;
     EXPECT_EQ(ort.blockFormat().tabPositions()[0].position, 215 * punkt) << "4300 twips";
 
-    feld.setFocus();
+    EXPECT_EQ(QApplication::focusWidget(), &feld) << "so that the keys scroll";
+    QTest::keyClick(&feld, Qt::Key_PageDown);
+    EXPECT_GT(feld.verticalScrollBar()->value(), 0);
     QTest::keyClicks(&feld, "x");
     EXPECT_FALSE(reporttext().startsWith(u'x')) << "is to be read only";
     QTest::keyClick(&feld, Qt::Key_A, Qt::ControlModifier);
@@ -200,6 +202,13 @@ TEST_F(DokumenteTest, TemperaturverlaufJeMonatUndAlsJahresdatei) {
         std::filesystem::remove(ordner / "jahr.txt");
         QTest::keyClick(&fenster, Qt::Key_Escape);
         EXPECT_FALSE(fenster.isVisible());
+        for (const auto& [eintrag, text] : {std::pair{"mnuBerechnungsergebnisseExportieren", "Report1"},
+                                            {"mnuTemperaturExport", "Temperaturverlauf1"}}) {
+            menue(eintrag).trigger();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster));
+            EXPECT_EQ(fenster.focusWidget(), &such("A_Report", text)) << "so that the keys scroll";
+            klicke(such<QAbstractButton>("A_Report", "Command_Schliessen"));
+        }
     }
 }
 
