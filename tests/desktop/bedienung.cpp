@@ -1,5 +1,8 @@
 #include "bedienung.h"
 
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QStyleOptionSlider>
 #include <QTest>
 #include <QWheelEvent>
@@ -33,6 +36,21 @@ void rad(QWidget& fenster, int rasten) {
                          QPoint(0, rasten * QWheelEvent::DefaultDeltasPerStep), Qt::NoButton, Qt::NoModifier,
                          Qt::NoScrollPhase, false);
     QApplication::sendEvent(&fenster, &ereignis);
+}
+
+void antworte(QMessageBox::StandardButton knopf, const std::function<void(QMessageBox&)>& pruefe) {
+    am_naechsten_dialog<QMessageBox>([=](QMessageBox& box) {
+        pruefe(box);
+        QTest::mouseClick(box.button(knopf), Qt::LeftButton);
+    });
+}
+
+void waehle_datei(const std::filesystem::path& datei) {
+    am_naechsten_dialog<QFileDialog>([=](QFileDialog& box) {
+        auto* name = box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        name->setText(QString::fromStdString(datei.string()));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
 }
 
 }  // namespace velmaris::test

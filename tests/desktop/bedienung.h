@@ -3,9 +3,11 @@
 #include "desktop/scrollleiste.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QStyle>
 #include <QTimer>
 #include <QWidget>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -36,5 +38,12 @@ void am_naechsten_dialog(const std::function<void(Dialog&)>& schritt, int versuc
         }
     });
 }
+
+/// Answers the next message box by a button, after a look at it.
+void antworte(
+    QMessageBox::StandardButton knopf, const std::function<void(QMessageBox&)>& pruefe = [](QMessageBox&) {});
+
+/// Types a file name into the next file dialog and confirms it.
+void waehle_datei(const std::filesystem::path& datei);
 
 }  // namespace velmaris::test
