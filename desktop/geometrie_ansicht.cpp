@@ -73,10 +73,10 @@ void masse(E_Geometrie& e, const Ebenenbau& bau, QWidget* ebene) {
 
     const std::string laenge = bau.mittel().sprache == "e" ? "length" : "Länge";
     const std::string breite = bau.mittel().sprache == "e" ? "width" : "Breite";
-    setze(mittig(bau.anzeige(e.l_anz)), ebene, 182, 210, 160, 15);
-    setze(bau.leiste(e.l_sb, laenge), ebene, 182, 226, 160, mass::leiste);
     setze(mittig(bau.anzeige(e.b_anz)), ebene, 10, 210, 160, 15);
     setze(bau.leiste(e.b_sb, breite), ebene, 10, 226, 160, mass::leiste);
+    setze(mittig(bau.anzeige(e.l_anz)), ebene, 182, 210, 160, 15);
+    setze(bau.leiste(e.l_sb, laenge), ebene, 182, 226, 160, mass::leiste);
 }
 
 QGroupBox* dachfirst(E_Geometrie& e, const Ebenenbau& bau) {

@@ -21,6 +21,7 @@ void jahrestabelle(A_Heizen& a, const Ebenenbau& bau, QWidget* ebene) {
         Anzeige& spezifisch;
         Anzeige& absolut;
     };
+    constexpr int kopfbreite = 68;  // the unit stands on a line of its own
     auto* tafel = new QWidget(ebene);
     auto* tabelle = new QGridLayout(tafel);
     tabelle->setContentsMargins(0, 0, 0, 0);
@@ -34,7 +35,8 @@ void jahrestabelle(A_Heizen& a, const Ebenenbau& bau, QWidget* ebene) {
     for (Anzeige* kopf : {&a.Label15, &a.Label16}) {
         QLabel* schild = bau.zahl(*kopf);
         schild->setWordWrap(true);
-        tabelle->addWidget(schild, 0, spalte++);
+        schild->setFixedWidth(kopfbreite);
+        tabelle->addWidget(schild, 0, spalte++, Qt::AlignRight | Qt::AlignBottom);
     }
     int nummer = 1;
     for (const Reihe& reihe : {Reihe{a.Label6, a.qtrs_anz, a.qtr_anz},

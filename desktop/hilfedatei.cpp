@@ -25,8 +25,8 @@ std::optional<std::uint64_t> zahl_an(std::ifstream& datei, std::uint64_t ort) {
     datei.seekg(static_cast<std::streamoff>(ort));
     if (!datei.read(bytes.data(), bytes.size())) return std::nullopt;
     std::uint64_t wert = 0;
-    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte)
-        wert = wert << 8U | static_cast<unsigned char>(*byte);
+    for (std::size_t i = bytes.size(); i-- > 0;)
+        wert = wert << 8U | static_cast<unsigned char>(bytes.at(i));
     return wert;
 }
 

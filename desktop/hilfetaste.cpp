@@ -20,7 +20,7 @@ bool hat_seite(const QString& name) {
 /// The plane on show within a widget whose name begins so.
 QString gezeigte_ebene(const QWidget& flaeche, QStringView anfang) {
     for (const QWidget* ebene : flaeche.findChildren<QWidget*>()) {
-        const QString name = ebene->objectName();
+        QString name = ebene->objectName();
         if (!ebene->isHidden() && !ebene->isWindow() && hat_seite(name) && name.startsWith(anfang))
             return name;
     }
@@ -31,10 +31,10 @@ QString gezeigte_ebene(const QWidget& flaeche, QStringView anfang) {
 /// the focus, that of the plane on show.
 QString seite_zu(const QWidget* von) {
     for (const QWidget* ort = von; ort != nullptr; ort = ort->parentWidget()) {
-        const QString name = ort->objectName();
+        QString name = ort->objectName();
         if (hat_seite(name)) return name;
         if (name.endsWith(leiste)) return gezeigte_ebene(*ort->parentWidget(), QStringView(name).left(2));
-        if (const QString ebene = gezeigte_ebene(*ort, u"E_"); !ebene.isEmpty()) return ebene;
+        if (QString ebene = gezeigte_ebene(*ort, u"E_"); !ebene.isEmpty()) return ebene;
     }
     return {};
 }

@@ -3,6 +3,7 @@
 #include "climate/klimadatei.h"
 #include "language/beschriftungen.h"
 #include "language/c_Sprache.h"
+#include "planes/menueverbindung.h"
 #include "planes/neues_projekt.h"
 #include "planes/reportquelle.h"
 #include "toolkit/sanduhr.h"
@@ -45,7 +46,7 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       plan_(rechenplan()) {
     verbinden();
     leisten_fuellen();
-    menue_verbinden();
+    menue_verbinden(*this);
 }
 
 void Haupt::leisten_fuellen() {
@@ -65,43 +66,6 @@ void Haupt::leisten_fuellen() {
             eintrag.knopf->schreibe(beschriftung(leiste->leiste.name, eintrag.knopf->name, p.Sprache));
         }
     }
-}
-
-void Haupt::menue_verbinden() {
-    const auto tut = [this](const char* name, std::function<void()> aktion) {
-        menue.punkt(name).gedrueckt = std::move(aktion);
-    };
-    tut("mnuFileNeu", [this] { datei.datei_neu(); });
-    tut("mnuFileOeffnen", [this] { datei.datei_oeffnen({}); });
-    tut("mnuFileSpeichern", [this] { datei.datei_speichern(); });
-    tut("mnuFileunter", [this] { datei.datei_speichern_unter(); });
-    tut("mnuFileExit", [this] { datei.programm_beenden(); });
-    tut("mnuWinGeo", [this] { e_menue.klicke("Geometrie"); });
-    tut("mnuWinFens", [this] { e_menue.klicke("Fenster"); });
-    tut("mnuWinDaem", [this] { e_menue.klicke("Daemmung"); });
-    tut("mnuWinGeb", [this] { e_menue.klicke("Gebaeude"); });
-    tut("mnuWinKlima", [this] { e_menue.klicke("Klima"); });
-    tut("mnuWinEnerg", [this] { e_menue.klicke("Energie"); });
-    tut("mnuSpracheDeutsch", [this] { sprache_waehlen("d"); });
-    tut("mnuSpracheEnglisch", [this] { sprache_waehlen("e"); });
-    tut("mnuQuestHilfe", [this] { datei.hilfe_zeigen(); });
-    tut("mnuFileDrucken", [this] { drucken.oeffnen(); });
-    tut("mnuBerechnungsergebnisseExportieren", [this] { a_report.report_zeigen(); });
-    tut("mnuTemperaturExport", [this] { a_report.temperaturverlauf_zeigen(); });
-    tut("mnuKlimaImportieren", [this] { e_klimaimport.oeffnen(); });
-    tut("mnuQuestInfo", [this] {
-        if (info_zeigen) info_zeigen();
-    });
-}
-
-void Haupt::sprache_waehlen(const std::string& buchstabe) {
-    Menuepunkt& deutsch = menue.punkt("mnuSpracheDeutsch");
-    Menuepunkt& englisch = menue.punkt("mnuSpracheEnglisch");
-    Menuepunkt& gewaehlt = buchstabe == "e" ? englisch : deutsch;
-    if (gewaehlt.angekreuzt()) return;
-    deutsch.kreuze_an(&gewaehlt == &deutsch);
-    englisch.kreuze_an(&gewaehlt == &englisch);
-    sprache_merken(p, sitzung.plattform, buchstabe);
 }
 
 void Haupt::laden() {

@@ -90,8 +90,6 @@ struct Haupt {
     [[nodiscard]] Rechenplan rechenplan();
     void verbinden();
     void leisten_fuellen();
-    void menue_verbinden();
-    void sprache_waehlen(const std::string& buchstabe);
 
     /// Reads the station of the record and shows its figures.
     void klimadatei_lesen();

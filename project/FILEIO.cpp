@@ -26,11 +26,11 @@ std::string mit_endung(std::string datei) {
     return datei;
 }
 
-Meldung falsche_version(const std::string& sprache) {
+Meldung falsche_version(const std::string& sprache, const std::string& datei) {
     const Zweisprachig text{
         "Dies ist keine gültige Velmaris-Datendatei.\r\n\r\nDaten konnten nicht geladen werden!",
         "This is not a valid Velmaris data file.\r\n\r\nData could not be read.!"};
-    return {.text = text.in(sprache), .titel = "Fehler", .symbol = Symbol::ausrufezeichen};
+    return {.text = text.in(sprache), .titel = "Fehler", .symbol = Symbol::ausrufezeichen, .hinweis = datei};
 }
 
 }  // namespace
@@ -159,7 +159,7 @@ void FILEIO::datei_oeffnen(const std::string& datei) {
             titel_der_datei();
             wege_.erste_ebenen();
         } else {
-            s_.plattform.melde(falsche_version(s_.p.Sprache));
+            s_.plattform.melde(falsche_version(s_.p.Sprache, ziel));
             titel_unbenannt();
         }
     } catch (const Laufzeitfehler& fehler) {

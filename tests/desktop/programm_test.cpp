@@ -3,6 +3,10 @@
 #include "programmprobe.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTest>
@@ -110,6 +114,20 @@ TEST_F(ProgrammTest, AbgebrochenesOeffnenIstEinDateifehler) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+/// The entries of the context menu of a text field are the toolkit's own texts.
+TEST_F(ProgrammTest, EigeneTexteVonQtFolgenDerSprache) {
+    const QString verzeichnis = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    const bool vorhanden = QFileInfo::exists(verzeichnis + "/qtbase_de.qm");
+    for (const auto& [sprache, erwartet] :
+         {std::pair{"d", vorhanden ? "Alles auswählen" : "Select All"}, {"e", "Select All"}}) {
+        starte(sprache);
+        QLineEdit zeile;
+        const std::unique_ptr<QMenu> menue(zeile.createStandardContextMenu());
+        const QString letzter = menue->actions().last()->text().section(u'\t', 0, 0).remove(u'&');
+        EXPECT_EQ(letzter, QString::fromUtf8(erwartet)) << sprache;
+    }
+}
+
 TEST_F(ProgrammTest, NimmtEineFallengelasseneDatei) {
     starte("d");
     waehle_datei(ordner / "a.vel");
@@ -168,6 +186,51 @@ TEST_F(ProgrammTest, FehlerInDateienBeendenNichtAndereSchon) {
     const std::filesystem::path datei = rettung.section(QStringLiteral(": "), 1).toStdString();
     EXPECT_TRUE(std::filesystem::exists(datei)) << rettung.toStdString();
     std::filesystem::remove(datei);
+}
+
+/// Notes the names of the windows that come up.
+class Fensterzaehler : public QObject {
+  public:
+    Fensterzaehler() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* ding, QEvent* ereignis) override {
+        const auto* fenster = qobject_cast<const QWidget*>(ding);
+        if (ereignis->type() == QEvent::Show && fenster != nullptr && fenster->isWindow())
+            namen.append(fenster->objectName());
+        return false;
+    }
+
+    QStringList namen;
+};
+
+TEST_F(ProgrammTest, SchnellerStartZeigtNurDasHauptfenster) {
+    const Fensterzaehler zaehler;
+    starte("d");
+    EXPECT_EQ(zaehler.namen, QStringList{"Haupt"});
+}
+
+TEST_F(ProgrammTest, GescheiterterSchnellstartLaesstDasStartfenster) {
+    const auto klima = ordner / "klima";
+    std::filesystem::rename(klima, ordner / "weg");
+    antworte(QMessageBox::Ok, [](QMessageBox& box) { EXPECT_TRUE(box.text().contains(".met")); });
+    programm = std::make_unique<Programm>(ordner.pfad(), "d", Befehlszeile("d"));
+    programm->starten();
+    QWidget* start = QApplication::activeModalWidget();
+    ASSERT_NE(start, nullptr) << "no program without a window";
+    EXPECT_FALSE(programm->fenster().isVisible());
+    std::filesystem::rename(ordner / "weg", klima);
+    klicke(*start->findChild<QAbstractButton*>(QStringLiteral("OK_Button")));
+    EXPECT_FALSE(start->isVisible());
+    EXPECT_TRUE(programm->fenster().isVisible());
+}
+
+TEST_F(ProgrammTest, StartfensterZuHeisstProgrammZu) {
+    programm = std::make_unique<Programm>(ordner.pfad(), "d", Befehlszeile(""));
+    programm->starten();
+    QTimer::singleShot(0, QApplication::activeModalWidget(), &QWidget::close);
+    QTimer::singleShot(3000, qApp, [] { QCoreApplication::exit(99); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_FALSE(programm->fenster().isVisible());
 }
 
 TEST_F(ProgrammTest, StartfensterBautAufKnopfdruckAuf) {
