@@ -179,11 +179,12 @@ TEST_F(EingabenTest, SchieberUndListenDerVierFassaden) {
     EXPECT_EQ(such<QLabel>("E_Fenster", "f_gf_anz").text(), "28.6");  // 55 % of 52 m2
     hake("Option11");
     EXPECT_EQ(p().Option1, 1);
-    const struct {
+    struct Seite {
         const char* reiter;
         std::string buchstabe;
         int typ;
-    } seiten[] = {
+    };
+    const std::vector<Seite> seiten{
         {"Command_HR0", "n", 1}, {"Command_HR1", "s", 6}, {"Command_HR2", "o", 0}, {"Command_HR3", "w", 4}};
     const std::vector<Schieberfall> faelle{
         {"kfgn_sb", Zug::vor, 305, 3.05, "kfgn_anz", "3.05"},
@@ -207,12 +208,12 @@ TEST_F(EingabenTest, SchieberUndListenDerVierFassaden) {
         {"verscho_sb", Zug::anfang, 0, 0, "verscho_anz", "0"},
         {"verschw_sb", Zug::zurueck, 15, 0.15, "verschw_anz", "15"},
     };
-    for (std::size_t i = 0; i < std::size(seiten); ++i) {
+    for (std::size_t i = 0; i < seiten.size(); ++i) {
         klicke(such<QAbstractButton>("E_Fenster", seiten[i].reiter));
         const std::string typ = "fenster" + seiten[i].buchstabe + "_typ";
         waehle(typ.c_str(), seiten[i].typ);
         EXPECT_EQ(wert(typ), seiten[i].typ);
-        for (std::size_t zeile = i; zeile < faelle.size(); zeile += std::size(seiten)) {
+        for (std::size_t zeile = i; zeile < faelle.size(); zeile += seiten.size()) {
             schieber({faelle[zeile]});
             EXPECT_EQ(wert(typ), 7) << "moved by hand, first of all right after the list had dropped down";
         }
