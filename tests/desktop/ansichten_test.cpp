@@ -93,32 +93,6 @@ TEST_F(AnsichtenTest, AllesZuBedienendeHatNamenUndFokus) {
     fuer_jede_ebene([](QWidget& ebene) { test::pruefe_namen(ebene); });
 }
 
-TEST_F(AnsichtenTest, JedesScrollfeldBewegtSeinenWert) {
-    starte("d");
-    programm->haupt().e_geometrie.Check_Dachgeschoss.setze(1);
-    programm->haupt().e_fenster.Option1.setze(1);
-    int bewegte = 0;
-    fuer_jede_ebene([&](QWidget& ebene) {
-        for (Scrollleiste* leiste : ebene.findChildren<Scrollleiste*>()) {
-            if (!leiste->isVisible()) continue;
-            const int vorher = leiste->value();
-            leiste->setFocus();
-            p().Geaendert = 0;
-            QTest::keyClick(leiste, leiste->orientation() == Qt::Vertical ? Qt::Key_Down : Qt::Key_Right);
-            EXPECT_EQ(leiste->value(), std::min(vorher + leiste->singleStep(), leiste->maximum()))
-                << leiste->objectName().toStdString();
-            const bool nur_ansicht = leiste->objectName() == "HScroll1";
-            EXPECT_EQ(p().Geaendert, nur_ansicht ? 0 : 1) << leiste->objectName().toStdString();
-            ++bewegte;
-        }
-    });
-    // 6 of the geometry, 4 + 5 of the windows with one panel, 9 of the insulation, 7 of the building
-    EXPECT_EQ(bewegte, 31);
-    EXPECT_EQ(such<QLabel>("E_Geometrie", "l_anz").text(), QString::fromUtf8("Länge: 11.0 m"));
-    EXPECT_EQ(such<QLabel>("E_Daemmung", "kwn_anz").text(), "0.30");
-    EXPECT_EQ(such<QLabel>("E_Gebaeude", "lw_anz").text(), "0.20");
-}
-
 TEST_F(AnsichtenTest, GlaswertVonHandWirdSonstiges) {
     starte("d");
     klicke(such<QAbstractButton>("E_Menue", "Fenster"));
