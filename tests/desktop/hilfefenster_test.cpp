@@ -46,7 +46,7 @@ class HilfefensterTest : public test::Programmprobe {
     }
 
     /// The text of the message that `tu` brings up.
-    std::string meldung_bei(const std::function<void()>& tu) {
+    static std::string meldung_bei(const std::function<void()>& tu) {
         std::string text;
         am_naechsten_dialog<QMessageBox>([&](QMessageBox& box) {
             text = box.text().toStdString();
