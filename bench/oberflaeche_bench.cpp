@@ -1,9 +1,15 @@
 #include "desktop/programm.h"
+#include "desktop/scrollleiste.h"
 #include "desktop/stil.h"
 #include "tests/testprogramm.h"
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <chrono>
+#include <map>
+#include <string_view>
 
 namespace velmaris {
 namespace {
@@ -27,6 +33,29 @@ void Start_bis_Hauptfenster(benchmark::State& zustand) {
     }
 }
 BENCHMARK(Start_bis_Hauptfenster)->Unit(benchmark::kMillisecond);
+
+/// From the click on an output plane's button to its first full picture, in a program newly started.
+void Erstes_Bild(benchmark::State& zustand, const char* ebene) {
+    using Uhr = std::chrono::steady_clock;
+    const Ordner ordner;
+    for ([[maybe_unused]] auto _ : zustand) {
+        Programm programm(ordner.pfad(), "d", Befehlszeile("d"));
+        programm.starten();
+        QApplication::processEvents();
+        if (std::string_view(ebene) == "Uebersicht") programm.haupt().a_menue.klicke("Heizen");
+        QApplication::processEvents();
+        const Uhr::time_point beginn = Uhr::now();
+        programm.haupt().a_menue.klicke(ebene);
+        QApplication::processEvents();
+        zustand.SetIterationTime(std::chrono::duration<double>(Uhr::now() - beginn).count());
+    }
+}
+
+BENCHMARK_CAPTURE(Erstes_Bild, Uebersicht, "Uebersicht")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Erstes_Bild, Klima, "Klima")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Erstes_Bild, Heizen, "Heizen")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Erstes_Bild, Kuehlen, "Kuehlen")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Erstes_Bild, Sankey, "Sankey")->UseManualTime()->Unit(benchmark::kMillisecond);
 
 /// One step of a scroll field, all visible charts repainted, with each output plane in front.
 void Schritt(benchmark::State& zustand, const char* ebene) {
@@ -54,6 +83,50 @@ BENCHMARK_CAPTURE(Schritt, Uebersicht, "Uebersicht")->Unit(benchmark::kMilliseco
 BENCHMARK_CAPTURE(Schritt, Heizen, "Heizen")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Schritt, Kuehlen, "Kuehlen")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Schritt, Sankey, "Sankey")->Unit(benchmark::kMillisecond);
+
+using Uhr = std::chrono::steady_clock;
+
+/// Presses the key of a small step there or back and waits until all is painted; milliseconds.
+double schritt_mit_taste(Scrollleiste& leiste, bool hin) {
+    const bool waagrecht = leiste.orientation() == Qt::Horizontal;
+    const int hintaste = waagrecht ? Qt::Key_Right : Qt::Key_Down;
+    const int ruecktaste = waagrecht ? Qt::Key_Left : Qt::Key_Up;
+    QKeyEvent taste(QEvent::KeyPress, hin ? hintaste : ruecktaste, Qt::NoModifier);
+    const auto anfang = Uhr::now();
+    QApplication::sendEvent(&leiste, &taste);
+    QApplication::processEvents();
+    return std::chrono::duration<double, std::milli>(Uhr::now() - anfang).count();
+}
+
+/// A step of each scroll field of the input planes, with the overview beside them. The label names the field
+/// that takes longest in the mean, the counter tells how many milliseconds.
+void Schritt_jedes_Feldes(benchmark::State& zustand) {
+    const Ordner ordner;
+    Programm programm(ordner.pfad(), "d", Befehlszeile("d"));
+    programm.starten();
+    Haupt& haupt = programm.haupt();
+    haupt.e_geometrie.Check_Dachgeschoss.setze(1);
+    haupt.e_fenster.Option1.setze(1);
+    std::map<std::string, double> zeiten;
+    int runden = 0;
+    for ([[maybe_unused]] auto _ : zustand) {
+        for (const auto& eintrag : haupt.e_menue.eintraege()) {
+            haupt.e_menue.klicke(eintrag.knopf->name);
+            QApplication::processEvents();
+            for (auto* leiste : programm.fenster().findChildren<Scrollleiste*>()) {
+                if (leiste->isVisible())
+                    zeiten[leiste->objectName().toStdString()] += schritt_mit_taste(*leiste, runden % 2 == 0);
+            }
+        }
+        ++runden;
+    }
+    const auto laengster = std::max_element(zeiten.begin(), zeiten.end(),
+                                            [](const auto& a, const auto& b) { return a.second < b.second; });
+    zustand.SetLabel(laengster->first);
+    zustand.counters["fields"] = static_cast<double>(zeiten.size());
+    zustand.counters["slowest_ms"] = laengster->second / runden;
+}
+BENCHMARK(Schritt_jedes_Feldes)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace velmaris

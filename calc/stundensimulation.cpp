@@ -2,9 +2,9 @@
 
 #include "calc/hausmodell.h"
 #include "calc/summe.h"
-#include "toolkit/fehler.h"
 #include "calc/zeitkonstante.h"
 #include "climate/strahlung.h"
+#include "toolkit/fehler.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -51,9 +51,12 @@ void kuehlung_aufteilen(Monatswerte& monat, const Hausmodell& haus, const Stunde
     const double summe = lage.fenster + haus.innen + trans + lueft;
     if (summe == 0) {
         throw Laufzeitfehler(
-            {"Das Gebäude wird wärmer als die Überwärmungsgrenze, obwohl es keinerlei Gewinne hat; sein Kühlbedarf "
-             "lässt sich keiner Ursache zuordnen. Die Überwärmungsgrenze oder die internen Gewinne sind zu niedrig.",
-             "The building gets warmer than the overheating limit although it has no gains of any kind, so that its "
+            {"Das Gebäude wird wärmer als die Überwärmungsgrenze, obwohl es keinerlei Gewinne hat; sein "
+             "Kühlbedarf "
+             "lässt sich keiner Ursache zuordnen. Die Überwärmungsgrenze oder die internen Gewinne sind zu "
+             "niedrig.",
+             "The building gets warmer than the overheating limit although it has no gains of any kind, so "
+             "that its "
              "cooling demand has no cause. The overheating limit or the internal gains are too low."});
     }
     dazu(monat.Kuehl_intern, qk * haus.innen / summe);

@@ -3,7 +3,7 @@
 #include "charts/bilanzdiagramme.h"
 #include "charts/nutzungsgrad.h"
 #include "charts/schema.h"
-#include "toolkit/beschriftung.h"
+#include "language/beschriftungen.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
@@ -11,30 +11,6 @@
 
 namespace velmaris {
 namespace {
-
-constexpr Beschriftungen<A_Heizen, 20> beschriftungen{{
-    {&A_Heizen::Label1, "Jahresbilanz:", "yearly balance:"},
-    {&A_Heizen::Label6, " Transmissionsverluste:", " transmission losses:"},
-    {&A_Heizen::Label5, " Lüftungsverluste:", " ventilation losses:"},
-    {&A_Heizen::Label4, " nutzbare interne Gewinne:", " usable internal gains:"},
-    {&A_Heizen::Label3, " nutzbare solare Gewinne:", " usable solar gains:"},
-    {&A_Heizen::Label2, " Heizwärmebedarf:", " heat energy demand:"},
-    {&A_Heizen::Label15, "  spezifisch  in kWh/(m² a)", "  specific  in kWh/(m² a)"},
-    {&A_Heizen::Label16, "  absolut  in kWh/a", "  absolute  in kWh/a"},
-    {&A_Heizen::Label17, "nutzbare solare Gewinne", "useful solar gains"},
-    {&A_Heizen::Label18, "Transmissionsverluste durch die Fenster",
-     "transmission losses through the windows"},
-    {&A_Heizen::Label19, " N      S     O     W", " N      S     E     W"},
-    {&A_Heizen::Label8, "Transm.-Verluste", "transm. losses"},
-    {&A_Heizen::Label7, "Lüftungsverluste", "vent. losses"},
-    {&A_Heizen::Label25, "interne Gewinne", "internal gains"},
-    {&A_Heizen::Label21, "solare Gewinne", "solar gains"},
-    {&A_Heizen::Label9, "Heizwärme", "heat energy"},
-    {&A_Heizen::Label13, "Nutzbare solare Gewinne", "usable solar gains"},
-    {&A_Heizen::Label11, "Nicht nutzbare solare Gewinne", "non usable solar gains"},
-    {&A_Heizen::Label12, "Nutzbare interne Gewinne", "usable internal gains"},
-    {&A_Heizen::Label10, "Nicht nutzbare interne Gewinne", "non usable internal gains"},
-}};
 
 struct Fassadenbild {
     Bildfeld A_Heizen::*bild;
@@ -121,7 +97,10 @@ void A_Heizen::anordnen() {
 }
 
 void A_Heizen::laden() {
-    beschriften(*this, beschriftungen, sitzung_.p.Sprache);
+    beschriften(
+        ebene.name, sitzung_.p.Sprache,
+        {&Label1,  &Label6, &Label5, &Label4,  &Label3,  &Label2, &Label15, &Label16, &Label17, &Label18,
+         &Label19, &Label8, &Label7, &Label25, &Label21, &Label9, &Label13, &Label11, &Label12, &Label10});
 }
 
 void A_Heizen::aktiviert() {

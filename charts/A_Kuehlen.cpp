@@ -3,7 +3,7 @@
 #include "charts/bilanzdiagramme.h"
 #include "charts/kuehldiagramme.h"
 #include "charts/schema.h"
-#include "toolkit/beschriftung.h"
+#include "language/beschriftungen.h"
 #include "toolkit/zahlen.h"
 
 #include <string_view>
@@ -12,13 +12,6 @@ namespace velmaris {
 namespace {
 
 constexpr std::string_view kelvinstunden = " Kh";
-
-constexpr Beschriftungen<A_Kuehlen, 3> beschriftungen{{
-    {&A_Kuehlen::Label1, "Durchschnittliche Überwärmung pro Tag in Stunden (ohne Kühlung)",
-     "monthly average of overheated hours per day"},
-    {&A_Kuehlen::Label10, "Kühlbedarf", "cooling demand"},
-    {&A_Kuehlen::Label2, " Kühlgradstunden", "cooling degree hours"},
-}};
 
 std::string stundenzeile(const Projekt& p, double wert) {
     return "\r" + beschriftung(p, {"Durchschnittliche Überwärmung: ", "Average time of overheating: "}) +
@@ -67,7 +60,7 @@ void A_Kuehlen::anordnen() {
 }
 
 void A_Kuehlen::laden() {
-    beschriften(*this, beschriftungen, sitzung_.p.Sprache);
+    beschriften(ebene.name, sitzung_.p.Sprache, {&Label1, &Label10, &Label2});
 }
 
 void A_Kuehlen::aktiviert() const {

@@ -3,17 +3,9 @@
 #include "charts/c_sankey.h"
 #include "charts/sankey_heizen.h"
 #include "charts/sankey_kuehlen.h"
-#include "toolkit/beschriftung.h"
+#include "language/beschriftungen.h"
 
 namespace velmaris {
-namespace {
-
-constexpr Beschriftungen<A_Sankey, 2> beschriftungen{{
-    {&A_Sankey::Label1, "Energiefluß- (Sankey-) Diagramm Heizen", "Energy flow (Sankey) diagram for heating"},
-    {&A_Sankey::Label2, "Energiefluß- (Sankey-) Diagramm Kühlen", "Energy flow (Sankey) diagram for cooling"},
-}};
-
-}  // namespace
 
 A_Sankey::A_Sankey(Sitzung& sitzung) : sitzung_(sitzung) {
     const Projekt& p = sitzung.p;
@@ -34,7 +26,7 @@ void A_Sankey::anordnen() {
 }
 
 void A_Sankey::laden() {
-    beschriften(*this, beschriftungen, sitzung_.p.Sprache);
+    beschriften(ebene.name, sitzung_.p.Sprache, {&Label1, &Label2});
 }
 
 void A_Sankey::aktiviert() const {

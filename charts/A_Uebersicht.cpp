@@ -3,21 +3,13 @@
 #include "charts/bilanzdiagramme.h"
 #include "charts/schema.h"
 #include "charts/temperaturdiagramm.h"
-#include "toolkit/beschriftung.h"
+#include "language/beschriftungen.h"
 #include "toolkit/zahlen.h"
 
 namespace velmaris {
 namespace {
 
 constexpr int anfangsmonat = 7;
-
-constexpr Beschriftungen<A_Uebersicht, 5> beschriftungen{{
-    {&A_Uebersicht::Label9, " Heizwärmebedarf", "heat energy demand"},
-    {&A_Uebersicht::Label1, "Kühlbedarf", "cooling demand"},
-    {&A_Uebersicht::Label32, "Heizstunden", "heating hours"},
-    {&A_Uebersicht::Label01, "Nullenergiestunden", "zero energy hours"},
-    {&A_Uebersicht::Label02, "Kühlstunden", "cooling hours"},
-}};
 
 /// A line with hours and their share of all hours.
 std::string stundenzeile(const Anzeige& name, int h, double alle) {
@@ -65,7 +57,7 @@ void A_Uebersicht::anordnen() {
 }
 
 void A_Uebersicht::laden() {
-    beschriften(*this, beschriftungen, sitzung_.p.Sprache);
+    beschriften(ebene.name, sitzung_.p.Sprache, {&Label9, &Label1, &Label32, &Label01, &Label02});
     monatsleiste.beschriften(sitzung_.p);
     monatsleiste.markiere(sitzung_.p.Monat_Uebersicht);
 }

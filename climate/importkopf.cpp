@@ -68,6 +68,15 @@ Spaltenbelegungen belegung_nach_namen(std::string_view namen) {
     return spalten;
 }
 
+/// Line of an EnergyPlus file with the data periods, which is the last of its head; nothing if it has none.
+std::optional<int> zeile_der_datenperioden(const Importquelle& quelle) {
+    constexpr int hoechste_kopfzeilen = 100;
+    for (int n = 1; n <= hoechste_kopfzeilen; ++n) {
+        if (quelle.zeile(n).starts_with("DATA PERIODS,")) return n;
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 Quellkopf Meteonorm_Lesen(const Importquelle& quelle) {
@@ -90,7 +99,7 @@ Quellkopf Meteonorm_Lesen(const Importquelle& quelle) {
 Quellkopf Epw_Lesen(const Importquelle& quelle) {
     Quellkopf kopf{.form = Quellform::epw,
                    .trennung = Trennung::komma,
-                   .kopfzeilen = kopfzeilen_epw,
+                   .kopfzeilen = zeile_der_datenperioden(quelle).value_or(kopfzeilen_epw),
                    .ort = {},
                    .spalten = {}};
     const Spaltenteiler teiler(Trennung::komma, {});
@@ -105,6 +114,13 @@ Quellkopf Epw_Lesen(const Importquelle& quelle) {
     kopf.spalten(15) = belegung::direktstrahlung;
     kopf.spalten(16) = belegung::diffusstrahlung;
     return kopf;
+}
+
+std::string epw_werte_je_stunde(const Importquelle& quelle) {
+    constexpr int angabe = 3;
+    const auto zeile = zeile_der_datenperioden(quelle);
+    if (!zeile) return "1";
+    return ohne_rand(Spaltenteiler(Trennung::komma, {}).stelle(quelle.zeile(*zeile), angabe).value_or("1"));
 }
 
 std::optional<Quellkopf> kopf_erkennen(const Importquelle& quelle) {

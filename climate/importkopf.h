@@ -53,8 +53,12 @@ struct Quellkopf {
 /// The head of an EnergyPlus weather file: "LOCATION", city, state, country, source, station number,
 /// latitude, longitude, zone (north and east positive), height. Dry bulb, global horizontal, direct normal
 /// and diffuse horizontal radiation are the columns 7, 14, 15 and 16. Source: EnergyPlus documentation,
-/// Auxiliary Programs, "EnergyPlus Weather File (EPW) Data Dictionary".
+/// Auxiliary Programs, "EnergyPlus Weather File (EPW) Data Dictionary". The head has eight lines, or more if
+/// a comment is broken: it ends with the line of the data periods.
 [[nodiscard]] Quellkopf Epw_Lesen(const Importquelle& quelle);
+
+/// How many rows an EnergyPlus file says it has for each hour, as it stands there; "1" if it does not say.
+[[nodiscard]] std::string epw_werte_je_stunde(const Importquelle& quelle);
 
 /// The head by the source's own layout, nothing if it is not recognised.
 [[nodiscard]] std::optional<Quellkopf> kopf_erkennen(const Importquelle& quelle);

@@ -168,6 +168,14 @@ std::size_t dateizeile(int platz) {
     return static_cast<std::size_t>((platz + 1) % stunden_im_jahr);
 }
 
+/// Rows of parts of an hour would pass for hours.
+void stundenwerte_verlangen(const Importquelle& quelle) {
+    const std::string anzahl = epw_werte_je_stunde(quelle);
+    if (StringToReal(anzahl, false) == 1) return;
+    throw Importfehler({"Die Datei enthält " + anzahl + " Werte je Stunde. Benötigt wird einer je Stunde.",
+                        "The file holds " + anzahl + " values per hour. One per hour is needed."});
+}
+
 int letzte(const Spaltenbelegungen& spalten, std::int16_t art) {
     int spalte = 0;
     for (int n = 1; n <= importspalten; ++n) {
@@ -207,6 +215,7 @@ Zweisprachig jahreshinweis(const Messjahr& jahr) {
 
 std::optional<Messjahr> zeilen_lesen(const Importquelle& quelle, const Leseplan& plan,
                                      const Fortschrittsmelder& fortschritt) {
+    if (plan.form == Quellform::epw) stundenwerte_verlangen(quelle);
     const Zeilenleserei leserei(quelle, plan);
     const Zeilenfolge folge = plan.form == Quellform::epw
                                   ? folge_nach_zeitstempeln(quelle, plan.kopfzeilen, leserei)

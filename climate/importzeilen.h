@@ -68,7 +68,8 @@ struct Messjahr {
 
 /// Reads and tests the 8760 hours behind the head lines; what follows is not looked at. A value that is
 /// missing or no number, that stands for a missing one or that no station file can hold is an Importfehler
-/// with the line of the first row concerned; so are fewer rows. Nothing if it was cancelled.
+/// with the line of the first row concerned; so are fewer rows, and an EnergyPlus file with several rows for
+/// each hour. Nothing if it was cancelled.
 ///
 /// The first row of a station file is read back as the hour that ends with the year, the next one as that
 /// which ends at 1 o'clock of 1 January. Rows of Meteonorm and of other texts keep their order, so their

@@ -7,7 +7,10 @@
 #include "charts/A_Zoom.h"
 #include "climate/A_Klima.h"
 #include "climate/E_Klima.h"
+#include "climate/E_Klimaimport.h"
 #include "desktop/ebenenbau.h"
+#include "documents/A_Report.h"
+#include "documents/Drucken.h"
 #include "energy/E_Energie.h"
 #include "planes/E_Daemmung.h"
 #include "planes/E_Fenster.h"
@@ -43,5 +46,12 @@ QWidget* sankey_ansicht(A_Sankey& a, const Ansichtsmittel& mittel, QWidget* elte
 /// The windows of the enlarged temperature chart and of the enlarged map of the world.
 QWidget* zoom_ansicht(A_Zoom& a, const Ansichtsmittel& mittel, QWidget* eltern);
 QWidget* zoom_klima_ansicht(E_Zoom_Klima& e, const Ansichtsmittel& mittel, QWidget* eltern);
+
+/// The window of the report and of the temperature course, and the print dialog with its choice of a printer;
+/// the dialog prints through the desktop from then on.
+QWidget* report_ansicht(A_Report& a, const Ansichtsmittel& mittel, QWidget* eltern);
+QWidget* druck_ansicht(Drucken& drucken, const Ansichtsmittel& mittel, QWidget* eltern);
+/// The window that imports climate data.
+QWidget* klimaimport_ansicht(E_Klimaimport& e, const Ansichtsmittel& mittel, QWidget* eltern);
 
 }  // namespace velmaris

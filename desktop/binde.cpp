@@ -5,7 +5,6 @@
 
 #include <QAbstractItemView>
 #include <QAction>
-#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -13,6 +12,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStringList>
@@ -78,6 +78,15 @@ void liste_zeigen(QComboBox& kasten, const Auswahlliste& liste) {
     grundzustand(kasten, liste);
 }
 
+/// The cursor keeps its distance from the end, so that it stays behind what is typed when characters drop
+/// out.
+void zeile_zeigen(QLineEdit& zeile, const QString& text) {
+    if (zeile.text() == text) return;
+    const auto dahinter = zeile.text().size() - zeile.cursorPosition();
+    zeile.setText(text);
+    zeile.setCursorPosition(static_cast<int>(std::max<qsizetype>(text.size() - dahinter, 0)));
+}
+
 void optionen_zeigen(std::span<QAbstractButton* const> knoepfe, const Optionsgruppe& gruppe) {
     for (int i = 0; i < static_cast<int>(knoepfe.size()); ++i) {
         QAbstractButton& knopf = *knoepfe[static_cast<std::size_t>(i)];
@@ -126,6 +135,15 @@ void Binder::binde(QGroupBox& rahmen, Anzeige& anzeige) const {
     anschliessen(rahmen, anzeige, [&rahmen, &anzeige] {
         rahmen.setTitle(qtext(anzeige.text()));
         grundzustand(rahmen, anzeige);
+    });
+}
+
+void Binder::binde(QPlainTextEdit& ansicht, Anzeige& anzeige) const {
+    benennen(ansicht, anzeige);
+    anschliessen(ansicht, anzeige, [&ansicht, &anzeige] {
+        const QString text = zeilentext(anzeige.text());
+        if (ansicht.toPlainText() != text) ansicht.setPlainText(text);
+        grundzustand(ansicht, anzeige);
     });
 }
 
@@ -207,8 +225,7 @@ void Binder::binde(std::span<QRadioButton* const> knoepfe, Optionsgruppe& gruppe
 void Binder::binde(QLineEdit& zeile, Textfeld& feld) const {
     benennen(zeile, feld);
     const auto zeigen = [&zeile, &feld] {
-        const QString text = qtext(feld.text());
-        if (zeile.text() != text) zeile.setText(text);
+        zeile_zeigen(zeile, qtext(feld.text()));
         grundzustand(zeile, feld);
     };
     anschliessen(zeile, feld, zeigen);
@@ -249,8 +266,8 @@ void Binder::binde(QAction& eintrag, Menuepunkt& punkt) const {
     });
 }
 
-std::optional<int> fokusstellung() {
-    const auto* leiste = qobject_cast<const Scrollleiste*>(QApplication::focusWidget());
+std::optional<int> fokusstellung(const QWidget& fenster) {
+    const auto* leiste = qobject_cast<const Scrollleiste*>(fenster.window()->focusWidget());
     return leiste ? std::optional(leiste->value()) : std::nullopt;
 }
 

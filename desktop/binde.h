@@ -15,6 +15,7 @@ class QDialog;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
 class QRadioButton;
 class QWidget;
 
@@ -56,6 +57,9 @@ class Binder {
     /// A window whose title is the text.
     void binde(QDialog& fenster, Anzeige& anzeige) const;
 
+    /// A view of a long text, shown from its beginning.
+    void binde(QPlainTextEdit& ansicht, Anzeige& anzeige) const;
+
     void binde(QLineEdit& zeile, Textfeld& feld) const;
 
     /// A record without a text leaves the button its own.
@@ -68,7 +72,8 @@ class Binder {
     const Fehlerwache* wache_;
 };
 
-/// Position of the scroll field that has the input focus, nothing if none has.
-[[nodiscard]] std::optional<int> fokusstellung();
+/// Position of the scroll field that has the input focus in the window around a widget, nothing if none has.
+/// The window keeps its focus while it is not the active one, as after a list that dropped down.
+[[nodiscard]] std::optional<int> fokusstellung(const QWidget& fenster);
 
 }  // namespace velmaris

@@ -93,7 +93,7 @@ QGroupBox* ergebnis(std::string_view frame, Anzeige& wert, std::string_view einh
 QWidget* fenster_ansicht(E_Fenster& e, const Ansichtsmittel& mittel, QWidget* eltern) {
     QWidget* ebene = ebene_bauen(e.ebene, eingabegroesse, mittel, eltern);
     const Ebenenbau bau(*ebene, "E_Fenster", mittel);
-    e.fokusstellung = [] { return fokusstellung(); };
+    e.fokusstellung = [ebene] { return fokusstellung(*ebene); };
     QVBoxLayout& spalte = *ebenenspalte(*ebene);
     spalte.addWidget(flaechen(e, bau));
     for (QRadioButton* option : bau.optionen(e.Option1))

@@ -66,6 +66,9 @@ Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
                                       flaechengroesse.height() - ausgabeleiste_oben));
     zoom_ansicht(haupt.a_zoom, mittel, this);
     zoom_klima_ansicht(haupt.e_klima.zoom, mittel, this);
+    report_ansicht(haupt.a_report, mittel, this);
+    druck_ansicht(haupt.drucken, mittel, this);
+    klimaimport_ansicht(haupt.e_klimaimport, mittel, this);
     haupt.a_uebersicht.zoom_oeffnen = [&haupt] { haupt.a_zoom.oeffnen(); };
 }
 

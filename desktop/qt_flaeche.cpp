@@ -5,6 +5,7 @@
 #include "toolkit/zahlen.h"
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -39,6 +40,16 @@ QRgb gemischt(QRgb unten, Farbe oben, int deckung) {
         return u + ((o - u) * deckung + (o > u ? 127 : -127)) / 255;
     };
     return qRgb(anteil(qRed(unten), oben.r), anteil(qGreen(unten), oben.g), anteil(qBlue(unten), oben.b));
+}
+
+/// The edge around the letters of a text that begins at `ort` on the base line.
+void hof_zeichnen(QPainter& maler, const QPointF& ort, const QString& text, Farbe farbe) {
+    QPainterPath buchstaben;
+    buchstaben.addText(ort, maler.font(), text);
+    const QPen stift(qfarbe(farbe), 2 * hofbreite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.strokePath(buchstaben, stift);
+    maler.setRenderHint(QPainter::Antialiasing, false);
 }
 
 /// The sector between two angles, counter-clockwise, about the origin with y downward.
@@ -263,8 +274,10 @@ void QtFlaeche::text(double x, double y, std::string_view text, Farbe farbe) {
         maler_.emplace(&bild_);
         maler_->setFont(font_);
     }
+    const QPointF ort(pixel(x), pixel(y) + QFontMetricsF(font_).ascent());
+    if (schrift_ && schrift_->hof) hof_zeichnen(*maler_, ort, qtext(text), *schrift_->hof);
     maler_->setPen(qfarbe(farbe));
-    maler_->drawText(QPointF(pixel(x), pixel(y) + QFontMetricsF(font_).ascent()), qtext(text));
+    maler_->drawText(ort, qtext(text));
 }
 
 double QtFlaeche::textbreite(std::string_view text) const {

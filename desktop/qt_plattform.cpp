@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPrinterInfo>
 #include <QPushButton>
@@ -98,6 +99,11 @@ void QtPlattform::hauptfenster(QWidget* fenster) {
     if (fenster != nullptr && !titel_.isEmpty()) fenster->setWindowTitle(titel_);
 }
 
+QWidget* QtPlattform::besitzer() const {
+    QWidget* offen = QApplication::activeModalWidget();
+    return offen != nullptr ? offen : hauptfenster_.data();
+}
+
 QString QtPlattform::wort(const char* de, const char* en) const {
     return qtext(sprache_() == "e" ? en : de);
 }
@@ -105,7 +111,7 @@ QString QtPlattform::wort(const char* de, const char* en) const {
 Antwort QtPlattform::melde(const Meldung& meldung) {
     const Zeigerpause pause(sanduhr_);
     QMessageBox fenster(symbolbild(meldung.symbol), zeilentext(meldung.titel), zeilentext(meldung.text),
-                        QMessageBox::NoButton, hauptfenster_);
+                        QMessageBox::NoButton, besitzer());
     if (!meldung.hinweis.empty()) fenster.setInformativeText(zeilentext(meldung.hinweis));
     als_klartext(fenster);
     const std::vector<Antwort> moeglich = antworten(meldung.knoepfe);
@@ -124,7 +130,7 @@ Antwort QtPlattform::melde(const Meldung& meldung) {
 std::optional<std::string> QtPlattform::eingabe(const std::string& text, const std::string& titel,
                                                 const std::string& vorgabe) {
     const Zeigerpause pause(sanduhr_);
-    QInputDialog fenster(hauptfenster_);
+    QInputDialog fenster(besitzer());
     fenster.setWindowTitle(zeilentext(titel));
     fenster.setLabelText(zeilentext(text));
     fenster.setTextValue(qtext(vorgabe));
@@ -134,7 +140,7 @@ std::optional<std::string> QtPlattform::eingabe(const std::string& text, const s
         schild->setTextFormat(Qt::PlainText);
         schild->setWordWrap(true);
     }
-    fenster.setMinimumWidth(400);
+    if (auto* zeile = fenster.findChild<QLineEdit*>()) zeile->setMinimumWidth(400);
     if (fenster.exec() != QDialog::Accepted) return std::nullopt;
     return utf8(fenster.textValue());
 }
@@ -144,6 +150,7 @@ std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog&
     Dateidialog naechster = dialog;
     while (true) {
         std::optional<std::filesystem::path> datei = datei_waehlen(naechster);
+        if (datei && !datei->has_extension()) *datei += dialog.endung;
         if (!datei || !dialog.ueberschreiben_fragen || ersetzen_erlaubt(*datei)) return datei;
         naechster.ordner = datei->parent_path();
         naechster.dateiname = pfadtext(datei->filename());
@@ -151,7 +158,7 @@ std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog&
 }
 
 std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialog& dialog) {
-    QFileDialog fenster(hauptfenster_);
+    QFileDialog fenster(besitzer());
     // A name that does not exist is the caller's to judge, and so is one that does.
     fenster.setFileMode(QFileDialog::AnyFile);
     fenster.setAcceptMode(dialog.art == Dateidialog::Art::oeffnen ? QFileDialog::AcceptOpen
@@ -244,12 +251,13 @@ std::vector<std::string> QtPlattform::druckerliste() const {
 }
 
 int QtPlattform::aktueller_drucker() const {
-    const QString name = drucker_.isEmpty() ? QPrinterInfo::defaultPrinterName() : drucker_;
+    const QString name = drucker_ ? *drucker_ : QPrinterInfo::defaultPrinterName();
     return static_cast<int>(QPrinterInfo::availablePrinterNames().indexOf(name));
 }
 
 void QtPlattform::drucker_waehlen(int index) {
     const QStringList namen = QPrinterInfo::availablePrinterNames();
+    if (index < 0) drucker_ = QString();
     if (index >= 0 && index < namen.size()) drucker_ = namen[index];
 }
 

@@ -17,7 +17,8 @@ class QFileDialog;
 
 namespace velmaris {
 
-/// The desktop behind the platform interface. Dialogs are modal to the main window, once that is known.
+/// The desktop behind the platform interface. Dialogs are modal to the main window, once that is known, or to
+/// the modal window over it.
 class QtPlattform final : public Plattform {
   public:
     /// `sprache` gives the language letter for buttons and labels of dialogs; faults of timer routines go to
@@ -51,9 +52,6 @@ class QtPlattform final : public Plattform {
     [[nodiscard]] int aktueller_drucker() const override;
     void drucker_waehlen(int index) override;
 
-    /// Name of the printer in use, empty for the desktop's default.
-    [[nodiscard]] const QString& drucker() const { return drucker_; }
-
     void beenden() override;
 
   private:
@@ -63,6 +61,8 @@ class QtPlattform final : public Plattform {
         std::function<void()> ablauf;
     };
 
+    /// What dialogs belong to: the modal window that is open, or else the main window.
+    [[nodiscard]] QWidget* besitzer() const;
     [[nodiscard]] QString wort(const char* de, const char* en) const;
     [[nodiscard]] std::optional<std::filesystem::path> datei_waehlen(const Dateidialog& dialog);
     void beschriften(QFileDialog& fenster, Dateidialog::Art art) const;
@@ -75,7 +75,7 @@ class QtPlattform final : public Plattform {
     bool sanduhr_ = false;
     QRandomGenerator zufall_;
     std::map<std::string, Zeitgeber> zeitgeber_;
-    QString drucker_;
+    std::optional<QString> drucker_;  ///< the one chosen, empty for a PDF file
 };
 
 }  // namespace velmaris

@@ -25,6 +25,7 @@ void Scrollleiste::grosser_schritt(int aktion) {
 
 void Scrollleiste::wheelEvent(QWheelEvent* ereignis) {
     constexpr int raste = QWheelEvent::DefaultDeltasPerStep;
+    setFocus(Qt::MouseFocusReason);
     const QPoint drehung = ereignis->angleDelta();
     raddrehung_ += drehung.y() != 0 ? drehung.y() : -drehung.x();
     const int rasten = raddrehung_ / raste;

@@ -4,8 +4,6 @@
 #include "documents/temperaturverlauf.h"
 #include "language/beschriftungen.h"
 #include "toolkit/fehler.h"
-#include "toolkit/text.h"
-#include "toolkit/textdatei.h"
 
 #include <optional>
 
@@ -29,14 +27,13 @@ constexpr Dateiart report_datei{"Rich Text Format (*.rtf)|*.rtf", ".rtf"};
 constexpr Dateiart text_datei{"Textdatei (*.txt)|*.txt", ".txt"};
 
 std::optional<std::filesystem::path> zieldatei(Sitzung& sitzung, const Dateiart& art) {
-    auto datei = sitzung.plattform.dateidialog({.art = Dateidialog::Art::speichern,
-                                                .filter = art.filter,
-                                                .filterindex = 1,
-                                                .ordner = sitzung.p.InitDir,
-                                                .dateiname = {},
-                                                .ueberschreiben_fragen = true});
-    if (datei && !datei->has_extension()) datei->replace_extension(art.endung);
-    return datei;
+    return sitzung.plattform.dateidialog({.art = Dateidialog::Art::speichern,
+                                          .filter = art.filter,
+                                          .filterindex = 1,
+                                          .ordner = sitzung.p.InitDir,
+                                          .dateiname = {},
+                                          .endung = art.endung,
+                                          .ueberschreiben_fragen = true});
 }
 
 /// The buttons of the pages, by name and number.
@@ -101,18 +98,12 @@ void A_Report::speichern() {
         if (temperaturen) {
             temperaturverlauf_exportieren(sitzung_.p, *datei);
         } else {
-            report_speichern(*datei);
+            report_text = report_exportieren(quelle_(), *datei);
+            Report1.schreibe(report_text);
         }
     } catch (const Dateifehler&) {
         return;
     }
-}
-
-void A_Report::report_speichern(const std::filesystem::path& datei) {
-    std::string text = report_in_sprache(quelle_(), 0);
-    datei_ersetzen(datei, nach_windows1252(text) + "\r\n");
-    report_text = std::move(text);
-    Report1.schreibe(report_text);
 }
 
 double A_Report::mindestbreite() {

@@ -5,7 +5,6 @@
 #include "toolkit/felder.h"
 
 #include <array>
-#include <filesystem>
 #include <functional>
 #include <string>
 
@@ -54,7 +53,6 @@ struct A_Report {
   private:
     void oeffnen(bool report);
     void markieren(int i);
-    void report_speichern(const std::filesystem::path& datei);
 
     Sitzung& sitzung_;
     std::function<Reportquelle()> quelle_;

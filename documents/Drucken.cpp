@@ -2,6 +2,7 @@
 
 #include "language/beschriftungen.h"
 #include "toolkit/fehler.h"
+#include "toolkit/text.h"
 
 #include <cstddef>
 #include <utility>
@@ -9,8 +10,7 @@
 namespace velmaris {
 namespace {
 
-constexpr Wort pdf_datei{"kein Drucker installiert, Ausgabe als PDF-Datei",
-                         "no printer installed, output as PDF file"};
+constexpr Wort pdf_filter{"PDF-Dateien (*.pdf)|*.pdf", "PDF files (*.pdf)|*.pdf"};
 constexpr Wort nichts_gewaehlt{"Bitte wählen Sie mindestens eine Ausgabe.",
                                "Please choose at least one output."};
 
@@ -23,14 +23,14 @@ std::array<Pruefeld, druckausgaben> prueffelder() {
 }  // namespace
 
 Drucken::Drucken(Sitzung& sitzung, std::function<Reportquelle()> quelle)
-    : sitzung_(sitzung), quelle_(std::move(quelle)), ausgaben_(prueffelder()) {
+    : wahl(sitzung, [this] { drucker_zeigen(); }),
+      sitzung_(sitzung),
+      quelle_(std::move(quelle)),
+      ausgaben_(prueffelder()) {
     fenster.zeige(false);
     Command1.gedrueckt = [this] { drucken(); };
     Command2.gedrueckt = [this] { fenster.zeige(false); };
-    Command3.gedrueckt = [this] {
-        if (druckerwahl) druckerwahl();
-        drucker_zeigen();
-    };
+    Command3.gedrueckt = [this] { wahl.oeffnen(); };
     beschriften("Drucken", sitzung.p.Sprache, {&Command1, &Command2, &Command3});
 }
 
@@ -40,11 +40,7 @@ void Drucken::oeffnen() {
 }
 
 void Drucken::drucker_zeigen() {
-    const auto namen = sitzung_.plattform.druckerliste();
-    const int index = sitzung_.plattform.aktueller_drucker();
-    const bool vorhanden = index >= 0 && static_cast<std::size_t>(index) < namen.size();
-    const std::string name =
-        vorhanden ? namen[static_cast<std::size_t>(index)] : std::string(pdf_datei.in(sitzung_.p.Sprache));
+    const std::string name = wahl.name_des_druckers();
     DruckerName.schreibe(name);
     DruckerNameUnten.schreibe(name);
 }
@@ -56,24 +52,40 @@ Druckauswahl Drucken::auswahl() const {
     return auswahl;
 }
 
+/// The current printer or a file that is asked for; nothing if the user gives up.
+std::optional<Druckziel> Drucken::ziel() const {
+    const Projekt& p = sitzung_.p;
+    const std::filesystem::path projekt = pfad(p.Datei).filename();
+    const int index = sitzung_.plattform.aktueller_drucker();
+    if (index >= 0) return Druckziel{.titel = pfadtext(projekt), .drucker = wahl.name_des_druckers()};
+    const auto datei = sitzung_.plattform.dateidialog(
+        {.art = Dateidialog::Art::speichern,
+         .filter = std::string(pdf_filter.in(p.Sprache)),
+         .ordner = p.InitDir,
+         .dateiname = pfadtext(std::filesystem::path(projekt).replace_extension(".pdf")),
+         .endung = ".pdf",
+         .ueberschreiben_fragen = true});
+    if (!datei) return std::nullopt;
+    return Druckziel{.titel = pfadtext(projekt), .pdf = *datei};
+}
+
+void Drucken::melde(const std::string& text) const {
+    sitzung_.plattform.melde({.text = text, .titel = "Velmaris", .symbol = Symbol::ausrufezeichen});
+}
+
 void Drucken::drucken() {
-    const std::string& sprache = sitzung_.p.Sprache;
-    const auto melde = [&](const std::string& text) {
-        sitzung_.plattform.melde({.text = text, .titel = "Velmaris", .symbol = Symbol::ausrufezeichen});
-    };
     if (druckseitenzahl(auswahl()) == 0) {
-        melde(std::string(nichts_gewaehlt.in(sprache)));
+        melde(std::string(nichts_gewaehlt.in(sitzung_.p.Sprache)));
         return;
     }
-    const std::unique_ptr<Drucker> drucker = dokument ? dokument() : nullptr;
-    if (!drucker) return;
+    const std::optional<Druckziel> wohin = ziel();
+    if (!wohin) return;
     try {
-        Ausdrucken(*drucker, quelle_(), auswahl(), heutiges_datum());
+        Ausdrucken(*dokument(*wohin), quelle_(), auswahl(), heutiges_datum());
+        fenster.zeige(false);
     } catch (const Laufzeitfehler& fehler) {
-        melde(fehler.text(sprache));
-        return;
+        melde(fehler.text(sitzung_.p.Sprache));
     }
-    fenster.zeige(false);
 }
 
 }  // namespace velmaris

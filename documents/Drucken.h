@@ -1,16 +1,27 @@
 #pragma once
 
 #include "documents/Ausdrucken.h"
+#include "documents/Druckerwahl.h"
 #include "documents/reportquelle.h"
 #include "project/sitzung.h"
 #include "toolkit/drucker.h"
 #include "toolkit/felder.h"
 
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace velmaris {
+
+/// Where a document goes.
+struct Druckziel {
+    std::string titel;               ///< of the document
+    std::string drucker = {};        ///< name of the printer, empty for a PDF file
+    std::filesystem::path pdf = {};  ///< that file
+};
 
 /// The print dialog: which outputs are to be printed, and on which printer.
 struct Drucken {
@@ -30,20 +41,21 @@ struct Drucken {
     /// Opens the dialog with the name of the current printer.
     void oeffnen();
 
-    /// Prints what is ticked and closes the dialog. With nothing ticked it says so and stays open; a failure
-    /// of the printer is a message, and the dialog stays open too.
+    /// Prints what is ticked and closes the dialog; a PDF file is asked for first. With nothing ticked it
+    /// says so and stays open; a failure of the printer is a message, and the dialog stays open too.
     void drucken();
 
-    /// The platform's dialog for the choice of a printer; set by the view.
-    std::function<void()> druckerwahl;
+    /// Begins a document; a device that cannot be used is a Laufzeitfehler. Set by the view.
+    std::function<std::unique_ptr<Drucker>(const Druckziel& ziel)> dokument;
 
-    /// Begins a document on the current printer, or in a PDF file where there is no printer; nothing if the
-    /// user gives up. Set by the view.
-    std::function<std::unique_ptr<Drucker>()> dokument;
+    /// The choice of a printer, opened by `Command3`.
+    Druckerwahl wahl;
 
   private:
     void drucker_zeigen();
+    void melde(const std::string& text) const;
     [[nodiscard]] Druckauswahl auswahl() const;
+    [[nodiscard]] std::optional<Druckziel> ziel() const;
 
     Sitzung& sitzung_;
     std::function<Reportquelle()> quelle_;

@@ -9,38 +9,44 @@ constexpr int monate_je_haelfte = 6;
 constexpr double namensspalte = 26;
 constexpr double jahresanker = 174;
 constexpr double haelftenabstand = 4;
+constexpr double doppelregelhoehe = 1;
 
 /// Right edge of the column of month i (0..5) of a half year.
 constexpr double monatsanker(int i) {
-    return 84 + 14.0 * i;
+    return 82 + 13.4 * i;
+}
+
+/// The head of a half year between its rules. Returns the y below it.
+double kopf_drucken(Blatt& blatt, double y, const Tabellenform& form, int haelfte) {
+    const bool mit_jahr = haelfte == 1;
+    const bool zweizeilig = mit_jahr && !form.jahr[1].de.empty();
+    const double luft = (form.zeilenhoehe - blatt.drucker().texthoehe("J")) / 2;
+    blatt.regel(y);
+    const double erste = y + luft;
+    const double letzte = zweizeilig ? erste + form.zeilenhoehe : erste;
+    blatt.text(namensspalte, letzte, form.einheit);
+    const auto namen = worte(monate_der_tabellen.at(static_cast<std::size_t>(haelfte)).in(blatt.sprache()));
+    for (int i = 0; i < monate_je_haelfte; ++i)
+        blatt.DruckeText(namen.at(static_cast<std::size_t>(i)), monatsanker(i), letzte);
+    if (mit_jahr) blatt.DruckeText(form.jahr[0].in(blatt.sprache()), jahresanker, erste);
+    if (zweizeilig) blatt.DruckeText(form.jahr[1].in(blatt.sprache()), jahresanker, letzte);
+    const double unten = letzte - luft + form.zeilenhoehe;
+    blatt.doppelregel(unten);
+    return unten + doppelregelhoehe;
 }
 
 /// One half year with its rules. Returns the y of the last one.
 double haelfte_drucken(Blatt& blatt, double y, const Tabellenform& form,
                        std::span<const Tabellenzeile> zeilen, int haelfte) {
     const bool mit_jahr = haelfte == 1;
-    const double kopfhoehe = mit_jahr && !form.jahr[1].de.empty() ? 2 * form.zeilenhoehe : form.zeilenhoehe;
-    blatt.regel(y);
-    y += 0.6;
-    blatt.text(namensspalte, y + kopfhoehe - form.zeilenhoehe, form.einheit);
-    const auto namen = worte(monate_der_tabellen.at(static_cast<std::size_t>(haelfte)).in(blatt.sprache()));
-    for (int i = 0; i < monate_je_haelfte; ++i)
-        blatt.DruckeText(namen.at(static_cast<std::size_t>(i)), monatsanker(i),
-                         y + kopfhoehe - form.zeilenhoehe);
-    if (mit_jahr) {
-        blatt.DruckeText(form.jahr[0].in(blatt.sprache()), jahresanker, y);
-        if (kopfhoehe > form.zeilenhoehe)
-            blatt.DruckeText(form.jahr[1].in(blatt.sprache()), jahresanker, y + form.zeilenhoehe);
-    }
-    y += kopfhoehe;
-    blatt.doppelregel(y);
-    y += 1.6;
+    y = kopf_drucken(blatt, y, form, haelfte);
+    const double luft = (form.zeilenhoehe - blatt.drucker().texthoehe("J")) / 2;
     for (const Tabellenzeile& zeile : zeilen) {
-        blatt.text(namensspalte, y, zeile.name);
+        blatt.text(namensspalte, y + luft, zeile.name);
         for (int i = 0; i < monate_je_haelfte; ++i)
             blatt.DruckeWert(zeile.monat(haelfte * monate_je_haelfte + i + 1), monatsanker(i), zeile.stellen,
-                             y);
-        if (mit_jahr && zeile.jahr) blatt.DruckeWert(*zeile.jahr, jahresanker, zeile.stellen, y);
+                             y + luft);
+        if (mit_jahr && zeile.jahr) blatt.DruckeWert(*zeile.jahr, jahresanker, zeile.stellen, y + luft);
         y += form.zeilenhoehe;
     }
     blatt.regel(y);

@@ -29,6 +29,7 @@ constexpr Diagrammlage energie = monatsdiagramm(209, 241);
 
 /// Left edge of the legends beside the diagrams by months.
 constexpr double legende = 137;
+constexpr double legendenabstand = 6;
 
 constexpr double balkenbreite = 3.4;
 constexpr double balkenluecke = 0.2;
@@ -214,13 +215,16 @@ void Diagramm_Heizenergie(Blatt& blatt, const Projekt& p) {
                 {werte.P(m), druckfarben::primaerenergie},
                 {werte.Q(m), druckfarben::primaerenergie_strom}};
     });
-    legendeneintrag(blatt, legende, 215, druckfarben::endenergie, {"Endenergiebedarf", "End energy demand"});
-    legendeneintrag(blatt, legende, 227, druckfarben::primaerenergie,
-                    {"Primärenergiebedarf", "Primary energy demand"});
-    if (kurzname(p.Heizsystem, p.Energietraeger).elektrisch()) return;
+    const bool mit_hilfsstrom = !kurzname(p.Heizsystem, p.Energietraeger).elektrisch();
     constexpr Wort strom{"Strom", "electricity"};
-    legendeneintrag(blatt, legende, 221, druckfarben::endenergie_strom, strom);
-    legendeneintrag(blatt, legende, 233, druckfarben::primaerenergie_strom, strom);
+    double y = energie.kasten.oben;
+    const auto eintrag = [&](Farbe farbe, const Wort& name) {
+        legendeneintrag(blatt, legende, y += legendenabstand, farbe, name);
+    };
+    eintrag(druckfarben::endenergie, {"Endenergiebedarf", "End energy demand"});
+    if (mit_hilfsstrom) eintrag(druckfarben::endenergie_strom, strom);
+    eintrag(druckfarben::primaerenergie, {"Primärenergiebedarf", "Primary energy demand"});
+    if (mit_hilfsstrom) eintrag(druckfarben::primaerenergie_strom, strom);
 }
 
 void Diagramm_Kühlenergie(Blatt& blatt, const Projekt& p) {

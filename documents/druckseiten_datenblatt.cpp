@@ -17,8 +17,6 @@ namespace {
 constexpr double seitenanfang = 50;
 constexpr double zeilenhoehe = 4.5;
 
-constexpr Wort u_wert{"U-Wert", "U value"};
-
 std::string mit_einheit(double wert, int stellen, std::string_view einheit) {
     return muster(wert, stellen).append(einheit);
 }
@@ -159,7 +157,7 @@ double zahlenzeilen(Blatt& blatt, double y, std::initializer_list<Fensterzeile> 
 double fenstertabelle(Blatt& blatt, double y, const Reportquelle& quelle) {
     const Projekt& p = quelle.p;
     constexpr std::array<Wort, 4> namen{
-        {{"Nord", "north"}, {"Süd", "south"}, {"Ost", "east"}, {"West", "west"}}};
+        {{"Nord", "North"}, {"Süd", "South"}, {"Ost", "East"}, {"West", "West"}}};
     blatt.regel(y);
     y += 0.7;
     for (std::size_t i = 0; i < namen.size(); ++i)

@@ -1,6 +1,8 @@
 #include "documents/report.h"
 
 #include "documents/reportseiten.h"
+#include "toolkit/text.h"
+#include "toolkit/textdatei.h"
 
 #include <array>
 #include <cstddef>
@@ -37,6 +39,12 @@ std::string report_schreiben_englisch(const Reportquelle& quelle, int seite) {
 std::string report_in_sprache(const Reportquelle& quelle, int seite) {
     return quelle.p.Sprache == "e" ? report_schreiben_englisch(quelle, seite)
                                    : report_schreiben(quelle, seite);
+}
+
+std::string report_exportieren(const Reportquelle& quelle, const std::filesystem::path& datei) {
+    std::string text = report_in_sprache(quelle, 0);
+    datei_ersetzen(datei, nach_windows1252(text) + "\r\n");
+    return text;
 }
 
 }  // namespace velmaris

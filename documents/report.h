@@ -2,6 +2,7 @@
 
 #include "documents/reportquelle.h"
 
+#include <filesystem>
 #include <string>
 
 namespace velmaris {
@@ -15,5 +16,9 @@ inline constexpr int reportseiten = 7;
 
 /// The report in the language of the record.
 [[nodiscard]] std::string report_in_sprache(const Reportquelle& quelle, int seite);
+
+/// Writes all pages in the language of the record as a Rich Text file in windows-1252, whole or not at all;
+/// a failure is a Dateifehler. Returns the text.
+std::string report_exportieren(const Reportquelle& quelle, const std::filesystem::path& datei);
 
 }  // namespace velmaris

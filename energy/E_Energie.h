@@ -90,7 +90,8 @@ struct E_Energie {
     /// entry that is hidden cannot be taken.
     void Label_Auswahl_Click(int i);
 
-    /// Shows the texts of the record's choice; a heating without transfer gets transfer 1. Errors as in `kombination_pruefen`.
+    /// Shows the texts of the record's choice; a heating without transfer gets transfer 1. Errors as in
+    /// `kombination_pruefen`.
     void eingaben_anzeigen();
 
     /// The characteristic values of the last `EnergRefresh`.

@@ -91,8 +91,8 @@ constexpr const Katalogzeile& zeile(int system) {
 void index_pruefen(const std::string& feld, int wert, int letzter) {
     if (wert >= 1 && wert <= letzter) return;
     const std::string zahlen = " " + std::to_string(wert) + " (1 .. " + std::to_string(letzter) + ")";
-    throw Laufzeitfehler({feld + ": kein Eintrag des Heizsystemkatalogs:" + zahlen,
-                          feld + ": no entry of the catalogue of heating systems:" + zahlen},
+    throw Laufzeitfehler({"kein Eintrag des Heizsystemkatalogs:" + zahlen,
+                          "no entry of the catalogue of heating systems:" + zahlen},
                          feld);
 }
 
@@ -122,11 +122,10 @@ void kombination_pruefen(int system, int uebergabe, int energietraeger) {
     index_pruefen("Energietraeger", energietraeger, energietraeger_je_zeile);
     if (!zeile(system).energietraeger.at(static_cast<std::size_t>(energietraeger - 1)).leer()) return;
     const std::string traeger = std::to_string(energietraeger);
-    throw Laufzeitfehler({"Energietraeger: das Heizsystem " + std::to_string(system) +
-                              " bietet keinen Energieträger " + traeger,
-                          "Energietraeger: heating system " + std::to_string(system) +
-                              " does not offer energy carrier " + traeger},
-                         "Energietraeger");
+    throw Laufzeitfehler(
+        {"das Heizsystem " + std::to_string(system) + " bietet keinen Energieträger " + traeger,
+         "heating system " + std::to_string(system) + " does not offer energy carrier " + traeger},
+        "Energietraeger");
 }
 
 }  // namespace velmaris

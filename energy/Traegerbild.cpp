@@ -83,21 +83,29 @@ constexpr std::array<Traegerart, 5> arten{{{"Erdgas", 10.4, " m³/a", gas},
                                            {"Nah-/Fernwärme", 1, " kWh/a", fernwaerme},
                                            {strom_name.Traegername, 1, " kWh/a", blitz}}};
 
-/// The titles come last, so that they can be read on the pictogram.
-void titel(Zeichenflaeche& bild, const std::string& name, const std::string& menge) {
-    bild.text(mitte - bild.textbreite(name) / 2, 10, name);
-    bild.text(mitte - bild.textbreite(menge) / 2, 30, menge);
+/// A line of text in the middle, in smaller letters where it is too long for the surface. Its edge sets it
+/// off from the pictogram.
+void titelzeile(Zeichenflaeche& bild, double oben, const std::string& text) {
+    constexpr double schmaler = 7.5;
+    Schrift schrift{.hof = bild.hintergrund()};
+    bild.schrift(schrift);
+    if (bild.textbreite(text) > bild.breite()) {
+        schrift.groesse = schmaler;
+        bild.schrift(schrift);
+    }
+    bild.text(mitte - bild.textbreite(text) / 2, oben, text);
 }
 
-void leeren(Zeichenflaeche& bild) {
-    bild.Cls();
-    bild.schrift({});
+/// The titles come last, so that they can be read on the pictogram.
+void titel(Zeichenflaeche& bild, const std::string& name, const std::string& menge) {
+    titelzeile(bild, 10, name);
+    titelzeile(bild, 30, menge);
 }
 
 }  // namespace
 
 void Energietraeger_zeichnen(Zeichenflaeche& bild, const Projekt& p) {
-    leeren(bild);
+    bild.Cls();
     const Kurzname name = kurzname(p.Heizsystem, p.Energietraeger);
     const auto* const art = std::find_if(
         arten.begin(), arten.end(), [&](const Traegerart& a) { return a.Traegername == name.Traegername; });
@@ -108,7 +116,7 @@ void Energietraeger_zeichnen(Zeichenflaeche& bild, const Projekt& p) {
 }
 
 void Hilfsstrom_zeichnen(Zeichenflaeche& bild, const Projekt& p) {
-    leeren(bild);
+    bild.Cls();
     if (kurzname(p.Heizsystem, p.Energietraeger).elektrisch()) return;
     const double energie = p.q_HE_Strom;
     blitz(bild, std::min(energie * 20, 100.0));

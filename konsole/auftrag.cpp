@@ -1,29 +1,25 @@
 #include "konsole/auftrag.h"
 
+#include "documents/report.h"
+#include "documents/rtf_lesen.h"
 #include "documents/temperaturverlauf.h"
 #include "konsole/ausgabe_json.h"
 #include "konsole/diagramme.h"
 #include "konsole/importieren.h"
-#include "konsole/konsolenplattform.h"
 #include "konsole/zusammenfassung.h"
-#include "planes/Haupt.h"
+#include "planes/projekt_rechnen.h"
+#include "planes/reportquelle.h"
 #include "project/projektdatei.h"
 #include "toolkit/fehler.h"
+#include "toolkit/konsolenplattform.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
 #include <functional>
-#include <memory>
 #include <ostream>
 
 namespace velmaris {
 namespace {
-
-std::unique_ptr<Haupt> neues_haupt(const Auftrag& auftrag, Konsolenplattform& plattform) {
-    auto haupt = std::make_unique<Haupt>(plattform, auftrag.programmordner, auftrag.sprache);
-    haupt->datei.projekt_vorbereiten();
-    return haupt;
-}
 
 void sichern(const Haupt& haupt, const std::string& datei) {
     datei_ersetzen(pfad(datei), projekt_schreiben(haupt.p));
@@ -40,17 +36,23 @@ bool versuchen(const Auftrag& auftrag, std::ostream& fehler, const std::function
     }
 }
 
-std::unique_ptr<Haupt> projekt_rechnen(const Auftrag& auftrag, Konsolenplattform& plattform,
-                                       const std::string& datei) {
-    if (!bekannte_version(bytes_lesen(pfad(datei)))) {
-        throw Dateifehler(datei,
-                          {"keine gültige Velmaris-Datendatei: die erste Zeile nennt keine bekannte Version",
-                           "not a valid Velmaris data file: line 1 names no known version"});
+/// A page of the report as text: a line for each paragraph, tabs between its columns.
+std::string seitentext(const std::string& rtf) {
+    std::string text;
+    for (const Absatz& absatz : rtf_lesen(rtf)) {
+        for (const Textstueck& stueck : absatz.stuecke)
+            text += stueck.text;
+        text += '\n';
     }
-    auto haupt = neues_haupt(auftrag, plattform);
-    haupt->datei.projekt_laden(datei);
-    haupt->a_klima.Ausfuellen(haupt->p);
-    return haupt;
+    return text;
+}
+
+/// The files that the order wants of a project.
+void dateien_schreiben(const Auftrag& auftrag, Haupt& haupt) {
+    if (auftrag.speichern) sichern(haupt, *auftrag.speichern);
+    if (auftrag.diagramme) diagramme_schreiben(haupt, pfad(*auftrag.diagramme));
+    if (auftrag.temperaturen) temperaturverlauf_exportieren(haupt.p, pfad(*auftrag.temperaturen));
+    if (auftrag.bericht) report_exportieren(reportquelle(haupt), pfad(*auftrag.bericht));
 }
 
 }  // namespace
@@ -66,17 +68,20 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
         });
     }
     if (auftrag.neu) {
-        gut &= versuchen(auftrag, fehler, [&] { sichern(*neues_haupt(auftrag, plattform), *auftrag.neu); });
+        gut &= versuchen(auftrag, fehler, [&] {
+            const auto haupt = programm_vorbereiten(plattform, auftrag.programmordner, auftrag.sprache);
+            sichern(*haupt, *auftrag.neu);
+        });
     }
     Json ergebnisse = Json::array();
     for (const std::string& datei : auftrag.projekte) {
         const bool gelungen = versuchen(auftrag, fehler, [&] {
-            const auto haupt = projekt_rechnen(auftrag, plattform, datei);
-            if (auftrag.speichern) sichern(*haupt, *auftrag.speichern);
-            if (auftrag.diagramme) diagramme_schreiben(*haupt, pfad(*auftrag.diagramme));
-            if (auftrag.temperaturen) temperaturverlauf_exportieren(haupt->p, pfad(*auftrag.temperaturen));
+            const auto haupt = projekt_rechnen(plattform, auftrag.programmordner, auftrag.sprache, datei);
+            dateien_schreiben(auftrag, *haupt);
             if (auftrag.json) {
                 ergebnisse.push_back(als_json(*haupt));
+            } else if (auftrag.berichtsseite) {
+                aus << seitentext(report_in_sprache(reportquelle(*haupt), *auftrag.berichtsseite));
             } else {
                 aus << zusammenfassung(*haupt) << '\n';
             }

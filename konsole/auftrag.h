@@ -25,6 +25,8 @@ struct Auftrag {
     std::optional<std::string> neu;
     std::optional<std::string> speichern;
     std::optional<std::string> diagramme;
+    std::optional<std::string> bericht;        ///< all pages of the report as Rich Text
+    std::optional<int> berichtsseite;          ///< 1..7: that page as text, in place of the summary
     std::optional<Importauftrag> klimaimport;  ///< done before all else
     std::filesystem::path programmordner;
 };

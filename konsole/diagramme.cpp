@@ -1,10 +1,13 @@
 #include "konsole/diagramme.h"
 
+#include "language/beschriftungen.h"
+#include "planes/geometriebilder.h"
 #include "toolkit/fehler.h"
 #include "toolkit/svg_flaeche.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
+#include <functional>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -18,7 +21,29 @@ struct Diagramm {
     const Bildfeld& bild;
     double breite = 0;
     double hoehe = 0;
+    Farbe hintergrund = farben::weiss;
+    std::function<void(Zeichenflaeche&)> beschriften = {};  ///< what the plane shows beside the surface
 };
+
+/// The figures around the A/V bar: the building's at the height of its value, those of the bodies
+/// of the same volume at theirs.
+void av_beschriften(const Projekt& p, Zeichenflaeche& bild) {
+    constexpr double balken_links = 42, balken_rechts = 58, halbe_zeile = 6;
+    struct Koerper {
+        const char* wort;
+        const std::string& wert;
+        double hoehe;
+    };
+    const AVTexte texte = av_texte(p);
+    bild.schrift({});
+    bild.text(balken_links - bild.textbreite(texte.av_anz), texte.av_oben, texte.av_anz);
+    for (const Koerper& k : {Koerper{"Label11", texte.AV_Tetraeder, 50.9},
+                             {"Label34", texte.AV_Wuerfel, 71},
+                             {"Label35", texte.AV_Kugel, 90.4}}) {
+        bild.text(balken_rechts, k.hoehe - halbe_zeile,
+                  k.wert + " " + beschriftung("E_Geometrie", k.wort, p.Sprache));
+    }
+}
 
 std::vector<Diagramm> diagramme(const Haupt& haupt) {
     const E_Geometrie& geometrie = haupt.e_geometrie;
@@ -27,7 +52,12 @@ std::vector<Diagramm> diagramme(const Haupt& haupt) {
     const A_Heizen& heizen = haupt.a_heizen;
     const A_Kuehlen& kuehlen = haupt.a_kuehlen;
     std::vector<Diagramm> alle{
-        {geometrie.ebene, geometrie.AV_Picture, 64, 132},
+        {geometrie.ebene,
+         geometrie.AV_Picture,
+         140,
+         132,
+         {240, 240, 240},
+         [&haupt](Zeichenflaeche& bild) { av_beschriften(haupt.p, bild); }},
         {geometrie.ebene, geometrie.Picture1, 80, 80},
         {energie.ebene, energie.Picture2, 80, 60},
         {energie.ebene, energie.Picture3, 80, 60},
@@ -52,8 +82,11 @@ std::vector<Diagramm> diagramme(const Haupt& haupt) {
 
 std::string svg(const Diagramm& diagramm) {
     const auto& lage = diagramm.bild.lage();
-    SvgFlaeche flaeche(lage ? lage->breite : diagramm.breite, lage ? lage->hoehe : diagramm.hoehe);
+    SvgFlaeche flaeche(lage ? lage->breite : diagramm.breite, lage ? lage->hoehe : diagramm.hoehe,
+                       diagramm.hintergrund);
+    flaeche.Cls();
     diagramm.bild.zeichnen(flaeche);
+    if (diagramm.beschriften) diagramm.beschriften(flaeche);
     return flaeche.svg();
 }
 

@@ -1,5 +1,7 @@
+#include "documents/report.h"
 #include "konsole/auftrag.h"
 #include "toolkit/text.h"
+#include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 
 #include <CLI/CLI.hpp>
@@ -26,7 +28,7 @@ void beschreiben(CLI::App& app, velmaris::Auftrag& auftrag, std::string& ordner)
     app.add_option("PROJEKT", auftrag.projekte, "Projektdateien (.vel) / project files");
     app.add_option("--sprache", auftrag.sprache, "Sprache der Ausgabe: d oder e / language of the output")
         ->check(CLI::IsMember({"d", "e"}));
-    app.add_flag("--json", auftrag.json, "alle Werte als JSON / all values as JSON");
+    CLI::Option* json = app.add_flag("--json", auftrag.json, "alle Werte als JSON / all values as JSON");
     app.add_option("--temperaturen", auftrag.temperaturen,
                    "Stundentemperaturen als Text / hourly temperatures as text");
     app.add_option("--neu", auftrag.neu, "schreibt das neue Projekt / writes the new project");
@@ -34,12 +36,18 @@ void beschreiben(CLI::App& app, velmaris::Auftrag& auftrag, std::string& ordner)
                    "schreibt das geöffnete Projekt / writes the opened project");
     app.add_option("--diagramme", auftrag.diagramme,
                    "alle Diagramme als SVG in einen Ordner / all charts as SVG");
+    app.add_option("--bericht", auftrag.bericht, "schreibt den Report als RTF / writes the report as RTF");
+    app.add_option("--bericht-seite", auftrag.berichtsseite,
+                   "gibt eine Seite (1 bis 7) des Reports als Text aus / prints a page of the report as text")
+        ->check(CLI::Range(1, velmaris::reportseiten))
+        ->excludes(json);
     app.add_option("--ordner", ordner, "Programmordner mit klima/ / program folder with klima/");
 }
 
 /// True for an order whose output takes a single project.
 bool nur_eines(const velmaris::Auftrag& auftrag) {
-    return auftrag.temperaturen || auftrag.speichern || auftrag.diagramme;
+    return auftrag.temperaturen || auftrag.speichern || auftrag.diagramme || auftrag.bericht ||
+           auftrag.berichtsseite;
 }
 
 void pruefen(const velmaris::Auftrag& auftrag) {
@@ -50,7 +58,8 @@ void pruefen(const velmaris::Auftrag& auftrag) {
     if (auftrag.projekte.size() > 1 && nur_eines(auftrag)) {
         throw CLI::ValidationError(
             "PROJEKT",
-            "--temperaturen, --speichern und --diagramme gelten einem einzigen Projekt / take one project");
+            "--temperaturen, --speichern, --diagramme, --bericht und --bericht-seite gelten einem einzigen "
+            "Projekt / take one project");
     }
 }
 
@@ -63,6 +72,7 @@ std::filesystem::path ordner_des_programms(const char* aufruf) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    velmaris::dateigrenze_melden();
     velmaris::dezimalzeichen_setzen(velmaris::dezimalzeichen_der_umgebung());
     CLI::App app(
         "velmaris_rechnen - Heiz- und Kühlenergie eines Gebäudes / heating and cooling energy of a building");

@@ -72,6 +72,9 @@ constexpr std::array E_Klimaimport{
     Beschriftung{"Label_Zeitzone", "Zeitzone:", "Time zone:"},
     Beschriftung{"Frame4", "Datenzuordnung", "Data assignment"},
     Beschriftung{"Frame5", "Vorschau der Datei", "Preview of file"},
+    Beschriftung{"VScroll1", "Gezeigte Zeilen", "Rows shown"},
+    Beschriftung{"HScroll1", "Gezeigte Spalten", "Columns shown"},
+    Beschriftung{"Fortschritt", "Fortschritt des Imports", "Progress of the import"},
     Beschriftung{"Command2", "Klimaimport starten", "Start climate import"},
     Beschriftung{"Command3", "Abbrechen", "Abort"},
 };
@@ -95,10 +98,17 @@ constexpr std::array Drucken{
                  "Primary and end energy demand for cooling (1 page)"},
 };
 
+constexpr std::array Druckerwahl{
+    Beschriftung{fenstertitel, "Drucker wählen", "Choose printer"},
+    Beschriftung{"Frame1", "Drucker", "Printer"},
+    Beschriftung{"OK_Button", "OK", "OK"},
+    Beschriftung{"Abbrechen", "Abbrechen", "Cancel"},
+};
+
 constexpr std::array fenster{
     Fenster{"Haupt", Haupt},           Fenster{"Start", Start},
     Fenster{"Sprachwahl", Sprachwahl}, Fenster{"E_Klimaimport", E_Klimaimport},
-    Fenster{"Drucken", Drucken},
+    Fenster{"Drucken", Drucken},       Fenster{"Druckerwahl", Druckerwahl},
 };
 
 }  // namespace

@@ -43,7 +43,9 @@ std::optional<std::string> Testplattform::eingabe(const std::string&, const std:
 
 std::optional<std::filesystem::path> Testplattform::dateidialog(const Dateidialog& dialog) {
     dialoge.push_back(dialog);
-    return ohne_leere(naechste(dateien));
+    auto datei = ohne_leere(naechste(dateien));
+    if (datei && !datei->has_extension()) *datei += dialog.endung;
+    return datei;
 }
 
 void Testplattform::zeitgeber_starten(const std::string& name, int millisekunden,

@@ -31,6 +31,7 @@ struct Dateidialog {
     int filterindex = 1;
     std::filesystem::path ordner = {};
     std::string dateiname = {};
+    std::string endung = {};  ///< added to a name that has none, with its point
     bool ueberschreiben_fragen = false;
 };
 
@@ -82,7 +83,8 @@ class Plattform {
     /// Opens the help file, at a page of it unless that is empty.
     virtual void hilfe(const std::filesystem::path& datei, const std::string& seite) = 0;
 
-    /// Names of the printers and the index of the current one, -1 without a printer.
+    /// Names of the printers and the index of the current one; -1 stands for output into a PDF file, the only
+    /// choice without a printer.
     [[nodiscard]] virtual std::vector<std::string> druckerliste() const = 0;
     [[nodiscard]] virtual int aktueller_drucker() const = 0;
     virtual void drucker_waehlen(int index) = 0;

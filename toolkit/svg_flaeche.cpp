@@ -54,6 +54,12 @@ std::string maskiert(std::string_view text) {
     return ergebnis;
 }
 
+/// The edge of a letter is a stroke under it, half of which the letter covers.
+std::string hof(Farbe farbe) {
+    return attribut("paint-order", "stroke") + attribut("stroke", farbtext(farbe)) +
+           attribut("stroke-width", wert(2 * hofbreite)) + attribut("stroke-linejoin", "round");
+}
+
 bool ist_ort(double x, double y) {
     return std::isfinite(x) && std::isfinite(y);
 }
@@ -163,6 +169,7 @@ void SvgFlaeche::text(double x, double y, std::string_view text, Farbe farbe) {
     element("<text" + attribut("x", wert(x)) + attribut("y", wert(y + oberlaenge(schrift_))) +
             attribut("font-size", wert(schriftpixel(schrift_))) +
             (schrift_.fett ? attribut("font-weight", "bold") : std::string()) +
+            (schrift_.hof ? hof(*schrift_.hof) : std::string()) +
             (farbe == farben::schwarz ? std::string() : attribut("fill", farbtext(farbe))) + ">" +
             maskiert(text) + "</text>\n");
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <fstream>
 #include <limits>
@@ -100,6 +101,12 @@ void datei_ersetzen(const fs::path& datei, std::string_view bytes) {
         fs::remove(neben, fehler);
         schreiben_scheitert(datei, grund);
     }
+}
+
+void dateigrenze_melden() {
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
 }
 
 std::optional<std::string_view> Zeilenleser::naechste() {

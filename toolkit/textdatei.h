@@ -17,6 +17,10 @@ namespace velmaris {
 /// (full disk, folder that cannot be written) leaves the old file as it was. A failure is a Dateifehler.
 void datei_ersetzen(const std::filesystem::path& datei, std::string_view bytes);
 
+/// Lets a file that would exceed the size limit of the process fail like any other that cannot be written,
+/// where the system would end the process instead. To be called at the start of a program.
+void dateigrenze_melden();
+
 /// Walks a text line by line; a line ends at LF or CR LF. The text must outlive the reader.
 class Zeilenleser {
   public:

@@ -49,8 +49,8 @@ struct Ziffernfolge {
 Ziffernfolge ziffernfolge(double betrag) {
     std::array<char, 32> puffer{};
     auto* const ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), betrag,
-                                    std::chars_format::scientific, hoechstens_stellen - 1)
-                          .ptr;
+                                     std::chars_format::scientific, hoechstens_stellen - 1)
+                           .ptr;
     const std::string_view text(puffer.data(), static_cast<std::size_t>(ende - puffer.data()));
     const std::size_t e = text.find('e');
     Ziffernfolge folge;

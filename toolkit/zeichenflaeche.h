@@ -18,6 +18,9 @@ struct Farbe {
     friend constexpr bool operator==(const Farbe&, const Farbe&) = default;
 };
 
+/// Width of the edge around letters that have one, pixels.
+inline constexpr double hofbreite = 1.5;
+
 namespace farben {
 inline constexpr Farbe schwarz{0, 0, 0};
 inline constexpr Farbe weiss{255, 255, 255};
@@ -32,6 +35,7 @@ struct Schrift {
     std::string name = "MS Sans Serif";
     double groesse = 8.25;
     bool fett = false;
+    std::optional<Farbe> hof = {};  ///< edge around the letters that sets them off from what lies under them
 
     friend bool operator==(const Schrift&, const Schrift&) = default;
 };

@@ -131,6 +131,24 @@ TEST(Importjahr, EnergyPlusZeitstempelOrdnenEinGedrehtesJahr) {
     vergleiche_wetter(probe, "ohne", gleiche);
 }
 
+TEST(Importjahr, EnergyPlusNenntWoDerKopfEndetUndWieVieleWerteDieStundeHat) {
+    const std::string text = Quellbau{}.epw();
+    const std::string perioden = "DATA PERIODS,1,1,";
+    std::string laenger = text;
+    laenger.insert(text.find("COMMENTS 2,"), "broken\r\n");
+    Importprobe probe("e");
+    probe.oeffne("laenger.epw", laenger);
+    EXPECT_EQ(probe.e->Kopfzeilen.text(), "9");
+    probe.importiere("laenger");
+    vergleiche_wetter(probe, "laenger", gleiche);
+
+    std::string viertel = text;
+    viertel.replace(text.find(perioden), perioden.size(), "DATA PERIODS,1,4,");
+    probe.oeffne("viertel.epw", viertel);
+    EXPECT_EQ(probe.importiere("viertel").text, "The file holds 4 values per hour. One per hour is needed.");
+    EXPECT_THAT(probe.dateien(), ElementsAre("laenger.met"));
+}
+
 TEST(Importjahr, JedeTrennungGibtDieselbeStation) {
     struct Fall {
         const char* name;

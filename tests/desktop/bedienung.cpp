@@ -1,13 +1,45 @@
 #include "bedienung.h"
 
+#include "desktop/bildflaeche.h"
+
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QFileDialog>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStyleOptionSlider>
 #include <QTest>
 #include <QWheelEvent>
+#include <gtest/gtest.h>
 
 namespace velmaris::test {
+namespace {
+
+/// What the text of a control needs, nothing for what has none.
+QSize noetige_groesse(const QWidget& fenster) {
+    const auto breite = [](int pixel) { return QSize(pixel, 0); };
+    if (const auto* schild = qobject_cast<const QLabel*>(&fenster)) {
+        if (!schild->pixmap().isNull() || schild->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored)
+            return {};
+        if (schild->wordWrap()) return {0, schild->heightForWidth(schild->width())};
+        return breite(schild->sizeHint().width());
+    }
+    if (const auto* rahmen = qobject_cast<const QGroupBox*>(&fenster))
+        return breite(rahmen->fontMetrics().horizontalAdvance(rahmen->title()) + 10);
+    if (const auto* knopf = qobject_cast<const QPushButton*>(&fenster))
+        return breite(knopf->fontMetrics().horizontalAdvance(knopf->text()) + 2);
+    if (qobject_cast<const QCheckBox*>(&fenster) != nullptr ||
+        qobject_cast<const QRadioButton*>(&fenster) != nullptr)
+        return breite(fenster.sizeHint().width() - 4);
+    return {};
+}
+
+}  // namespace
 
 Testfenster::Testfenster() {
     resize(400, 300);
@@ -59,6 +91,44 @@ void waehle_datei(const std::filesystem::path& datei) {
         name->setText(QString::fromStdString(datei.string()));
         QTest::keyClick(name, Qt::Key_Return);
     });
+}
+
+void waehle_zeile(QComboBox& liste, int zeile) {
+    QTest::mouseClick(&liste, Qt::LeftButton);
+    QAbstractItemView* eintraege = liste.view();
+    QTest::keyClick(eintraege, Qt::Key_Home);
+    for (int i = 0; i < zeile; ++i)
+        QTest::keyClick(eintraege, Qt::Key_Down);
+    QTest::keyClick(eintraege, Qt::Key_Return);
+}
+
+void pruefe_platz(const QWidget& fenster, const std::string& wo) {
+    for (const QWidget* teil : fenster.findChildren<QWidget*>()) {
+        if (!teil->isVisible() || teil->window() != fenster.window()) continue;
+        const std::string name =
+            wo + " " + fenster.objectName().toStdString() + "." + teil->objectName().toStdString();
+        EXPECT_LE(noetige_groesse(*teil).width(), teil->width()) << name;
+        EXPECT_LE(noetige_groesse(*teil).height(), teil->height()) << name;
+        const QRect platz(teil->mapTo(&fenster, QPoint(0, 0)), teil->size());
+        // The map moves behind its frame, and so does what is longer than a text field.
+        const bool karte = teil->objectName() == "Picture3";
+        const bool rollt = qobject_cast<QAbstractScrollArea*>(teil->parentWidget()) != nullptr;
+        EXPECT_TRUE(karte || rollt || fenster.rect().adjusted(-10, 0, 0, 0).contains(platz)) << name;
+    }
+}
+
+void pruefe_namen(const QWidget& fenster) {
+    for (const QWidget* teil : fenster.findChildren<QWidget*>()) {
+        const auto* knopf = qobject_cast<const QAbstractButton*>(teil);
+        const bool bedienbar = qobject_cast<const QComboBox*>(teil) != nullptr || knopf != nullptr ||
+                               qobject_cast<const Scrollleiste*>(teil) != nullptr ||
+                               qobject_cast<const Bildflaeche*>(teil) != nullptr ||
+                               qobject_cast<const QLineEdit*>(teil) != nullptr;
+        if (!bedienbar || teil->objectName().startsWith("qt_")) continue;
+        const QString name =
+            teil->accessibleName().isEmpty() && knopf != nullptr ? knopf->text() : teil->accessibleName();
+        EXPECT_FALSE(name.isEmpty()) << teil->objectName().toStdString();
+    }
 }
 
 }  // namespace velmaris::test

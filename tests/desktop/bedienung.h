@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+class QComboBox;
+
 namespace velmaris::test {
 
 /// A shown window with the input focus that holds the widgets of one test.
@@ -48,5 +50,14 @@ void antworte(
 
 /// Types a file name into the next file dialog and confirms it.
 void waehle_datei(const std::filesystem::path& datei);
+
+/// Opens a list by the mouse and picks a row of it by the keyboard.
+void waehle_zeile(QComboBox& liste, int zeile);
+
+/// Fails the test for every visible control of a window or plane whose text is cut off or which juts out.
+void pruefe_platz(const QWidget& fenster, const std::string& wo);
+
+/// Fails the test for every control of a window or plane that screen readers have no name for.
+void pruefe_namen(const QWidget& fenster);
 
 }  // namespace velmaris::test

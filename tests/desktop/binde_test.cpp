@@ -307,9 +307,9 @@ TEST_F(Binde, FokusstellungIstDieDesBenutztenFeldes) {
     anderes.show();
     binder.binde(leiste, feld);
     std::optional<int> im_handler;
-    feld.geaendert = [&] { im_handler = fokusstellung(); };
+    feld.geaendert = [&] { im_handler = fokusstellung(fenster); };
     anderes.setFocus();
-    EXPECT_EQ(fokusstellung(), std::nullopt);
+    EXPECT_EQ(fokusstellung(fenster), std::nullopt);
     feld.setze(30);
     EXPECT_EQ(im_handler, std::nullopt);
     QTest::mouseClick(&leiste, Qt::LeftButton, {}, test::teil(leiste, QStyle::SC_ScrollBarAddLine));

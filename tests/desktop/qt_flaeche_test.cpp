@@ -233,6 +233,20 @@ TEST(QtFlaeche, TextStehtInSeinemKasten) {
     EXPECT_EQ(gezeichnet(bild.copy(kasten)), gezeichnet(bild)) << "nothing beyond width and height";
 }
 
+TEST(QtFlaeche, DerHofHebtTextVonSeinemGrundAb) {
+    QtFlaeche bild(QSize(60, 30), 1, farben::schwarz);
+    bild.text(10, 8, "III", farben::schwarz);
+    EXPECT_EQ(gezeichnet(bild.bild()), 60 * 30) << "black on black";
+    bild.schrift({.hof = farben::weiss});
+    bild.text(10, 8, "III", farben::schwarz);
+    EXPECT_LT(gezeichnet(bild.bild()), 60 * 30 - 30);
+    const QRect drumherum(8, 6, static_cast<int>(std::ceil(bild.textbreite("III"))) + 4,
+                          static_cast<int>(bild.texthoehe("I")) + 4);
+    EXPECT_EQ(gezeichnet(bild.bild().copy(drumherum)) - drumherum.width() * drumherum.height(),
+              gezeichnet(bild.bild()) - 60 * 30)
+        << "nothing beyond the edge";
+}
+
 TEST(Schrift, GroessenSindGanzePixelUndFamilienVorhanden) {
     const std::vector<std::pair<double, int>> groessen{{8.25, 11}, {8, 11}, {10, 13}, {7.875, 10}, {0.1, 1}};
     for (const auto& [punkte, pixel] : groessen)

@@ -120,13 +120,18 @@ bool im_rahmen(const Druckzeichen& z) {
            std::min(z.y1, z.y2) >= 35 - genau && std::max(z.y1, z.y2) <= 260 + genau;
 }
 
-/// True if the letters of two texts touch; the space above and below the letters of a line may be shared.
+/// True if the letters of two texts touch or nearly do, unless they are one text; the space above and below
+/// the letters of a line may be shared.
 bool ueberlappen(const Druckzeichen& a, const Druckzeichen& b) {
     constexpr double durchschuss = 0.12;
+    constexpr double mindestabstand = 0.8;  ///< between words, millimetres
     const double rand_a = durchschuss * (a.y2 - a.y1);
     const double rand_b = durchschuss * (b.y2 - b.y1);
-    return a.seite == b.seite && a.x1 < b.x2 - genau && b.x1 < a.x2 - genau &&
-           a.y1 + rand_a < b.y2 - rand_b && b.y1 + rand_b < a.y2 - rand_a;
+    const bool nebeneinander =
+        a.seite == b.seite && a.y1 + rand_a < b.y2 - rand_b && b.y1 + rand_b < a.y2 - rand_a;
+    const double luecke = std::max(a.x1, b.x1) - std::min(a.x2, b.x2);
+    const bool ein_text = std::abs(luecke) < genau;
+    return nebeneinander && !ein_text && luecke < mindestabstand;
 }
 
 /// The numbers of a page between two heights, by row.

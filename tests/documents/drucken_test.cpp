@@ -24,9 +24,10 @@ class Weitergabe : public test::Testdrucker {
 
 struct Dialog {
     explicit Dialog(const std::string& sprache = "d") : programm(test::dokumentprogramm(sprache)) {
-        drucken.dokument = [this]() -> std::unique_ptr<Drucker> {
-            ++anfragen;
-            if (abbruch) return nullptr;
+        programm->plattform.drucker = {"Laser", "Tinte"};
+        programm->plattform.druckerindex = 0;
+        drucken.dokument = [this](const Druckziel& wohin) {
+            ziele.push_back(wohin);
             auto drucker = std::make_unique<Weitergabe>(gedruckt);
             drucker->stoerung = stoerung;
             return drucker;
@@ -36,9 +37,8 @@ struct Dialog {
 
     std::unique_ptr<test::Testprogramm> programm;
     Drucken drucken{programm->haupt->sitzung, [this] { return reportquelle(*programm->haupt); }};
-    bool abbruch = false;
+    std::vector<Druckziel> ziele;  ///< of the documents begun
     bool stoerung = false;
-    int anfragen = 0;
     int gedruckt = 0;
 };
 
@@ -56,19 +56,15 @@ TEST(Drucken, DrucktWasGewaehltIstUndSchliesst) {
 TEST(Drucken, OhneAuswahlKommtEinWort) {
     Dialog d("e");
     d.drucken.Command1.druecke();
-    EXPECT_EQ(d.anfragen, 0);
+    EXPECT_TRUE(d.ziele.empty());
     ASSERT_EQ(d.programm->plattform.meldungen.size(), 1U);
     EXPECT_EQ(d.programm->plattform.meldungen[0].text, "Please choose at least one output.");
     EXPECT_TRUE(d.drucken.fenster.sichtbar());
 }
 
-TEST(Drucken, AbbruchUndStoerungLassenDenDialogOffen) {
+TEST(Drucken, StoerungLaesstDenDialogOffen) {
     Dialog d;
     d.drucken.Druckausgabe(2).setze(1);
-    d.abbruch = true;
-    d.drucken.Command1.druecke();
-    EXPECT_TRUE(d.programm->plattform.meldungen.empty());
-    d.abbruch = false;
     d.stoerung = true;
     d.drucken.Command1.druecke();
     ASSERT_EQ(d.programm->plattform.meldungen.size(), 1U);
@@ -78,14 +74,55 @@ TEST(Drucken, AbbruchUndStoerungLassenDenDialogOffen) {
     EXPECT_FALSE(d.drucken.fenster.sichtbar());
 }
 
-TEST(Drucken, ZeigtDenDrucker) {
+TEST(Drucken, FragtNachDerPdfDatei) {
     Dialog d;
-    EXPECT_NE(d.drucken.DruckerName.text().find("PDF"), std::string::npos);
-    d.programm->plattform.drucker = {"Laser", "Tinte"};
-    d.drucken.druckerwahl = [&d] { d.programm->plattform.drucker_waehlen(1); };
+    d.programm->p().Datei = "C:\\Häuser\\Müller.vel";
+    d.programm->plattform.druckerindex = -1;
+    d.drucken.Druckausgabe(2).setze(1);
+    d.drucken.Command1.druecke();
+    ASSERT_EQ(d.programm->plattform.dialoge.size(), 1U);
+    EXPECT_EQ(d.programm->plattform.dialoge[0].dateiname, "Müller.pdf");
+    EXPECT_TRUE(d.programm->plattform.dialoge[0].ueberschreiben_fragen);
+    EXPECT_TRUE(d.ziele.empty()) << "cancelled";
+    EXPECT_TRUE(d.programm->plattform.meldungen.empty());
+    EXPECT_TRUE(d.drucken.fenster.sichtbar());
+    d.programm->plattform.dateien = {"/tmp/blatt"};
+    d.drucken.Command1.druecke();
+    ASSERT_EQ(d.ziele.size(), 1U);
+    EXPECT_EQ(d.ziele[0].pdf, "/tmp/blatt.pdf");
+    EXPECT_EQ(d.ziele[0].drucker, "");
+    EXPECT_EQ(d.ziele[0].titel, "Müller.vel");
+}
+
+TEST(Drucken, DruckerWerdenGewaehltUndPdfImmerAngeboten) {
+    Dialog d;
+    Druckerwahl& wahl = d.drucken.wahl;
+    EXPECT_EQ(d.drucken.DruckerName.text(), "Laser");
     d.drucken.Command3.druecke();
-    EXPECT_EQ(d.drucken.DruckerName.text(), "Tinte");
-    EXPECT_EQ(d.drucken.DruckerNameUnten.text(), "Tinte");
+    EXPECT_TRUE(wahl.fenster.sichtbar());
+    EXPECT_EQ(wahl.Druckerliste.eintraege(), (std::vector<std::string>{"Laser", "Tinte", "PDF-Datei"}));
+    EXPECT_EQ(wahl.Druckerliste.index(), 0);
+    EXPECT_EQ(wahl.Hinweis.text(), "");
+    wahl.Druckerliste.setze(1);
+    wahl.Abbrechen.druecke();
+    EXPECT_FALSE(wahl.fenster.sichtbar());
+    EXPECT_EQ(d.drucken.DruckerName.text(), "Laser");
+    for (const int zeile : {1, 2}) {
+        d.drucken.Command3.druecke();
+        wahl.Druckerliste.setze(zeile);
+        wahl.OK_Button.druecke();
+        EXPECT_FALSE(wahl.fenster.sichtbar());
+        EXPECT_EQ(d.drucken.DruckerName.text(), zeile == 1 ? "Tinte" : "PDF-Datei");
+        EXPECT_EQ(d.drucken.DruckerNameUnten.text(), d.drucken.DruckerName.text());
+    }
+    EXPECT_EQ(d.programm->plattform.druckerindex, -1);
+
+    d.programm->plattform.drucker.clear();
+    d.drucken.oeffnen();
+    d.drucken.Command3.druecke();
+    EXPECT_EQ(wahl.Druckerliste.eintraege(), (std::vector<std::string>{"PDF-Datei"}));
+    EXPECT_EQ(wahl.Hinweis.text(), "kein Drucker installiert, Ausgabe als PDF-Datei");
+    EXPECT_EQ(d.drucken.DruckerName.text(), wahl.Hinweis.text());
 }
 
 TEST(Drucken, Beschriftungen) {

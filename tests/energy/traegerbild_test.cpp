@@ -63,6 +63,11 @@ TEST(Traegerbild, TitelStehenMittigUeberDemBild) {
     EXPECT_EQ(texte[1].zahlen, (std::vector<double>{13, 30}));  // "2000 kg/a" is 54 pixels wide
     EXPECT_EQ(bild.zeichnungen.front().art, Art::cls);
     EXPECT_EQ(bild.zeichnungen.back().art, Art::text);
+    EXPECT_EQ(texte[0].schrift, (Schrift{.hof = bild.hintergrund()}));
+    // "Nah-/Fernwärme:" is wider than the surface in the letters of the others.
+    const auto lange = haupttraeger(*projekt(6, 1, 46, 0)).alle(Art::text);
+    EXPECT_LT(lange.at(0).schrift.groesse, Schrift{}.groesse);
+    EXPECT_EQ(lange.at(1).schrift.groesse, Schrift{}.groesse);
 }
 
 /// Top of the oil in the tank.

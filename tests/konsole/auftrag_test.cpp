@@ -1,9 +1,9 @@
 #include "konsole/auftrag.h"
 
 #include "konsole/ausgabe_json.h"
-#include "konsole/konsolenplattform.h"
 #include "project/feldtabelle.h"
 #include "tests/testprogramm.h"
+#include "toolkit/konsolenplattform.h"
 #include "toolkit/text.h"
 
 #include <gtest/gtest.h>

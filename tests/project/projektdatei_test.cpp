@@ -33,7 +33,9 @@ std::vector<std::string> nummerierte_zeilen() {
     return zeilen;
 }
 
-TEST(Projekt, DerDatensatzBleibtUnterZweiMegabyte) { EXPECT_LT(sizeof(Projekt), 2'000'000U); }
+TEST(Projekt, DerDatensatzBleibtUnterZweiMegabyte) {
+    EXPECT_LT(sizeof(Projekt), 2'000'000U);
+}
 
 TEST(Projektdatei, JedeZeileKommtInIhrFeld) {
     auto p = std::make_unique<Projekt>();

@@ -127,6 +127,10 @@ TEST(SvgFlaeche, TextWirdMaskiertUndSitztAufDerGrundlinie) {
     bild.text(1.5, 2, "a < b & \"c\"", farben::blau);
     EXPECT_THAT(bild.svg(), HasSubstr("<text x=\"1.5\" y=\"12\" font-size=\"11\" font-weight=\"bold\" "
                                       "fill=\"#0000ff\">a &lt; b &amp; \"c\"</text>"));
+    bild.schrift({.hof = farben::weiss});
+    bild.text(0, 0, "a", farben::schwarz);
+    EXPECT_THAT(bild.svg(), HasSubstr("paint-order=\"stroke\" stroke=\"#ffffff\" stroke-width=\"3\" "
+                                      "stroke-linejoin=\"round\">a</text>"));
     bild.Cls();
     EXPECT_THAT(bild.svg(), Not(HasSubstr("<text")));
 }

@@ -17,7 +17,7 @@ using test::Testordner;
 TEST(Listenleser, TrenntAnKommaUndZeilenende) {
     Listenleser leser("eins , zwei\r\n\r\n  drei,\nvier");
     const std::vector<std::pair<std::string, int>> erwartet{{"eins ", 1}, {"zwei", 1}, {"", 2},
-                                                            {"drei", 3}, {"", 3},     {"vier", 4}};
+                                                            {"drei", 3},  {"", 3},     {"vier", 4}};
     for (const auto& [text, zeile] : erwartet) {
         const auto posten = leser.naechster();
         ASSERT_TRUE(posten.has_value());

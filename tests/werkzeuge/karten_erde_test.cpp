@@ -98,6 +98,40 @@ TEST(Europakarte, ProjektionTrifftDieStationen) {
     EXPECT_GT(anzahl, 90);
 }
 
+/// True if a light line passes a place on land within two pixels.
+bool grenze_bei(const Bitmap& karte, Punkt p) {
+    constexpr Farbe land{136, 154, 128};
+    constexpr int heller = 15;
+    bool gefunden = false;
+    for (int y = static_cast<int>(p.y) - 1; y <= p.y + 2; ++y) {
+        for (int x = static_cast<int>(p.x) - 1; x <= p.x + 2; ++x) {
+            const Farbe farbe = karte.bei(x, y);
+            gefunden |= farbe.r > land.r + heller && farbe.g > land.g + heller;
+        }
+    }
+    return gefunden;
+}
+
+TEST(Europakarte, ZeigtDieGrenzenDerLaender) {
+    const Bitmap karte = test::grafik("europa.bmp");
+    const struct {
+        std::string name;
+        Punkt ort;
+        bool grenze;
+    } orte[] = {
+        {"Spain - Portugal", {-7.3, 39.6}, true},
+        {"Spain - France", {0.7, 42.7}, true},
+        {"Norway - Sweden", {12.2, 61.7}, true},
+        {"Germany - Poland", {14.6, 52.5}, true},
+        {"Castile", {-4.5, 41.5}, false},
+        {"Auvergne", {3, 45.5}, false},
+        {"Poland", {19, 52.2}, false},
+        {"Ukraine", {32, 49.5}, false},
+    };
+    for (const auto& fall : orte)
+        EXPECT_EQ(grenze_bei(karte, bilder::europakarte(fall.ort)), fall.grenze) << fall.name;
+}
+
 TEST(Europakarte, OffeneSeeIstWasser) {
     const Bitmap karte = test::grafik("europa.bmp");
     const struct {
@@ -168,6 +202,22 @@ TEST_P(Weltkarte, MeereUndKontinenteStimmen) {
         EXPECT_EQ(ist_wasser(farbe(fall.ort)), fall.wasser) << fall.name;
         EXPECT_EQ(ist_land(farbe(fall.ort)), !fall.wasser) << fall.name;
     }
+}
+
+TEST_P(Weltkarte, ZeigtDieGrenzenDerLaender) {
+    const struct {
+        std::string name;
+        Punkt ort;
+        bool grenze;
+    } orte[] = {
+        {"USA - Canada", {-107, 49}, true},     {"Alaska - Canada", {-141, 65}, true},
+        {"Egypt - Libya", {25, 26.5}, true},    {"Egypt - Sudan", {29, 22}, true},
+        {"Brazil - Bolivia", {-60, -16}, true}, {"Namibia - Botswana", {20, -24}, true},
+        {"Kansas", {-98, 39}, false},           {"Sudan", {29, 17}, false},
+        {"Amazon", {-57, -7}, false},           {"Australia", {133, -24}, false},
+    };
+    for (const auto& fall : orte)
+        EXPECT_EQ(grenze_bei(karte_, pixel(fall.ort)), fall.grenze) << fall.name;
 }
 
 INSTANTIATE_TEST_SUITE_P(Beide, Weltkarte,

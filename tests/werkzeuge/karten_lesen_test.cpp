@@ -16,6 +16,7 @@ using test::Testordner;
 using Leser = std::function<void(const std::filesystem::path&)>;
 
 const Leser umriss = [](const std::filesystem::path& datei) { (void)umriss_lesen(datei, {"loch"}); };
+const Leser linien = [](const std::filesystem::path& datei) { (void)linien_lesen(datei); };
 const Leser regionen = [](const std::filesystem::path& datei) { (void)regionen_lesen(datei); };
 const Leser postleitzahlen = [](const std::filesystem::path& datei) { (void)postleitzahlen_text(datei); };
 
@@ -50,6 +51,8 @@ TEST(Lesen, NenntDateiZeileUndFeldDesFehlers) {
          "line 5 (lon): ", "ring is not closed"},
         {"ring cut short", kopf + dreieck + "2,0,0,0\n2,0,0,0\n", umriss,
          "line 7 (lon): ", "ring is not closed"},
+        {"line of a point", "linie,lon,lat\n1,0,0\n1,4,0\n2,1,1\n", linien,
+         "line 4 (linie): ", "one point only"},
         {"no such region", regionskopf + "13,1,0,1,9,50\n", regionen, "line 2 (region): ", "out of range"},
         {"region not whole", regionskopf + "1.5,1,0,1,9,50\n", regionen, "line 2 (region): ", "not a whole"},
         {"prefixes missing", "prefix,region\n000,0\n", postleitzahlen, "plz.csv: ", "not 1000"},

@@ -35,8 +35,9 @@ void karten_schreiben(const fs::path& daten, const Bilderordner& ordner) {
     }
     ordner.schreiben("europa", europa_bild(umriss_lesen(daten / "europa_land.csv", {"land", "loch"})));
     const Flaeche land = umriss_lesen(daten / "welt_land.csv", {"loch"});
-    ordner.schreiben("welt", welt_bild(land, 1));
-    ordner.schreiben("welt_gross", welt_bild(land, 1.5));
+    const std::vector<Strecke> grenzen = linien_lesen(daten / "welt_grenzen.csv");
+    ordner.schreiben("welt", welt_bild(land, grenzen, 1));
+    ordner.schreiben("welt_gross", welt_bild(land, grenzen, 1.5));
 }
 
 void haeuser_und_sinnbilder_schreiben(const Bilderordner& ordner) {

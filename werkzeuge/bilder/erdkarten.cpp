@@ -16,7 +16,7 @@ constexpr Farbe flachwasser{118, 156, 186};
 constexpr Farbe gradnetz{96, 134, 168};
 constexpr Farbe landfarbe{136, 154, 128};
 constexpr Farbe kueste{58, 80, 92};
-constexpr Farbe grenze{176, 190, 168};
+constexpr Farbe grenze{198, 208, 188};
 
 /// What a map shows, in pixels.
 struct Karteninhalt {
@@ -35,7 +35,7 @@ Bild karte_malen(int breite, int hoehe, const Karteninhalt& inhalt, double stric
     for (const double dicke : {9.0, 6.0, 3.0})
         strich(inhalt.kuesten, dicke, flachwasser, 0.25);
     auftragen(bild, fuellung(breite, hoehe, inhalt.land), landfarbe);
-    strich(inhalt.grenzen, 0.5, grenze, 0.75);
+    strich(inhalt.grenzen, 0.7, grenze, 0.75);
     strich(inhalt.kuesten, 0.6, kueste, 0.8);
     return bild;
 }
@@ -108,7 +108,7 @@ Bild europa_bild(const Flaeche& laender) {
     return karte_malen(234, 201, inhalt, 1);
 }
 
-Bild welt_bild(const Flaeche& land, double massstab) {
+Bild welt_bild(const Flaeche& land, const std::vector<Strecke>& grenzen, double massstab) {
     const auto projektion = [massstab](Punkt ort) {
         const Punkt p = weltkarte(ort);
         return auf_pixelmitte({p.x * massstab, p.y * massstab});
@@ -118,6 +118,7 @@ Bild welt_bild(const Flaeche& land, double massstab) {
     std::erase_if(kuesten, ist_schnittkante);
     Karteninhalt inhalt;
     inhalt.kuesten = abbilden(kuesten, projektion);
+    inhalt.grenzen = abbilden(grenzen, projektion);
     inhalt.netz = abbilden(gradnetz_strecken(30), projektion);
     inhalt.land = abbilden(ringe, projektion);
     return karte_malen(static_cast<int>(std::lround(650 * massstab)),

@@ -8,8 +8,9 @@ namespace velmaris::bilder {
 /// the rings of the countries in degrees; neighbours share the points of their border.
 [[nodiscard]] Bild europa_bild(const Flaeche& laender);
 
-/// The map of the world, 650 x 246 pixels times `massstab`, with land and coasts. `land` is in degrees, cut
-/// at the meridian of 180 degrees; the margins beyond it go on with the land from the other side.
-[[nodiscard]] Bild welt_bild(const Flaeche& land, double massstab);
+/// The map of the world, 650 x 246 pixels times `massstab`, with land, coasts and the borders between
+/// countries. `land` is in degrees, cut at the meridian of 180 degrees; the margins beyond it go on with the
+/// land from the other side. `grenzen` are in degrees too.
+[[nodiscard]] Bild welt_bild(const Flaeche& land, const std::vector<Strecke>& grenzen, double massstab);
 
 }  // namespace velmaris::bilder

@@ -34,10 +34,17 @@ constexpr double laenge = 10;
 constexpr double tiefe = 10;
 constexpr double wandhoehe = 5.25;
 constexpr double wandhoehe_flach = 6.75;
-constexpr double dachhoehe = 4.5;
 constexpr double ueberstand = 0.28;
 constexpr double dachdicke = 0.25;
-constexpr double neigung = dachhoehe / (laenge / 2);
+
+/// Heights of the roofs. The gable of the first has to hold two lines of text below its edges.
+constexpr double dachhoehe_nord_sued = 6;
+constexpr double dachhoehe_ost_west = 4.5;
+
+/// How far the eaves lie below the top of the walls.
+constexpr double traufe_unter_wand(double dachhoehe, double spannweite) {
+    return ueberstand * dachhoehe / (spannweite / 2);
+}
 
 /// Oblique axonometry: the south facade keeps its shape, depth runs to the upper left.
 Punkt projektion(const Ecke& e) {
@@ -111,7 +118,8 @@ void ortgang_malen(Bild& bild, const Ecke& traufe_a, const Ecke& first, const Ec
 }
 
 void first_nord_sued_malen(Bild& bild) {
-    constexpr double h = wandhoehe, first = h + dachhoehe, traufe = h - ueberstand * neigung;
+    constexpr double h = wandhoehe, first = h + dachhoehe_nord_sued;
+    constexpr double traufe = h - traufe_unter_wand(dachhoehe_nord_sued, laenge);
     constexpr double mitte = laenge / 2, vorn = -ueberstand, hinten = tiefe + ueberstand;
     waende(bild, h);
     wand(bild, {{0, 0, h}, {laenge, 0, h}, {mitte, 0, first}}, suedwand);
@@ -122,7 +130,8 @@ void first_nord_sued_malen(Bild& bild) {
 }
 
 void first_ost_west_malen(Bild& bild) {
-    constexpr double h = wandhoehe, first = h + dachhoehe, traufe = h - ueberstand * neigung;
+    constexpr double h = wandhoehe, first = h + dachhoehe_ost_west;
+    constexpr double traufe = h - traufe_unter_wand(dachhoehe_ost_west, tiefe);
     constexpr double mitte = tiefe / 2, west = -ueberstand, ost = laenge + ueberstand;
     waende(bild, h);
     wand(bild, {{0, 0, h}, {0, tiefe, h}, {0, mitte, first}}, westwand);

@@ -53,4 +53,17 @@ Flaeche umriss_lesen(const std::filesystem::path& datei, const std::vector<std::
     return flaeche;
 }
 
+std::vector<Strecke> linien_lesen(const std::filesystem::path& datei) {
+    const Tabelle tabelle(datei, {"linie", "lon", "lat"});
+    std::vector<Strecke> strecken;
+    for (std::size_t zeile = 0; zeile < tabelle.zeilen();) {
+        const std::size_t beginn = zeile;
+        for (++zeile; zeile < tabelle.zeilen() && gleich(tabelle, beginn, zeile, 1); ++zeile)
+            strecken.push_back({ort(tabelle, zeile - 1, 1), ort(tabelle, zeile, 1)});
+        if (zeile - beginn < 2)
+            tabelle.ablehnen(beginn, 0, "Linie hat nur einen Punkt", "the line has one point only");
+    }
+    return strecken;
+}
+
 }  // namespace velmaris::bilder

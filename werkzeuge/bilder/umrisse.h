@@ -21,6 +21,10 @@ inline constexpr int regionen_anzahl = 12;
 [[nodiscard]] Flaeche umriss_lesen(const std::filesystem::path& datei,
                                    const std::vector<std::string>& merkmale = {});
 
+/// The pieces of all lines of a file in degrees east and north. Columns: linie (the number of the line), lon,
+/// lat. A line of one point is a Dateifehler.
+[[nodiscard]] std::vector<Strecke> linien_lesen(const std::filesystem::path& datei);
+
 /// The rings with every point taken through a projection.
 template <class Projektion>
 [[nodiscard]] Flaeche abbilden(Flaeche flaeche, const Projektion& projektion) {

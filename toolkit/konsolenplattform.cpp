@@ -1,4 +1,4 @@
-#include "konsole/konsolenplattform.h"
+#include "toolkit/konsolenplattform.h"
 
 #include <iostream>
 

@@ -1,0 +1,30 @@
+#include "planes/projekt_rechnen.h"
+
+#include "project/projektdatei.h"
+#include "toolkit/fehler.h"
+#include "toolkit/text.h"
+#include "toolkit/textdatei.h"
+
+namespace velmaris {
+
+std::unique_ptr<Haupt> programm_vorbereiten(Plattform& plattform, const std::filesystem::path& programmordner,
+                                            const std::string& sprache) {
+    auto haupt = std::make_unique<Haupt>(plattform, programmordner, sprache);
+    haupt->datei.projekt_vorbereiten();
+    return haupt;
+}
+
+std::unique_ptr<Haupt> projekt_rechnen(Plattform& plattform, const std::filesystem::path& programmordner,
+                                       const std::string& sprache, const std::string& datei) {
+    if (!bekannte_version(bytes_lesen(pfad(datei)))) {
+        throw Dateifehler(datei,
+                          {"keine gültige Velmaris-Datendatei: die erste Zeile nennt keine bekannte Version",
+                           "not a valid Velmaris data file: line 1 names no known version"});
+    }
+    auto haupt = programm_vorbereiten(plattform, programmordner, sprache);
+    haupt->datei.projekt_laden(datei);
+    haupt->a_klima.Ausfuellen(haupt->p);
+    return haupt;
+}
+
+}  // namespace velmaris
