@@ -146,9 +146,7 @@ void Hauptfenster::zeigen() {
 
 void Hauptfenster::closeEvent(QCloseEvent* ereignis) {
     ereignis->ignore();
-    mittel_.wache.fuehre_aus([this] {
-        if (haupt_.datei.aenderung_abfragen() != 1) haupt_.sitzung.plattform.beenden();
-    });
+    mittel_.wache.fuehre_aus([this] { haupt_.datei.fenster_schliessen(); });
 }
 
 void Hauptfenster::dragEnterEvent(QDragEnterEvent* ereignis) {

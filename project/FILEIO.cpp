@@ -225,10 +225,22 @@ void FILEIO::datei_speichern_unter() {
 
 void FILEIO::programm_beenden() {
     if (aenderung_klaeren(&FILEIO::sichern_unter) == Frage::abbrechen) return;
+    drucker_zuruecksetzen();
+    s_.plattform.beenden();
+}
+
+void FILEIO::fenster_schliessen() {
+    if (aenderung_abfragen() == 1) {
+        drucker_zuruecksetzen();
+    } else {
+        s_.plattform.beenden();
+    }
+}
+
+void FILEIO::drucker_zuruecksetzen() {
     const auto drucker = static_cast<int>(s_.plattform.druckerliste().size());
     if (s_.p.Druckerindex >= 0 && s_.p.Druckerindex < drucker)
         s_.plattform.drucker_waehlen(s_.p.Druckerindex);
-    s_.plattform.beenden();
 }
 
 std::int16_t FILEIO::aenderung_abfragen() {

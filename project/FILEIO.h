@@ -51,6 +51,10 @@ class FILEIO {
     void datei_speichern();
     void datei_speichern_unter();
     void programm_beenden();
+
+    /// The close box of the main window: ends the program unless the question about unsaved changes is
+    /// cancelled; then the printer of the start is the current one again.
+    void fenster_schliessen();
     void hilfe_zeigen(const std::string& seite = {});
 
     /// Asks about unsaved changes when the window is closed; 1 = do not close.
@@ -67,6 +71,7 @@ class FILEIO {
     Sicherung sichern();
     Sicherung sichern_unter();
     void wetter_der_datei_laden() const;
+    void drucker_zuruecksetzen();
     void kanal_schliessen();
     void kanal_oeffnen();
     void titel_der_datei();

@@ -70,6 +70,14 @@ void rad(QWidget& fenster, int rasten) {
     QApplication::sendEvent(&fenster, &ereignis);
 }
 
+int laufe_bis_zum_ende() {
+    constexpr int geduld = 5000;
+    QTimer frist;
+    QObject::connect(&frist, &QTimer::timeout, [] { QCoreApplication::exit(-1); });
+    frist.start(geduld);
+    return QApplication::exec();
+}
+
 void antworte(QMessageBox::StandardButton knopf, const std::function<void(QMessageBox&)>& pruefe) {
     am_naechsten_dialog<QMessageBox>([=](QMessageBox& box) {
         pruefe(box);

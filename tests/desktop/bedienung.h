@@ -41,6 +41,9 @@ void am_naechsten_dialog(const std::function<void(Dialog&)>& schritt, int versuc
     });
 }
 
+/// Runs the program until it ends itself, and returns its exit code; -1 if it does not end within seconds.
+[[nodiscard]] int laufe_bis_zum_ende();
+
 /// Answers the next message box by a button, after a look at it.
 void antworte(
     QMessageBox::StandardButton knopf, const std::function<void(QMessageBox&)>& pruefe = [](QMessageBox&) {});

@@ -1,11 +1,13 @@
 #include "desktop/hilfefenster.h"
 
+#include "desktop/nebenfenster.h"
 #include "programmprobe.h"
 
 #include <QMessageBox>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QWindow>
 #include <fstream>
 
 namespace velmaris {
@@ -42,11 +44,13 @@ class HilfefensterTest : public test::Programmprobe {
         ort.setPosition(ort.selectionStart() + 1);
         seite().setTextCursor(ort);
         seite().ensureCursorVisible();
-        QTest::mouseClick(seite().viewport(), Qt::LeftButton, {}, seite().cursorRect().center());
+        // By way of the window, where a modal window over it would catch the click.
+        const QPoint ziel = seite().viewport()->mapTo(&fenster(), seite().cursorRect().center());
+        QTest::mouseClick(fenster().windowHandle(), Qt::LeftButton, {}, ziel);
     }
 
     /// The text of the message that `tu` brings up.
-    std::string meldung_bei(const std::function<void()>& tu) {
+    static std::string meldung_bei(const std::function<void()>& tu) {
         std::string text;
         am_naechsten_dialog<QMessageBox>([&](QMessageBox& box) {
             text = box.text().toStdString();
@@ -97,11 +101,12 @@ TEST_F(HilfefensterTest, F1FolgtDemFokus) {
     f1(*QApplication::focusWidget());
     EXPECT_EQ(gezeigt(), "/A_Uebersicht.html") << "a click on a chart is a click on its plane";
 
-    QTest::mouseClick(&such("A_Uebersicht", "Temperaturen"), Qt::LeftButton);
-    f1(such("Haupt", "A_Zoom"));
-    EXPECT_EQ(gezeigt(), "/A_Zoom.html");
-    f1(such("Haupt", "E_Zoom_Klima"));
-    EXPECT_EQ(gezeigt(), "/E_Zoom_Klima.html");
+    const auto nebenfenster = programm->fenster().findChildren<Nebenfenster*>(Qt::FindDirectChildrenOnly);
+    EXPECT_GE(nebenfenster.size(), 2) << "both enlarged pictures at least";
+    for (Nebenfenster* neben : nebenfenster) {
+        f1(*neben);
+        EXPECT_EQ(gezeigt(), "/" + neben->objectName().toStdString() + ".html");
+    }
 }
 
 TEST_F(HilfefensterTest, BlaettertInSeinenSeiten) {

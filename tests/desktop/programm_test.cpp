@@ -17,6 +17,7 @@ namespace {
 
 using test::am_naechsten_dialog;
 using test::antworte;
+using test::laufe_bis_zum_ende;
 using test::waehle_datei;
 
 using ProgrammTest = test::Programmprobe;
@@ -161,8 +162,7 @@ TEST_F(ProgrammTest, SchliessenFragtNachAenderungen) {
     EXPECT_TRUE(programm->fenster().isVisible());
     antworte(QMessageBox::No);
     QTimer::singleShot(0, &programm->fenster(), &QWidget::close);
-    QTimer::singleShot(3000, qApp, [] { QCoreApplication::exit(99); });
-    EXPECT_EQ(QApplication::exec(), 0) << "ends without saving";
+    EXPECT_EQ(laufe_bis_zum_ende(), 0) << "ends without saving";
 }
 
 TEST_F(ProgrammTest, FehlerInDateienBeendenNichtAndereSchon) {
@@ -181,8 +181,7 @@ TEST_F(ProgrammTest, FehlerInDateienBeendenNichtAndereSchon) {
         rettung = box.informativeText();
     });
     QTimer::singleShot(0, &laenge, [&] { QTest::keyClick(&laenge, Qt::Key_Right); });
-    QTimer::singleShot(3000, qApp, [] { QCoreApplication::exit(99); });
-    EXPECT_EQ(QApplication::exec(), 1);
+    EXPECT_EQ(laufe_bis_zum_ende(), 1);
     const std::filesystem::path datei = rettung.section(QStringLiteral(": "), 1).toStdString();
     EXPECT_TRUE(std::filesystem::exists(datei)) << rettung.toStdString();
     std::filesystem::remove(datei);
@@ -228,8 +227,7 @@ TEST_F(ProgrammTest, StartfensterZuHeisstProgrammZu) {
     programm = std::make_unique<Programm>(ordner.pfad(), "d", Befehlszeile(""));
     programm->starten();
     QTimer::singleShot(0, QApplication::activeModalWidget(), &QWidget::close);
-    QTimer::singleShot(3000, qApp, [] { QCoreApplication::exit(99); });
-    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_EQ(laufe_bis_zum_ende(), 0);
     EXPECT_FALSE(programm->fenster().isVisible());
 }
 

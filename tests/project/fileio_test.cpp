@@ -217,9 +217,15 @@ TEST_F(Fileio, SchliessenDesFensters) {
     EXPECT_EQ(datei().aenderung_abfragen(), 0);
     EXPECT_TRUE(plattform().meldungen.empty());
     p().Geaendert = 1;
+    plattform().drucker = {"eins", "zwei"};
     plattform().antworten = {Antwort::abbrechen, Antwort::nein};
-    EXPECT_EQ(datei().aenderung_abfragen(), 1);
-    EXPECT_EQ(datei().aenderung_abfragen(), 0);
+    datei().fenster_schliessen();
+    EXPECT_FALSE(plattform().beendet);
+    EXPECT_EQ(plattform().druckerindex, 0) << "the printer of the start, after a cancelled closing only";
+    plattform().druckerindex = 1;
+    datei().fenster_schliessen();
+    EXPECT_TRUE(plattform().beendet);
+    EXPECT_EQ(plattform().druckerindex, 1);
 }
 
 }  // namespace
