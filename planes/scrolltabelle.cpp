@@ -112,7 +112,8 @@ void Eingabefeld::ausserhalb(double wert) const {
     const double ende = maximum() / zeile_.teiler;
     const std::string grenzen = muster(std::min(anfang, ende), zeile_.stellen) + " .. " +
                                 muster(std::max(anfang, ende), zeile_.stellen);
-    const std::string zahlen = zahltext(wert) + " (" + grenzen + ")";
+    const std::string blank = wert < 0 ? " " : "";  // other numbers have their own
+    const std::string zahlen = blank + zahltext(wert) + " (" + grenzen + ")";
     throw Laufzeitfehler({"Wert außerhalb des Bereichs:" + zahlen, "value out of range:" + zahlen},
                          name.substr(0, name.size() - 3));
 }
