@@ -102,7 +102,7 @@ void E_Daemmung::eingaben_anzeigen() {
     } else {
         ogd.setze(p.Dachraum_typ);
     }
-    cbk_hDach.setze(1 - p.cbk_hDach);
+    cbk_hDach.setze_verneint(p.cbk_hDach);
     absfaktor_sb.stellen(p);
     Waermebruecken_opt.markiere(std::nullopt);
     for (int option = 1; option <= 3; ++option) {

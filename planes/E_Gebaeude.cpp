@@ -126,7 +126,7 @@ void E_Gebaeude::eingaben_anzeigen() {
     for (const Eingabefeld* feld : {&intg_sb, &Troom_sb, &infiltration_sb, &lw_sb, &WRG_Sb})
         zeigen(*feld);
     for (const Wand& wand : waende())
-        wand.check->setze(1 - p.*wand.feld);
+        wand.check->setze_verneint(p.*wand.feld);
     Tueber_sb.stellen(p);
     Klimaeffizienz_sb.stellen(p);
 }

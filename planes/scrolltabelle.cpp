@@ -1,5 +1,6 @@
 #include "planes/scrolltabelle.h"
 
+#include "toolkit/fehler.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -101,7 +102,20 @@ int Eingabefeld::stellung(double wert) const {
 }
 
 void Eingabefeld::stellen(const Projekt& p) {
-    setze(stellung(gespeichert(p)));
+    const int ziel = stellung(gespeichert(p));
+    if (ziel < minimum() || ziel > maximum()) ausserhalb(gespeichert(p));
+    setze(ziel);
+}
+
+void Eingabefeld::ausserhalb(double wert) const {
+    const double anfang = minimum() / zeile_.teiler;
+    const double ende = maximum() / zeile_.teiler;
+    const std::string grenzen = muster(std::min(anfang, ende), zeile_.stellen) + " .. " +
+                                muster(std::max(anfang, ende), zeile_.stellen);
+    const std::string blank = wert < 0 ? " " : "";  // other numbers have their own
+    const std::string zahlen = blank + zahltext(wert) + " (" + grenzen + ")";
+    throw Laufzeitfehler({"Wert außerhalb des Bereichs:" + zahlen, "value out of range:" + zahlen},
+                         name.substr(0, name.size() - 3));
 }
 
 std::string Eingabefeld::anzeigetext(const Projekt& p) const {

@@ -39,7 +39,8 @@ class Eingabefeld : public Scrollfeld {
     /// Stores the value of the position in the record.
     void uebernehmen(Projekt& p) const;
 
-    /// Moves to the position nearest to the record's value; a position out of range is a Laufzeitfehler.
+    /// Moves to the position nearest to the record's value; a value out of range is a Laufzeitfehler that
+    /// names the quantity and its range.
     void stellen(const Projekt& p);
 
     /// The position nearest to a value, a half to the even one.
@@ -50,6 +51,7 @@ class Eingabefeld : public Scrollfeld {
 
   private:
     [[nodiscard]] double gespeichert(const Projekt& p) const;
+    [[noreturn]] void ausserhalb(double wert) const;
 
     const Scrollzeile& zeile_;
 };

@@ -113,8 +113,17 @@ void Pruefeld::setze(int wert) {
     if (anders) rufe(geklickt);
 }
 
-void Pruefeld::markiere(int wert) {
+void Pruefeld::setze_verneint(int groesse) {
+    pruefe(groesse);
+    setze(1 - groesse);
+}
+
+void Pruefeld::pruefe(int wert) const {
     if (wert != 0 && wert != 1) ausserhalb(name, wert, 0, 1);
+}
+
+void Pruefeld::markiere(int wert) {
+    pruefe(wert);
     if (wert == wert_) return;
     wert_ = wert;
     melden();

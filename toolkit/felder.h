@@ -136,6 +136,10 @@ class Pruefeld : public Feld {
     /// a Laufzeitfehler that names the quantity (the control's name without "_cb").
     void setze(int wert);
 
+    /// Sets the check for a quantity that is 0 where the check is set and 1 where it is not; errors as in
+    /// `setze`, for the quantity.
+    void setze_verneint(int groesse);
+
     /// Sets the check without the handler; errors as in `setze`.
     void markiere(int wert);
 
@@ -143,6 +147,8 @@ class Pruefeld : public Feld {
     std::function<void()> geklickt;
 
   private:
+    void pruefe(int wert) const;
+
     int wert_ = 0;
 };
 

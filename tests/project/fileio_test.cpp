@@ -125,6 +125,25 @@ TEST_F(Fileio, StellungenAusserhalbNennenDieZeileDerDatei) {
     }
 }
 
+TEST_F(Fileio, DerFehlerNenntDenWertDerDateiUndSeinenBereich) {
+    struct Fall {
+        int zeile;
+        std::string inhalt, grund;
+    };
+    for (const Fall& fall : {Fall{2, " 60", "Bereichs: 60 (2.0 .. 50.0)"},
+                             {61, "-3", "Bereichs: -3 (0.0 .. 5.0)"},
+                             {12, " 5", "Bereichs: 5 (0 .. 1)"},
+                             {31, " 2", "Bereichs: 2 (0 .. 1)"}}) {
+        p().Geaendert = 0;
+        datei().datei_neu();
+        auto zeilen = projektzeilen(p());
+        zeilen[static_cast<std::size_t>(fall.zeile - 1)] = fall.inhalt;
+        datei().datei_oeffnen(pfadtext(programm.ordner.schreibe("fall.vel", projekttext(zeilen))));
+        EXPECT_NE(plattform().meldungen.back().hinweis.find(fall.grund), std::string::npos)
+            << plattform().meldungen.back().hinweis;
+    }
+}
+
 TEST_F(Fileio, FehlendeStationIstEinDateifehler) {
     auto zeilen = projektzeilen(p());
     zeilen[55] = "nirgends.met";
