@@ -73,6 +73,11 @@ void umranden(Bild& bild, const Umriss& umriss, double deckkraft = 0.85) {
     auftragen(bild, linien(bildbreite, bildhoehe, strecken(vieleck(umriss)), 1), kante, deckkraft);
 }
 
+/// An edge from a to b.
+void strich(Bild& bild, const Ecke& a, const Ecke& b, double deckkraft) {
+    auftragen(bild, linien(bildbreite, bildhoehe, {{projektion(a), projektion(b)}}, 1), kante, deckkraft);
+}
+
 void wand(Bild& bild, const Umriss& umriss, Farbe farbe) {
     fuellen(bild, umriss, farbe);
     umranden(bild, umriss);
@@ -129,14 +134,24 @@ void first_nord_sued_malen(Bild& bild) {
                 west_dach);
 }
 
+/// The gable over the west facade. Its captions lie over its lower edge and its far slope, so the one is not
+/// drawn and the other only faintly.
+void westgiebel_malen(Bild& bild, double h, const Ecke& first) {
+    const Ecke suedlich{0, 0, h}, noerdlich{0, tiefe, h};
+    fuellen(bild, {{0, 0, h - 1}, suedlich, first, noerdlich, {0, tiefe, h - 1}}, westwand);
+    strich(bild, {0, tiefe, h - 1}, noerdlich, 0.85);
+    strich(bild, {0, 0, h - 1}, suedlich, 0.85);
+    strich(bild, noerdlich, first, 0.35);
+}
+
 void first_ost_west_malen(Bild& bild) {
     constexpr double h = wandhoehe, first = h + dachhoehe_ost_west;
     constexpr double traufe = h - traufe_unter_wand(dachhoehe_ost_west, tiefe);
     constexpr double mitte = tiefe / 2, west = -ueberstand, ost = laenge + ueberstand;
-    waende(bild, h);
-    wand(bild, {{0, 0, h}, {0, tiefe, h}, {0, mitte, first}}, westwand);
     const Ecke traufe_sued{west, -ueberstand, traufe}, first_west{west, mitte, first};
-    ortgang_malen(bild, traufe_sued, first_west, {west, tiefe + ueberstand, traufe});
+    waende(bild, h);
+    westgiebel_malen(bild, h, first_west);
+    ortgang_malen(bild, traufe_sued, first_west, first_west);
     dachflaeche(bild, {traufe_sued, {ost, -ueberstand, traufe}, {ost, mitte, first}, first_west}, sued_dach);
 }
 
