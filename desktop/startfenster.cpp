@@ -22,6 +22,16 @@ QPixmap grafik(const std::filesystem::path& programmordner, const char* name) {
     return bild;
 }
 
+/// The picture of the program, sharp at the screen's resolution.
+QPixmap programmbild(const std::filesystem::path& programmordner, qreal pixel_je_einheit) {
+    constexpr int groesse = 160;
+    QPixmap bild = grafik(programmordner, "velmaris.bmp");
+    if (bild.isNull()) return bild;
+    bild = bild.scaledToHeight(qRound(groesse * pixel_je_einheit), Qt::SmoothTransformation);
+    bild.setDevicePixelRatio(pixel_je_einheit);
+    return bild;
+}
+
 QLabel* ueberschrift(QWidget* fenster) {
     auto* schild = new QLabel(QStringLiteral("Velmaris"), fenster);
     QFont schrift = schild->font();
@@ -61,11 +71,13 @@ QWidget* startfenster(Start& start, const Haupt& haupt, const Ansichtsmittel& mi
     tafel->setContentsMargins(40, 30, 40, 24);
     tafel->setHorizontalSpacing(30);
     auto* bild = new QLabel(fenster);
-    bild->setPixmap(grafik(haupt.p.AppPfad, "velmaris.bmp").scaledToHeight(160));
+    bild->setPixmap(programmbild(haupt.p.AppPfad, fenster->devicePixelRatioF()));
     tafel->addWidget(bild, 0, 0, 2, 1, Qt::AlignCenter);
     tafel->addWidget(ueberschrift(fenster), 0, 1, Qt::AlignLeft | Qt::AlignBottom);
     QLabel* text = bau.anzeige(start.Text);
+    constexpr int textbreite = 400;
     text->setWordWrap(true);
+    text->setFixedWidth(textbreite);
     tafel->addWidget(text, 1, 1, Qt::AlignLeft | Qt::AlignTop);
     tafel->setColumnStretch(1, 1);
     tafel->setRowStretch(0, 1);

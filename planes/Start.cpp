@@ -1,7 +1,7 @@
 #include "planes/Start.h"
 
+#include "language/beschriftungen.h"
 #include "language/c_Sprache.h"
-#include "toolkit/fehler.h"
 
 #include <memory>
 
@@ -11,13 +11,10 @@ namespace {
 constexpr const char* Timer1 = "Start.Timer1";
 constexpr int splash_millisekunden = 10000;
 
-const Zweisprachig& ueber_text() {
-    static const Zweisprachig text{
-        "Velmaris 3.2\n\nLernprogramm zum Heiz- und Kühlenergiebedarf\nund zum Temperaturverhalten eines "
-        "Gebäudes",
-        "Velmaris 3.2\n\nA teaching program on the heating and cooling energy demand\n"
-        "and the temperature behaviour of a building"};
-    return text;
+/// The text of the about box: the version, what the program is for, and who publishes it.
+std::string ueber_text(const std::string& sprache) {
+    const auto wort = [&](const char* feld) { return beschriftung("Start", feld, sprache); };
+    return "Version 3.2\n\n" + wort("Label_Zweck") + "\n\n" + wort("Label_Text");
 }
 
 }  // namespace
@@ -36,8 +33,8 @@ Start::Start(Haupt& haupt, Befehlszeile befehlszeile, std::function<void()> haup
       befehlszeile_(std::move(befehlszeile)),
       hauptfenster_zeigen_(std::move(hauptfenster_zeigen)) {
     fenster.zeige(false);
-    Text.schreibe(ueber_text().in(haupt_.p.Sprache));
-    OK_Button.schreibe("OK");
+    Text.schreibe(ueber_text(haupt_.p.Sprache));
+    OK_Button.schreibe(beschriftung("Start", OK_Button.name, haupt_.p.Sprache));
     OK_Button.gedrueckt = [this] { OK_Button_Click(); };
 }
 

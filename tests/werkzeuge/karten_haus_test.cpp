@@ -76,7 +76,7 @@ TEST(Bilder, HabenIhreGroesse) {
         int breite, hoehe;
     } faelle[] = {
         {"haus0.bmp", 190, 176},   {"haus1.bmp", 190, 176},   {"haus2.bmp", 190, 176},
-        {"sprache_d.bmp", 96, 64}, {"sprache_e.bmp", 96, 64}, {"velmaris.bmp", 64, 64},
+        {"sprache_d.bmp", 96, 64}, {"sprache_e.bmp", 96, 64}, {"velmaris.bmp", 256, 256},
     };
     for (const auto& fall : faelle) {
         const Bitmap bild = test::grafik(fall.name);

@@ -59,22 +59,22 @@ Bild sprachbild_englisch() {
 Bild programmbild() {
     constexpr Farbe himmel{58, 124, 176}, sonne{255, 210, 84}, wiese{110, 158, 92};
     constexpr Farbe mauer{250, 246, 236}, dach{196, 92, 68}, tuer{120, 84, 62}, fenster{150, 196, 224};
-    Bild bild(64, 64, himmel);
-    constexpr Punkt sonnenmitte{15, 15};
+    Bild bild(256, 256, himmel);
+    constexpr Punkt sonnenmitte{60, 60};
     std::vector<Strecke> strahlen;
     for (int i = 0; i < 8; ++i) {
         const double winkel = i * std::numbers::pi / 4 + std::numbers::pi / 8;
         const Punkt richtung{std::cos(winkel), std::sin(winkel)};
-        strahlen.push_back({{sonnenmitte.x + 9.5 * richtung.x, sonnenmitte.y + 9.5 * richtung.y},
-                            {sonnenmitte.x + 12 * richtung.x, sonnenmitte.y + 12 * richtung.y}});
+        strahlen.push_back({{sonnenmitte.x + 38 * richtung.x, sonnenmitte.y + 38 * richtung.y},
+                            {sonnenmitte.x + 48 * richtung.x, sonnenmitte.y + 48 * richtung.y}});
     }
-    strich(bild, strahlen, 2, sonne);
-    strich(bild, {{sonnenmitte, sonnenmitte}}, 13, sonne);
-    fuellen(bild, rechteck(0, 54, 64, 64), wiese);
-    fuellen(bild, rechteck(18, 34, 54, 58), mauer);
-    fuellen(bild, {{{36, 16}, {60, 36}, {12, 36}, {36, 16}}}, dach);
-    fuellen(bild, rechteck(24, 41, 33, 50), fenster);
-    fuellen(bild, rechteck(40, 42, 48, 58), tuer);
+    strich(bild, strahlen, 8, sonne);
+    strich(bild, {{sonnenmitte, sonnenmitte}}, 52, sonne);
+    fuellen(bild, rechteck(0, 216, 256, 256), wiese);
+    fuellen(bild, rechteck(72, 136, 216, 232), mauer);
+    fuellen(bild, {{{144, 64}, {240, 144}, {48, 144}, {144, 64}}}, dach);
+    fuellen(bild, rechteck(96, 164, 132, 200), fenster);
+    fuellen(bild, rechteck(160, 168, 192, 232), tuer);
     return bild;
 }
 

@@ -9,7 +9,7 @@ namespace velmaris::bilder {
 [[nodiscard]] Bild sprachbild_deutsch();
 [[nodiscard]] Bild sprachbild_englisch();
 
-/// The picture of the program, 64 x 64 pixels: a house in the sun.
+/// The picture of the program, 256 x 256 pixels: a house in the sun.
 [[nodiscard]] Bild programmbild();
 
 }  // namespace velmaris::bilder
