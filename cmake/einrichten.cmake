@@ -1,0 +1,13 @@
+# `cmake --install BUILD --prefix FOLDER`: one folder with the programs and what they read beside them. It can be
+# moved as a whole.
+foreach(programm IN ITEMS velmaris velmaris_rechnen)
+    if(TARGET ${programm})
+        install(TARGETS ${programm} RUNTIME DESTINATION .)
+    endif()
+endforeach()
+install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/klima ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Grafiken DESTINATION .
+    OPTIONAL
+    PATTERN typ.dat EXCLUDE)  # the language that somebody chose in the build tree
+install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Velmaris_d.chm ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Velmaris_e.chm
+    DESTINATION . OPTIONAL)
+install(DIRECTORY beispiele DESTINATION .)
