@@ -5,6 +5,7 @@
 #include "toolkit/zahlen.h"
 
 #include <CLI/CLI.hpp>
+#include <cstdio>
 #include <exception>
 #include <iostream>
 
@@ -69,9 +70,7 @@ std::filesystem::path ordner_des_programms(const char* aufruf) {
     return (fehler ? std::filesystem::absolute(aufruf) : selbst).parent_path();
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int lauf(int argc, char** argv) {
     velmaris::dateigrenze_melden();
     velmaris::dezimalzeichen_setzen(velmaris::dezimalzeichen_der_umgebung());
     CLI::App app(
@@ -89,10 +88,17 @@ int main(int argc, char** argv) {
         return app.exit(fehler) == 0 ? velmaris::alles_gut : velmaris::falscher_aufruf;
     }
     auftrag.programmordner = ordner.empty() ? ordner_des_programms(argv[0]) : velmaris::pfad(ordner);
+    return velmaris::ausfuehren(auftrag, std::cout, std::cerr);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
     try {
-        return velmaris::ausfuehren(auftrag, std::cout, std::cerr);
+        return lauf(argc, argv);
     } catch (const std::exception& fehler) {
-        std::cerr << fehler.what() << '\n';
+        std::fputs(fehler.what(), stderr);
+        std::fputc('\n', stderr);
         return velmaris::projekt_fehlerhaft;
     }
 }

@@ -16,9 +16,9 @@ constexpr std::array<double, 3> waermebruecken{0, 0.10, 0.05};
 constexpr int dachraum_leer = 3;
 
 std::vector<std::string> in_sprache(const std::vector<Zweisprachig>& texte, const std::string& sprache) {
-    std::vector<std::string> zeilen;
-    for (const Zweisprachig& text : texte)
-        zeilen.push_back(text.in(sprache));
+    std::vector<std::string> zeilen(texte.size());
+    std::transform(texte.begin(), texte.end(), zeilen.begin(),
+                   [&](const Zweisprachig& text) { return text.in(sprache); });
     return zeilen;
 }
 
