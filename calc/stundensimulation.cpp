@@ -52,12 +52,12 @@ void kuehlung_aufteilen(Monatswerte& monat, const Hausmodell& haus, const Stunde
     if (summe == 0) {
         throw Laufzeitfehler(
             {"Das Gebäude wird wärmer als die Überwärmungsgrenze, obwohl es keinerlei Gewinne hat; sein "
-             "Kühlbedarf "
-             "lässt sich keiner Ursache zuordnen. Die Überwärmungsgrenze oder die internen Gewinne sind zu "
-             "niedrig.",
+             "Kühlbedarf lässt sich keiner Ursache zuordnen. Die Überwärmungsgrenze oder die internen "
+             "Gewinne "
+             "sind zu niedrig.",
              "The building gets warmer than the overheating limit although it has no gains of any kind, so "
-             "that its "
-             "cooling demand has no cause. The overheating limit or the internal gains are too low."});
+             "that its cooling demand has no cause. The overheating limit or the internal gains are too "
+             "low."});
     }
     dazu(monat.Kuehl_intern, qk * haus.innen / summe);
     dazu(monat.Kuehl_solar, qk * lage.fenster / summe);

@@ -51,6 +51,7 @@ QWidget* zoom_klima_ansicht(E_Zoom_Klima& e, const Ansichtsmittel& mittel, QWidg
 /// the dialog prints through the desktop from then on.
 QWidget* report_ansicht(A_Report& a, const Ansichtsmittel& mittel, QWidget* eltern);
 QWidget* druck_ansicht(Drucken& drucken, const Ansichtsmittel& mittel, QWidget* eltern);
+
 /// The window that imports climate data.
 QWidget* klimaimport_ansicht(E_Klimaimport& e, const Ansichtsmittel& mittel, QWidget* eltern);
 

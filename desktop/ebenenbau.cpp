@@ -3,6 +3,7 @@
 #include "desktop/bildflaeche.h"
 #include "desktop/bruch.h"
 #include "desktop/ebenenknopf.h"
+#include "desktop/qt_schrift.h"
 #include "desktop/qt_text.h"
 #include "desktop/scrollleiste.h"
 #include "desktop/stil.h"
@@ -15,6 +16,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -132,6 +134,21 @@ QLineEdit* Ebenenbau::textfeld(Textfeld& feld, const std::string& zweck) const {
     auto* neu = new QLineEdit(&ebene_);
     neu->setAccessibleName(qtext(zweck));
     mittel_.binder.binde(*neu, feld);
+    return neu;
+}
+
+QPlainTextEdit* Ebenenbau::textansicht(Anzeige& anzeige, int schriftpixel, const std::string& zweck) const {
+    auto* neu = new QPlainTextEdit(&ebene_);
+    QFont schrift(feste_familie());
+    schrift.setPixelSize(schriftpixel);
+    neu->setFont(schrift);
+    neu->setReadOnly(true);
+    neu->setUndoRedoEnabled(false);
+    neu->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    neu->setLineWrapMode(QPlainTextEdit::NoWrap);
+    neu->setTabChangesFocus(true);
+    neu->setAccessibleName(qtext(zweck));
+    mittel_.binder.binde(*neu, anzeige);
     return neu;
 }
 

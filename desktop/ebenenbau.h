@@ -17,6 +17,7 @@ class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 class QVBoxLayout;
@@ -66,6 +67,10 @@ class Ebenenbau {
                                        Qt::Orientation richtung = Qt::Horizontal) const;
     [[nodiscard]] QComboBox* liste(Auswahlliste& liste, const std::string& zweck) const;
     [[nodiscard]] QLineEdit* textfeld(Textfeld& feld, const std::string& zweck) const;
+
+    /// A text of fixed pitch to be read and scrolled, letters of `schriftpixel`; `zweck` as above.
+    [[nodiscard]] QPlainTextEdit* textansicht(Anzeige& anzeige, int schriftpixel,
+                                              const std::string& zweck) const;
     [[nodiscard]] QCheckBox* pruefung(Pruefeld& feld) const;
     [[nodiscard]] std::vector<QRadioButton*> optionen(Optionsgruppe& gruppe) const;
 

@@ -3,6 +3,7 @@
 #include "desktop/ebene.h"
 #include "desktop/scrollleiste.h"
 #include "desktop/stil.h"
+#include "planes/geometriebilder.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -151,12 +152,12 @@ QGroupBox* av_verhaeltnis(E_Geometrie& e, const Ebenenbau& bau) {
     struct Koerper {
         std::string_view wort;
         Anzeige& wert;
-        int hoehe;  ///< of its value on the scale of the bar
+        double av;
     };
-    for (const Koerper& k : {Koerper{"Label11", e.AV_Tetraeder, 51},
-                             {"Label34", e.AV_Wuerfel, 71},
-                             {"Label35", e.AV_Kugel, 90}}) {
-        const int y = diagramm_oben + k.hoehe - 8;
+    for (const Koerper& k : {Koerper{"Label11", e.AV_Tetraeder, av_tetraeder},
+                             {"Label34", e.AV_Wuerfel, av_wuerfel},
+                             {"Label35", e.AV_Kugel, av_kugel}}) {
+        const int y = diagramm_oben + qRound(av_hoehe(k.av)) - 8;
         setze(bau.wort(k.wort), rahmen, 68, y, 60, 16);
         setze(bau.zahl(k.wert), rahmen, 126, y, 36, 16);
     }

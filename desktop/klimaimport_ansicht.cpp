@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -66,17 +65,8 @@ QGroupBox* quelle(E_Klimaimport& e, const Ebenenbau& bau) {
 QGroupBox* dateivorschau(E_Klimaimport& e, const Ebenenbau& bau) {
     constexpr int zeilen = 9;
     QGroupBox* rahmen = bau.rahmen(e.Frame5);
-    auto* ansicht = new QPlainTextEdit(rahmen);
-    QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    schrift.setPixelSize(mass::ebenenschrift);
-    ansicht->setFont(schrift);
-    ansicht->setReadOnly(true);
-    ansicht->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    ansicht->setLineWrapMode(QPlainTextEdit::NoWrap);
-    ansicht->setTabChangesFocus(true);
-    ansicht->setAccessibleName(qtext(e.Frame5.text()));
+    QPlainTextEdit* ansicht = bau.textansicht(e.Dateiansicht, mass::ebenenschrift, e.Frame5.text());
     ansicht->setFixedHeight(zeilen * ansicht->fontMetrics().lineSpacing() + 2 * mass::rand + mass::leiste);
-    bau.mittel().binder.binde(*ansicht, e.Dateiansicht);
     raster(*rahmen)->addWidget(ansicht, 0, 0);
     return rahmen;
 }

@@ -1,6 +1,5 @@
 #include "desktop/ansichten.h"
 #include "desktop/nebenfenster.h"
-#include "desktop/qt_schrift.h"
 #include "desktop/qt_text.h"
 #include "desktop/rtf_anzeige.h"
 #include "desktop/stil.h"
@@ -12,8 +11,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextEdit>
-#include <algorithm>
-#include <memory>
 
 namespace velmaris {
 namespace {
@@ -24,59 +21,35 @@ constexpr double punkte_je_zoll = 72;
 constexpr double seitenbreite = 451;
 constexpr int seitenrand = 20;
 
-void nur_lesen(QPlainTextEdit& feld) {
-    feld.setReadOnly(true);
-    feld.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-}
-
-void nur_lesen(QTextEdit& feld) {
-    feld.setReadOnly(true);
-    feld.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-}
-
-/// Binds a text field: a new text is shown from its top, while the same text keeps its place.
-template <class Textart>
-void binde_text(Textart& feld, Anzeige& anzeige, const Ansichtsmittel& mittel,
-                const std::function<void(const std::string&)>& zeigen) {
-    nur_lesen(feld);
-    feld.setUndoRedoEnabled(false);
-    mittel.binder.binde(static_cast<QWidget&>(feld), anzeige);
-    anzeige.ansicht = [&feld, &anzeige, zeigen, gezeigt = std::make_shared<std::string>()] {
-        if (*gezeigt != anzeige.text()) {
-            *gezeigt = anzeige.text();
-            zeigen(*gezeigt);
-            feld.moveCursor(QTextCursor::Start);
-            feld.horizontalScrollBar()->setValue(0);
-            feld.verticalScrollBar()->setValue(0);
-        }
-        grundzustand(feld, anzeige);
-    };
-    anzeige.ansicht();
-}
-
+/// The text of the report: a new one is shown from its top, while the same text keeps its place.
 QWidget* reportfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fenster) {
     auto* feld = new QTextEdit(fenster);
     const double pixel_je_punkt = feld->logicalDpiX() / punkte_je_zoll;
     feld->setAccessibleName(fenster->windowTitle());
+    feld->setReadOnly(true);
+    feld->setUndoRedoEnabled(false);
+    feld->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     feld->setLineWrapMode(QTextEdit::FixedPixelWidth);
     feld->setLineWrapColumnOrWidth(static_cast<int>(seitenbreite * pixel_je_punkt) + 2 * seitenrand);
     feld->document()->setDocumentMargin(seitenrand);
-    binde_text(*feld, anzeige, mittel, [feld, pixel_je_punkt](const std::string& rtf) {
-        setze_absaetze(*feld->document(), rtf_lesen(rtf), pixel_je_punkt);
-    });
+    mittel.binder.binde(static_cast<QWidget&>(*feld), anzeige);
+    anzeige.ansicht = [feld, &anzeige, pixel_je_punkt, gezeigt = std::string()]() mutable {
+        if (gezeigt != anzeige.text()) {
+            gezeigt = anzeige.text();
+            setze_absaetze(*feld->document(), rtf_lesen(gezeigt), pixel_je_punkt);
+            feld->moveCursor(QTextCursor::Start);
+            feld->horizontalScrollBar()->setValue(0);
+            feld->verticalScrollBar()->setValue(0);
+        }
+        grundzustand(*feld, anzeige);
+    };
+    anzeige.ansicht();
     return feld;
 }
 
-QWidget* temperaturfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fenster) {
-    auto* feld = new QPlainTextEdit(fenster);
-    feld->setAccessibleName(fenster->windowTitle());
-    QFont schrift(feste_familie());
-    schrift.setPixelSize(mass::schrift);
-    feld->setFont(schrift);
-    feld->setLineWrapMode(QPlainTextEdit::NoWrap);
+QWidget* temperaturfeld(Anzeige& anzeige, const Ebenenbau& bau, const QWidget& fenster) {
+    QPlainTextEdit* feld = bau.textansicht(anzeige, mass::schrift, utf8(fenster.windowTitle()));
     feld->document()->setDocumentMargin(seitenrand);
-    binde_text(*feld, anzeige, mittel,
-               [feld](const std::string& text) { feld->setPlainText(zeilentext(text)); });
     return feld;
 }
 
@@ -108,7 +81,7 @@ QWidget* report_ansicht(A_Report& a, const Ansichtsmittel& mittel, QWidget* elte
     fenster->anordnen = [&a](QSize innen) { a.anordnen(innen.width(), innen.height()); };
     const Ebenenbau bau(*fenster, "A_Report", mittel);
     QWidget* report = reportfeld(a.Report1, mittel, fenster);
-    QWidget* temperaturen = temperaturfeld(a.Temperaturverlauf1, mittel, fenster);
+    QWidget* temperaturen = temperaturfeld(a.Temperaturverlauf1, bau, *fenster);
     for (int i = 1; i <= A_Report::knoepfe; ++i)
         bau.knopf(a.Seite(i));
     bau.knopf(a.Command_Speichern);

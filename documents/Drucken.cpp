@@ -56,8 +56,8 @@ Druckauswahl Drucken::auswahl() const {
 std::optional<Druckziel> Drucken::ziel() const {
     const Projekt& p = sitzung_.p;
     const std::filesystem::path projekt = pfad(p.Datei).filename();
-    const int index = sitzung_.plattform.aktueller_drucker();
-    if (index >= 0) return Druckziel{.titel = pfadtext(projekt), .drucker = wahl.name_des_druckers()};
+    if (sitzung_.plattform.aktueller_drucker() >= 0)
+        return Druckziel{.titel = pfadtext(projekt), .drucker = wahl.name_des_druckers()};
     const auto datei = sitzung_.plattform.dateidialog(
         {.art = Dateidialog::Art::speichern,
          .filter = std::string(pdf_filter.in(p.Sprache)),

@@ -32,15 +32,15 @@ void av_beschriften(const Projekt& p, Zeichenflaeche& bild) {
     struct Koerper {
         const char* wort;
         const std::string& wert;
-        double hoehe;
+        double av;
     };
     const AVTexte texte = av_texte(p);
     bild.schrift({});
     bild.text(balken_links - bild.textbreite(texte.av_anz), texte.av_oben, texte.av_anz);
-    for (const Koerper& k : {Koerper{"Label11", texte.AV_Tetraeder, 50.9},
-                             {"Label34", texte.AV_Wuerfel, 71},
-                             {"Label35", texte.AV_Kugel, 90.4}}) {
-        bild.text(balken_rechts, k.hoehe - halbe_zeile,
+    for (const Koerper& k : {Koerper{"Label11", texte.AV_Tetraeder, av_tetraeder},
+                             {"Label34", texte.AV_Wuerfel, av_wuerfel},
+                             {"Label35", texte.AV_Kugel, av_kugel}}) {
+        bild.text(balken_rechts, av_hoehe(k.av) - halbe_zeile,
                   k.wert + " " + beschriftung("E_Geometrie", k.wort, p.Sprache));
     }
 }

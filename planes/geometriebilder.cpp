@@ -20,7 +20,7 @@ double kantenlaenge(const Projekt& p) {
 
 /// Top of the bar for the building's A/V times its edge length, which no size of the building changes.
 double balkenhoehe(const Projekt& p) {
-    const double y = balken_unten - (p.AV * kantenlaenge(p) - 2.88) / 0.06;
+    const double y = av_hoehe(p.AV * kantenlaenge(p));
     return std::max<double>(i16(std::clamp(y, -32768.0, 32767.0), "AV"), balken_oben);
 }
 
@@ -82,9 +82,9 @@ AVTexte av_texte(const Projekt& p) {
     texte.av_oben = std::max(balkenhoehe(p) - 8, 5.0);
     const double c = kantenlaenge(p);
     if (c > 0) {
-        texte.AV_Kugel = muster(4.836 / c, 2);
-        texte.AV_Wuerfel = muster(6 / c, 2);
-        texte.AV_Tetraeder = muster(7.2056 / c, 2);
+        texte.AV_Kugel = muster(av_kugel / c, 2);
+        texte.AV_Wuerfel = muster(av_wuerfel / c, 2);
+        texte.AV_Tetraeder = muster(av_tetraeder / c, 2);
     }
     return texte;
 }

@@ -18,6 +18,16 @@ struct AVTexte {
 
 [[nodiscard]] AVTexte av_texte(const Projekt& p);
 
+/// A/V of the bodies times the edge of a cube of the same volume.
+inline constexpr double av_kugel = 4.836;
+inline constexpr double av_wuerfel = 6;
+inline constexpr double av_tetraeder = 7.2056;
+
+/// Where an A/V times that edge lies on the bar, pixels from the top of the chart.
+[[nodiscard]] constexpr double av_hoehe(double av_mal_kante) {
+    return 123 - (av_mal_kante - 2.88) / 0.06;
+}
+
 /// The A/V chart: a bar from y = 123 upward, 0.06 to the pixel, that compares the building with bodies of the
 /// same volume whatever its size.
 void av_diagramm_zeichnen(const Projekt& p, Zeichenflaeche& flaeche);
