@@ -1,9 +1,9 @@
 #include "climate/E_Klima.h"
+#include "tests/bezugspixel.h"
 #include "tests/climate/klimaprobe.h"
 #include "tests/climate/stationsdatei.h"
 #include "tests/testprogramm.h"
 
-#include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
@@ -24,21 +24,9 @@ class Deutschlandkarte : public testing::Test {
   protected:
     Deutschlandkarte() {
         probe.oeffne(E_Klima::deutschland, "trier.met");
-        constexpr std::array<std::pair<int, int>, 12> bezug{{{110, 20},
-                                                             {140, 90},
-                                                             {35, 135},
-                                                             {90, 140},
-                                                             {90, 220},
-                                                             {70, 200},
-                                                             {45, 260},
-                                                             {90, 270},
-                                                             {60, 250},
-                                                             {70, 270},
-                                                             {25, 175},
-                                                             {75, 285}}};
         std::uint8_t region = 1;
-        for (const auto& ort : bezug)
-            pixel[ort] = {region++, 0, 0};
+        for (const auto& [x, y] : test::bezugspixel)
+            pixel[{x, y}] = {region++, 0, 0};
         probe.e->kartenfarbe = [this](const Bildfeld&, double x, double y) -> std::optional<Farbe> {
             if (ohne_bild) return std::nullopt;
             const auto ort = pixel.find({static_cast<int>(x), static_cast<int>(y)});

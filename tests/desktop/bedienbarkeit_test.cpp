@@ -22,16 +22,6 @@ class BedienbarkeitTest : public test::Programmprobe {
         }
         return weg;
     }
-
-    void fuer_jede_ebene(const std::function<void(QWidget&)>& tu) {
-        for (Ebenenleiste* leiste : {&programm->haupt().e_menue, &programm->haupt().a_menue}) {
-            for (const Ebenenleiste::Eintrag& eintrag : leiste->eintraege()) {
-                leiste->klicke(eintrag.knopf->name);
-                QApplication::processEvents();
-                tu(such("Haupt", eintrag.ebene->name.c_str()));
-            }
-        }
-    }
 };
 
 /// Never back to what lies wholly above; side by side from left to right.

@@ -3,6 +3,7 @@
 #include "desktop/scrollleiste.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QStyle>
 #include <QTimer>
@@ -48,16 +49,15 @@ void am_naechsten_dialog(const std::function<void(Dialog&)>& schritt, int versuc
 void antworte(
     QMessageBox::StandardButton knopf, const std::function<void(QMessageBox&)>& pruefe = [](QMessageBox&) {});
 
-/// Types a file name into the next file dialog and confirms it.
-void waehle_datei(const std::filesystem::path& datei);
+/// Types a file name into the next file dialog, after a look at it, and confirms it.
+void waehle_datei(
+    const std::filesystem::path& datei,
+    const std::function<void(QFileDialog&)>& pruefe = [](QFileDialog&) {});
 
 /// Opens a list by the mouse and picks a row of it by the keyboard.
 void waehle_zeile(QComboBox& liste, int zeile);
 
 /// Fails the test for every visible control of a window or plane whose text is cut off or which juts out.
 void pruefe_platz(const QWidget& fenster, const std::string& wo);
-
-/// Fails the test for every control of a window or plane that screen readers have no name for.
-void pruefe_namen(const QWidget& fenster);
 
 }  // namespace velmaris::test

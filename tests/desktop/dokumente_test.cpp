@@ -22,6 +22,7 @@ namespace velmaris {
 namespace {
 
 using test::am_naechsten_dialog;
+using test::waehle_datei;
 
 /// A file that nobody can write, not even root.
 constexpr const char* unbeschreibbar = "/proc/velmaris";
@@ -58,28 +59,13 @@ class DokumenteTest : public test::Programmprobe {
         EXPECT_TRUE(feld.isChecked());
     }
 
-    /// Types a name into the next file dialog, after a look at it, and confirms it.
-    static void waehle_datei(
-        const std::filesystem::path& datei,
-        const std::function<void(QFileDialog&)>& pruefe = [](QFileDialog&) {}) {
-        am_naechsten_dialog<QFileDialog>([=](QFileDialog& box) {
-            pruefe(box);
-            auto* name = box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-            name->setText(QString::fromStdString(pfadtext(datei)));
-            QTest::keyClick(name, Qt::Key_Return);
-        });
-    }
-
     static void brich_dateiwahl_ab() {
         am_naechsten_dialog<QFileDialog>([](QFileDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     }
 
     /// Reads the next message and confirms it.
     void lies_meldung() {
-        am_naechsten_dialog<QMessageBox>([this](QMessageBox& box) {
-            meldung = box.text().toStdString();
-            QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
-        });
+        test::antworte(QMessageBox::Ok, [this](QMessageBox& box) { meldung = box.text().toStdString(); });
     }
 
     /// The text of a page of a PDF file, and its number of pages.
@@ -228,10 +214,9 @@ TEST_F(DokumenteTest, SpeichernFragtUndGehtOhneSchadenFehl) {
     blaettere(2);
     const QString vorher = reporttext();
     waehle_datei(ordner / "bericht");
-    am_naechsten_dialog<QMessageBox>([this](QMessageBox& box) {
+    test::antworte(QMessageBox::No, [this](QMessageBox& box) {
         meldung = box.text().toStdString();
         brich_dateiwahl_ab();
-        QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
     });
     druecke();
     EXPECT_NE(meldung.find("bericht.rtf\nDiese Datei ist bereits vorhanden."), std::string::npos) << meldung;

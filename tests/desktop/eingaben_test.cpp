@@ -3,7 +3,6 @@
 #include "project/feldtabelle.h"
 #include "tests/testprogramm.h"
 
-#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -82,13 +81,7 @@ class EingabenTest : public test::Programmprobe {
         }
     }
 
-    /// Drops the list down and takes a row with Enter.
-    void waehle(const char* liste, int zeile) {
-        auto& kasten = such<QComboBox>(ebene_, liste);
-        kasten.showPopup();
-        kasten.view()->setCurrentIndex(kasten.model()->index(zeile, 0));
-        QTest::keyClick(kasten.view(), Qt::Key_Return);
-    }
+    void waehle(const char* liste, int zeile) { test::waehle_zeile(such<QComboBox>(ebene_, liste), zeile); }
 
     /// A click on the mark of a check or option field.
     void hake(const char* feld) {

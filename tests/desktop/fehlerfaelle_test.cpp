@@ -1,11 +1,11 @@
 #include "programmprobe.h"
 #include "project/projektdatei.h"
 #include "tests/testprogramm.h"
+#include "toolkit/textdatei.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QTest>
-#include <csignal>
 #include <sys/resource.h>
 
 namespace velmaris {
@@ -21,19 +21,15 @@ class VolleFestplatte {
         getrlimit(RLIMIT_FSIZE, &vorher_);
         rlimit eng = vorher_;
         eng.rlim_cur = bytes;
-        signal_ = std::signal(SIGXFSZ, SIG_IGN);
+        dateigrenze_melden();
         setrlimit(RLIMIT_FSIZE, &eng);
     }
     VolleFestplatte(const VolleFestplatte&) = delete;
     VolleFestplatte& operator=(const VolleFestplatte&) = delete;
-    ~VolleFestplatte() {
-        setrlimit(RLIMIT_FSIZE, &vorher_);
-        std::signal(SIGXFSZ, signal_);
-    }
+    ~VolleFestplatte() { setrlimit(RLIMIT_FSIZE, &vorher_); }
 
   private:
     rlimit vorher_{};
-    void (*signal_)(int) = SIG_DFL;
 };
 
 /// What goes wrong around project files, on the real windows.

@@ -29,4 +29,14 @@ void Programmprobe::klicke(QAbstractButton& knopf) {
     QTest::mouseClick(&knopf, Qt::LeftButton);
 }
 
+void Programmprobe::fuer_jede_ebene(const std::function<void(QWidget& ebene)>& tu) {
+    for (Ebenenleiste* leiste : {&programm->haupt().e_menue, &programm->haupt().a_menue}) {
+        for (const Ebenenleiste::Eintrag& eintrag : leiste->eintraege()) {
+            leiste->klicke(eintrag.knopf->name);
+            QApplication::processEvents();
+            tu(such("Haupt", eintrag.ebene->name.c_str()));
+        }
+    }
+}
+
 }  // namespace velmaris::test

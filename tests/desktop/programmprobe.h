@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
@@ -35,6 +36,9 @@ class Programmprobe : public testing::Test {
 
     /// A left click in the middle of a button.
     static void klicke(QAbstractButton& knopf);
+
+    /// Shows each plane once and looks at it.
+    void fuer_jede_ebene(const std::function<void(QWidget& ebene)>& tu);
 
     Testordner ordner;
     std::unique_ptr<Programm> programm;

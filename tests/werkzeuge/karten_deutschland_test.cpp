@@ -1,3 +1,4 @@
+#include "tests/bezugspixel.h"
 #include "tests/werkzeuge/karten_hilfen.h"
 #include "toolkit/zahlen.h"
 
@@ -11,6 +12,7 @@
 namespace velmaris {
 namespace {
 
+using test::bezugspixel;
 using test::Bitmap;
 
 constexpr int regionen = 12;
@@ -21,20 +23,6 @@ struct Ort {
 };
 
 using Linie = std::vector<Ort>;
-
-/// The pixels by which the program tells the regions apart.
-constexpr std::array<std::array<int, 2>, regionen> bezug{{{110, 20},
-                                                          {140, 90},
-                                                          {35, 135},
-                                                          {90, 140},
-                                                          {90, 220},
-                                                          {70, 200},
-                                                          {45, 260},
-                                                          {90, 270},
-                                                          {60, 250},
-                                                          {70, 270},
-                                                          {25, 175},
-                                                          {75, 285}}};
 
 /// The rings of the regions 1..12 at 0..11, in degrees.
 std::array<std::vector<Linie>, regionen> ringe_lesen() {
@@ -98,7 +86,7 @@ class Deutschlandkarte : public ::testing::TestWithParam<int> {
     Bitmap karte_ = test::grafik("klima" + std::to_string(GetParam()) + ".bmp");
 
     [[nodiscard]] Farbe regionsfarbe(std::size_t i) const {
-        return karte_.bei(bezug.at(i)[0], bezug.at(i)[1]);
+        return karte_.bei(bezugspixel.at(i)[0], bezugspixel.at(i)[1]);
     }
 
     [[nodiscard]] std::optional<std::size_t> region_der_farbe(Farbe farbe) const {
@@ -116,7 +104,7 @@ TEST_P(Deutschlandkarte, BezugspixelTrennenDieRegionen) {
         EXPECT_EQ(region_der_farbe(regionsfarbe(i)), i) << "colour of region " << i + 1 << " is not its own";
         for (int dy = -1; dy <= 1; ++dy) {
             for (int dx = -1; dx <= 1; ++dx) {
-                EXPECT_EQ(karte_.bei(bezug.at(i)[0] + dx, bezug.at(i)[1] + dy), regionsfarbe(i))
+                EXPECT_EQ(karte_.bei(bezugspixel.at(i)[0] + dx, bezugspixel.at(i)[1] + dy), regionsfarbe(i))
                     << "beside the reference pixel of region " << i + 1;
             }
         }
@@ -147,7 +135,7 @@ TEST_P(Deutschlandkarte, NurDieGewaehlteRegionBehaeltIhreFarbe) {
     const Bitmap schlicht = test::grafik("klima0.bmp");
     const auto helligkeit = [](Farbe f) { return f.r + f.g + f.b; };
     for (std::size_t i = 0; i < regionen; ++i) {
-        const Farbe vorher = schlicht.bei(bezug.at(i)[0], bezug.at(i)[1]);
+        const Farbe vorher = schlicht.bei(bezugspixel.at(i)[0], bezugspixel.at(i)[1]);
         const bool voll = GetParam() == 0 || GetParam() == static_cast<int>(i) + 1;
         if (voll)
             EXPECT_EQ(regionsfarbe(i), vorher) << "region " << i + 1;
