@@ -8,6 +8,8 @@ endforeach()
 install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/klima ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Grafiken DESTINATION .
     OPTIONAL
     PATTERN typ.dat EXCLUDE)  # the language that somebody chose in the build tree
-install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Velmaris_d.chm ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Velmaris_e.chm
-    DESTINATION . OPTIONAL)
+foreach(sprache IN ITEMS d e)
+    set(hilfedatei ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Velmaris_${sprache}.chm)
+    install(FILES ${hilfedatei} ${hilfedatei}.sha256 DESTINATION . OPTIONAL)
+endforeach()
 install(DIRECTORY beispiele DESTINATION .)

@@ -2,70 +2,98 @@
 
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
+#include "toolkit/textdatei.h"
 
-#include <array>
+#include <QCryptographicHash>
+#include <QFileInfo>
+#include <QTemporaryFile>
 #include <chm_lib.h>
-#include <cstdint>
-#include <fstream>
 #include <system_error>
 
 namespace velmaris {
 namespace {
 
-/// No page or picture of a help file is larger; a damaged directory may say so.
-constexpr LONGUINT64 groesstes_stueck = 64U << 20U;
+/// No help is nearly as large; what is gets read no further, and so does not fit.
+constexpr std::size_t groesste_hilfe = std::size_t{16} << 20U;
+
+struct Schliessen {
+    void operator()(chmFile* datei) const { chm_close(datei); }
+};
 
 Dateifehler beschaedigt(const std::filesystem::path& datei) {
     return {pfadtext(datei), {"Die Hilfedatei ist beschädigt.", "The help file is damaged."}};
 }
 
-/// A number of eight bytes, the lowest first; nothing beyond the end of the file.
-std::optional<std::uint64_t> zahl_an(std::ifstream& datei, std::uint64_t ort) {
-    std::array<char, 8> bytes{};
-    datei.seekg(static_cast<std::streamoff>(ort));
-    if (!datei.read(bytes.data(), bytes.size())) return std::nullopt;
-    std::uint64_t wert = 0;
-    for (std::size_t i = bytes.size(); i-- > 0;)
-        wert = wert << 8U | static_cast<unsigned char>(bytes.at(i));
-    return wert;
+bool ist_datei(const std::filesystem::path& name) {
+    std::error_code fehler;
+    return std::filesystem::is_regular_file(name, fehler);
 }
 
-/// The head of a help file tells where its length stands; a file that was cut off is shorter than that.
-bool hat_seine_laenge(const std::filesystem::path& name) {
-    constexpr std::uint64_t ort_des_ersten_abschnitts = 0x38;
-    constexpr std::uint64_t laenge_im_abschnitt = 8;
-    std::ifstream datei(name, std::ios::binary);
-    const auto abschnitt = zahl_an(datei, ort_des_ersten_abschnitts);
-    if (!abschnitt) return false;
-    const auto laenge = zahl_an(datei, *abschnitt + laenge_im_abschnitt);
-    std::error_code fehler;
-    return laenge == std::filesystem::file_size(name, fehler);
+/// The line of the checksum file that bytes of that name should have.
+std::string pruefzeile(const std::filesystem::path& name, const QByteArray& bytes) {
+    const QByteArray summe = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+    return summe.toStdString() + "  " + pfadtext(name) + "\n";
+}
+
+/// The bytes of a help file that fits its checksum.
+QByteArray geprueft(const std::filesystem::path& datei) {
+    if (!ist_datei(datei)) {
+        throw Dateifehler(pfadtext(datei),
+                          {"Die Hilfedatei wurde nicht gefunden.", "The help file was not found."});
+    }
+    std::filesystem::path pruefdatei = datei;
+    pruefdatei += ".sha256";
+    if (!ist_datei(pruefdatei)) {
+        const std::string name = pfadtext(pruefdatei.filename());
+        throw Dateifehler(
+            pfadtext(datei),
+            {"Die Hilfedatei gilt als beschädigt, denn die Datei mit ihrer Prüfsumme fehlt: " + name,
+             "The help file counts as damaged, since the file with its checksum is missing: " + name});
+    }
+    const QByteArray bytes = QByteArray::fromStdString(anfang_lesen(datei, groesste_hilfe));
+    const std::string soll = pruefzeile(datei.filename(), bytes);
+    if (anfang_lesen(pruefdatei, soll.size() + 1) != soll) throw beschaedigt(datei);
+    return bytes;
+}
+
+Dateifehler kein_platz(const QTemporaryFile& kopie) {
+    const std::string ort = pfadtext(QFileInfo(kopie.fileTemplate()).filesystemAbsolutePath());
+    return {ort,
+            {"Dieser Ordner für temporäre Dateien nimmt keine Kopie der Hilfe auf.",
+             "This folder for temporary files does not take a copy of the help."}};
 }
 
 }  // namespace
 
-void Hilfedatei::Schliessen::operator()(chmFile* datei) const {
-    chm_close(datei);
+/// The copy on disk, since the reader takes nothing but a file's name.
+struct Hilfedatei::Kopie {
+    QTemporaryFile datei;  ///< goes after the reader, where an open file cannot be removed
+    std::unique_ptr<chmFile, Schliessen> leser;
+};
+
+Hilfedatei::Hilfedatei(std::filesystem::path datei)
+    : pfad_(std::move(datei)), kopie_(std::make_unique<Kopie>()) {
+    const QByteArray bytes = geprueft(pfad_);
+    QTemporaryFile& kopie = kopie_->datei;
+    if (!kopie.open() || kopie.write(bytes) != bytes.size() || !kopie.flush()) throw kein_platz(kopie);
+    const std::filesystem::path name = QFileInfo(kopie.fileName()).filesystemAbsoluteFilePath();
+    kopie.close();
+    kopie_->leser.reset(chm_open(name.c_str()));
+    if (!kopie_->leser) throw beschaedigt(pfad_);
+    kopie.remove();  // out of everybody's reach; where an open file cannot be removed, it goes at the end
 }
 
-Hilfedatei::Hilfedatei(std::filesystem::path datei) : pfad_(std::move(datei)) {
-    std::error_code fehler;
-    if (!std::filesystem::is_regular_file(pfad_, fehler)) {
-        throw Dateifehler(pfadtext(pfad_),
-                          {"Die Hilfedatei wurde nicht gefunden.", "The help file was not found."});
-    }
-    if (hat_seine_laenge(pfad_)) datei_.reset(chm_open(pfad_.c_str()));
-    if (!datei_) throw beschaedigt(pfad_);
-}
+Hilfedatei::Hilfedatei(Hilfedatei&&) noexcept = default;
+Hilfedatei& Hilfedatei::operator=(Hilfedatei&&) noexcept = default;
+Hilfedatei::~Hilfedatei() = default;
 
 std::optional<std::string> Hilfedatei::lies(const std::string& name) const {
+    chmFile* leser = kopie_->leser.get();
     chmUnitInfo ort{};
-    if (chm_resolve_object(datei_.get(), name.c_str(), &ort) != CHM_RESOLVE_SUCCESS) return std::nullopt;
-    if (ort.length > groesstes_stueck) throw beschaedigt(pfad_);
+    if (chm_resolve_object(leser, name.c_str(), &ort) != CHM_RESOLVE_SUCCESS) return std::nullopt;
     std::string bytes(ort.length, '\0');
-    const LONGINT64 gelesen =
-        chm_retrieve_object(datei_.get(), &ort, reinterpret_cast<unsigned char*>(bytes.data()), 0,
-                            static_cast<LONGINT64>(ort.length));
+    const LONGINT64 gelesen = chm_retrieve_object(leser, &ort, reinterpret_cast<unsigned char*>(bytes.data()),
+                                                  0, static_cast<LONGINT64>(ort.length));
     if (gelesen != static_cast<LONGINT64>(ort.length)) throw beschaedigt(pfad_);
     return bytes;
 }

@@ -19,7 +19,8 @@ using test::am_naechsten_dialog;
 class HilfefensterTest : public test::Programmprobe {
   protected:
     HilfefensterTest() {
-        for (const char* datei : {"Velmaris_d.chm", "Velmaris_e.chm"})
+        for (const char* datei :
+             {"Velmaris_d.chm", "Velmaris_d.chm.sha256", "Velmaris_e.chm", "Velmaris_e.chm.sha256"})
             std::filesystem::copy(std::filesystem::path(VELMARIS_PROGRAMMORDNER) / datei, ordner / datei);
     }
 
@@ -164,31 +165,84 @@ TEST_F(HilfefensterTest, VerweiseNachAussenFolgenNichtVonSelbst) {
     EXPECT_EQ(gezeigt(), "/index.html");
 }
 
-TEST_F(HilfefensterTest, FehlendeUndBeschaedigteDateienWerdenGenannt) {
-    starte("e");
+/// What may lie beside the program in place of a help file and its checksum.
+class HilfedateiTest : public HilfefensterTest {
+  protected:
     const std::filesystem::path datei = ordner / "Velmaris_e.chm";
+    const std::filesystem::path summe = ordner / "Velmaris_e.chm.sha256";
     const std::string ganz = test::inhalt(datei);
+    const std::string zeile = test::inhalt(summe);
+};
+
+TEST_F(HilfedateiTest, FehlendeUndBeschaedigteDateienWerdenGenannt) {
+    starte("e");
+    const std::string deutsch = test::inhalt(ordner / "Velmaris_d.chm");
+    const std::string deutsche_zeile = test::inhalt(ordner / "Velmaris_d.chm.sha256");
     struct Fall {
         const char* name;
-        std::string bytes;
+        std::optional<std::string> bytes;
+        std::optional<std::string> pruefzeile;
         const char* grund;
     };
-    for (const Fall& fall : {Fall{"empty", "", "damaged"},
-                             {"no help", "<html>" + std::string(5000, ' '), "damaged"},
-                             {"cut off in the directory", ganz.substr(0, 300), "damaged"},
-                             {"cut off in the pages", ganz.substr(0, ganz.size() / 2), "damaged"}}) {
-        std::ofstream(datei, std::ios::binary) << fall.bytes;
-        const std::string text = meldung_bei([&] { f1(such("E_Geometrie", "l_sb")); });
-        EXPECT_NE(text.find("Velmaris_e.chm"), std::string::npos) << fall.name << ": " << text;
-        EXPECT_NE(text.find(fall.grund), std::string::npos) << fall.name << ": " << text;
+    for (const Fall& fall :
+         {Fall{"empty", "", zeile, "The help file is damaged."},
+          {"cut off", ganz.substr(0, ganz.size() - 1), zeile, "The help file is damaged."},
+          {"longer", ganz + '\0', zeile, "The help file is damaged."},
+          {"the other language", deutsch, zeile, "The help file is damaged."},
+          {"the other language as a whole", deutsch, deutsche_zeile, "The help file is damaged."},
+          {"empty checksum", ganz, "", "The help file is damaged."},
+          {"checksum and more", ganz, zeile + zeile, "The help file is damaged."},
+          {"no checksum", ganz, std::nullopt,
+           "The help file counts as damaged, since the file with its checksum is missing: "
+           "Velmaris_e.chm.sha256"},
+          {"no file", std::nullopt, zeile, "The help file was not found."}}) {
+        for (const auto& [ort, bytes] : {std::pair(datei, fall.bytes), std::pair(summe, fall.pruefzeile)}) {
+            std::filesystem::remove(ort);
+            if (bytes) std::ofstream(ort, std::ios::binary) << *bytes;
+        }
+        EXPECT_EQ(meldung_bei([&] { f1(such("E_Geometrie", "l_sb")); }), datei.string() + ": " + fall.grund)
+            << fall.name;
         EXPECT_FALSE(fenster().isVisible()) << fall.name;
     }
-    std::filesystem::remove(datei);
-    const std::string text = meldung_bei([&] { menue("mnuQuestHilfe").trigger(); });
-    EXPECT_EQ(text, datei.string() + ": The help file was not found.");
     std::ofstream(datei, std::ios::binary) << ganz;
     f1(such("E_Geometrie", "l_sb"));
     EXPECT_EQ(gezeigt(), "/E_Geometrie.html") << "once the file is back, so is the help";
+}
+
+TEST_F(HilfedateiTest, KeinVeraendertesByteKommtZumLeser) {
+    for (std::size_t ort = 0; ort < ganz.size(); ort += ort < 256 ? 1 : 499) {
+        std::string bytes = ganz;
+        bytes[ort] = static_cast<char>(bytes[ort] ^ (1 << ort % 8));
+        std::ofstream(datei, std::ios::binary) << bytes;
+        EXPECT_THROW((void)Hilfedatei(datei), Dateifehler) << ort;
+    }
+}
+
+TEST_F(HilfedateiTest, EineOffeneHilfeBleibtWieSieGeprueftWurde) {
+    starte("e");
+    menue("mnuQuestHilfe").trigger();
+    std::ofstream(datei, std::ios::binary) << std::string(ganz.size(), '\x7f');
+    for (const char* name : {"/Sonne.html", "/Dateien.html", "/E_Klima.html", "/Stundensimulation.html"}) {
+        Q_EMIT seite().anchorClicked(QUrl(QLatin1String("chm:") + QLatin1String(name)));
+        EXPECT_EQ(gezeigt(), name);
+        EXPECT_GT(seite().document()->characterCount(), 300) << name;
+    }
+    const std::string zuletzt = gezeigt();
+    EXPECT_EQ(meldung_bei([&] { f1(such("E_Geometrie", "l_sb")); }),
+              datei.string() + ": The help file is damaged.");
+    EXPECT_EQ(gezeigt(), zuletzt);
+}
+
+TEST_F(HilfedateiTest, OhneOrtFuerDieKopieWirdDieserGenannt) {
+    const QByteArray vorher = qgetenv("TMPDIR");
+    qputenv("TMPDIR", summe.string().c_str());
+    try {
+        (void)Hilfedatei(datei);
+        ADD_FAILURE() << "this is no folder";
+    } catch (const Dateifehler& fehler) {
+        EXPECT_EQ(fehler.datei(), summe.string());
+    }
+    qputenv("TMPDIR", vorher);
 }
 
 }  // namespace
