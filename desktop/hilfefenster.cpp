@@ -2,6 +2,7 @@
 
 #include "desktop/nebenfenster.h"
 #include "desktop/qt_text.h"
+#include "desktop/suchleiste.h"
 #include "toolkit/text.h"
 
 #include <QAction>
@@ -11,6 +12,7 @@
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QToolBar>
+#include <QVBoxLayout>
 #include <QWindow>
 
 namespace velmaris {
@@ -45,6 +47,11 @@ class Hilfeseite : public QTextBrowser {
         setFrameShape(QFrame::NoFrame);
         setOpenLinks(false);
         document()->setDocumentMargin(rand);
+        // What is found stays plain to see while the focus is in the search bar.
+        QPalette farben = palette();
+        for (const QPalette::ColorRole rolle : {QPalette::Highlight, QPalette::HighlightedText})
+            farben.setColor(QPalette::Inactive, rolle, farben.color(QPalette::Active, rolle));
+        setPalette(farben);
     }
 
     QVariant loadResource(int, const QUrl& name) override {
@@ -65,17 +72,24 @@ class Hilfeseite : public QTextBrowser {
 Hilfefenster::Hilfefenster(const Fehlerwache& wache, const std::string& sprache)
     : wache_(wache),
       titel_(sprache == "e" ? QStringLiteral("Velmaris Help") : QStringLiteral("Velmaris-Hilfe")),
-      seite_(new Hilfeseite(datei_, wache, this)) {
+      seite_(new Hilfeseite(datei_, wache, this)),
+      suchleiste_(new Suchleiste(*seite_, sprache, this)) {
     constexpr QSize bevorzugt(760, 680);
     constexpr int bildschirmrest = 80;  // for the frame of the window and the desktop's bars
     setObjectName(QStringLiteral("Hilfe"));
     setWindowTitle(titel_);
     setContextMenuPolicy(Qt::NoContextMenu);
-    setCentralWidget(seite_);
+    auto* mitte = new QWidget(this);
+    auto* spalte = new QVBoxLayout(mitte);
+    spalte->setContentsMargins({});
+    spalte->setSpacing(0);
+    spalte->addWidget(seite_, 1);
+    spalte->addWidget(suchleiste_);
+    setCentralWidget(mitte);
     seite_->setAccessibleName(titel_);
     leiste_bauen(sprache);
     resize(bevorzugt.boundedTo(screen()->availableSize() - QSize(0, bildschirmrest)));
-    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::hide);
+    tasten_binden();
     connect(seite_, &QTextBrowser::anchorClicked, this,
             [this](const QUrl& verweis) { wache_.fuehre_aus([&] { folge(verweis); }); });
     connect(seite_, &QTextBrowser::sourceChanged, this,
@@ -90,6 +104,8 @@ void Hilfefenster::leiste_bauen(const std::string& sprache) {
         taste("Vor", wort("Vor", "Forward"), QStringLiteral("\u2192"), QKeySequence(Qt::ALT | Qt::Key_Right));
     QAction* anfang =
         taste("Startseite", wort("Startseite", "Start page"), {}, QKeySequence(Qt::ALT | Qt::Key_Home));
+    QAction* suchen = taste("Suchen", wort("Suchen", "Find"), {}, QKeySequence::Find);
+    connect(suchen, &QAction::triggered, suchleiste_, &Suchleiste::oeffne);
     connect(zurueck, &QAction::triggered, seite_, &QTextBrowser::backward);
     connect(vor, &QAction::triggered, seite_, &QTextBrowser::forward);
     connect(anfang, &QAction::triggered, this, [this] { wache_.fuehre_aus([&] { oeffne(adresse({})); }); });
@@ -99,7 +115,22 @@ void Hilfefenster::leiste_bauen(const std::string& sprache) {
     connect(seite_, &QTextBrowser::forwardAvailable, vor, &QAction::setEnabled);
     auto* leiste = addToolBar(titel_);
     leiste->setMovable(false);
-    leiste->addActions({zurueck, vor, anfang});
+    leiste->addActions({zurueck, vor, anfang, suchen});
+}
+
+void Hilfefenster::tasten_binden() {
+    const auto bei = [this](const QKeySequence& tasten, auto&& tu) {
+        connect(new QShortcut(tasten, this), &QShortcut::activated, this, tu);
+    };
+    bei(Qt::Key_F3, [this] { suchleiste_->suche(false); });
+    bei(Qt::SHIFT | Qt::Key_F3, [this] { suchleiste_->suche(true); });
+    bei(Qt::Key_Escape, [this] {
+        if (suchleiste_->isHidden()) {
+            hide();
+        } else {
+            suchleiste_->schliesse();
+        }
+    });
 }
 
 /// A button of the bar: what it does, the sign before that, the keys that do the same.

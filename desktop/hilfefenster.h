@@ -14,9 +14,10 @@ class QAction;
 namespace velmaris {
 
 class Hilfeseite;
+class Suchleiste;
 
-/// The help: the pages of a compiled help file with their links, back, forward and the start page. It stands
-/// beside the program and stays usable while a modal window is open.
+/// The help: the pages of a compiled help file with their links, back, forward, the start page and a search
+/// on the page. It stands beside the program and stays usable while a modal window is open.
 class Hilfefenster : public QMainWindow {
     Q_OBJECT
 
@@ -36,6 +37,7 @@ class Hilfefenster : public QMainWindow {
 
   private:
     void leiste_bauen(const std::string& sprache);
+    void tasten_binden();
     QAction* taste(const char* name, const QString& text, const QString& zeichen, const QKeySequence& tasten);
     void oeffne(const QUrl& seite);
     void folge(const QUrl& verweis);
@@ -45,6 +47,7 @@ class Hilfefenster : public QMainWindow {
     QString titel_;
     std::optional<Hilfedatei> datei_;
     Hilfeseite* seite_;
+    Suchleiste* suchleiste_;
 };
 
 }  // namespace velmaris

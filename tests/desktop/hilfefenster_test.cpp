@@ -3,11 +3,14 @@
 #include "desktop/nebenfenster.h"
 #include "programmprobe.h"
 
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QWindow>
+#include <algorithm>
 #include <fstream>
 
 namespace velmaris {
@@ -129,6 +132,67 @@ TEST_F(HilfefensterTest, BlaettertInSeinenSeiten) {
     EXPECT_FALSE(fenster().isVisible());
 }
 
+TEST_F(HilfefensterTest, SuchtAufDerSeite) {
+    struct Fall {
+        const char* sprache;
+        const char* fehlt;
+        const char* vom_anfang;
+        const char* vom_ende;
+    };
+    for (const Fall& fall :
+         {Fall{"d", "Nicht gefunden", "Weiter vom Anfang der Seite", "Weiter vom Ende der Seite"},
+          {"e", "Not found", "Continued from the top of the page", "Continued from the end of the page"}}) {
+        starte(fall.sprache);
+        menue("mnuQuestHilfe").trigger();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster()));
+        Q_EMIT seite().anchorClicked(QUrl(QStringLiteral("chm:/Dateien.html")));
+        auto& feld = *fenster().findChild<QLineEdit*>(QStringLiteral("Suchtext"));
+        auto& meldung = *fenster().findChild<QLabel*>(QStringLiteral("Suchmeldung"));
+        const auto stelle = [&] { return seite().textCursor().selectionStart(); };
+        EXPECT_FALSE(feld.isVisible());
+
+        QTest::keyClick(&seite(), Qt::Key_F, Qt::ControlModifier);
+        ASSERT_EQ(QApplication::focusWidget(), &feld);
+        QTest::keyClicks(&feld, "PLZ.tx");
+        const int getippt = stelle();
+        QTest::keyClicks(&feld, "t");
+        EXPECT_EQ(stelle(), getippt) << "a word that grows stays at its place";
+        EXPECT_EQ(seite().textCursor().selectedText(), "plz.txt");
+        feld.clear();
+        QTest::keyClicks(&feld, "klima");
+        const auto zahl = seite().toPlainText().count(QStringLiteral("klima"), Qt::CaseInsensitive);
+        ASSERT_GE(zahl, 5);
+        std::vector<int> stellen;
+        for (int i = 0; i <= 2 * zahl && meldung.text() != QLatin1String(fall.vom_anfang); ++i)
+            QTest::keyClick(&feld, i % 2 == 0 ? Qt::Key_Return : Qt::Key_F3);
+        EXPECT_EQ(meldung.text(), fall.vom_anfang);
+        for (int i = 0; i < zahl; ++i) {
+            stellen.push_back(stelle());
+            EXPECT_TRUE(seite().viewport()->rect().contains(seite().cursorRect())) << i;
+            QTest::keyClick(&feld, Qt::Key_F3);
+        }
+        EXPECT_TRUE(std::is_sorted(stellen.begin(), stellen.end(), std::less_equal<>()));
+        EXPECT_EQ(stelle(), stellen.front());
+        EXPECT_EQ(meldung.text(), fall.vom_anfang);
+        QTest::keyClick(&feld, Qt::Key_Return, Qt::ShiftModifier);
+        EXPECT_EQ(meldung.text(), fall.vom_ende);
+        QTest::keyClick(&feld, Qt::Key_F3, Qt::ShiftModifier);
+        EXPECT_EQ(stelle(), stellen.at(stellen.size() - 2));
+        EXPECT_EQ(meldung.text(), "");
+
+        QTest::keyClicks(&feld, "xyz");
+        EXPECT_EQ(meldung.text(), fall.fehlt);
+        klicke(*fenster().findChild<QAbstractButton*>(QStringLiteral("SucheZurueck")));
+        EXPECT_EQ(meldung.text(), fall.fehlt);
+        QTest::keyClick(&feld, Qt::Key_Escape);
+        EXPECT_FALSE(feld.isVisible());
+        EXPECT_TRUE(fenster().isVisible());
+        EXPECT_TRUE(seite().hasFocus());
+        QTest::keyClick(&seite(), Qt::Key_Escape);
+        EXPECT_FALSE(fenster().isVisible());
+    }
+}
+
 TEST_F(HilfefensterTest, BleibtBeimModalenFensterBedienbar) {
     starte("e");
     menue("mnuQuestHilfe").trigger();
@@ -143,6 +207,8 @@ TEST_F(HilfefensterTest, BleibtBeimModalenFensterBedienbar) {
     EXPECT_EQ(gezeigt(), "/index.html");
     klicke_verweis("Windows");
     EXPECT_EQ(gezeigt(), "/E_Fenster.html") << "the help came up over the modal window";
+    QTest::keyClick(&seite(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(fenster().findChild<QLineEdit*>(QStringLiteral("Suchtext"))->hasFocus());
     info->close();
     EXPECT_TRUE(fenster().isVisible());
 }
