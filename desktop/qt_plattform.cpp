@@ -1,6 +1,7 @@
 #include "desktop/qt_plattform.h"
 
 #include "desktop/dateifilter.h"
+#include "desktop/meldungstext.h"
 #include "desktop/qt_text.h"
 #include "toolkit/text.h"
 
@@ -82,13 +83,6 @@ class Zeigerpause {
     bool sanduhr_;
 };
 
-/// All texts of a message box are plain, also the one below the main text.
-void als_klartext(QMessageBox& fenster) {
-    fenster.setTextFormat(Qt::PlainText);
-    for (QLabel* schild : fenster.findChildren<QLabel*>())
-        schild->setTextFormat(schild->pixmap().isNull() ? Qt::PlainText : schild->textFormat());
-}
-
 }  // namespace
 
 QtPlattform::QtPlattform(const Fehlerwache& wache, std::function<std::string()> sprache)
@@ -113,7 +107,7 @@ Antwort QtPlattform::melde(const Meldung& meldung) {
     QMessageBox fenster(symbolbild(meldung.symbol), zeilentext(meldung.titel), zeilentext(meldung.text),
                         QMessageBox::NoButton, besitzer());
     if (!meldung.hinweis.empty()) fenster.setInformativeText(zeilentext(meldung.hinweis));
-    als_klartext(fenster);
+    meldungstexte_einrichten(fenster);
     const std::vector<Antwort> moeglich = antworten(meldung.knoepfe);
     for (const Antwort antwort : moeglich) {
         const Knopfzeile& zeile = knopfzeile(antwort);

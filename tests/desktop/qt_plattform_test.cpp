@@ -10,9 +10,11 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -102,6 +104,33 @@ TEST_F(QtPlattformTest, MeldungZeigtTexteInDerSpracheUndKeineSanduhr) {
         EXPECT_EQ(box.button(QMessageBox::Cancel)->text(), "Cancel");
     });
     plattform.sanduhr(false);
+}
+
+TEST_F(QtPlattformTest, MeldungBrichtPfadeErstAmZeilenende) {
+    std::string ordner = "/home/anna";
+    while (ordner.size() < 250)
+        ordner += "/Projekte/Umbau/altes_haus/Varianten";
+    for (const std::string& pfad :
+         {std::string("/home/haus.vel"), ordner.substr(0, 80), ordner.substr(0, 250),
+          "/" + std::string(250, 'w'), std::string(250, 'm') + ".vel: i"}) {
+        for (const bool oben : {true, false}) {
+            am_naechsten_dialog<QMessageBox>([&](QMessageBox& box) {
+                const auto* schild = box.findChild<QLabel*>(
+                    oben ? QStringLiteral("qt_msgbox_label") : QStringLiteral("qt_msgbox_informativelabel"));
+                const QFontMetrics schrift = schild->fontMetrics();
+                const QRect bild =
+                    schrift.boundingRect(0, 0, schild->width(), 9999, Qt::TextWordWrap, schild->text());
+                EXPECT_LE(bild.width(), schild->width()) << pfad;
+                EXPECT_LE(bild.height(), schild->height()) << pfad;
+                EXPECT_TRUE(box.rect().contains(schild->geometry())) << pfad;
+                const int zeilen = bild.height() / schrift.height();
+                const int breite = schrift.horizontalAdvance(qtext(pfad));
+                EXPECT_LE(zeilen, 1 + breite * 5 / (2 * box.screen()->availableSize().width())) << pfad;
+                QTest::keyClick(&box, Qt::Key_Escape);
+            });
+            plattform.melde({.text = oben ? pfad : "?", .hinweis = oben ? "" : pfad});
+        }
+    }
 }
 
 TEST_F(QtPlattformTest, SanduhrIstNachEinemAusWeg) {
