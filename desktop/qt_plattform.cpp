@@ -171,14 +171,20 @@ std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialo
 }
 
 void QtPlattform::beschriften(QFileDialog& fenster, Dateidialog::Art art) const {
+    // A dialog of the desktop has no widgets of ours, and shows the mark of an access key as it stands.
+    const bool eigener = fenster.findChild<QLineEdit*>() != nullptr;
+    const auto beschrifte = [&](QFileDialog::DialogLabel stelle, const char* de, const char* en) {
+        QString text = wort(de, en);
+        if (!eigener) text.remove(u'&');
+        fenster.setLabelText(stelle, text);
+    };
     const bool oeffnen = art == Dateidialog::Art::oeffnen;
     fenster.setWindowTitle(oeffnen ? wort("Öffnen", "Open") : wort("Speichern unter", "Save as"));
-    fenster.setLabelText(QFileDialog::Accept,
-                         oeffnen ? wort("Ö&ffnen", "&Open") : wort("&Speichern", "&Save"));
-    fenster.setLabelText(QFileDialog::Reject, wort("Abbrechen", "Cancel"));
-    fenster.setLabelText(QFileDialog::LookIn, wort("Suchen in:", "Look in:"));
-    fenster.setLabelText(QFileDialog::FileName, wort("Datei&name:", "File &name:"));
-    fenster.setLabelText(QFileDialog::FileType, wort("Dateityp:", "Files of type:"));
+    beschrifte(QFileDialog::Accept, oeffnen ? "Ö&ffnen" : "&Speichern", oeffnen ? "&Open" : "&Save");
+    beschrifte(QFileDialog::Reject, "Abbrechen", "Cancel");
+    beschrifte(QFileDialog::LookIn, "Suchen in:", "Look in:");
+    beschrifte(QFileDialog::FileName, "Datei&name:", "File &name:");
+    beschrifte(QFileDialog::FileType, "Dateityp:", "Files of type:");
 }
 
 bool QtPlattform::ersetzen_erlaubt(const std::filesystem::path& datei) {

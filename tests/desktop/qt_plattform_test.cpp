@@ -177,6 +177,8 @@ TEST_F(QtPlattformTest, DateidialogOeffnetUndBrichtAb) {
     am_naechsten_dialog<QFileDialog>([&](QFileDialog& box) {
         EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptOpen);
         EXPECT_EQ(box.labelText(QFileDialog::Reject), "Abbrechen");
+        EXPECT_EQ(box.labelText(QFileDialog::Accept), QString::fromUtf8("Ö&ffnen"))
+            << "not the desktop's own";
         EXPECT_EQ(box.directory().absolutePath(), QDir(ordner.pfad()).absolutePath());
         const auto* typen = box.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
         EXPECT_EQ(typen->itemText(0), "Alle Dateien (*.*)");
