@@ -126,7 +126,8 @@ std::optional<std::string> QtPlattform::eingabe(const std::string& text, const s
     const Zeigerpause pause(sanduhr_);
     QInputDialog fenster(besitzer());
     fenster.setWindowTitle(zeilentext(titel));
-    fenster.setLabelText(zeilentext(text));
+    // The label is bound to its field, and so would take an ampersand for the mark of an access key.
+    fenster.setLabelText(zeilentext(text).replace(u'&', QLatin1String("&&")));
     fenster.setTextValue(qtext(vorgabe));
     fenster.setOkButtonText(QStringLiteral("OK"));
     fenster.setCancelButtonText(wort("Abbrechen", "Cancel"));

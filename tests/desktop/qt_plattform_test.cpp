@@ -147,11 +147,12 @@ TEST_F(QtPlattformTest, SanduhrIstNachEinemAusWeg) {
 TEST_F(QtPlattformTest, EingabeGibtDenTextOderNichts) {
     am_naechsten_dialog<QInputDialog>([](QInputDialog& box) {
         EXPECT_EQ(box.windowTitle(), "Titel");
+        EXPECT_EQ(box.labelText(), "Stadt && Land:") << "no access key";
         EXPECT_EQ(box.textValue(), "alt");
         QTest::keyClicks(box.findChild<QLineEdit*>(), "neu");
         QTest::keyClick(&box, Qt::Key_Return);
     });
-    EXPECT_EQ(plattform.eingabe("Name:", "Titel", "alt"), "neu") << "the old text is selected";
+    EXPECT_EQ(plattform.eingabe("Stadt & Land:", "Titel", "alt"), "neu") << "the old text is selected";
     am_naechsten_dialog<QInputDialog>([](QInputDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     EXPECT_EQ(plattform.eingabe("Name:", "Titel", "alt"), std::nullopt);
 }
