@@ -1,6 +1,7 @@
-#include "documents/energieanteile.h"
 #include "documents/jahressummen.h"
+#include "documents/kuehlstrom.h"
 #include "documents/reportseiten.h"
+#include "energy/energiebilanz.h"
 #include "toolkit/zahlen.h"
 
 #include <array>

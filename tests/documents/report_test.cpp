@@ -1,7 +1,11 @@
 #include "documents/report.h"
 
+#include "documents/Ausdrucken.h"
+#include "energy/energiebilanz.h"
 #include "planes/reportquelle.h"
 #include "tests/documents/reporthilfen.h"
+#include "tests/testdrucker.h"
+#include "toolkit/zahlen.h"
 
 #include <algorithm>
 #include <array>
@@ -307,10 +311,21 @@ TEST(Report, ElektrischeHeizungHatZweiSpalten) {
 TEST(Report, OhneHeizwaermebedarfStehtNull) {
     const auto programm = dokumentprogramm("d");
     Projekt& p = programm->p();
-    p.qhs_sum = 0;
-    p.q_HE_Energietraeger = p.q_HE_Strom = p.q_PE_Energietraeger = p.q_PE_Strom = 0;
+    // what rounding can leave of the year's balance, before it is raised to stay a divisor
+    p.qhs_sum = -1E-6F;
+    energ_refresh(p);
+    ASSERT_LT(p.q_HE_Energietraeger, 0);
     for (const auto& zeile : zahlentabelle(reportzeilen(*programm, 6), 0, p))
         EXPECT_THAT(zeile, testing::Each(0.0));
+    test::Testdrucker drucker;
+    Ausdrucken(drucker, reportquelle(*programm->haupt), {false, false, false, false, false, true}, "");
+    std::size_t monatszahlen = 0;
+    for (const auto& z : drucker.auf_seite(1, test::Druckzeichen::Art::text)) {
+        if (z.y1 < 124 || z.y2 > 208 || !zahl_pruefen(z.text)) continue;
+        EXPECT_EQ(z.text, "0.0");
+        ++monatszahlen;
+    }
+    EXPECT_EQ(monatszahlen, 6U * 13);
 }
 
 TEST(Report, KuehlenergieHatFestenPrimaerfaktor) {
