@@ -2,6 +2,8 @@
 
 #include "toolkit/zahlen.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace velmaris {
@@ -12,16 +14,6 @@ constexpr double mitte_der_seite = rahmen::breite / 2;
 constexpr char hochzeichen = '^';
 constexpr double hochgestellt_groesse = 0.65;
 constexpr double hochgestellt_hub = 0.08;  ///< of the height of a line
-
-constexpr const char* auslassung = "…";
-
-/// Drops the last character of a UTF-8 text that is not empty.
-void letztes_zeichen_streichen(std::string& text) {
-    const auto folgebyte = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
-    while (text.size() > 1 && folgebyte(text.back()))
-        text.pop_back();
-    text.pop_back();
-}
 
 }  // namespace
 
@@ -61,17 +53,15 @@ void Blatt::DruckeWert(double wert, double anker, int stellen, double y) {
 }
 
 std::vector<std::string> Blatt::ZeilenUmbruch(std::string_view text, double breite) const {
-    return zeilen_umbrechen(text, breite,
-                            [this](std::string_view teil) { return drucker_.textbreite(teil); });
+    return zeilen_umbrechen(text, breite, messer());
 }
 
 std::string Blatt::gekuerzt(std::string_view text, double breite) const {
-    if (drucker_.textbreite(text) <= breite) return std::string(text);
-    std::string kurz(text);
-    do {
-        letztes_zeichen_streichen(kurz);
-    } while (!kurz.empty() && drucker_.textbreite(kurz + auslassung) > breite);
-    return kurz + auslassung;
+    return kuerzen(text, breite, messer());
+}
+
+Textmesser Blatt::messer() const {
+    return [this](std::string_view text) { return drucker_.textbreite(text); };
 }
 
 void Blatt::linie(double x1, double y1, double x2, double y2, Farbe farbe) {
@@ -99,8 +89,14 @@ void Formular::abschnitt(const Wort& name) {
 
 void Formular::zeile(const Wort& name, std::string_view wert) {
     blatt_.text(spalten_mm::name, y_, name);
-    for (const std::string& teil : blatt_.ZeilenUmbruch(wert, spalten_mm::breite))
-        weiter(blatt_.gekuerzt(teil, spalten_mm::breite));
+    std::vector<std::string> zeilen = blatt_.ZeilenUmbruch(wert, spalten_mm::breite);
+    const double platz = std::max(1.0, std::floor((rahmen::unten - y_) / zeilenhoehe_));
+    if (static_cast<double>(zeilen.size()) > platz) {
+        zeilen.resize(static_cast<std::size_t>(platz));
+        zeilen.back() += auslassung;
+    }
+    for (const std::string& zeile : zeilen)
+        weiter(blatt_.gekuerzt(zeile, spalten_mm::breite));
 }
 
 void Formular::weiter(std::string_view wert) {

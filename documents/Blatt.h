@@ -62,6 +62,8 @@ class Blatt {
     void doppelregel(double y);
 
   private:
+    [[nodiscard]] Textmesser messer() const;
+
     Drucker& drucker_;
     std::string_view sprache_;
     Druckschrift schrift_;
@@ -75,7 +77,8 @@ class Formular {
     /// Head of a section.
     void abschnitt(const Wort& name);
 
-    /// A label with its value, which may take several lines.
+    /// A label with its value, which may take several lines; those below the frame are left out, and dots say
+    /// so.
     void zeile(const Wort& name, std::string_view wert);
 
     /// Another line of the value above.
