@@ -30,6 +30,14 @@ void Blatt::mitte(double x, double y, std::string_view text) {
     drucker_.text(x - drucker_.textbreite(text) / 2, y, text);
 }
 
+void Blatt::schrift_einpassen(std::string_view text, double breite) {
+    const double noetig = drucker_.textbreite(text);
+    if (noetig <= breite) return;
+    Druckschrift klein = schrift_;
+    klein.groesse *= breite / noetig;
+    schrift(klein);
+}
+
 void Blatt::DruckeText(std::string_view text, double anker, double y) {
     const auto stelle = text.find(hochzeichen);
     const std::string_view grund = text.substr(0, stelle);
@@ -96,10 +104,19 @@ void Formular::zeile(const Wort& name, std::string_view wert) {
         zeilen.back() += auslassung;
     }
     for (const std::string& zeile : zeilen)
-        weiter(blatt_.gekuerzt(zeile, spalten_mm::breite));
+        wertzeile(blatt_.gekuerzt(zeile, spalten_mm::breite));
 }
 
-void Formular::weiter(std::string_view wert) {
+void Formular::zeilen(const Wort& name, std::span<const std::string_view> werte) {
+    blatt_.text(spalten_mm::name, y_, name);
+    for (const std::string_view wert : werte) {
+        blatt_.schrift_einpassen(wert, spalten_mm::breite);
+        wertzeile(wert);
+        blatt_.schrift({});
+    }
+}
+
+void Formular::wertzeile(std::string_view wert) {
     blatt_.text(spalten_mm::wert, y_, wert);
     y_ += zeilenhoehe_;
 }
