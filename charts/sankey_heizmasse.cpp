@@ -1,5 +1,6 @@
 #include "charts/c_sankey.h"
 #include "charts/sankey_heizen.h"
+#include "energy/energiebilanz.h"
 #include "toolkit/pixel.h"
 #include "toolkit/zahlen.h"
 
@@ -15,8 +16,7 @@ constexpr double rand_der_stapel = 20;
 constexpr int luft = 10;  ///< between the main band and what joins it
 constexpr int beschriftung_unten = 25;
 
-/// What the record holds in place of a heat demand of nothing, and what rounding can leave of balances then.
-constexpr float kein_bedarf = 1E-10F;
+/// What rounding can leave of the balances of a building that needs no heat.
 constexpr double kein_rest = 1E-6;
 
 int breite(double wert, double massstab) {
@@ -90,7 +90,7 @@ void teilung_legen(const Projekt& p, Sankey_Heizmasse& m) {
 
 Sankey_Heizmasse sankey_heizmasse(const Projekt& p, const Zeichenflaeche& bild) {
     Sankey_Heizmasse m;
-    const bool ohne_bedarf = p.qhs_sum <= kein_bedarf;
+    const bool ohne_bedarf = ohne_heizbedarf(p);
     const double qh = ohne_bedarf ? 0 : p.qhs_sum;
     const double ende = double{p.q_HE_Strom} + p.q_HE_Energietraeger;
     m.SV = ende - qh;

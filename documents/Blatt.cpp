@@ -2,6 +2,8 @@
 
 #include "toolkit/zahlen.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace velmaris {
@@ -12,16 +14,6 @@ constexpr double mitte_der_seite = rahmen::breite / 2;
 constexpr char hochzeichen = '^';
 constexpr double hochgestellt_groesse = 0.65;
 constexpr double hochgestellt_hub = 0.08;  ///< of the height of a line
-
-constexpr const char* auslassung = "…";
-
-/// Drops the last character of a UTF-8 text that is not empty.
-void letztes_zeichen_streichen(std::string& text) {
-    const auto folgebyte = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
-    while (text.size() > 1 && folgebyte(text.back()))
-        text.pop_back();
-    text.pop_back();
-}
 
 }  // namespace
 
@@ -36,6 +28,14 @@ void Blatt::text(double x, double y, std::string_view text) {
 
 void Blatt::mitte(double x, double y, std::string_view text) {
     drucker_.text(x - drucker_.textbreite(text) / 2, y, text);
+}
+
+void Blatt::schrift_einpassen(std::string_view text, double breite) {
+    const double noetig = drucker_.textbreite(text);
+    if (noetig <= breite) return;
+    Druckschrift klein = schrift_;
+    klein.groesse *= breite / noetig;
+    schrift(klein);
 }
 
 void Blatt::DruckeText(std::string_view text, double anker, double y) {
@@ -61,17 +61,15 @@ void Blatt::DruckeWert(double wert, double anker, int stellen, double y) {
 }
 
 std::vector<std::string> Blatt::ZeilenUmbruch(std::string_view text, double breite) const {
-    return zeilen_umbrechen(text, breite,
-                            [this](std::string_view teil) { return drucker_.textbreite(teil); });
+    return zeilen_umbrechen(text, breite, messer());
 }
 
 std::string Blatt::gekuerzt(std::string_view text, double breite) const {
-    if (drucker_.textbreite(text) <= breite) return std::string(text);
-    std::string kurz(text);
-    do {
-        letztes_zeichen_streichen(kurz);
-    } while (!kurz.empty() && drucker_.textbreite(kurz + auslassung) > breite);
-    return kurz + auslassung;
+    return kuerzen(text, breite, messer());
+}
+
+Textmesser Blatt::messer() const {
+    return [this](std::string_view text) { return drucker_.textbreite(text); };
 }
 
 void Blatt::linie(double x1, double y1, double x2, double y2, Farbe farbe) {
@@ -99,11 +97,26 @@ void Formular::abschnitt(const Wort& name) {
 
 void Formular::zeile(const Wort& name, std::string_view wert) {
     blatt_.text(spalten_mm::name, y_, name);
-    for (const std::string& teil : blatt_.ZeilenUmbruch(wert, spalten_mm::breite))
-        weiter(blatt_.gekuerzt(teil, spalten_mm::breite));
+    std::vector<std::string> zeilen = blatt_.ZeilenUmbruch(wert, spalten_mm::breite);
+    const double platz = std::max(1.0, std::floor((rahmen::unten - y_) / zeilenhoehe_));
+    if (static_cast<double>(zeilen.size()) > platz) {
+        zeilen.resize(static_cast<std::size_t>(platz));
+        zeilen.back() += auslassung;
+    }
+    for (const std::string& zeile : zeilen)
+        wertzeile(blatt_.gekuerzt(zeile, spalten_mm::breite));
 }
 
-void Formular::weiter(std::string_view wert) {
+void Formular::zeilen(const Wort& name, std::span<const std::string_view> werte) {
+    blatt_.text(spalten_mm::name, y_, name);
+    for (const std::string_view wert : werte) {
+        blatt_.schrift_einpassen(wert, spalten_mm::breite);
+        wertzeile(wert);
+        blatt_.schrift({});
+    }
+}
+
+void Formular::wertzeile(std::string_view wert) {
     blatt_.text(spalten_mm::wert, y_, wert);
     y_ += zeilenhoehe_;
 }

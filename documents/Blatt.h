@@ -4,6 +4,7 @@
 #include "documents/wort.h"
 #include "toolkit/drucker.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +39,9 @@ class Blatt {
     /// The font for all that follows; its name stays "Arial".
     void schrift(const Druckschrift& schrift);
 
+    /// Makes the font in force as small as it takes for a text to be no wider than `breite`.
+    void schrift_einpassen(std::string_view text, double breite);
+
     /// A text with its top left at (x, y), and one that is centred on x.
     void text(double x, double y, std::string_view text);
     void text(double x, double y, const Wort& wort) { text(x, y, wort.in(sprache_)); }
@@ -62,6 +66,8 @@ class Blatt {
     void doppelregel(double y);
 
   private:
+    [[nodiscard]] Textmesser messer() const;
+
     Drucker& drucker_;
     std::string_view sprache_;
     Druckschrift schrift_;
@@ -75,15 +81,18 @@ class Formular {
     /// Head of a section.
     void abschnitt(const Wort& name);
 
-    /// A label with its value, which may take several lines.
+    /// A label with its value, which may take several lines; those below the frame are left out, and dots say
+    /// so.
     void zeile(const Wort& name, std::string_view wert);
 
-    /// Another line of the value above.
-    void weiter(std::string_view wert);
+    /// A label with a value of several lines, each in letters that fit.
+    void zeilen(const Wort& name, std::span<const std::string_view> werte);
 
     [[nodiscard]] double y() const { return y_; }
 
   private:
+    void wertzeile(std::string_view wert);
+
     Blatt& blatt_;
     double y_;
     double zeilenhoehe_;

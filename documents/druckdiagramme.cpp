@@ -3,7 +3,7 @@
 #include "charts/bilanzdiagramme.h"
 #include "charts/schema.h"
 #include "documents/Druckachsen.h"
-#include "documents/energieanteile.h"
+#include "documents/kuehlstrom.h"
 #include "energy/energie_zeichnen.h"
 #include "energy/energiebilanz.h"
 

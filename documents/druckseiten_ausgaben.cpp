@@ -31,6 +31,7 @@ void stundenzeilen(std::vector<Tabellenzeile>& zeilen, const Projekt& p, std::st
 constexpr double bilanz_schrift = 8;
 constexpr double bilanz_zeile = 4.1;
 constexpr double bilanz_name = 26;
+constexpr double summenabstand = 1.2;
 
 /// Right edge of column i (0..6).
 constexpr double bilanzanker(std::size_t i) {
@@ -105,8 +106,7 @@ void bilanztabelle(Blatt& blatt, double y, const Projekt& p) {
                  0});
         }
     }
-    blatt.regel(y);
-    y = bilanzzeile(blatt, y + 0.6, Wort{"Summe absolut", "Sum absolute"}.in(blatt.sprache()),
+    y = bilanzzeile(blatt, y + summenabstand, Wort{"Summe absolut", "Sum absolute"}.in(blatt.sprache()),
                     {{p.qtr, p.qinf, double{p.qtr} + p.qinf, p.qi, p.qsol, 0, p.qh}, false, 0});
     y = bilanzzeile(blatt, y, Wort{"Summe spezifisch", "Sum specific"}.in(blatt.sprache()),
                     {{p.qtrs, p.qinfs, p.qverl_s, p.qis, p.qsols, 0, p.qhs_sum}, false, 1});

@@ -1,4 +1,5 @@
 #include "calc/fassaden.h"
+#include "climate/regionen.h"
 #include "documents/druckseiten.h"
 #include "documents/klimaregionen.h"
 #include "documents/nachbarwaende.h"
@@ -87,20 +88,21 @@ void gebaeude(Formular& f, const Reportquelle& quelle, std::string_view sprache)
             nachbarn.empty() ? Wort{"keine", "none"}.in(sprache) : std::string_view(nachbarn));
 }
 
-std::string_view ohne_vordere_blanks(std::string_view text) {
-    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
+std::string_view ohne_blanks(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 void klima(Formular& f, const Projekt& p) {
     f.abschnitt({"Klima:", "Climate:"});
-    const int region = region_des_projekts(p);
+    const int region = region_der_station(p);
     if (region == 0) {
         f.zeile({"Klimastation", "Climate station"}, p.Stationsname);
         return;
     }
-    const Regionszeilen& zeilen = regionszeilen(region);
-    f.zeile({"Klimaregion", "Climatic region"}, ohne_vordere_blanks(zeilen[0]));
-    if (!zeilen[1].empty()) f.weiter(ohne_vordere_blanks(zeilen[1]));
+    Regionszeilen zeilen = regionszeilen(region);
+    std::transform(zeilen.begin(), zeilen.end(), zeilen.begin(), ohne_blanks);
+    f.zeilen({"Klimaregion", "Climatic region"}, zeilen);
 }
 
 // --- The table of the windows, one column for each facade ---

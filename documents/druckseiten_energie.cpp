@@ -1,8 +1,9 @@
 #include "documents/Drucktabelle.h"
 #include "documents/druckdiagramme.h"
 #include "documents/druckseiten.h"
-#include "documents/energieanteile.h"
 #include "documents/jahressummen.h"
+#include "documents/kuehlstrom.h"
+#include "energy/energiebilanz.h"
 #include "toolkit/zahlen.h"
 
 #include <array>

@@ -27,6 +27,7 @@ void bedarf(Reporttext& text, const Projekt& p) {
     text.abschnitt({"Heizwärme- und Kühlbedarf", "Heat energy and cooling demand"});
     text.monatstabelle(p, tabstopps::zwei, kopf,
                        [&](int m) { return zellen(p.Monat(m).Qh, p.Monat(m).Kuehlbedarf); });
+    text.tabellenlinie();
     text.jahreszeile(jahressumme, zellen(summe_der_monate(p, &Monatswerte::Qh),
                                          summe_der_monate(p, &Monatswerte::Kuehlbedarf)));
 }
@@ -76,6 +77,7 @@ void klimadaten(Reporttext& text, const Projekt& p) {
         });
         return {muster(summe / (p.Monat(m).Tage * stunden), 1), muster(hoechste, 1), muster(tiefste, 1)};
     });
+    text.tabellenlinie();
     text.jahreszeile({"Jahresmittel ", "Yearly mean "}, {muster(jahresmittel, 1)});
 }
 
@@ -182,6 +184,7 @@ void report_waermebilanz(Reporttext& text, const Reportquelle& quelle) {
     text.seitenkopf({"Ausgabe: Wärmebilanz", "Output: Heat balance"});
     text.abschnitt({"Spezifisch (pro m² Nutzfläche)", "Specific (per m² useful area)"});
     bilanztabelle(text, p, {je_flaeche, je_flaeche}, p.f_nutz, 1);
+    text.tabellenlinie();
     bilanzsumme(text, 1, p.qtrs, p.qinfs, p.qis, p.qsols, p.qhs_sum);
     text.abschnitt({"Absolut (gesamtes Gebäude)", "Absolute (total building)"});
     bilanztabelle(text, p, {absolut, absolut}, 1, 0);

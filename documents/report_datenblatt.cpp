@@ -1,4 +1,5 @@
 #include "calc/fassaden.h"
+#include "climate/regionen.h"
 #include "documents/klimaregionen.h"
 #include "documents/nachbarwaende.h"
 #include "documents/reportseiten.h"
@@ -122,14 +123,14 @@ void gebaeude(Reporttext& text, const Reportquelle& quelle) {
 void klima(Reporttext& text, const Projekt& p) {
     text.abschnitt({"Klima", "Climate"});
     text.block(tabstopps::werte);
-    const int region = region_des_projekts(p);
+    const int region = region_der_station(p);
     if (region == 0) {
         text.textreihe({"Klimastation", "Climate station"}, p.Stationsname);
         return;
     }
     const Regionszeilen& zeilen = regionszeilen(region);
     text.reihe({"Klimaregion", "Climatic region"}, zeilen[0]);
-    if (!zeilen[1].empty()) text.zeile_anhaengen(R"( \tab )" + std::string(zeilen[1]));
+    text.zeile_anhaengen(R"( \tab )" + std::string(zeilen[1]));
 }
 
 /// What a facade's rows show that `Fassade` does not hold.

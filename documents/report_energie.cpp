@@ -1,6 +1,7 @@
-#include "documents/energieanteile.h"
 #include "documents/jahressummen.h"
+#include "documents/kuehlstrom.h"
 #include "documents/reportseiten.h"
+#include "energy/energiebilanz.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
@@ -173,6 +174,7 @@ void report_kuehlenergie(Reporttext& text, const Reportquelle& quelle) {
                Wort{" kWh Kühlung/ kWh Strom", " kWh cooling/ kWh electricity"}.in(text.sprache()));
     text.zeile_anhaengen("");
     text.monatstabelle(p, tabstopps::drei, kopf, [&](int m) { return zellen(p.Monat(m).Kuehlbedarf); });
+    text.tabellenlinie();
     text.jahreszeile(jahressumme, zellen(summe_der_monate(p, &Monatswerte::Kuehlbedarf)));
 }
 

@@ -15,7 +15,7 @@ constexpr std::string_view tab = R"(\tab )";
 constexpr std::string_view einzug = "     ";
 constexpr std::string_view doppelter_einzug = "          ";
 constexpr std::size_t kopflinie = 144;
-constexpr std::size_t tabellenlinie = 78;
+constexpr std::size_t linienlaenge = 78;
 
 /// Width of the column of the values, in pixels.
 constexpr double spaltenbreite = 280;
@@ -120,7 +120,10 @@ void Reporttext::monatstabelle(const Projekt& p, std::string_view tabstopps, std
             zeile.append(tab).append(zelle);
         zeile_anhaengen(zeile);
     }
-    zeile_anhaengen(std::string(einzug) + std::string(tabellenlinie, '_'));
+}
+
+void Reporttext::tabellenlinie() {
+    zeile_anhaengen(std::string(einzug) + std::string(linienlaenge, '_'));
 }
 
 void Reporttext::jahreszeile(const Wort& name, const Zellen& zellen) {

@@ -64,9 +64,12 @@ class Reporttext {
     /// A label alone, over indented ones.
     void gruppe(const Wort& name);
 
-    /// A block of two to six columns: heads, a row for each month, a rule. The rows of the year follow.
+    /// A block of two to six columns: heads and a row for each month. The rows of the year follow.
     void monatstabelle(const Projekt& p, std::string_view tabstopps, std::span<const Wort> kopf,
                        const std::function<Zellen(int)>& monat);
+
+    /// The rule that some tables have between the months and the year.
+    void tabellenlinie();
 
     /// A row under the months; the first tab belongs to the name.
     void jahreszeile(const Wort& name, const Zellen& zellen);

@@ -1,6 +1,9 @@
 #include "documents/umbruch.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -10,39 +13,43 @@ using Liste = std::vector<std::string>;
 constexpr std::string_view trennung = "- ";
 
 /// The text in pieces that end behind a hyphen or a blank; the last one is what is left, maybe nothing.
-Liste zerlegen(std::string_view text) {
-    Liste stuecke;
+std::vector<std::string_view> zerlegen(std::string_view text) {
+    std::vector<std::string_view> stuecke;
     std::size_t anfang = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] != '-' && text[i] != ' ') continue;
-        stuecke.emplace_back(text.substr(anfang, i + 1 - anfang));
+        stuecke.push_back(text.substr(anfang, i + 1 - anfang));
         anfang = i + 1;
     }
-    stuecke.emplace_back(text.substr(anfang));
+    stuecke.push_back(text.substr(anfang));
     return stuecke;
 }
 
+/// True for what goes on behind a hyphen that stands for a part of a word, as in "Nah- oder Fernwärme".
 bool aufzaehlung(std::string_view stueck) {
-    return stueck.starts_with("sowie") || stueck.starts_with("und");
+    constexpr std::array<std::string_view, 3> bindewoerter{"sowie", "und", "oder"};
+    return std::any_of(bindewoerter.begin(), bindewoerter.end(),
+                       [stueck](std::string_view wort) { return stueck.starts_with(wort); });
 }
 
 /// Joins neighbours while they fit on a line. `heilen` tells for a pair whether a hyphen between them goes.
 template <class Heilen>
-Liste zusammenfuegen(Liste stuecke, double breite, const Textmesser& messen, Heilen heilen) {
-    std::size_t i = 0;
-    while (i + 1 < stuecke.size()) {
-        std::string& zeile = stuecke[i];
-        const std::string& naechstes = stuecke[i + 1];
-        if (!(messen(zeile + naechstes) < breite)) {
-            ++i;
+Liste zusammenfuegen(const std::vector<std::string_view>& stuecke, double breite, const Textmesser& messen,
+                     Heilen heilen) {
+    Liste zeilen;
+    std::string zeile(stuecke.front());
+    for (std::size_t i = 1; i < stuecke.size(); ++i) {
+        const std::string_view naechstes = stuecke[i];
+        if (!(messen(std::string(zeile).append(naechstes)) < breite)) {
+            zeilen.push_back(std::exchange(zeile, std::string(naechstes)));
             continue;
         }
         if (zeile.ends_with(trennung) && heilen(zeile, naechstes))
             zeile.resize(zeile.size() - trennung.size());
         zeile += naechstes;
-        stuecke.erase(stuecke.begin() + static_cast<std::ptrdiff_t>(i) + 1);
     }
-    return stuecke;
+    zeilen.push_back(std::move(zeile));
+    return zeilen;
 }
 
 template <class Heilen>
@@ -51,17 +58,49 @@ Liste umbrechen(std::string_view text, double breite, const Textmesser& messen, 
     return zusammenfuegen(zerlegen(text), breite, messen, heilen);
 }
 
+/// Where a UTF-8 text can be cut, from its start to the start of its last character.
+std::vector<std::size_t> zeichengrenzen(std::string_view text) {
+    std::vector<std::size_t> grenzen;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool folgebyte = (static_cast<unsigned char>(text[i]) & 0xC0U) == 0x80U;
+        if (i == 0 || !folgebyte) grenzen.push_back(i);
+    }
+    return grenzen;
+}
+
 }  // namespace
 
 std::vector<std::string> schreibeZeile(std::string_view text, double breite, const Textmesser& messen) {
-    return umbrechen(text, breite, messen, [](const std::string&, const std::string& naechstes) {
-        return !aufzaehlung(naechstes);
-    });
+    return umbrechen(text, breite, messen,
+                     [](std::string_view, std::string_view naechstes) { return !aufzaehlung(naechstes); });
 }
 
 std::vector<std::string> zeilen_umbrechen(std::string_view text, double breite, const Textmesser& messen) {
-    return umbrechen(text, breite, messen,
-                     [](const std::string& zeile, const std::string&) { return !aufzaehlung(zeile); });
+    return umbrechen(text, breite, messen, [](std::string_view zeile, std::string_view naechstes) {
+        return !aufzaehlung(zeile) && !aufzaehlung(naechstes);
+    });
+}
+
+std::string kuerzen(std::string_view text, double breite, const Textmesser& messen) {
+    const auto passt = [&](std::string_view teil) { return messen(teil) <= breite; };
+    if (text.empty() || passt(text)) return std::string(text);
+    const auto gekuerzt = [text](std::size_t ende) {
+        return std::string(text.substr(0, ende)).append(auslassung);
+    };
+    const std::vector<std::size_t> grenzen = zeichengrenzen(text);
+    // What fits is short however long the text is, so the search begins at its start.
+    std::size_t passend = 0;
+    std::size_t zu_lang = 1;
+    while (zu_lang < grenzen.size() && passt(gekuerzt(grenzen[zu_lang]))) {
+        passend = zu_lang;
+        zu_lang *= 2;
+    }
+    zu_lang = std::min(zu_lang, grenzen.size());
+    while (passend + 1 < zu_lang) {
+        const std::size_t mitte = passend + (zu_lang - passend) / 2;
+        (passt(gekuerzt(grenzen[mitte])) ? passend : zu_lang) = mitte;
+    }
+    return gekuerzt(grenzen[passend]);
 }
 
 }  // namespace velmaris

@@ -74,19 +74,31 @@ std::string mit_einheit(double wert, const char* einheit) {
     return muster(wert, 1) + einheit;
 }
 
+constexpr double schriftgrad = 7;
+constexpr double wandrand = 0.4;  ///< between a text and the edge of its wall
+
+/// The area of a wall that ends at the right edge of that wall or before, in letters that fit between the
+/// edges.
+void flaeche_schreiben(Blatt& blatt, Punkt ort, double links, double rechts, double quadratmeter) {
+    const std::string text = mit_einheit(quadratmeter, " m²");
+    const double platz = rechts - links - 2 * wandrand;
+    blatt.schrift_einpassen(text, platz);
+    blatt.text(std::min(ort.x, rechts - wandrand - blatt.drucker().textbreite(text)), ort.y, text);
+    blatt.schrift({.groesse = schriftgrad});
+}
+
 void hausbeschriftung(Blatt& blatt, const Projekt& p, Punkt o) {
     const auto schreibe = [&](double x, double y, std::string_view text) {
         blatt.text(o.x + x, o.y + y, text);
     };
     const auto wort = [&](double x, double y, const Wort& w) { schreibe(x, y, w.in(blatt.sprache())); };
-    blatt.schrift({.groesse = 7});
+    blatt.schrift({.groesse = schriftgrad});
     wort(14.4, 26.4, {"Süd-Fassade", "south facade"});
-    const std::string sued = mit_einheit(double{p.l} * p.h, " m²");
-    const double innen = vorn_rechts.x - 0.4 - blatt.drucker().textbreite(sued);
-    schreibe(std::min(20.0, innen), 29.1, sued);
+    flaeche_schreiben(blatt, o + Punkt{20, 29.1}, o.x + vorn_links.x, o.x + vorn_rechts.x, double{p.l} * p.h);
     wort(1.6, 21.3, {"West-", "west"});
     wort(1.6, 24, {"Fassade", "facade"});
-    schreibe(1.6, 26.7, mit_einheit(double{p.b} * p.h, " m²"));
+    flaeche_schreiben(blatt, o + Punkt{1.6, 26.7}, o.x + hinten_links.x, o.x + vorn_links.x,
+                      double{p.b} * p.h);
 
     schreibe(12.8, 31.9, mit_einheit(p.h, " m"));
     blatt.mitte(o.x + (vorn_links.x + vorn_rechts.x) / 2, o.y + vorn_rechts.y + 0.5, mit_einheit(p.l, " m"));

@@ -5,9 +5,6 @@
 namespace velmaris {
 namespace {
 
-/// Smallest `qhs_sum` that is stored, so that a division by it stays defined; stands for no heat demand.
-constexpr float kein_bedarf = 1E-10F;
-
 void ohne_verluste(Kennwerte& k) {
     k.q_ce = k.q_s = k.q_d = 0;
     k.q_s_he = k.q_d_he = k.q_g_he = 0;
@@ -22,16 +19,23 @@ Kennwerte energ_refresh(Projekt& p) {
     p.q_HE_Strom = f32(double{k.q_d_he} + k.q_s_he + k.q_g_he);
     p.q_PE_Energietraeger = f32(double{p.q_HE_Energietraeger} * k.f_p);
     p.q_PE_Strom = f32(p.q_HE_Strom * f_p_Strom);
-    if (p.qhs_sum < 1E-10) p.qhs_sum = kein_bedarf;
+    if (p.qhs_sum < 1E-10) p.qhs_sum = kein_heizbedarf;
     return k;
+}
+
+bool ohne_heizbedarf(const Projekt& p) {
+    return p.qhs_sum <= kein_heizbedarf;
+}
+
+double heizanteil(const Projekt& p, int m) {
+    return ohne_heizbedarf(p) ? 0 : double{p.Monat(m).Qh} / p.f_nutz / p.qhs_sum;
 }
 
 Monatsenergie monatswerte(const Projekt& p) {
     Monatsenergie werte;
-    if (p.qhs_sum <= kein_bedarf) return werte;
     const bool elektrisch = kurzname(p.Heizsystem, p.Energietraeger).elektrisch();
     for (int m = 1; m <= monate; ++m) {
-        const double anteil = double{p.Monat(m).Qh} / p.f_nutz / p.qhs_sum;
+        const double anteil = heizanteil(p, m);
         if (elektrisch) {
             werte.E(m) = f32(anteil * (double{p.q_HE_Strom} + p.q_HE_Energietraeger));
             werte.P(m) = f32(anteil * (double{p.q_PE_Strom} + p.q_PE_Energietraeger));

@@ -11,6 +11,17 @@ namespace velmaris {
 /// the supply has no losses and needs no auxiliary energy. Errors as in `kombination_pruefen`.
 Kennwerte energ_refresh(Projekt& p);
 
+/// What `qhs_sum` holds after `energ_refresh` in a building that needs no heat, so that a division by it
+/// stays defined; kWh/(m2 a).
+inline constexpr float kein_heizbedarf = 1E-10F;
+
+/// True for a building that needs no heat in the year.
+[[nodiscard]] bool ohne_heizbedarf(const Projekt& p);
+
+/// Share of month m (1..12) in the year's heat demand; 0 in a building that needs none, where the months hold
+/// nothing but what rounding left.
+[[nodiscard]] double heizanteil(const Projekt& p, int m);
+
 /// End and primary energy by month, kWh/(m2 month).
 struct Monatsenergie {
     Reihe<float, 1, monate> E;  ///< end energy of the carrier, with an electric carrier of all electricity

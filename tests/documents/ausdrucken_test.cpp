@@ -68,13 +68,14 @@ void strom(Haupt& h) {
 }
 
 void lange_namen(Haupt& h) {
+    h.p.Klimadatei = "fern.met";
     h.p.Stationsname =
         "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch (Wales, Vereinigtes Königreich)";
     h.p.Datei = "Ein recht langer Name für ein Projekt über ein Haus mit Überlänge, dritte Fassung.vel";
 }
 
 void region(Haupt& h) {
-    h.p.Klimaauswahl = 1;
+    h.p.Klimaauswahl = 3;
     h.p.Klimadatei = h.p.Regionsdatei(9);
 }
 
@@ -382,6 +383,44 @@ TEST(ZeichnungHaus, DachFolgtDemProjekt) {
     p.Option_Dachfirst = 1;
     EXPECT_THAT(striche(), Contains(first_nord_sued));
     EXPECT_THAT(striche(), testing::Not(Contains(first_ost_west)));
+}
+
+TEST(ZeichnungHaus, FlaechenBleibenInIhrerWand) {
+    constexpr double links = 143.8;  // of the sketch
+    constexpr double oben = 57;
+    struct Wand {
+        double x1;
+        double x2;
+        double (*unterkante)(double x);
+    };
+    const Wand west{0.8, 12, [](double x) { return 28.6 + (x - 0.8) * 6.4 / 11.2; }};
+    const Wand sued{12, 31.2, [](double) { return 35.0; }};
+    for (const float laenge : {2.0F, 50.0F}) {
+        for (const float breite : {2.0F, 50.0F}) {
+            for (const float hoehe : {2.0F, 50.0F}) {
+                for (const char* sprache : {"d", "e"}) {
+                    Projekt p;
+                    p.l = laenge;
+                    p.b = breite;
+                    p.h = hoehe;
+                    Testdrucker drucker;
+                    Blatt blatt(drucker, sprache);
+                    Zeichnung_Haus(blatt, p);
+                    std::vector<Druckzeichen> flaechen;
+                    for (const auto& z : drucker.auf_seite(1, Art::text)) {
+                        if (z.text.ends_with("m²")) flaechen.push_back(z);
+                    }
+                    ASSERT_EQ(flaechen.size(), 2U);
+                    for (const auto& [z, wand] : {std::pair{flaechen[0], sued}, {flaechen[1], west}}) {
+                        EXPECT_GE(z.x1 - links, wand.x1) << z.text;
+                        EXPECT_LE(z.x2 - links, wand.x2) << z.text;
+                        const double grundlinie = z.y1 + 0.8 * (z.y2 - z.y1) - oben;
+                        EXPECT_LE(grundlinie, wand.unterkante(z.x1 - links)) << z.text;
+                    }
+                }
+            }
+        }
+    }
 }
 
 TEST(DiagrammOrientierung, DrehtSichNachWesten) {

@@ -1,7 +1,12 @@
 #include "documents/report.h"
 
+#include "climate/regionen.h"
+#include "documents/Ausdrucken.h"
+#include "energy/energiebilanz.h"
 #include "planes/reportquelle.h"
 #include "tests/documents/reporthilfen.h"
+#include "tests/testdrucker.h"
+#include "toolkit/zahlen.h"
 
 #include <algorithm>
 #include <array>
@@ -14,6 +19,7 @@ namespace {
 
 using test::dokumentprogramm;
 using test::reportzeilen;
+using test::Testdrucker;
 using test::wertzeilen;
 using test::zahlentabelle;
 using test::zellen;
@@ -124,6 +130,7 @@ TEST(Report, KlammernGehenAuf) {
 
 TEST(Report, ZeichenDesFormatsImStationsnamenBleibenText) {
     const auto programm = dokumentprogramm("d");
+    programm->p().Klimadatei = "fern.met";
     programm->p().Stationsname = R"(A{b}\c)";
     EXPECT_EQ(wert(reportzeilen(*programm, 1), "Klimastation:"), R"(A{b}\c)");
     EXPECT_EQ(ueberschriften(reportzeilen(*programm, 1)).back(), "Energie");
@@ -147,7 +154,7 @@ TEST(Report, DatenblattNenntMasseMitEinheit) {
     EXPECT_EQ(wert(zeilen, "Überwärmung ab einer Raumlufttemperatur über:"), "22.0 °C");
     EXPECT_EQ(wert(zeilen, "Art der Außenwände:"), "Mittelschwere Bauweise");
     EXPECT_EQ(wert(zeilen, "Wände, die an eine beheizte Zone grenzen:"), "Nord, Ost");
-    EXPECT_EQ(wert(zeilen, "Klimastation:"), "Trier (Deutschland)");
+    EXPECT_EQ(wert(zeilen, "Klimaregion:"), "Nördliche und westliche Mittel-");
     EXPECT_EQ(wert(zeilen, "Fensterfläche:", 1), "31.2 m²");
     EXPECT_EQ(wert(zeilen, "Verschattung:", 3), "20.0 %");
     EXPECT_EQ(wert(zeilen, "Energieträger:"), "Heizöl EL");
@@ -167,23 +174,49 @@ TEST(Report, BeheiztesDachgeschoss) {
     EXPECT_EQ(wert(reportzeilen(*programm, 1), "Dachfirst:"), "in Ost-West-Richtung");
 }
 
-TEST(Report, KlimaregionenBehaltenIhreSchreibweise) {
-    const auto programm = dokumentprogramm("e");
-    Projekt& p = programm->p();
-    p.Klimaauswahl = 1;
-    const auto region = [&](int nummer) {
-        p.Klimadatei = p.Regionsdatei(nummer);
-        const auto zeilen = reportzeilen(*programm, 1);
-        const auto ort = std::find_if(zeilen.begin(), zeilen.end(), [](const std::string& zeile) {
-            return zeile.starts_with("     Climatic region: ");
-        });
-        return Zeilen{zellen(*ort).at(1), zellen(*(ort + 1)).back()};
-    };
-    EXPECT_THAT(region(5), ElementsAre("Franken und nördliches", "Baden-Würtemberg"));
-    EXPECT_THAT(region(6), ElementsAre("Nördlicher Oberrheingraben", ""));
-    EXPECT_THAT(region(12), ElementsAre("Bodensee mit Umgebung", ""));
-    p.Klimadatei = "fern.met";
-    EXPECT_EQ(wert(reportzeilen(*programm, 1), "Climate station:"), "Trier (Deutschland)");
+TEST(Report, KlimaregionenStehenInZweiZeilen) {
+    const std::array<std::array<const char*, 2>, klimaregionen> texte{{
+        {"Nord- und Ostseeküste,", "nördliches Schleswig-Holstein"},
+        {"Nord- und", "Westdeutsches Tiefland"},
+        {"Ruhrgebiet und weitere Ballungs-", "gebiete des Flachlandes"},
+        {"Nördliche und westliche Mittel-", "gebirge ohne Hochlagen"},
+        {"Franken und nördliches", "Baden-Würtemberg"},
+        {"Nördlicher", "Oberrheingraben"},
+        {"Südlicher", "Oberrheingraben"},
+        {"Donaubecken und Alpenvorland", "bis ca. 600m Höhe"},
+        {"Alpenvorland (ca. 600-1000m Höhe),", "nordwestl. Schwarzwald"},
+        {"Schwarzwald, Schwäbische", "und Fränkische Alb"},
+        {"Hochlagen der nördlichen", "und westlichen Mittelgebirge"},
+        {"Bodensee", "mit Umgebung"},
+    }};
+    for (const char* sprache : {"d", "e"}) {
+        const auto programm = dokumentprogramm(sprache);
+        Projekt& p = programm->p();
+        const std::string name = p.Sprache == "e" ? "Climatic region:" : "Klimaregion:";
+        for (int i = 1; i <= klimaregionen; ++i) {
+            p.Klimaauswahl = i16(i % 3 + 1, "Klimaauswahl");
+            p.Klimadatei = p.Regionsdatei(i);
+            const auto zeilen = reportzeilen(*programm, 1);
+            const auto ort = std::find_if(zeilen.begin(), zeilen.end(), [&name](const std::string& zeile) {
+                return zellen(zeile).front() == name;
+            });
+            ASSERT_NE(ort, zeilen.end()) << i;
+            const auto& text = texte.at(static_cast<std::size_t>(i - 1));
+            EXPECT_EQ(zellen(*ort), (Zeilen{name, text[0]}));
+            EXPECT_EQ(zellen(*(ort + 1)), (Zeilen{"", text[1]}));
+            Testdrucker drucker;
+            Ausdrucken(drucker, reportquelle(*programm->haupt), {true}, "");
+            Zeilen gedruckt;
+            for (const auto& z : drucker.auf_seite(1, test::Druckzeichen::Art::text))
+                gedruckt.push_back(z.text);
+            EXPECT_THAT(gedruckt, testing::IsSupersetOf({text[0], text[1]}));
+        }
+        p.Klimadatei = "fern.met";
+        p.Klimaauswahl = 1;
+        EXPECT_EQ(wert(reportzeilen(*programm, 1),
+                       sprache == std::string("e") ? "Climate station:" : "Klimastation:"),
+                  "Trier (Deutschland)");
+    }
 }
 
 TEST(Report, EigenheitenDerEnglischenFassung) {
@@ -200,6 +233,26 @@ TEST(Report, EigenheitenDerEnglischenFassung) {
     EXPECT_EQ(std::count(alle.begin(), alle.end(), "Window area:"), 3);
     EXPECT_TRUE(wert(reportzeilen(*programm, 3), "Effective heating days:").ends_with(" Tage"));
     EXPECT_THAT(namen(reportzeilen(*programm, 6)), Contains("Looses at the transmission to the rooms:"));
+}
+
+TEST(Report, LinienStehenNurInDenTabellenDieSieHaben) {
+    // by page, for each table: whether a rule stands between the months and the year
+    const std::array<std::vector<bool>, 6> linien{
+        {{true, false}, {true}, {true, false}, {false}, {false}, {true}}};
+    for (const int heizsystem : {1, 8}) {
+        const auto programm = dokumentprogramm("d");
+        programm->p().Heizsystem = i16(heizsystem, "Heizsystem");
+        programm->haupt->alles_berechnen();
+        for (std::size_t i = 0; i < linien.size(); ++i) {
+            std::vector<bool> gefunden;
+            bool hinter_dezember = false;
+            for (const std::string& zeile : reportzeilen(*programm, static_cast<int>(i) + 2)) {
+                if (hinter_dezember) gefunden.push_back(zeile == "     " + std::string(78, '_'));
+                hinter_dezember = zellen(zeile).front() == "Dezember";
+            }
+            EXPECT_EQ(gefunden, linien[i]) << "page " << i + 2;
+        }
+    }
 }
 
 TEST(Report, TramsmisStehtInBeidenTabellen) {
@@ -307,10 +360,21 @@ TEST(Report, ElektrischeHeizungHatZweiSpalten) {
 TEST(Report, OhneHeizwaermebedarfStehtNull) {
     const auto programm = dokumentprogramm("d");
     Projekt& p = programm->p();
-    p.qhs_sum = 0;
-    p.q_HE_Energietraeger = p.q_HE_Strom = p.q_PE_Energietraeger = p.q_PE_Strom = 0;
+    // what rounding can leave of the year's balance, before it is raised to stay a divisor
+    p.qhs_sum = -1E-6F;
+    energ_refresh(p);
+    ASSERT_LT(p.q_HE_Energietraeger, 0);
     for (const auto& zeile : zahlentabelle(reportzeilen(*programm, 6), 0, p))
         EXPECT_THAT(zeile, testing::Each(0.0));
+    Testdrucker drucker;
+    Ausdrucken(drucker, reportquelle(*programm->haupt), {false, false, false, false, false, true}, "");
+    std::size_t monatszahlen = 0;
+    for (const auto& z : drucker.auf_seite(1, test::Druckzeichen::Art::text)) {
+        if (z.y1 < 124 || z.y2 > 208 || !zahl_pruefen(z.text)) continue;
+        EXPECT_EQ(z.text, "0.0");
+        ++monatszahlen;
+    }
+    EXPECT_EQ(monatszahlen, 6U * 13);
 }
 
 TEST(Report, KuehlenergieHatFestenPrimaerfaktor) {

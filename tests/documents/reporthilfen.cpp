@@ -76,7 +76,8 @@ std::vector<std::vector<double>> zahlentabelle(const std::vector<std::string>& z
     }
     for (std::size_t monat = 0; monat < monate; ++monat)
         tabelle.push_back(zahlen(zeilen.at(i + monat)));
-    tabelle.push_back(zahlen(zeilen.at(i + monate + 1)));
+    const bool mit_linie = zeilen.at(i + monate).ends_with('_');
+    tabelle.push_back(zahlen(zeilen.at(i + monate + (mit_linie ? 1 : 0))));
     return tabelle;
 }
 
