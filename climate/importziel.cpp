@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::string_view endung = ".met";
 
-/// Leaves room for the extension and a temporary neighbour within the 255 bytes of a file name.
-constexpr std::size_t hoechste_laenge = 200;
+/// Leaves room for the extension within the 255 bytes of a file name.
+constexpr std::size_t hoechste_laenge = 255 - endung.size();
 
 /// A comma would end the name where a project is read; the others are no part of a file name somewhere.
 constexpr std::string_view verbotene_zeichen = "\\/:*?\"<>|,";

@@ -1,14 +1,15 @@
 #include "toolkit/textdatei.h"
 
 #include "toolkit/fehler.h"
+#include "toolkit/neue_datei.h"
 #include "toolkit/text.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <fstream>
 #include <limits>
+#include <random>
 #include <system_error>
 
 namespace velmaris {
@@ -36,20 +37,46 @@ namespace fs = std::filesystem;
     scheitern(datei, {"Datei kann nicht geschrieben werden" + system, "file cannot be written" + system});
 }
 
-/// Writes and closes a file; the error number of the system on failure, 0 on success.
-int schreiben(const fs::path& datei, std::string_view bytes) {
-    errno = 0;
-    std::ofstream strom(datei, std::ios::binary | std::ios::trunc);
-    strom.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    strom.close();
-    if (strom) return 0;
-    return errno != 0 ? errno : EIO;
+/// Where a file is put that was saved under a link: what the link leads to.
+fs::path verfolgt(const fs::path& datei) {
+    std::error_code fehler;
+    const fs::path ziel = fs::weakly_canonical(datei, fehler);
+    return fehler ? datei : ziel;
 }
 
-fs::path nachbar(const fs::path& datei) {
-    fs::path neben = datei;
-    neben += ".neu~";
-    return neben;
+/// Refuses a target that must not be replaced by a file.
+void ziel_pruefen(const fs::path& datei, const fs::path& ziel, const fs::file_status& bisher) {
+    std::error_code fehler;
+    if (fs::is_symlink(fs::symlink_status(ziel, fehler)))
+        scheitern(datei, {"ist ein Verweis, der ins Leere führt", "is a link that leads nowhere"});
+    if (fs::is_directory(bisher))
+        scheitern(datei, {"ist ein Ordner, keine Datei", "is a folder, not a file"});
+    if (!fs::exists(bisher)) return;
+    if (!fs::is_regular_file(bisher))
+        scheitern(datei, {"ist keine gewöhnliche Datei", "is not a regular file"});
+    if (!ist_beschreibbar(ziel)) scheitern(datei, {"ist schreibgeschützt", "is write-protected"});
+}
+
+/// A name in the folder that no other writer uses, and far shorter than a file name may be.
+fs::path nachbar(const fs::path& ziel) {
+    constexpr std::string_view ziffern = "0123456789abcdef";
+    constexpr int stellen = 16;
+    std::random_device zufall;
+    std::string name = "velmaris_";
+    for (int i = 0; i < stellen; ++i)
+        name += ziffern[zufall() % ziffern.size()];
+    return ziel.parent_path() / (name + ".neu~");
+}
+
+/// Writes the bytes into a neighbour of its own; returns its path.
+fs::path nachbar_schreiben(const fs::path& datei, const fs::path& ziel, std::string_view bytes,
+                           fs::perms rechte) {
+    while (true) {
+        fs::path neben = nachbar(ziel);
+        const int grund = neue_datei(neben, bytes, rechte);
+        if (grund == 0) return neben;
+        if (grund != EEXIST) schreiben_scheitert(datei, grund);
+    }
 }
 
 }  // namespace
@@ -80,27 +107,21 @@ std::string bytes_lesen(const fs::path& datei) {
 
 void datei_ersetzen(const fs::path& datei, std::string_view bytes) {
     std::error_code fehler;
-    fs::path ziel = fs::weakly_canonical(datei, fehler);
-    if (fehler) ziel = datei;
+    const fs::path ziel = verfolgt(datei);
     const fs::file_status bisher = fs::status(ziel, fehler);
-    if (fs::is_directory(bisher))
-        scheitern(datei, {"ist ein Ordner, keine Datei", "is a folder, not a file"});
-    if (fs::exists(bisher) && !fs::is_regular_file(bisher)) {
-        if (const int grund = schreiben(ziel, bytes); grund != 0) schreiben_scheitert(datei, grund);
-        return;
-    }
-    const fs::path neben = nachbar(ziel);
-    if (const int grund = schreiben(neben, bytes); grund != 0) {
-        fs::remove(neben, fehler);
-        schreiben_scheitert(datei, grund);
-    }
-    if (fs::exists(bisher)) fs::permissions(neben, bisher.permissions(), fehler);
+    ziel_pruefen(datei, ziel, bisher);
+    const fs::path neben = nachbar_schreiben(datei, ziel, bytes, bisher.permissions());
     fs::rename(neben, ziel, fehler);
-    if (fehler) {
-        const int grund = fehler.value();
-        fs::remove(neben, fehler);
-        schreiben_scheitert(datei, grund);
-    }
+    if (!fehler) return;
+    const int grund = fehler.value();
+    fs::remove(neben, fehler);
+    schreiben_scheitert(datei, grund);
+}
+
+bool datei_anlegen(const fs::path& datei, std::string_view bytes) {
+    const int grund = neue_datei(datei, bytes);
+    if (grund != 0 && grund != EEXIST) schreiben_scheitert(datei, grund);
+    return grund == 0;
 }
 
 void dateigrenze_melden() {

@@ -13,9 +13,16 @@ namespace velmaris {
 /// The first `hoechstens` bytes of a regular file; errors as in `bytes_lesen`.
 [[nodiscard]] std::string anfang_lesen(const std::filesystem::path& datei, std::size_t hoechstens);
 
-/// Replaces a file as a whole: the bytes go to a neighbour that is renamed into place, so that a failure
-/// (full disk, folder that cannot be written) leaves the old file as it was. A failure is a Dateifehler.
+/// Replaces a file as a whole, or what a link leads to: the bytes go to a neighbour of this writer's own,
+/// are waited for until they are on the disk, and the neighbour is renamed into place. So a failure (full
+/// disk, folder that cannot be written) leaves the old file as it was, and of several writers one wins whole.
+/// The rights of the old file stay. A failure is a Dateifehler, and so is a target that is write-protected,
+/// no regular file, or a link that leads nowhere.
 void datei_ersetzen(const std::filesystem::path& datei, std::string_view bytes);
+
+/// Writes a file that does not exist yet; false if it does, and it stays as it is. A failure is
+/// a Dateifehler and leaves nothing.
+[[nodiscard]] bool datei_anlegen(const std::filesystem::path& datei, std::string_view bytes);
 
 /// Lets a file that would exceed the size limit of the process fail like any other that cannot be written,
 /// where the system would end the process instead. To be called at the start of a program.

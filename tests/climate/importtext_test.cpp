@@ -262,8 +262,8 @@ TEST(Importziel, NamenGeltenAufJedemSystem) {
           "a*",  "a?",       "a\"b", "<a",    "a>",    "a|b",  "a,b",        "a\nb", "nul",
           "CON", "Com1.alt", "lpt9", "klima", "KLIMA", "Łódź", "日本"})
         EXPECT_TRUE(namensfehler(schlecht).has_value()) << schlecht;
-    EXPECT_FALSE(namensfehler(std::string(200, 'a')).has_value());
-    EXPECT_TRUE(namensfehler(std::string(201, 'a')).has_value());
+    EXPECT_FALSE(namensfehler(std::string(251, 'a')).has_value());
+    EXPECT_TRUE(namensfehler(std::string(252, 'a')).has_value());
     EXPECT_EQ(vorgabename("C:\\Daten\\Wetter\\bern.2020.epw"), "bern.2020");
     EXPECT_EQ(vorgabename("/home/x.y/bern"), "bern");
     EXPECT_EQ(vorgabename("bern.txt"), "bern");

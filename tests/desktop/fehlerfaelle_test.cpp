@@ -1,36 +1,17 @@
 #include "programmprobe.h"
 #include "project/projektdatei.h"
 #include "tests/testprogramm.h"
-#include "toolkit/textdatei.h"
+#include "tests/volle_festplatte.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QTest>
-#include <sys/resource.h>
 
 namespace velmaris {
 namespace {
 
 using test::antworte;
 using test::waehle_datei;
-
-/// As on a full disk: no file grows beyond a size as long as the object lives.
-class VolleFestplatte {
-  public:
-    explicit VolleFestplatte(rlim_t bytes) {
-        getrlimit(RLIMIT_FSIZE, &vorher_);
-        rlimit eng = vorher_;
-        eng.rlim_cur = bytes;
-        dateigrenze_melden();
-        setrlimit(RLIMIT_FSIZE, &eng);
-    }
-    VolleFestplatte(const VolleFestplatte&) = delete;
-    VolleFestplatte& operator=(const VolleFestplatte&) = delete;
-    ~VolleFestplatte() { setrlimit(RLIMIT_FSIZE, &vorher_); }
-
-  private:
-    rlimit vorher_{};
-};
 
 /// What goes wrong around project files, on the real windows.
 class FehlerfaelleTest : public test::Programmprobe {
@@ -102,7 +83,7 @@ TEST_F(FehlerfaelleTest, VolleFestplatteUndGesperrterOrdnerLassenDasAlteProjekt)
     std::string text;
     const auto merke = [&text](QMessageBox& box) { text = box.text().toStdString(); };
     {
-        const VolleFestplatte voll(200);
+        const test::VolleFestplatte voll(200);
         antworte(QMessageBox::Ok, merke);
         menue("mnuFileSpeichern").trigger();
     }

@@ -57,37 +57,5 @@ TEST(BytesLesen, NenntDateiUndGrund) {
     EXPECT_EQ(bytes_lesen(ordner / "lang.txt").size(), 100000U);
 }
 
-TEST(DateiErsetzen, LaesstNurDieDateiZurueck) {
-    const Testordner ordner;
-    const auto datei = ordner / "größe.txt";
-    datei_ersetzen(datei, "alt");
-    datei_ersetzen(datei, "neu");
-    EXPECT_EQ(inhalt(datei), "neu");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ordner.pfad()), {}), 1);
-}
-
-TEST(DateiErsetzen, EinFehlerLaesstDieAlteDateiGanz) {
-    const Testordner ordner;
-    const auto datei = ordner.schreibe("haus.txt", "alt");
-    std::filesystem::create_directories(ordner / "haus.txt.neu~/besetzt");
-    EXPECT_THROW(datei_ersetzen(datei, "neu"), Dateifehler);
-    EXPECT_EQ(inhalt(datei), "alt");
-    EXPECT_THROW(datei_ersetzen(ordner.pfad(), "neu"), Dateifehler);
-    EXPECT_THROW(datei_ersetzen(ordner / "kein/ordner.txt", "neu"), Dateifehler);
-}
-
-#ifdef __linux__
-TEST(DateiErsetzen, MeldetDenVollenDatentraeger) {
-    if (!std::filesystem::exists("/dev/full")) return;
-    try {
-        datei_ersetzen("/dev/full", std::string(100000, 'x'));
-        FAIL();
-    } catch (const Dateifehler& fehler) {
-        EXPECT_NE(fehler.text("e").find("the disk is full"), std::string::npos);
-    }
-    EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
-}
-#endif
-
 }  // namespace
 }  // namespace velmaris
