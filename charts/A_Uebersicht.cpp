@@ -2,7 +2,6 @@
 
 #include "charts/bilanzdiagramme.h"
 #include "charts/schema.h"
-#include "charts/temperaturdiagramm.h"
 #include "language/beschriftungen.h"
 #include "toolkit/zahlen.h"
 
@@ -23,11 +22,12 @@ std::string stundenzeilen(const A_Uebersicht& ebene, const Betriebsstunden& h, d
 
 }  // namespace
 
-A_Uebersicht::A_Uebersicht(Sitzung& sitzung) : tooltip(sitzung.plattform, ebene.name), sitzung_(sitzung) {
+A_Uebersicht::A_Uebersicht(Sitzung& sitzung)
+    : monatswahl(sitzung.p), tooltip(sitzung.plattform, ebene.name), sitzung_(sitzung) {
     const Projekt& p = sitzung.p;
     sitzung.p.Monat_Uebersicht = anfangsmonat;
     ebene.zeige(false);
-    Temperaturen.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::TemperaturDiagrammZeichnen(p, bild); };
+    monatswahl.nimm_auf(monatsleiste, Temperaturen);
     Monatsbilanz.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::MonatsbilanzZeichnen(p, bild); };
     JahrBilanz.zeichnen = [&p](Zeichenflaeche& bild) { JahresbedarfZeichnen(p, bild); };
     UeberGrafik.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::UeberGrafikZeichnen(p, bild); };
@@ -39,7 +39,6 @@ A_Uebersicht::A_Uebersicht(Sitzung& sitzung) : tooltip(sitzung.plattform, ebene.
     Temperaturen.maus_geklickt = [this](double, double) {
         if (zoom_oeffnen) zoom_oeffnen();
     };
-    monatsleiste.gewaehlt = [this](int m) { Monatsbutton_Click(m); };
     anordnen();
     laden();
 }
@@ -59,18 +58,12 @@ void A_Uebersicht::anordnen() {
 void A_Uebersicht::laden() {
     beschriften(ebene.name, sitzung_.p.Sprache, {&Label9, &Label1, &Label32, &Label01, &Label02});
     monatsleiste.beschriften(sitzung_.p);
-    monatsleiste.markiere(sitzung_.p.Monat_Uebersicht);
+    monatswahl.markiere();
 }
 
 void A_Uebersicht::aktiviert() {
     sitzung_.alles_berechnen();
-    monatsleiste.markiere(sitzung_.p.Monat_Uebersicht);
-}
-
-void A_Uebersicht::Monatsbutton_Click(int m) {
-    sitzung_.p.Monat_Uebersicht = i16(m, "Monat_Uebersicht");
-    monatsleiste.markiere(m);
-    TemperaturDiagrammZeichnen();
+    monatswahl.markiere();
 }
 
 void A_Uebersicht::MonatsbilanzZeichnen() const {

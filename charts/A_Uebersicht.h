@@ -1,6 +1,7 @@
 #pragma once
 
 #include "charts/monatsleiste.h"
+#include "charts/monatswahl.h"
 #include "charts/tooltip.h"
 #include "project/sitzung.h"
 #include "toolkit/felder.h"
@@ -19,6 +20,7 @@ struct A_Uebersicht {
 
     Bildfeld Temperaturen{"Temperaturen"};
     Monatsleiste monatsleiste;
+    Monatswahl monatswahl;  ///< shared with the chart at window size
     Bildfeld Monatsbilanz{"Monatsbilanz"}, JahrBilanz{"JahrBilanz"};
     Anzeige Label9{"Label9"}, Label1{"Label1"};
     Bildfeld UeberGrafik{"UeberGrafik"}, UeberJahr{"UeberJahr"};
@@ -33,9 +35,6 @@ struct A_Uebersicht {
 
     /// The plane has come to the front: recalculates and marks the month shown.
     void aktiviert();
-
-    /// Chooses month m (1..12).
-    void Monatsbutton_Click(int m);
 
     /// Draw anew, both surfaces of each pair.
     void MonatsbilanzZeichnen() const;

@@ -1,15 +1,12 @@
 #include "charts/A_Zoom.h"
 
-#include "charts/temperaturdiagramm.h"
 #include "toolkit/fehler.h"
-#include "toolkit/zahlen.h"
 
 namespace velmaris {
 
-A_Zoom::A_Zoom(Sitzung& sitzung) : sitzung_(sitzung) {
+A_Zoom::A_Zoom(Sitzung& sitzung, Monatswahl& wahl) : sitzung_(sitzung), monatswahl_(wahl) {
     ebene.zeige(false);
-    Temperaturen.zeichnen = [&p = sitzung.p](Zeichenflaeche& bild) { TemperaturDiagrammZeichnen(p, bild); };
-    monatsleiste.gewaehlt = [this](int m) { Monatsbutton_Click(m); };
+    wahl.nimm_auf(monatsleiste, Temperaturen);
     Command_Schliessen.gedrueckt = [this] { ebene.zeige(false); };
     laden();
 }
@@ -20,21 +17,20 @@ void A_Zoom::laden() {
 }
 
 void A_Zoom::oeffnen() {
-    monatsleiste.markiere(sitzung_.p.Monat_Uebersicht);
+    monatswahl_.markiere();
+    TemperaturDiagrammZeichnen();
     ebene.zeige(true);
 }
 
 void A_Zoom::anordnen(double breite, double hoehe) {
     constexpr double knopfhoehe = 22;
     monatsleiste.verteile({.links = 0, .oben = 0, .breite = breite, .hoehe = knopfhoehe});
-    monatsleiste.markiere(sitzung_.p.Monat_Uebersicht);
+    monatswahl_.markiere();
     Temperaturen.lege({.links = 8, .oben = knopfhoehe, .breite = breite - 16, .hoehe = hoehe - 56});
     Command_Schliessen.lege({.links = breite - 144, .oben = hoehe - 33, .breite = 136, .hoehe = 25});
 }
 
-void A_Zoom::Monatsbutton_Click(int m) {
-    sitzung_.p.Monat_Uebersicht = i16(m, "Monat_Uebersicht");
-    monatsleiste.markiere(m);
+void A_Zoom::TemperaturDiagrammZeichnen() const {
     Temperaturen.neu_zeichnen();
 }
 

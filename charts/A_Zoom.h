@@ -1,14 +1,15 @@
 #pragma once
 
 #include "charts/monatsleiste.h"
+#include "charts/monatswahl.h"
 #include "project/sitzung.h"
 #include "toolkit/felder.h"
 
 namespace velmaris {
 
-/// The temperature chart of the overview at window size, with the same month.
+/// The temperature chart of the overview at window size, with the month of the overview.
 struct A_Zoom {
-    explicit A_Zoom(Sitzung& sitzung);
+    A_Zoom(Sitzung& sitzung, Monatswahl& wahl);
 
     Feld ebene{"A_Zoom"};  ///< the window itself, hidden at first
 
@@ -19,17 +20,18 @@ struct A_Zoom {
     /// Captions in the language of the run.
     void laden();
 
-    /// Shows the window with the month of the overview.
+    /// Shows the window with the chart as it is now.
     void oeffnen();
 
     /// Lays the controls out in a window of this inner size, pixels.
     void anordnen(double breite, double hoehe);
 
-    /// Chooses month m (1..12).
-    void Monatsbutton_Click(int m);
+    /// Draws the chart anew.
+    void TemperaturDiagrammZeichnen() const;
 
   private:
     Sitzung& sitzung_;
+    Monatswahl& monatswahl_;
 };
 
 }  // namespace velmaris

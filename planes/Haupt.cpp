@@ -37,7 +37,7 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       a_heizen(sitzung),
       a_kuehlen(sitzung),
       a_sankey(sitzung),
-      a_zoom(sitzung),
+      a_zoom(sitzung, a_uebersicht.monatswahl),
       e_klimaimport(sitzung),
       a_report(sitzung, [this] { return reportquelle(*this); }),
       drucken(sitzung, [this] { return reportquelle(*this); }),
@@ -107,6 +107,7 @@ Rechenplan Haupt::rechenplan() {
     zeile("UeberGrafikZeichnen", a_uebersicht.ebene, [this] { a_uebersicht.UeberGrafikZeichnen(); });
     zeile("TemperaturDiagrammZeichnen", a_uebersicht.ebene,
           [this] { a_uebersicht.TemperaturDiagrammZeichnen(); });
+    zeile("TemperaturDiagrammZeichnen", a_zoom.ebene, [this] { a_zoom.TemperaturDiagrammZeichnen(); });
     zeile("SankeyHeizen", a_sankey.ebene, [this] { a_sankey.SankeyHeizen(); });
     zeile("SankeyKuehlen", a_sankey.ebene, [this] { a_sankey.SankeyKuehlen(); });
     zeile("HeizFelderAusfuellen", a_heizen.ebene, [this] { a_heizen.HeizFelderAusfuellen(); });

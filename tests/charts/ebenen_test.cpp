@@ -205,10 +205,15 @@ TEST(A_Uebersicht, EinMonatsknopfWaehltUndWirdMarkiert) {
 TEST(A_Zoom, TeiltDenMonatUndDieFensterbreite) {
     Probesitzung s("e");
     A_Uebersicht u(s.sitzung);
-    A_Zoom z(s.sitzung);
+    A_Zoom z(s.sitzung, u.monatswahl);
     u.zoom_oeffnen = [&] { z.oeffnen(); };
+    int klein = 0;
+    int gross = 0;
+    u.Temperaturen.ansicht = [&] { ++klein; };
+    z.Temperaturen.ansicht = [&] { ++gross; };
     u.Temperaturen.maus_geklickt(10, 10);
     EXPECT_TRUE(z.ebene.sichtbar());
+    EXPECT_EQ(gross, 1) << "what was drawn at an earlier opening may be old";
     EXPECT_EQ(z.monatsleiste.AktiverMonat1.text(), "Jul.");
     EXPECT_EQ(z.Command_Schliessen.text(), "Close");
 
@@ -222,12 +227,24 @@ TEST(A_Zoom, TeiltDenMonatUndDieFensterbreite) {
     EXPECT_EQ(z.monatsleiste.knopf(12).lage()->links, 917);  // 916.67
     EXPECT_EQ(z.monatsleiste.knopf(12).lage()->breite, 84);
 
-    z.monatsleiste.knopf(12).druecke();
-    EXPECT_EQ(s.p->Monat_Uebersicht, 12);
+    struct Wahl {
+        Monatsleiste& leiste;
+        int monat;
+        const char* name;
+    };
+    klein = gross = 0;
+    for (const Wahl& wahl : {Wahl{z.monatsleiste, 12, "Dec."}, Wahl{u.monatsleiste, 3, "Mar."}}) {
+        wahl.leiste.knopf(wahl.monat).druecke();
+        EXPECT_EQ(s.p->Monat_Uebersicht, wahl.monat);
+        for (Monatsleiste* leiste : {&u.monatsleiste, &z.monatsleiste}) {
+            EXPECT_EQ(leiste->AktiverMonat1.text(), wahl.name);
+            EXPECT_EQ(leiste->AktiverMonat.lage(), leiste->knopf(wahl.monat).lage());
+        }
+    }
+    EXPECT_EQ(klein, 2);
+    EXPECT_EQ(gross, 2);
     z.Command_Schliessen.druecke();
     EXPECT_FALSE(z.ebene.sichtbar());
-    u.aktiviert();
-    EXPECT_EQ(u.monatsleiste.AktiverMonat1.text(), "Dec.");
 }
 
 /// The overview with its months' chart drawn on pixels that the plane reads.

@@ -60,6 +60,18 @@ TEST_F(Hauptprogramm, NurSichtbareEbenenWerdenGezeichnet) {
     haupt().e_geometrie.l_sb.setze(210);
     EXPECT_EQ(heizen, 1);
     EXPECT_EQ(uebersicht, 0);
+
+    int zoom = 0;
+    haupt().a_zoom.oeffnen();
+    haupt().a_zoom.Temperaturen.ansicht = [&] { ++zoom; };
+    haupt().e_geometrie.l_sb.setze(220);
+    EXPECT_EQ(zoom, 1) << "it stands beside the planes, whichever is shown";
+    haupt().menue.punkt("mnuFileNeu").druecke();
+    EXPECT_GT(zoom, 1);
+    haupt().a_zoom.Command_Schliessen.druecke();
+    zoom = 0;
+    haupt().e_geometrie.l_sb.setze(200);
+    EXPECT_EQ(zoom, 0);
 }
 
 TEST_F(Hauptprogramm, MenueKenntJedenEintragInBeidenSprachen) {
