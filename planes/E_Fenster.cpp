@@ -6,20 +6,22 @@
 namespace velmaris {
 namespace {
 
-/// Holds the load guard set while several controls move, and gives back the value that it found.
-class Ladewaechter {
+/// Gives a place another value as long as it lives.
+template <class Wert>
+class Solange {
   public:
-    Ladewaechter(Projekt& p, bool setzen) : p_(p), vorher_(p.FormLoadGuard) {
-        if (setzen) p_.FormLoadGuard = -1;
-    }
-    Ladewaechter(const Ladewaechter&) = delete;
-    Ladewaechter& operator=(const Ladewaechter&) = delete;
-    ~Ladewaechter() { p_.FormLoadGuard = vorher_; }
+    Solange(Wert& stelle, Wert wert) : stelle_(stelle), vorher_(stelle) { stelle_ = wert; }
+    Solange(const Solange&) = delete;
+    Solange& operator=(const Solange&) = delete;
+    ~Solange() { stelle_ = vorher_; }
 
   private:
-    Projekt& p_;
-    std::int16_t vorher_;
+    Wert& stelle_;
+    Wert vorher_;
 };
+
+/// The load guard while several controls move.
+constexpr std::int16_t gesetzt = -1;
 
 std::vector<std::string> typnamen(const std::string& sprache) {
     std::vector<std::string> namen;
@@ -117,11 +119,15 @@ void E_Fenster::typ_gewaehlt(Fensterseite& seite) {
         p.*seite.kfr_feld = f32(typ.kfr);
     }
     {
-        const Ladewaechter waechter(p, ebene.sichtbar());
+        const Solange waechter(p.FormLoadGuard, ebene.sichtbar() ? gesetzt : p.FormLoadGuard);
         for (Fensterschieber* schieber : {&seite.kfg, &seite.kfr, &seite.gf})
             schieber->sb.stellen(p);
     }
     folgen(seite, [zeile](Fensterseite& andere) { andere.typ.setze(zeile); });
+}
+
+bool E_Fenster::von_hand(int stellung) const {
+    return !folgt_dem_projekt_ && ebene.sichtbar() && fokusstellung && fokusstellung() == stellung;
 }
 
 void E_Fenster::glaswert_geaendert(Fensterseite& seite, Fensterschieber& schieber) {
@@ -130,9 +136,9 @@ void E_Fenster::glaswert_geaendert(Fensterseite& seite, Fensterschieber& schiebe
     schieber.anz.schreibe(schieber.sb.anzeigetext(s_.p));
     if (&schieber != &seite.gf) fenster_u_wert(s_.p, seite);
     const int stellung = schieber.sb.position();
-    if (ebene.sichtbar() && fokusstellung && fokusstellung() == stellung) {
+    if (von_hand(stellung)) {
         // The recalculation that the list would run follows below in any case.
-        const Ladewaechter waechter(s_.p, true);
+        const Solange waechter(s_.p.FormLoadGuard, gesetzt);
         seite.typ.setze(typ_sonstiges);
     }
     Fensterschieber Fensterseite::*const gleicher =
@@ -184,6 +190,7 @@ void E_Fenster::Command_HR_Click(int index) {
 }
 
 void E_Fenster::fenstermodus_lesen(int wert) {
+    const Solange laden(folgt_dem_projekt_, true);
     Option1.pruefe(wert);
     Option1.markiere(wert);
     s_.p.Option1 = i16(wert, "Option1");
@@ -209,6 +216,7 @@ void E_Fenster::geometrie_zeigen() {
 }
 
 void E_Fenster::eingaben_anzeigen() {
+    const Solange laden(folgt_dem_projekt_, true);
     for (Fensterseite* seite : seiten())
         seite->typ.setze(s_.p.*(seite->typ_feld));
     for (Fensterseite* seite : {&ost, &sued, &west, &nord})

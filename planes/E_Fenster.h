@@ -25,7 +25,8 @@ struct E_Fenster {
 
     Anzeige f_gf_anz{"f_gf_anz"}, f_vf_anz{"f_vf_anz"}, kf_anz{"kf_anz"}, gfm_anz{"gfm_anz"};
 
-    /// Position of the scroll field that has the input focus, nothing if none has; set by the view.
+    /// Position of the scroll field that has the input focus, nothing if none has; set by the view. A glazing
+    /// value that moves to it was moved by hand, unless the controls follow a project that is being read.
     std::function<std::optional<int>()> fokusstellung;
 
     /// The mode logic behind the options, which carry the new state already.
@@ -59,10 +60,12 @@ struct E_Fenster {
     void glaswert_geaendert(Fensterseite& seite, Fensterschieber& schieber);
     void rahmen_geaendert(Fensterseite& seite, Fensterschieber& schieber);
     void folgen(Fensterseite& seite, const std::function<void(Fensterseite&)>& kopieren);
+    [[nodiscard]] bool von_hand(int stellung) const;
     [[nodiscard]] std::array<Fensterseite*, 4> seiten();
     [[nodiscard]] bool gleiche_fenster() const;
 
     Sitzung& s_;
+    bool folgt_dem_projekt_ = false;  ///< the controls are being moved to what the record or a file says
 };
 
 }  // namespace velmaris

@@ -1,6 +1,9 @@
 #include "planes/E_Fenster.h"
 
+#include "project/feldtabelle.h"
+#include "project/projektdatei.h"
 #include "tests/testprogramm.h"
+#include "toolkit/text.h"
 
 #include <gtest/gtest.h>
 
@@ -88,6 +91,55 @@ TEST_F(EFenster, VonHandBewegtHeisstSonstiges) {
     EXPECT_EQ(e().sued.typ.text(), "Sonstiges");
     e().sued.typ.setze(7);
     EXPECT_EQ(p().kfgs, 1.45F);
+}
+
+/// The scroll field with the focus follows the project that comes, as all others do.
+TEST_F(EFenster, LadenIstKeineBewegungVonHand) {
+    constexpr std::array typzeilen{"fenstern_typ", "fensters_typ", "fenstero_typ", "fensterw_typ"};
+    using Typen = std::array<std::int16_t, 4>;
+    const auto typen = [this] {
+        return Typen{p().fenstern_typ, p().fensters_typ, p().fenstero_typ, p().fensterw_typ};
+    };
+    const auto lade = [this](const std::function<void()>& tu) {
+        e().ebene.zeige(true);
+        tu();
+    };
+    FILEIO& datei = programm.haupt->datei;
+    const std::vector<std::string> neu = test::projektzeilen(p());
+    for (int fall = 0; fall < 2 * typ_sonstiges; ++fall) {
+        const int modus = fall % 2;
+        std::vector<std::string> zeilen = neu;
+        const auto setze = [&](std::string_view feld, int wert) {
+            zeilen[static_cast<std::size_t>(feld_suchen(feld)->zeile) - 1] = std::to_string(wert);
+        };
+        setze("Option1", modus);
+        Typen erwartet{};
+        for (std::size_t i = 0; i < typzeilen.size(); ++i) {
+            const auto versatz = modus == 1 ? static_cast<int>(i) : 0;
+            erwartet[i] = static_cast<std::int16_t>((fall / 2 + versatz) % typ_sonstiges);
+            setze(typzeilen[i], erwartet[i]);
+        }
+        const auto haus = programm.ordner.schreibe("haus.vel", test::projekttext(zeilen));
+        for (const Fensterseite* seite : {&e().nord, &e().sued, &e().ost, &e().west}) {
+            for (const Fensterschieber* schieber : {&seite->gf, &seite->kfg, &seite->kfr}) {
+                e().fokusstellung = [schieber] { return std::optional(schieber->sb.position()); };
+                lade([&] { datei.datei_oeffnen(pfadtext(haus)); });
+                EXPECT_EQ(typen(), erwartet) << schieber->sb.name << " " << fall;
+                lade([&] { datei.datei_neu(); });
+                EXPECT_EQ(typen(), (Typen{3, 3, 3, 3})) << schieber->sb.name << " " << fall;
+            }
+        }
+    }
+}
+
+/// The guard that a failed opening leaves set does not make the user's hand a load.
+TEST_F(EFenster, NachGescheitertemOeffnenBleibtDieHandEineHand) {
+    e().fokusstellung = [this] { return std::optional(e().sued.gf.sb.position()); };
+    programm.haupt->datei.datei_oeffnen(
+        pfadtext(programm.ordner.schreibe("halb.vel", test::projekttext({std::string(version_jetzt)}))));
+    EXPECT_EQ(p().FormLoadGuard, -1);
+    e().sued.gf.sb.setze(70);
+    EXPECT_EQ(p().fensters_typ, typ_sonstiges);
 }
 
 TEST_F(EFenster, ModuswechselRechnetDasJahrEinmal) {
