@@ -45,12 +45,7 @@ std::string_view Importquelle::zeile(int n) const {
 }
 
 Importquelle quelle_lesen(const std::filesystem::path& datei) {
-    std::string bytes = anfang_lesen(datei, hoechste_groesse + 1);
-    if (bytes.size() > hoechste_groesse) {
-        throw Dateifehler(pfadtext(datei), {"die Datei ist größer als 512 MB und wird nicht gelesen",
-                                            "the file is larger than 512 MB and is not read"});
-    }
-    return Importquelle(std::move(bytes));
+    return Importquelle(bytes_lesen(datei, hoechste_groesse));
 }
 
 Quellform quellform(const Importquelle& quelle) {

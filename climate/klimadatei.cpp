@@ -105,11 +105,20 @@ bool hat_kopf(std::string_view bytes) {
     return std::count(bytes.begin(), bytes.end(), '\n') >= zeilen_des_kopfes;
 }
 
+std::string langer_kopf(const std::filesystem::path& datei) {
+    std::string bytes = anfang_lesen(datei, hoechste_kopfgroesse);
+    if (bytes.size() == hoechste_kopfgroesse && !hat_kopf(bytes)) {
+        throw Dateifehler(pfadtext(datei), {"der Kopf der Klimadatei ist größer als 64 KB",
+                                            "the head of the climate file is larger than 64 KB"});
+    }
+    return bytes;
+}
+
 }  // namespace
 
 Stationskopf stationskopf_lesen(const std::filesystem::path& datei) {
     std::string bytes = anfang_lesen(datei, anfang_der_datei);
-    if (bytes.size() == anfang_der_datei && !hat_kopf(bytes)) bytes = bytes_lesen(datei);
+    if (bytes.size() == anfang_der_datei && !hat_kopf(bytes)) bytes = langer_kopf(datei);
     Listenleser erste(bytes);
     const std::string_view name = erste.naechster().value_or(std::string_view());
     Zeilenleser leser(erste.rest());
@@ -143,7 +152,7 @@ void klimadaten_uebernehmen(Projekt& p, std::string_view bytes, const std::strin
 
 void klimadatei_lesen(Projekt& p) {
     const std::filesystem::path datei = p.AppPfad / "klima" / pfad(p.Klimadatei);
-    klimadaten_uebernehmen(p, bytes_lesen(datei), pfadtext(datei));
+    klimadaten_uebernehmen(p, bytes_lesen(datei, hoechste_stationsgroesse), pfadtext(datei));
 }
 
 }  // namespace velmaris

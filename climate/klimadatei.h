@@ -2,6 +2,7 @@
 
 #include "project/c_glob.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -10,6 +11,10 @@ namespace velmaris {
 
 /// Lines that a station file must have: 6 of the head and one for each hour of the year.
 inline constexpr int zeilen_der_klimadatei = 8766;
+
+/// Bounds of what is read of a station file, in bytes; the data set itself takes less than 200 KB.
+inline constexpr std::size_t hoechste_stationsgroesse = std::size_t{2} << 20U;
+inline constexpr std::size_t hoechste_kopfgroesse = std::size_t{64} << 10U;
 
 /// What the station lists need of a station file.
 struct Stationskopf {
@@ -21,13 +26,15 @@ struct Stationskopf {
 
 /// Reads the beginning of a station file item by item, as the station lists do: a comma in line 1 ends
 /// the name, and the rest of the line then counts as the line of the latitude, the latitude as longitude, the
-/// longitude as time zone. A file that cannot be read or ends before the time zone is a Dateifehler.
+/// longitude as time zone. A file that cannot be read or ends before the time zone, and a head of more than
+/// `hoechste_kopfgroesse` are a Dateifehler.
 [[nodiscard]] Stationskopf stationskopf_lesen(const std::filesystem::path& datei);
 
 /// Reads the station file `Klimadatei` in the folder "klima" beside the program. Fills `Monat().Tage`,
 /// `Stationsname`, `Breite`, `Laengenkorrektur`, `Wetter`, `Dachraum`, `Strahlung`, and by
 /// `monatsstrahlung_berechnen` the means and radiation sums of the months. Nothing else is recalculated. A
-/// file that cannot be read or is too short is a Dateifehler and leaves the former climate as it was.
+/// file that cannot be read, is too short or too large is a Dateifehler and leaves the former climate as it
+/// was.
 void klimadatei_lesen(Projekt& p);
 
 /// The same from the bytes of a station file (windows-1252, lines end at CR LF or LF); `datei` is its name in

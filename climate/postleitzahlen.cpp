@@ -5,9 +5,14 @@
 #include "toolkit/zahlen.h"
 
 namespace velmaris {
+namespace {
+
+constexpr std::size_t hoechste_tabellengroesse = std::size_t{1} << 20U;
+
+}  // namespace
 
 std::optional<int> region_der_postleitzahl(const std::filesystem::path& tabelle, std::string_view plz) {
-    const std::string bytes = bytes_lesen(tabelle);
+    const std::string bytes = bytes_lesen(tabelle, hoechste_tabellengroesse);
     Listenleser posten(bytes);
     while (const auto eintrag = posten.naechster()) {
         if (spalten(*eintrag, 1, 3) != plz.substr(0, 3)) continue;

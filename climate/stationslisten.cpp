@@ -1,6 +1,7 @@
 #include "climate/stationslisten.h"
 
 #include "climate/klimadatei.h"
+#include "project/klimaordner.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 
@@ -23,8 +24,7 @@ bool auf_der_europakarte(const Station& station) {
 }
 
 bool ist_stationsdatei(const std::string& name) {
-    const std::string klein = kleinschreiben(name);
-    return klein.ends_with(".met") && klein != "klima.met";
+    return !klimanamensfehler(name) && kleinschreiben(name) != "klima.met";
 }
 
 /// File names of the stations in ascending order; the order in which a folder lists them is the system's own.

@@ -9,6 +9,9 @@
 namespace velmaris {
 namespace {
 
+/// Bytes of the language file that are looked at; a letter and its line end take three.
+constexpr std::size_t hoechste_sprachzeile = 64;
+
 struct Textzeile {
     std::string Texte::*feld;
     const char* de;
@@ -88,7 +91,7 @@ bool datei_da(const std::filesystem::path& datei) {
 
 void sprache_lesen(Projekt& p, const Sprachfenster& sprachfenster) {
     if (const auto datei = sprachdatei(p); datei_da(datei)) {
-        const std::string text = bytes_lesen(datei);
+        const std::string text = anfang_lesen(datei, hoechste_sprachzeile);
         p.Sprache = aus_windows1252(Listenleser(text).naechster().value_or(""));
     } else if (const auto buchstabe = sprachfenster()) {
         schreibe_sprache(p, *buchstabe);

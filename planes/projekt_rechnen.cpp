@@ -16,7 +16,7 @@ std::unique_ptr<Haupt> programm_vorbereiten(Plattform& plattform, const std::fil
 
 std::unique_ptr<Haupt> projekt_rechnen(Plattform& plattform, const std::filesystem::path& programmordner,
                                        const std::string& sprache, const std::string& datei) {
-    if (!bekannte_version(bytes_lesen(pfad(datei)))) {
+    if (!bekannte_version(bytes_lesen(pfad(datei), hoechste_projektgroesse))) {
         throw Dateifehler(datei,
                           {"keine gültige Velmaris-Datendatei: die erste Zeile nennt keine bekannte Version",
                            "not a valid Velmaris data file: line 1 names no known version"});

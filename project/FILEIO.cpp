@@ -67,7 +67,7 @@ bool FILEIO::projekt_laden(const std::string& datei) {
     Projekt& p = s_.p;
     p.Datei = datei;
     kanal_schliessen();
-    const std::string bytes = bytes_lesen(pfad(datei));
+    const std::string bytes = bytes_lesen(pfad(datei), hoechste_projektgroesse);
     kanal_oeffnen();
     p.Geaendert = 0;
     p.FormLoadGuard = -1;

@@ -1,6 +1,7 @@
 #include "project/projektdatei.h"
 
 #include "project/feldtabelle.h"
+#include "project/klimaordner.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
@@ -47,6 +48,7 @@ float f32_des_postens(std::string_view posten) {
 
 void ablegen(Projekt& p, const Feldzeile& feld, std::string_view posten, const Ebenenhaken& haken) {
     if (const auto* text = std::get_if<std::string Projekt::*>(&feld.zeiger)) {
+        if (const auto fehler = klimanamensfehler(posten)) throw Laufzeitfehler(*fehler);
         p.*(*text) = posten;
     } else if (const auto* gleitzahl = std::get_if<float Projekt::*>(&feld.zeiger)) {
         p.*(*gleitzahl) = f32_des_postens(posten);

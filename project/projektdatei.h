@@ -2,6 +2,7 @@
 
 #include "project/c_glob.h"
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -11,6 +12,9 @@ namespace velmaris {
 /// Version lines of the project file. Version 3.0 lacks the lines of `infiltration` and `Waermebruecken`.
 inline constexpr std::string_view version_jetzt = "Velmaris Version 3.2";
 inline constexpr std::string_view version_frueher = "Velmaris Version 3.0";
+
+/// Bound of what is read of a project file, in bytes; the 69 lines themselves take less than 1 KB.
+inline constexpr std::size_t hoechste_projektgroesse = std::size_t{1} << 20U;
 
 /// What the reader sets on the planes as it comes to the line, since these quantities are controls there.
 /// Each call runs the control's handler.

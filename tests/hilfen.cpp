@@ -37,7 +37,7 @@ std::filesystem::path Testordner::schreibe(const std::string& utf8, const std::s
 }
 
 std::string inhalt(const std::filesystem::path& datei) {
-    return bytes_lesen(datei);
+    return bytes_lesen(datei, hoechste_quellgroesse);
 }
 
 }  // namespace velmaris::test

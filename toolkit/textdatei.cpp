@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <csignal>
 #include <fstream>
-#include <limits>
 #include <random>
 #include <system_error>
 
@@ -22,12 +21,25 @@ namespace fs = std::filesystem;
 }
 
 [[noreturn]] void lesen_scheitert(const fs::path& datei) {
-    std::error_code fehler;
-    if (fs::is_directory(datei, fehler)) {
-        scheitern(datei, {"ist ein Ordner, keine Datei", "is a folder, not a file"});
-    }
-    if (!fs::exists(datei, fehler)) scheitern(datei, {"Datei nicht gefunden", "file not found"});
     scheitern(datei, {"Datei kann nicht gelesen werden", "file cannot be read"});
+}
+
+/// Opening a pipe would wait for its writer, and a device may never end; so they are not opened at all.
+void nur_regulaere(const fs::path& datei) {
+    std::error_code fehler;
+    const fs::file_status art = fs::status(datei, fehler);
+    if (fs::is_regular_file(art)) return;
+    if (fs::is_directory(art)) scheitern(datei, {"ist ein Ordner, keine Datei", "is a folder, not a file"});
+    if (art.type() == fs::file_type::not_found) scheitern(datei, {"Datei nicht gefunden", "file not found"});
+    if (!fs::status_known(art) || art.type() == fs::file_type::unknown) lesen_scheitert(datei);
+    scheitern(datei, {"ist keine gewöhnliche Datei und wird nicht gelesen",
+                      "is not a regular file and is not read"});
+}
+
+std::string groesse_in_worten(std::size_t bytes) {
+    constexpr std::size_t kb = 1024;
+    if (bytes % (kb * kb) == 0) return std::to_string(bytes / (kb * kb)) + " MB";
+    return std::to_string(bytes / kb) + " KB";
 }
 
 [[noreturn]] void schreiben_scheitert(const fs::path& datei, int grund) {
@@ -82,11 +94,11 @@ fs::path nachbar_schreiben(const fs::path& datei, const fs::path& ziel, std::str
 }  // namespace
 
 std::string anfang_lesen(const fs::path& datei, std::size_t hoechstens) {
-    std::error_code fehler;
-    if (fs::is_directory(datei, fehler)) lesen_scheitert(datei);
+    nur_regulaere(datei);
     std::ifstream strom(datei, std::ios::binary);
     if (!strom) lesen_scheitert(datei);
     std::string bytes;
+    std::error_code fehler;
     const auto groesse = fs::file_size(datei, fehler);
     if (!fehler) bytes.reserve(std::min<std::uintmax_t>(groesse, hoechstens));
     constexpr std::size_t stueck = 65536;
@@ -101,8 +113,14 @@ std::string anfang_lesen(const fs::path& datei, std::size_t hoechstens) {
     return bytes;
 }
 
-std::string bytes_lesen(const fs::path& datei) {
-    return anfang_lesen(datei, std::numeric_limits<std::size_t>::max());
+std::string bytes_lesen(const fs::path& datei, std::size_t hoechstens) {
+    std::string bytes = anfang_lesen(datei, hoechstens + 1);
+    if (bytes.size() > hoechstens) {
+        const std::string grenze = groesse_in_worten(hoechstens);
+        scheitern(datei, {"die Datei ist größer als " + grenze + " und wird nicht gelesen",
+                          "the file is larger than " + grenze + " and is not read"});
+    }
+    return bytes;
 }
 
 void datei_ersetzen(const fs::path& datei, std::string_view bytes) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -7,10 +8,14 @@
 
 namespace velmaris {
 
-/// All bytes of a regular file. A missing or unreadable file and a directory are a Dateifehler.
-[[nodiscard]] std::string bytes_lesen(const std::filesystem::path& datei);
+/// Bound for files of the source tree, which the generators and tests read, in bytes.
+inline constexpr std::size_t hoechste_quellgroesse = std::size_t{64} << 20U;
 
-/// The first `hoechstens` bytes of a regular file; errors as in `bytes_lesen`.
+/// All bytes of a regular file. A missing or unreadable file, one of more than `hoechstens` bytes, and
+/// whatever is no regular file (folder, pipe, device) are a Dateifehler; the latter is not even opened.
+[[nodiscard]] std::string bytes_lesen(const std::filesystem::path& datei, std::size_t hoechstens);
+
+/// The first `hoechstens` bytes of a regular file; errors as in `bytes_lesen`, but for the size.
 [[nodiscard]] std::string anfang_lesen(const std::filesystem::path& datei, std::size_t hoechstens);
 
 /// Replaces a file as a whole, or what a link leads to: the bytes go to a neighbour of this writer's own,

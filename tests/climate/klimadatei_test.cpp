@@ -147,9 +147,12 @@ TEST(Klimadatei, EinFehlerLaesstDasBisherigeKlima) {
     ordner.schreibe("klima/kurz.met", Stationsdatei{.zeilen = stunden_im_jahr - 1}.text());
     ordner.schreibe("klima/leer.met", "");
     ordner.schreibe("klima/ordner.met/x", "");
+    ordner.schreibe("klima/randvoll.met", ganz + std::string(hoechste_stationsgroesse - ganz.size(), 'x'));
+    ordner.schreibe("klima/uebervoll.met",
+                    ganz + std::string(hoechste_stationsgroesse - ganz.size() + 1, 'x'));
     const auto p = std::make_unique<Projekt>();
     p->AppPfad = ordner.pfad();
-    for (const char* gut : {"ohne_ende.met", "feld.met"}) {
+    for (const char* gut : {"ohne_ende.met", "randvoll.met", "feld.met"}) {
         p->Klimadatei = gut;
         klimadatei_lesen(*p);
     }
@@ -158,7 +161,7 @@ TEST(Klimadatei, EinFehlerLaesstDasBisherigeKlima) {
     const std::vector<std::pair<std::string, std::string>> faelle{
         {"kurz.met", "8765 of 8766 lines"}, {"leer.met", "0 of 8766 lines"},
         {"ordner.met", "is a folder"},      {"", "is a folder"},
-        {"fehlt.met", "not found"},
+        {"fehlt.met", "not found"},         {"uebervoll.met", "larger than 2 MB"},
     };
     for (const auto& [name, grund] : faelle) {
         p->Klimadatei = name;
@@ -261,9 +264,13 @@ TEST(Stationskopf, LiestWieDieStationsliste) {
     EXPECT_DOUBLE_EQ(komma.laenge, 49.75) << "the longitude comes from the latitude's line";
     EXPECT_DOUBLE_EQ(komma.zeitzone, -6.66);
 
-    datei.ort = std::string(5000, 'x');
-    EXPECT_EQ(kopf(datei.text()).name.size(), 5000U);
+    datei.ort.clear();
+    const std::size_t rest = datei.text().find("   dy") - 2;
+    datei.ort = std::string(hoechste_kopfgroesse - rest, 'x');
+    EXPECT_EQ(kopf(datei.text()).name, datei.ort);
     EXPECT_DOUBLE_EQ(kopf(datei.text()).breite, 49.75);
+    datei.ort += 'x';
+    EXPECT_THROW(static_cast<void>(kopf(datei.text())), Dateifehler);
 
     for (const char* kurz : {"", "Ort", "Ort\r\nBreitengrad:  1\r\nLaenge\r\n"})
         EXPECT_THROW(static_cast<void>(kopf(kurz)), Dateifehler) << kurz;

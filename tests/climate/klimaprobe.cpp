@@ -4,7 +4,6 @@
 #include "language/c_Sprache.h"
 #include "tests/climate/stationskopf.h"
 #include "toolkit/text.h"
-#include "toolkit/textdatei.h"
 
 namespace velmaris::test {
 
@@ -25,7 +24,7 @@ Klimaprobe::Klimaprobe(const std::string& sprache) {
 }
 
 void Klimaprobe::wetter_laden() {
-    static_cast<void>(bytes_lesen(ordner / ("klima/" + p->Klimadatei)));
+    static_cast<void>(inhalt(ordner / ("klima/" + p->Klimadatei)));
     geladen.push_back(p->Klimadatei);
     e->klima_zeigen();
 }

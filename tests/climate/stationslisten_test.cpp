@@ -1,5 +1,6 @@
 #include "climate/stationslisten.h"
 
+#include "climate/klimadatei.h"
 #include "climate/postleitzahlen.h"
 #include "tests/climate/stationskopf.h"
 #include "tests/hilfen.h"
@@ -89,6 +90,7 @@ TEST(Stationslisten, SchlechteDateienKostenNurSichSelbst) {
     ordner.schreibe("kurz.met", "Kurz (D)\r\nBreitengrad:  50\r\n");
     ordner.schreibe("ordner.met/inhalt.txt", "kein Kopf");
     ordner.schreibe("namenlos.met", kopftext("", 50, 10));
+    ordner.schreibe("lang.met", kopftext(std::string(hoechste_kopfgroesse, 'x'), 50, 10));
     ordner.schreibe("komma.met", kopftext("Bad, Ort (D)", 49.75, 6.66));
     const Stationslisten listen = stationslisten_lesen(ordner.pfad());
     EXPECT_THAT(stationsnamen(listen.Welt), ElementsAre("Bad", "Gut (D)", "namenlos.met"));

@@ -92,6 +92,17 @@ TEST_F(Fileio, LesefehlerLaesstDenWaechterStehenBisZumNaechstenGutenOeffnen) {
     EXPECT_EQ(p().FormLoadGuard, 0);
 }
 
+TEST_F(Fileio, EineZuGrosseDateiWirdNichtGelesen) {
+    const std::string text = inhalt(pfad(haus));
+    const std::string gut = text + std::string(hoechste_projektgroesse - text.size(), '\n');
+    datei().datei_oeffnen(pfadtext(programm.ordner.schreibe("gut.vel", gut)));
+    EXPECT_TRUE(plattform().meldungen.empty());
+    datei().datei_oeffnen(pfadtext(programm.ordner.schreibe("gross.vel", gut + '\n')));
+    ASSERT_EQ(plattform().meldungen.size(), 1U);
+    EXPECT_NE(plattform().meldungen[0].hinweis.find("gross.vel: die Datei ist größer als 1 MB"),
+              std::string::npos);
+}
+
 TEST_F(Fileio, StellungenAusserhalbNennenDieZeileDerDatei) {
     struct Fall {
         int zeile;

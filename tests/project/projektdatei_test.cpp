@@ -135,6 +135,15 @@ TEST(Projektdatei, FehlerNennenZeileUndFeld) {
         {20, "", "kwn", "not a number: \"\""},
         {24, "1E+39", "kd", "number too large"},
         {69, "nan", "Waermebruecken", "not a number"},
+        {56, "", "Klimadatei", "the file name is empty"},
+        {56, "/dev/zero", "Klimadatei", "\"/dev/zero\" is no plain file name but a path"},
+        {56, "../../../etc/passwd", "Klimadatei", "\"../../../etc/passwd\" is no plain"},
+        {56, "..\\trier.met", "Klimadatei", "\"..\\trier.met\" is no plain"},
+        {56, "C:trier.met", "Klimadatei", "\"C:trier.met\" is no plain"},
+        {56, "..", "Klimadatei", "\"..\" is no climate file"},
+        {56, "typ.dat", "Klimadatei", "\"typ.dat\" is no climate file"},
+        {56, "trier\t.met", "Klimadatei", "the file name contains control characters"},
+        {56, std::string(5000, '\xFC') + "x", "Klimadatei", "\"ü"},
     };
     for (const Fall& fall : faelle) {
         auto zeilen = nummerierte_zeilen();

@@ -6,7 +6,12 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
+
+#ifdef __linux__
+#include <sys/stat.h>
+#endif
 
 namespace velmaris {
 namespace {
@@ -54,8 +59,44 @@ TEST(BytesLesen, NenntDateiUndGrund) {
     }
     ordner.schreibe("lang.txt", std::string(100000, 'x'));
     EXPECT_EQ(anfang_lesen(ordner / "lang.txt", 10), "xxxxxxxxxx");
-    EXPECT_EQ(bytes_lesen(ordner / "lang.txt").size(), 100000U);
+    EXPECT_EQ(bytes_lesen(ordner / "lang.txt", 100000).size(), 100000U);
 }
+
+TEST(BytesLesen, HatEineGrenze) {
+    const Testordner ordner;
+    for (const auto& [grenze, wort] :
+         {std::pair<std::size_t, std::string>{65536, "64 KB"}, {std::size_t{2} << 20U, "2 MB"}}) {
+        EXPECT_EQ(bytes_lesen(ordner.schreibe("gut.met", std::string(grenze, 'x')), grenze).size(), grenze);
+        try {
+            static_cast<void>(
+                bytes_lesen(ordner.schreibe("gross.met", std::string(grenze + 1, 'x')), grenze));
+            FAIL() << wort;
+        } catch (const Dateifehler& fehler) {
+            EXPECT_NE(fehler.text("d").find("gross.met: die Datei ist größer als " + wort), std::string::npos)
+                << fehler.text("d");
+        }
+    }
+}
+
+#ifdef __linux__
+TEST(BytesLesen, OeffnetNurGewoehnlicheDateien) {
+    const Testordner ordner;
+    ASSERT_EQ(::mkfifo((ordner / "rohr.met").c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/zero", ordner / "null.met");
+    std::filesystem::create_symlink("rohr.met", ordner / "verweis.met");
+    for (const char* name : {"rohr.met", "null.met", "verweis.met"}) {
+        try {
+            static_cast<void>(anfang_lesen(ordner / name, 10));
+            FAIL() << name;
+        } catch (const Dateifehler& fehler) {
+            EXPECT_NE(fehler.text("e").find(std::string(name) + ": is not a regular file"), std::string::npos)
+                << fehler.text("e");
+        }
+    }
+    std::filesystem::create_symlink(ordner.schreibe("echt.met", "echt"), ordner / "gut.met");
+    EXPECT_EQ(bytes_lesen(ordner / "gut.met", 4), "echt");
+}
+#endif
 
 }  // namespace
 }  // namespace velmaris

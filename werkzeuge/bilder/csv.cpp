@@ -25,7 +25,7 @@ std::vector<std::string> felder(std::string_view zeile) {
 
 Tabelle::Tabelle(const std::filesystem::path& datei, std::vector<std::string> spalten)
     : datei_(pfadtext(datei)), spalten_(std::move(spalten)) {
-    const std::string bytes = bytes_lesen(datei);
+    const std::string bytes = bytes_lesen(datei, hoechste_quellgroesse);
     Zeilenleser leser(bytes);
     const auto kopf = leser.naechste();
     if (!kopf || felder(*kopf) != spalten_) {

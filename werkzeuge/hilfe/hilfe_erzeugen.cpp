@@ -20,7 +20,7 @@ void hilfe_schreiben(const std::string& sprache, const fs::path& quelle, const f
     fs::create_directories(ziel);
     for (const Seite* seite : alle_seiten(inhalt))
         datei_ersetzen(ziel / pfad(seite->name + ".html"), seite_bauen(inhalt, *seite, sprache));
-    datei_ersetzen(ziel / "stil.css", bytes_lesen(quelle / "stil.css"));
+    datei_ersetzen(ziel / "stil.css", bytes_lesen(quelle / "stil.css", hoechste_quellgroesse));
     const std::string name = hilfename(sprache);
     datei_ersetzen(ziel / (name + ".hhc"), nach_windows1252(chm_inhalt(inhalt)));
     datei_ersetzen(ziel / (name + ".hhk"), nach_windows1252(chm_stichworte(inhalt)));

@@ -43,7 +43,7 @@ std::vector<std::string> geteilt(std::string_view liste, char zeichen) {
 }
 
 Seite seite_lesen(const fs::path& datei) {
-    std::string text = bytes_lesen(datei);
+    std::string text = bytes_lesen(datei, hoechste_quellgroesse);
     const std::string stichworte = zwischen(datei, text, R"(<meta name="keywords" content=")", "\">");
     std::string titel = zwischen(datei, text, "<title>", "</title>");
     return {pfadtext(datei.stem()), std::move(titel), geteilt(stichworte, ';'), std::move(text)};
@@ -65,7 +65,7 @@ void vollstaendigkeit_pruefen(const Inhalt& inhalt, const fs::path& ordner) {
 }  // namespace
 
 Inhalt inhalt_lesen(const fs::path& ordner, const std::string& sprache) {
-    const std::string liste = bytes_lesen(ordner / "inhalt.txt");
+    const std::string liste = bytes_lesen(ordner / "inhalt.txt", hoechste_quellgroesse);
     const fs::path seitenordner = ordner / sprache;
     Inhalt inhalt(1);
     Zeilenleser leser(liste);

@@ -199,7 +199,7 @@ std::vector<Stationsfakten> stationsliste(std::string_view text, const std::stri
 }
 
 std::vector<Stationsfakten> stationsliste_lesen(const std::filesystem::path& datei) {
-    return stationsliste(bytes_lesen(datei), pfadtext(datei));
+    return stationsliste(bytes_lesen(datei, hoechste_quellgroesse), pfadtext(datei));
 }
 
 }  // namespace velmaris::klimasatz
