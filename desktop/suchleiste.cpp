@@ -22,10 +22,10 @@ Suchleiste::Suchleiste(QTextBrowser& seite, const std::string& sprache, QWidget*
     feld_->setObjectName(QStringLiteral("Suchtext"));
     feld_->setAccessibleName(schild->text());
     meldung_->setObjectName(QStringLiteral("Suchmeldung"));
+    auto* vor = knopf("SucheVor", wort("Nächste Stelle", "Next"), wort("F3, Eingabe", "F3, Enter"));
     auto* zurueck = knopf("SucheZurueck", wort("Vorige Stelle", "Previous"),
                           wort("Umschalt+F3, Umschalt+Eingabe", "Shift+F3, Shift+Enter"));
-    auto* vor = knopf("SucheVor", wort("Nächste Stelle", "Next"), wort("F3, Eingabe", "F3, Enter"));
-    auto* zu = knopf("SucheSchliessen", wort("Schließen", "Close"), wort("Esc", "Esc"));
+    auto* zu = knopf("SucheSchliessen", wort("Schließen", "Close"), QStringLiteral("Esc"));
     auto* reihe = new QHBoxLayout(this);
     for (QWidget* teil : std::initializer_list<QWidget*>{schild, feld_, vor, zurueck})
         reihe->addWidget(teil);
@@ -56,10 +56,9 @@ void Suchleiste::oeffne() {
     const QTextCursor stelle = seite_.textCursor();
     if (!seite_.viewport()->rect().intersects(seite_.cursorRect(stelle)))
         seite_.setTextCursor(seite_.cursorForPosition({0, 0}));
-    // A selection over several paragraphs is none of a word.
-    if (const QString text = stelle.selectedText();
-        !text.isEmpty() && !text.contains(QChar::ParagraphSeparator))
-        feld_->setText(text);
+    // A selection over several paragraphs is none of a word; blanks are sought as plain ones.
+    const QString text = stelle.selectedText().replace(QChar::Nbsp, u' ');
+    if (!text.isEmpty() && !text.contains(QChar::ParagraphSeparator)) feld_->setText(text);
     melde({});
     show();
     feld_->setFocus();
@@ -73,29 +72,25 @@ void Suchleiste::schliesse() {
 
 void Suchleiste::suche(bool rueckwaerts) {
     if (isHidden()) oeffne();
-    const QString text = feld_->text();
-    if (text.isEmpty()) {
-        melde({});
-        return;
-    }
-    const QTextDocument::FindFlags richtung =
-        rueckwaerts ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-    QTextCursor stelle = seite_.document()->find(text, seite_.textCursor(), richtung);
-    const bool herum = stelle.isNull();
-    if (herum) {
+    melde({});
+    if (feld_->text().isEmpty()) return;
+    QTextCursor stelle = naechste_stelle(seite_.textCursor(), rueckwaerts);
+    if (stelle.isNull()) {
         QTextCursor rand(seite_.document());
         if (rueckwaerts) rand.movePosition(QTextCursor::End);
-        stelle = seite_.document()->find(text, rand, richtung);
+        stelle = naechste_stelle(rand, rueckwaerts);
+        melde(stelle.isNull() ? wort("Nicht gefunden", "Not found")
+              : rueckwaerts   ? wort("Weiter vom Ende der Seite", "Continued from the end of the page")
+                              : wort("Weiter vom Anfang der Seite", "Continued from the top of the page"));
     }
-    if (stelle.isNull()) {
-        melde(wort("Nicht gefunden", "Not found"));
-        return;
-    }
-    seite_.setTextCursor(stelle);
-    if (!herum) melde({});
-    if (herum && rueckwaerts) melde(wort("Weiter vom Ende der Seite", "Continued from the end of the page"));
-    if (herum && !rueckwaerts)
-        melde(wort("Weiter vom Anfang der Seite", "Continued from the top of the page"));
+    if (!stelle.isNull()) seite_.setTextCursor(stelle);
+}
+
+/// The place after (before) the cursor, a null cursor if there is none up to the end of the page.
+QTextCursor Suchleiste::naechste_stelle(const QTextCursor& von, bool rueckwaerts) const {
+    const QTextDocument::FindFlags richtung =
+        rueckwaerts ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+    return seite_.document()->find(feld_->text(), von, richtung);
 }
 
 /// A word that grows stays where it was found as long as it fits.

@@ -7,6 +7,7 @@ class QAbstractButton;
 class QLabel;
 class QLineEdit;
 class QTextBrowser;
+class QTextCursor;
 
 namespace velmaris {
 
@@ -35,6 +36,7 @@ class Suchleiste : public QWidget {
   private:
     [[nodiscard]] QString wort(const char* de, const char* en) const;
     [[nodiscard]] QAbstractButton* knopf(const char* name, const QString& text, const QString& tasten);
+    [[nodiscard]] QTextCursor naechste_stelle(const QTextCursor& von, bool rueckwaerts) const;
     void suche_beim_tippen();
     void melde(const QString& text);
 
