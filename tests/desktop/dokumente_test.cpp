@@ -224,7 +224,12 @@ TEST_F(DokumenteTest, SpeichernFragtUndGehtOhneSchadenFehl) {
     waehle_datei(unbeschreibbar);
     druecke();
     EXPECT_EQ(reporttext(), vorher);
+    const auto& hinweis = such<QPlainTextEdit>("A_Report", "Hinweis");
+    EXPECT_TRUE(hinweis.isVisible());
+    EXPECT_TRUE(hinweis.toPlainText().contains(unbeschreibbar)) << hinweis.toPlainText().toStdString();
     EXPECT_EQ(QApplication::activeModalWidget(), &such("Haupt", "A_Report")) << "no message";
+    blaettere(1);
+    EXPECT_FALSE(hinweis.isVisible());
 }
 
 TEST_F(DokumenteTest, DruckenSchreibtDieGewaehltenSeitenAlsPdf) {
