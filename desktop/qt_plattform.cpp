@@ -251,15 +251,12 @@ std::vector<std::string> QtPlattform::druckerliste() const {
     return namen;
 }
 
-int QtPlattform::aktueller_drucker() const {
-    const QString name = drucker_ ? *drucker_ : QPrinterInfo::defaultPrinterName();
-    return static_cast<int>(QPrinterInfo::availablePrinterNames().indexOf(name));
+std::string QtPlattform::aktueller_drucker() const {
+    return drucker_ ? *drucker_ : utf8(QPrinterInfo::defaultPrinterName());
 }
 
-void QtPlattform::drucker_waehlen(int index) {
-    const QStringList namen = QPrinterInfo::availablePrinterNames();
-    if (index < 0) drucker_ = QString();
-    if (index >= 0 && index < namen.size()) drucker_ = namen[index];
+void QtPlattform::drucker_waehlen(const std::string& name) {
+    drucker_ = name;
 }
 
 void QtPlattform::beenden() {

@@ -49,8 +49,8 @@ class QtPlattform final : public Plattform {
     void zeitgeber_stoppen(const std::string& name) override;
     void hilfe(const std::filesystem::path& datei, const std::string& seite) override;
     [[nodiscard]] std::vector<std::string> druckerliste() const override;
-    [[nodiscard]] int aktueller_drucker() const override;
-    void drucker_waehlen(int index) override;
+    [[nodiscard]] std::string aktueller_drucker() const override;
+    void drucker_waehlen(const std::string& name) override;
 
     void beenden() override;
 
@@ -75,7 +75,7 @@ class QtPlattform final : public Plattform {
     bool sanduhr_ = false;
     QRandomGenerator zufall_;
     std::map<std::string, Zeitgeber> zeitgeber_;
-    std::optional<QString> drucker_;  ///< the one chosen, empty for a PDF file
+    std::optional<std::string> drucker_;  ///< the one chosen, empty for a PDF file
 };
 
 }  // namespace velmaris

@@ -53,6 +53,14 @@ QWidget* temperaturfeld(Anzeige& anzeige, const Ebenenbau& bau, const QWidget& f
     return feld;
 }
 
+/// What went wrong at the last save: a path of any length wraps in it and can be copied.
+void hinweisfeld(Anzeige& anzeige, const Ebenenbau& bau, const QWidget& fenster) {
+    QPlainTextEdit* feld = bau.textansicht(anzeige, mass::schrift, utf8(fenster.windowTitle()));
+    feld->setFont(fenster.font());
+    feld->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    feld->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
 /// The number of the page shown, over the button of the page.
 void marke(Anzeige& anzeige, const Ebenenbau& bau) {
     constexpr QSize groesse(24, 25);
@@ -82,6 +90,7 @@ QWidget* report_ansicht(A_Report& a, const Ansichtsmittel& mittel, QWidget* elte
     const Ebenenbau bau(*fenster, "A_Report", mittel);
     QWidget* report = reportfeld(a.Report1, mittel, fenster);
     QWidget* temperaturen = temperaturfeld(a.Temperaturverlauf1, bau, *fenster);
+    hinweisfeld(a.Hinweis, bau, *fenster);
     for (int i = 1; i <= A_Report::knoepfe; ++i)
         bau.knopf(a.Seite(i));
     bau.knopf(a.Command_Speichern);

@@ -2,10 +2,12 @@
 
 #include "documents/report.h"
 #include "documents/temperaturverlauf.h"
+#include "documents/wort.h"
 #include "language/beschriftungen.h"
 #include "toolkit/fehler.h"
 
 #include <optional>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -16,6 +18,9 @@ constexpr double seitenbreite = 28;
 constexpr double seitenabstand = 30;
 constexpr double befehlsbreite = 136;
 constexpr double markenabstand = 2;
+constexpr double hinweishoehe = 58;
+
+constexpr Wort nichts_gespeichert{"Es wurde nichts gespeichert: ", "Nothing was saved: "};
 
 /// What a save dialog offers, and the ending of a name that has none.
 struct Dateiart {
@@ -49,6 +54,7 @@ A_Report::A_Report(Sitzung& sitzung, std::function<Reportquelle()> quelle)
     : sitzung_(sitzung), quelle_(std::move(quelle)), seiten_(seitenknoepfe()) {
     fenster.zeige(false);
     Temperaturverlauf1.zeige(false);
+    Hinweis.zeige(false);
     for (int i = 1; i <= knoepfe; ++i)
         Seite(i).gedrueckt = [this, i] { Seite_Click(i); };
     Command_Speichern.gedrueckt = [this] { speichern(); };
@@ -75,6 +81,7 @@ void A_Report::oeffnen(bool report) {
 
 void A_Report::Seite_Click(int i) {
     markieren(i);
+    hinweisen({});
     if (Temperaturverlauf1.sichtbar()) {
         temperatur_text = temperaturverlauf_schreiben(sitzung_.p, i);
         Temperaturverlauf1.schreibe(temperatur_text);
@@ -90,6 +97,13 @@ void A_Report::markieren(int i) {
     if (const auto& lage = Seite(i).lage()) AktSeite.setze({lage->links + markenabstand, lage->oben});
 }
 
+void A_Report::hinweisen(std::string text) {
+    if (text == Hinweis.text()) return;
+    Hinweis.zeige(!text.empty());
+    Hinweis.schreibe(std::move(text));
+    anordnen(breite_, hoehe_);
+}
+
 void A_Report::speichern() {
     const bool temperaturen = Temperaturverlauf1.sichtbar();
     const auto datei = zieldatei(sitzung_, temperaturen ? text_datei : report_datei);
@@ -101,8 +115,10 @@ void A_Report::speichern() {
             report_text = report_exportieren(quelle_(), *datei);
             Report1.schreibe(report_text);
         }
-    } catch (const Dateifehler&) {
-        return;
+        hinweisen({});
+    } catch (const Dateifehler& fehler) {
+        const std::string& sprache = sitzung_.p.Sprache;
+        hinweisen(std::string(nichts_gespeichert.in(sprache)) + fehler.text(sprache));
     }
 }
 
@@ -111,9 +127,14 @@ double A_Report::mindestbreite() {
 }
 
 void A_Report::anordnen(double breite, double hoehe) {
+    breite_ = breite;
+    hoehe_ = hoehe;
     const double oben = hoehe - knopfhoehe - rand_;
+    const double unter_texten = Hinweis.sichtbar() ? oben - hinweishoehe - rand_ : oben;
     const Rechteck texte{
-        .links = rand_, .oben = rand_, .breite = breite - 2 * rand_, .hoehe = oben - 2 * rand_};
+        .links = rand_, .oben = rand_, .breite = breite - 2 * rand_, .hoehe = unter_texten - 2 * rand_};
+    Hinweis.lege(
+        {.links = rand_, .oben = oben - rand_ - hinweishoehe, .breite = texte.breite, .hoehe = hinweishoehe});
     Report1.lege(texte);
     Temperaturverlauf1.lege(texte);
     for (int i = 1; i <= knoepfe; ++i)

@@ -23,6 +23,7 @@ struct A_Report {
 
     Anzeige Report1{"Report1"};                        ///< Rich Text source
     Anzeige Temperaturverlauf1{"Temperaturverlauf1"};  ///< plain text
+    Anzeige Hinweis{"Hinweis"};    ///< what went wrong at the last save, hidden if nothing
     Anzeige AktSeite{"AktSeite"};  ///< marker at the button of the page shown; its text is the number
     Knopf Command_Speichern{"Command_Speichern"};
     Knopf Command_Schliessen{"Command_Schliessen"};
@@ -41,23 +42,28 @@ struct A_Report {
     void Seite_Click(int i);
 
     /// Asks for a file and writes all pages, or the hourly table of the year. Cancelling and a failed write
-    /// leave everything as it was, without a message; a failed write leaves an old file whole.
+    /// leave everything as it was, without a message; a failed write leaves an old file whole, and `Hinweis`
+    /// names file and cause until a save succeeds or another page is shown.
     void speichern();
 
     /// Least width of the window, pixels.
     [[nodiscard]] static double mindestbreite();
 
-    /// Places the controls in a window of that inner size, pixels: the texts over a row of buttons.
+    /// Places the controls in a window of that inner size, pixels: the texts over a row of buttons, `Hinweis`
+    /// between them.
     void anordnen(double breite, double hoehe);
 
   private:
     void oeffnen(bool report);
     void markieren(int i);
+    void hinweisen(std::string text);
 
     Sitzung& sitzung_;
     std::function<Reportquelle()> quelle_;
     std::array<Knopf, knoepfe> seiten_;
     int seite_ = 1;
+    double breite_ = 0;  ///< inner size of the window, pixels
+    double hoehe_ = 0;
 };
 
 }  // namespace velmaris

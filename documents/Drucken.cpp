@@ -40,7 +40,8 @@ void Drucken::oeffnen() {
 }
 
 void Drucken::drucker_zeigen() {
-    const std::string name = wahl.name_des_druckers();
+    drucker_ = sitzung_.plattform.aktueller_drucker();
+    const std::string name = wahl.anzeigename(drucker_);
     DruckerName.schreibe(name);
     DruckerNameUnten.schreibe(name);
 }
@@ -52,12 +53,11 @@ Druckauswahl Drucken::auswahl() const {
     return auswahl;
 }
 
-/// The current printer or a file that is asked for; nothing if the user gives up.
+/// The printer that the dialog shows or a file that is asked for; nothing if the user gives up.
 std::optional<Druckziel> Drucken::ziel() const {
     const Projekt& p = sitzung_.p;
     const std::filesystem::path projekt = pfad(p.Datei).filename();
-    if (sitzung_.plattform.aktueller_drucker() >= 0)
-        return Druckziel{.titel = pfadtext(projekt), .drucker = wahl.name_des_druckers()};
+    if (!drucker_.empty()) return Druckziel{.titel = pfadtext(projekt), .drucker = drucker_};
     const auto datei = sitzung_.plattform.dateidialog(
         {.art = Dateidialog::Art::speichern,
          .filter = std::string(pdf_filter.in(p.Sprache)),
@@ -78,6 +78,10 @@ void Drucken::drucken() {
         melde(std::string(nichts_gewaehlt.in(sitzung_.p.Sprache)));
         return;
     }
+    if (!wahl.vorhanden(drucker_)) {
+        wahl.verschwunden(drucker_);
+        return;
+    }
     const std::optional<Druckziel> wohin = ziel();
     if (!wohin) return;
     try {
@@ -85,6 +89,7 @@ void Drucken::drucken() {
         fenster.zeige(false);
     } catch (const Laufzeitfehler& fehler) {
         melde(fehler.text(sitzung_.p.Sprache));
+        if (!wahl.vorhanden(drucker_)) wahl.oeffnen();
     }
 }
 

@@ -42,7 +42,8 @@ struct Drucken {
     void oeffnen();
 
     /// Prints what is ticked and closes the dialog; a PDF file is asked for first. With nothing ticked it
-    /// says so and stays open; a failure of the printer is a message, and the dialog stays open too.
+    /// says so and stays open; a failure of the printer is a message, and the dialog stays open too. If the
+    /// printer that it shows is gone, it says so and opens the choice of a printer.
     void drucken();
 
     /// Begins a document; a device that cannot be used is a Laufzeitfehler. Set by the view.
@@ -59,6 +60,7 @@ struct Drucken {
 
     Sitzung& sitzung_;
     std::function<Reportquelle()> quelle_;
+    std::string drucker_;  ///< the one that the dialog shows, empty for a PDF file
     std::array<Pruefeld, druckausgaben> ausgaben_;
 };
 

@@ -23,8 +23,14 @@ struct Druckerwahl {
     /// Opens the dialog on the current printer.
     void oeffnen();
 
-    /// The current printer's name, or what stands for a PDF file.
-    [[nodiscard]] std::string name_des_druckers() const;
+    /// What a printer is called, the empty name being that of a PDF file.
+    [[nodiscard]] std::string anzeigename(const std::string& drucker) const;
+
+    /// True for a PDF file and for a printer that there is now.
+    [[nodiscard]] bool vorhanden(const std::string& drucker) const;
+
+    /// Tells that a printer is gone and opens the dialog on those that are left.
+    void verschwunden(const std::string& drucker);
 
   private:
     void uebernehmen();

@@ -77,13 +77,12 @@ std::string mit_einheit(double wert, const char* einheit) {
 constexpr double schriftgrad = 7;
 constexpr double wandrand = 0.4;  ///< between a text and the edge of its wall
 
-/// The area of a wall that ends at the right edge of that wall or before, in letters that fit between the
-/// edges.
+/// The area of a wall from `ort` on, further left or in smaller letters where it would not end before
+/// `rechts`; it begins at `links` at the least.
 void flaeche_schreiben(Blatt& blatt, Punkt ort, double links, double rechts, double quadratmeter) {
     const std::string text = mit_einheit(quadratmeter, " m²");
-    const double platz = rechts - links - 2 * wandrand;
-    blatt.schrift_einpassen(text, platz);
-    blatt.text(std::min(ort.x, rechts - wandrand - blatt.drucker().textbreite(text)), ort.y, text);
+    blatt.schrift_einpassen(text, rechts - links);
+    blatt.text(std::min(ort.x, rechts - blatt.drucker().textbreite(text)), ort.y, text);
     blatt.schrift({.groesse = schriftgrad});
 }
 
@@ -94,11 +93,13 @@ void hausbeschriftung(Blatt& blatt, const Projekt& p, Punkt o) {
     const auto wort = [&](double x, double y, const Wort& w) { schreibe(x, y, w.in(blatt.sprache())); };
     blatt.schrift({.groesse = schriftgrad});
     wort(14.4, 26.4, {"Süd-Fassade", "south facade"});
-    flaeche_schreiben(blatt, o + Punkt{20, 29.1}, o.x + vorn_links.x, o.x + vorn_rechts.x, double{p.l} * p.h);
+    const Punkt flaeche_sued = o + Punkt{20, 29.1};
+    flaeche_schreiben(blatt, flaeche_sued, o.x + vorn_links.x + wandrand, o.x + vorn_rechts.x - wandrand,
+                      double{p.l} * p.h);
     wort(1.6, 21.3, {"West-", "west"});
     wort(1.6, 24, {"Fassade", "facade"});
-    flaeche_schreiben(blatt, o + Punkt{1.6, 26.7}, o.x + hinten_links.x, o.x + vorn_links.x,
-                      double{p.b} * p.h);
+    const Punkt flaeche_west = o + Punkt{1.6, 26.7};
+    flaeche_schreiben(blatt, flaeche_west, flaeche_west.x, o.x + vorn_links.x - wandrand, double{p.b} * p.h);
 
     schreibe(12.8, 31.9, mit_einheit(p.h, " m"));
     blatt.mitte(o.x + (vorn_links.x + vorn_rechts.x) / 2, o.y + vorn_rechts.y + 0.5, mit_einheit(p.l, " m"));

@@ -72,7 +72,14 @@ void Haupt::laden() {
     e_menue.leiste.zeige(true);
     a_menue.leiste.zeige(true);
     erste_ebenen();
-    p.Druckerindex = i16(std::max(sitzung.plattform.aktueller_drucker(), 0), "Druckerindex");
+    drucker_merken();
+}
+
+void Haupt::drucker_merken() {
+    const std::vector<std::string> drucker = sitzung.plattform.druckerliste();
+    const auto ort = std::find(drucker.begin(), drucker.end(), sitzung.plattform.aktueller_drucker());
+    if (ort != drucker.end())
+        p.Druckerindex = i16(static_cast<double>(ort - drucker.begin()), "Druckerindex");
 }
 
 void Haupt::erste_ebenen() {

@@ -64,6 +64,7 @@ struct Haupt {
     void laden();
 
     /// Shows the first input and the first output plane.
+    void drucker_merken();
     void erste_ebenen();
 
     /// Sets all inputs, the controls that keep state and the title to those of a new project.

@@ -238,9 +238,9 @@ void FILEIO::fenster_schliessen() {
 }
 
 void FILEIO::drucker_zuruecksetzen() {
-    const auto drucker = static_cast<int>(s_.plattform.druckerliste().size());
-    if (s_.p.Druckerindex >= 0 && s_.p.Druckerindex < drucker)
-        s_.plattform.drucker_waehlen(s_.p.Druckerindex);
+    const std::vector<std::string> drucker = s_.plattform.druckerliste();
+    if (s_.p.Druckerindex >= 0 && s_.p.Druckerindex < static_cast<int>(drucker.size()))
+        s_.plattform.drucker_waehlen(drucker[static_cast<std::size_t>(s_.p.Druckerindex)]);
 }
 
 std::int16_t FILEIO::aenderung_abfragen() {

@@ -20,7 +20,7 @@ class Testplattform : public Plattform {
     Bildschirmpunkt zeiger_ort;
     double zufallszahl = 0;
     std::vector<std::string> drucker;
-    int druckerindex = -1;
+    std::string druckername;  ///< of the one in use
 
     std::vector<Meldung> meldungen;  ///< all message boxes in their order
     std::vector<Dateidialog> dialoge;
@@ -50,8 +50,8 @@ class Testplattform : public Plattform {
     void zeitgeber_stoppen(const std::string& name) override { zeitgeber.erase(name); }
     void hilfe(const std::filesystem::path& datei, const std::string& seite) override;
     [[nodiscard]] std::vector<std::string> druckerliste() const override { return drucker; }
-    [[nodiscard]] int aktueller_drucker() const override { return druckerindex; }
-    void drucker_waehlen(int index) override { druckerindex = index; }
+    [[nodiscard]] std::string aktueller_drucker() const override { return druckername; }
+    void drucker_waehlen(const std::string& name) override { druckername = name; }
     void beenden() override { beendet = true; }
 };
 

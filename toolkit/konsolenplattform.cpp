@@ -56,11 +56,11 @@ std::vector<std::string> Konsolenplattform::druckerliste() const {
     return {};
 }
 
-int Konsolenplattform::aktueller_drucker() const {
-    return -1;
+std::string Konsolenplattform::aktueller_drucker() const {
+    return {};
 }
 
-void Konsolenplattform::drucker_waehlen(int /*index*/) {}
+void Konsolenplattform::drucker_waehlen(const std::string& /*name*/) {}
 
 void Konsolenplattform::beenden() {}
 

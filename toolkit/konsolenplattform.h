@@ -22,8 +22,8 @@ class Konsolenplattform final : public Plattform {
     void zeitgeber_stoppen(const std::string& name) override;
     void hilfe(const std::filesystem::path& datei, const std::string& seite) override;
     [[nodiscard]] std::vector<std::string> druckerliste() const override;
-    [[nodiscard]] int aktueller_drucker() const override;
-    void drucker_waehlen(int index) override;
+    [[nodiscard]] std::string aktueller_drucker() const override;
+    void drucker_waehlen(const std::string& name) override;
     void beenden() override;
 };
 

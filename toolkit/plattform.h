@@ -83,11 +83,13 @@ class Plattform {
     /// Opens the help file, at a page of it unless that is empty.
     virtual void hilfe(const std::filesystem::path& datei, const std::string& seite) = 0;
 
-    /// Names of the printers and the index of the current one; -1 stands for output into a PDF file, the only
-    /// choice without a printer.
+    /// Names of the printers that there are now.
     [[nodiscard]] virtual std::vector<std::string> druckerliste() const = 0;
-    [[nodiscard]] virtual int aktueller_drucker() const = 0;
-    virtual void drucker_waehlen(int index) = 0;
+
+    /// Name of the printer in use; empty for output into a PDF file, the only choice without a printer. One
+    /// that was chosen stays in use when it vanishes from the list.
+    [[nodiscard]] virtual std::string aktueller_drucker() const = 0;
+    virtual void drucker_waehlen(const std::string& name) = 0;
 
     /// Ends the program once the running event is over.
     virtual void beenden() = 0;

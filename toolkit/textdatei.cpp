@@ -44,6 +44,15 @@ std::string groesse_in_worten(std::size_t bytes) {
 
 [[noreturn]] void schreiben_scheitert(const fs::path& datei, int grund) {
     if (grund == ENOSPC) scheitern(datei, {"der Datenträger ist voll", "the disk is full"});
+    if (grund == EACCES || grund == EPERM)
+        scheitern(datei, {"Datei kann nicht geschrieben werden (keine Berechtigung)",
+                          "file cannot be written (no permission)"});
+    if (grund == EROFS)
+        scheitern(datei, {"Datei kann nicht geschrieben werden (schreibgeschützter Datenträger)",
+                          "file cannot be written (write-protected disk)"});
+    if (grund == ENOENT)
+        scheitern(datei, {"Datei kann nicht geschrieben werden (den Ordner gibt es nicht)",
+                          "file cannot be written (there is no such folder)"});
     const std::string system =
         grund != 0 ? " (" + std::generic_category().message(grund) + ")" : std::string();
     scheitern(datei, {"Datei kann nicht geschrieben werden" + system, "file cannot be written" + system});

@@ -224,7 +224,12 @@ TEST_F(DokumenteTest, SpeichernFragtUndGehtOhneSchadenFehl) {
     waehle_datei(unbeschreibbar);
     druecke();
     EXPECT_EQ(reporttext(), vorher);
+    const auto& hinweis = such<QPlainTextEdit>("A_Report", "Hinweis");
+    EXPECT_TRUE(hinweis.isVisible());
+    EXPECT_TRUE(hinweis.toPlainText().contains(unbeschreibbar)) << hinweis.toPlainText().toStdString();
     EXPECT_EQ(QApplication::activeModalWidget(), &such("Haupt", "A_Report")) << "no message";
+    blaettere(1);
+    EXPECT_FALSE(hinweis.isVisible());
 }
 
 TEST_F(DokumenteTest, DruckenSchreibtDieGewaehltenSeitenAlsPdf) {
@@ -239,7 +244,7 @@ TEST_F(DokumenteTest, DruckenSchreibtDieGewaehltenSeitenAlsPdf) {
          {Fall{"d", "PDF-Datei", "Ausgabe: Wärmebilanz", "Effizienzfaktor Klimaanlage:", "- Seite 2 / 2 -"},
           Fall{"e", "PDF file", "Output: Heat balance", "Efficiency factor", "- Page 2 / 2 -"}}) {
         QWidget& fenster = oeffne_drucken(fall.sprache);
-        programm->plattform().drucker_waehlen(-1);  // there may be printers
+        programm->plattform().drucker_waehlen("");  // there may be printers
         menue("mnuFileDrucken").trigger();
         EXPECT_TRUE(such<QLabel>("Drucken", "DruckerName").text().endsWith(fall.drucker));
         EXPECT_EQ(such<QLabel>("Drucken", "DruckerNameUnten").text(),
@@ -288,7 +293,7 @@ TEST_F(DokumenteTest, DruckerwahlBietetImmerPdfAn) {
     QTest::keyClick(&liste, Qt::Key_End);
     druecke("Druckerwahl", "OK_Button");
     EXPECT_FALSE(wahl.isVisible());
-    EXPECT_EQ(programm->plattform().aktueller_drucker(), -1);
+    EXPECT_EQ(programm->plattform().aktueller_drucker(), "");
     EXPECT_TRUE(such<QLabel>("Drucken", "DruckerName").text().endsWith("PDF file"));
     druecke("Drucken", "Command2");
     EXPECT_FALSE(fenster.isVisible());

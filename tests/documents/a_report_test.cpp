@@ -3,6 +3,8 @@
 #include "planes/reportquelle.h"
 #include "tests/documents/reporthilfen.h"
 
+#include <array>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace velmaris {
@@ -71,16 +73,73 @@ TEST(AReport, SpeichertDieStundenDesJahres) {
     EXPECT_GT(test::inhalt(f.programm->ordner / "jahr.txt").size(), 8760U * 62U);
 }
 
-TEST(AReport, AbbruchUndFehlschlagBleibenStill) {
+TEST(AReport, AbbruchBleibtStill) {
     Fenster f;
     f.report.report_zeigen();
-    const std::string vorher = f.report.Report1.text();
     f.report.Command_Speichern.druecke();
-    f.programm->plattform.dateien = {f.programm->ordner / "fehlt/bericht.rtf"};
-    f.report.Command_Speichern.druecke();
-    EXPECT_EQ(f.programm->plattform.dialoge.size(), 2U);
-    EXPECT_TRUE(f.programm->plattform.meldungen.empty());
-    EXPECT_EQ(f.report.Report1.text(), vorher);
+    EXPECT_EQ(f.programm->plattform.dialoge.size(), 1U);
+    EXPECT_FALSE(f.report.Hinweis.sichtbar());
+}
+
+TEST(AReport, FehlschlagStehtImFensterBisEtwasGelingt) {
+    struct Fall {
+        const char* datei;
+        const char* de;
+        const char* en;
+    };
+    const std::filesystem::path volle_platte = "/dev/full";
+    const std::array<Fall, 3> faelle{
+        {{"fehlt/bericht.rtf", "den Ordner gibt es nicht", "there is no such folder"},
+         {"ordner.rtf", "ist ein Ordner, keine Datei", "is a folder, not a file"},
+         {"voll.rtf", "der Datenträger ist voll", "the disk is full"}}};
+    for (const char* sprache : {"d", "e"}) {
+        for (const Fall& fall : faelle) {
+            Fenster f(sprache);
+            std::filesystem::create_directory(f.programm->ordner / "ordner.rtf");
+            if (std::filesystem::exists(volle_platte)) {
+                std::filesystem::create_symlink(volle_platte, f.programm->ordner / "voll.rtf");
+            } else if (fall.datei == std::string("voll.rtf")) {
+                continue;
+            }
+            A_Report& a = f.report;
+            a.anordnen(900, 500);
+            const auto scheitern = [&] {
+                f.programm->plattform.dateien = {f.programm->ordner / fall.datei};
+                a.Command_Speichern.druecke();
+            };
+            for (const bool report : {true, false}) {
+                report ? a.report_zeigen() : a.temperaturverlauf_zeigen();
+                const Anzeige& text = report ? a.Report1 : a.Temperaturverlauf1;
+                const std::string vorher = text.text();
+                const double hoehe = text.lage()->hoehe;
+                scheitern();
+                ASSERT_TRUE(a.Hinweis.sichtbar());
+                const std::string& hinweis = a.Hinweis.text();
+                EXPECT_TRUE(hinweis.starts_with(sprache[0] == 'e' ? "Nothing was saved: "
+                                                                  : "Es wurde nichts gespeichert: "));
+                EXPECT_NE(hinweis.find(fall.datei), std::string::npos) << hinweis;
+                EXPECT_NE(hinweis.find(sprache[0] == 'e' ? fall.en : fall.de), std::string::npos) << hinweis;
+                EXPECT_TRUE(f.programm->plattform.meldungen.empty());
+                EXPECT_EQ(text.text(), vorher);
+                EXPECT_LE(text.lage()->oben + text.lage()->hoehe, a.Hinweis.lage()->oben);
+                EXPECT_LE(a.Hinweis.lage()->oben + a.Hinweis.lage()->hoehe, a.Seite(1).lage()->oben);
+
+                a.Command_Speichern.druecke();
+                EXPECT_TRUE(a.Hinweis.sichtbar()) << "cancelled";
+                a.Seite(2).druecke();
+                EXPECT_FALSE(a.Hinweis.sichtbar());
+                EXPECT_EQ(text.lage()->hoehe, hoehe);
+                scheitern();
+                f.programm->plattform.dateien = {f.programm->ordner / "gut"};
+                a.Command_Speichern.druecke();
+                EXPECT_FALSE(a.Hinweis.sichtbar());
+                scheitern();
+                a.Command_Schliessen.druecke();
+            }
+            a.report_zeigen();
+            EXPECT_FALSE(a.Hinweis.sichtbar());
+        }
+    }
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "planes/reportquelle.h"
 #include "tests/documents/reporthilfen.h"
 #include "tests/testdrucker.h"
+#include "toolkit/fehler.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +26,7 @@ class Weitergabe : public test::Testdrucker {
 struct Dialog {
     explicit Dialog(const std::string& sprache = "d") : programm(test::dokumentprogramm(sprache)) {
         programm->plattform.drucker = {"Laser", "Tinte"};
-        programm->plattform.druckerindex = 0;
+        programm->plattform.druckername = "Laser";
         drucken.dokument = [this](const Druckziel& wohin) {
             ziele.push_back(wohin);
             auto drucker = std::make_unique<Weitergabe>(gedruckt);
@@ -77,7 +78,8 @@ TEST(Drucken, StoerungLaesstDenDialogOffen) {
 TEST(Drucken, FragtNachDerPdfDatei) {
     Dialog d;
     d.programm->p().Datei = "C:\\Häuser\\Müller.vel";
-    d.programm->plattform.druckerindex = -1;
+    d.programm->plattform.druckername = "";
+    d.drucken.oeffnen();
     d.drucken.Druckausgabe(2).setze(1);
     d.drucken.Command1.druecke();
     ASSERT_EQ(d.programm->plattform.dialoge.size(), 1U);
@@ -115,7 +117,7 @@ TEST(Drucken, DruckerWerdenGewaehltUndPdfImmerAngeboten) {
         EXPECT_EQ(d.drucken.DruckerName.text(), zeile == 1 ? "Tinte" : "PDF-Datei");
         EXPECT_EQ(d.drucken.DruckerNameUnten.text(), d.drucken.DruckerName.text());
     }
-    EXPECT_EQ(d.programm->plattform.druckerindex, -1);
+    EXPECT_EQ(d.programm->plattform.druckername, "");
 
     d.programm->plattform.drucker.clear();
     d.drucken.oeffnen();
@@ -123,6 +125,68 @@ TEST(Drucken, DruckerWerdenGewaehltUndPdfImmerAngeboten) {
     EXPECT_EQ(wahl.Druckerliste.eintraege(), (std::vector<std::string>{"PDF-Datei"}));
     EXPECT_EQ(wahl.Hinweis.text(), "kein Drucker installiert, Ausgabe als PDF-Datei");
     EXPECT_EQ(d.drucken.DruckerName.text(), wahl.Hinweis.text());
+}
+
+/// A printer that goes: what is left is offered, and nothing is printed elsewhere without a word.
+TEST(Drucken, VerschwundenerDrucker) {
+    using Namen = std::vector<std::string>;
+    struct Fall {
+        const char* wann;
+        Namen rest;
+        void (*verschwinden)(Dialog&, const Namen& rest);
+    };
+    const auto druckt = [](Dialog& d, const Namen& rest) {
+        d.programm->plattform.drucker = rest;
+        d.drucken.Command1.druecke();
+    };
+    const auto waehlt = [](Dialog& d, const Namen& rest) {
+        d.drucken.Command3.druecke();
+        d.programm->plattform.drucker = rest;
+        d.drucken.wahl.OK_Button.druecke();
+    };
+    const auto vorgabe_wechselt = [](Dialog& d, const Namen& rest) {
+        d.programm->plattform.drucker = rest;
+        d.programm->plattform.druckername = rest.empty() ? "" : rest.front();
+        d.drucken.Command1.druecke();
+    };
+    const auto beim_beginnen = [](Dialog& d, const Namen& rest) {
+        d.drucken.dokument = [&d, &rest](const Druckziel&) -> std::unique_ptr<velmaris::Drucker> {
+            d.programm->plattform.drucker = rest;
+            throw Laufzeitfehler({"Laser antwortet nicht", "Laser does not answer"});
+        };
+        d.drucken.Command1.druecke();
+    };
+    const auto vor_dem_oeffnen = [](Dialog& d, const Namen& rest) {
+        d.drucken.Command2.druecke();
+        d.programm->plattform.drucker = rest;
+        d.drucken.oeffnen();
+        EXPECT_EQ(d.drucken.DruckerName.text(), "Laser");
+        d.drucken.Command1.druecke();
+    };
+    for (const Namen& rest : {Namen{"Tinte"}, Namen{}}) {
+        for (const Fall& fall : {Fall{"print", rest, druckt},
+                                 {"choose", rest, waehlt},
+                                 {"default", rest, vorgabe_wechselt},
+                                 {"begin", rest, beim_beginnen},
+                                 {"open", rest, vor_dem_oeffnen}}) {
+            SCOPED_TRACE(fall.wann + std::string(rest.empty() ? ", none left" : ""));
+            Dialog d;
+            d.drucken.Druckausgabe(2).setze(1);
+            fall.verschwinden(d, rest);
+            const auto& plattform = d.programm->plattform;
+            ASSERT_EQ(plattform.meldungen.size(), 1U);
+            EXPECT_NE(plattform.meldungen[0].text.find("Laser"), std::string::npos);
+            EXPECT_TRUE(plattform.dialoge.empty()) << "no PDF dialog";
+            EXPECT_EQ(d.gedruckt, 0);
+            const Druckerwahl& wahl = d.drucken.wahl;
+            EXPECT_TRUE(wahl.fenster.sichtbar());
+            Namen angebot = rest;
+            angebot.emplace_back("PDF-Datei");
+            EXPECT_EQ(wahl.Druckerliste.eintraege(), angebot);
+            EXPECT_EQ(wahl.Hinweis.text().empty(), !rest.empty());
+            EXPECT_TRUE(d.drucken.fenster.sichtbar());
+        }
+    }
 }
 
 TEST(Drucken, Beschriftungen) {

@@ -240,7 +240,7 @@ TEST_F(Fileio, BeendenFragtImmerNachEinemNamen) {
     datei().programm_beenden();
     EXPECT_EQ(plattform().dialoge.size(), 1U);
     EXPECT_TRUE(plattform().beendet);
-    EXPECT_EQ(plattform().druckerindex, 1);
+    EXPECT_EQ(plattform().druckername, "zwei");
 }
 
 TEST_F(Fileio, SchliessenDesFensters) {
@@ -251,11 +251,11 @@ TEST_F(Fileio, SchliessenDesFensters) {
     plattform().antworten = {Antwort::abbrechen, Antwort::nein};
     datei().fenster_schliessen();
     EXPECT_FALSE(plattform().beendet);
-    EXPECT_EQ(plattform().druckerindex, 0) << "the printer of the start, after a cancelled closing only";
-    plattform().druckerindex = 1;
+    EXPECT_EQ(plattform().druckername, "eins") << "the printer of the start, after a cancelled closing only";
+    plattform().druckername = "zwei";
     datei().fenster_schliessen();
     EXPECT_TRUE(plattform().beendet);
-    EXPECT_EQ(plattform().druckerindex, 1);
+    EXPECT_EQ(plattform().druckername, "zwei");
 }
 
 }  // namespace
