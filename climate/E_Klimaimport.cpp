@@ -108,6 +108,8 @@ void E_Klimaimport::verbinden() {
         AlleEingabenTesten();
         vorschau_fuellen();
     };
+    for (Auswahlliste* liste : {&Laengezusatz, &GMT})
+        liste->gewaehlt = [this] { AlleEingabenTesten(); };
     Datentrennung.geklickt = [this](int) { Datentrennung_Click(); };
     for (Scrollfeld* feld : {&HScroll1, &VScroll1})
         feld->geaendert = [this] { vorschau_fuellen(); };
@@ -166,6 +168,7 @@ void E_Klimaimport::quelle_oeffnen(const std::filesystem::path& datei) {
         kopf_leeren();
     }
     vorschau_fuellen();
+    bis_zur_ersten_benutzten_rollen();
     weitere_schritte(true);
     AlleEingabenTesten();
 }
@@ -229,7 +232,10 @@ void E_Klimaimport::AlleEingabenTesten() {
     const std::initializer_list<const Textfeld*> zahlen{&Kopfzeilen, &Breitengrad, &Laengengrad, &Zeitzone};
     Command2.aktiviere(!import_aktiv_ && std::all_of(texte.begin(), texte.end(), gefuellt) &&
                        std::all_of(zahlen.begin(), zahlen.end(), ist_zahl));
-    Namenshinweis.schreibe(in_sprache(namenshinweis(stationsname(ortsangaben()))));
+    const Ortsangaben ort = ortsangaben();
+    const std::string name = in_sprache(namenshinweis(stationsname(ort)));
+    const std::string zone = in_sprache(zonenhinweis(ort));
+    Ortshinweis.schreibe(name + (name.empty() || zone.empty() ? "" : " ") + zone);
 }
 
 void E_Klimaimport::vorschau_fuellen() {
@@ -245,6 +251,14 @@ void E_Klimaimport::vorschau_fuellen() {
     for (std::size_t i = 0; i < reihen; ++i)
         zeile_zeigen(i, kopfzeilen() + VScroll1.position() + static_cast<int>(i), HScroll1.position());
     Vorschau_aktiv_ = false;
+}
+
+/// The columns of a recognised source are assigned already: the grid begins at the first of them.
+void E_Klimaimport::bis_zur_ersten_benutzten_rollen() {
+    int spalte = 1;
+    while (spalte < importspalten && Spaltenbelegung(spalte) == belegung::unbenutzt)
+        ++spalte;
+    if (Spaltenbelegung(spalte) != belegung::unbenutzt) HScroll1.bewege(spalte);
 }
 
 void E_Klimaimport::spalten_zeigen(int erste) {
@@ -321,7 +335,9 @@ void E_Klimaimport::Command2_Click() {
     try {
         importieren();
     } catch (const Importfehler& fehler) {
-        fehler_melden(fehler.text(sprache), in_sprache(fehler.hinweis()));
+        const std::string hinweis = in_sprache(fehler.hinweis());
+        fehler_melden(fehler.text(sprache),
+                      pfadtext(quellpfad().filename()) + (hinweis.empty() ? "" : ": " + hinweis));
     } catch (const Laufzeitfehler& fehler) {
         fehler_melden(fehler.text(sprache));
     }

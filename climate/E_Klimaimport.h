@@ -48,7 +48,8 @@ struct E_Klimaimport {
     Anzeige Frame3{"Frame3"};
     Anzeige Label_Standortname{"Label_Standortname"}, Label_Land{"Label_Land"};
     Textfeld Standortname{"Standortname"}, Land{"Land"};
-    Anzeige Namenshinweis{"Namenshinweis"};  ///< what would become of the name in the file, mostly empty
+    /// What would become of the name in the file, and a zone that does not fit the longitude; mostly empty.
+    Anzeige Ortshinweis{"Ortshinweis"};
     Anzeige Label_Breitengrad{"Label_Breitengrad"}, Label_Laengengrad{"Label_Laengengrad"},
         Label_Zeitzone{"Label_Zeitzone"};
     Textfeld Breitengrad{"Breitengrad", "0123456789.,"}, Laengengrad{"Laengengrad", "0123456789.,"},
@@ -114,6 +115,7 @@ struct E_Klimaimport {
     void kopf_uebernehmen(const Quellkopf& kopf);
     void kopf_leeren();
     void vorschau_leeren();
+    void bis_zur_ersten_benutzten_rollen();
     void spalten_zeigen(int erste);
     void zeile_zeigen(std::size_t i, int zeile, int erste_spalte);
     [[nodiscard]] std::string zellentext(std::string_view zeile, int spalte) const;

@@ -1,5 +1,8 @@
 #include "climate/importkopf.h"
 
+#include "climate/importzahlen.h"
+#include "toolkit/text.h"
+
 #include <array>
 #include <utility>
 
@@ -10,6 +13,7 @@ constexpr int kopfzeilen_meteonorm = 4;
 constexpr int zeile_der_spaltennamen = 4;
 constexpr int spalten_in_sicht = 6;
 constexpr int kopfzeilen_epw = 8;
+constexpr int hoechste_kopfzeilen = 100;
 
 std::string ohne_rand(std::string_view bytes) {
     const std::string text = quelltext(bytes);
@@ -68,13 +72,62 @@ Spaltenbelegungen belegung_nach_namen(std::string_view namen) {
     return spalten;
 }
 
-/// Line of an EnergyPlus file with the data periods, which is the last of its head; nothing if it has none.
-std::optional<int> zeile_der_datenperioden(const Importquelle& quelle) {
-    constexpr int hoechste_kopfzeilen = 100;
+/// The n-th item of a line of an EnergyPlus file, empty if it has none.
+std::string epw_angabe(std::string_view zeile, int n) {
+    std::string text = ohne_rand(Spaltenteiler(Trennung::komma, {}).stelle(zeile, n).value_or(""));
+    for (std::size_t i = 0; (i = text.find("\"\"", i)) != std::string::npos; ++i)
+        text.erase(i, 1);
+    return text;
+}
+
+/// The first line that may belong to a head and is of a kind, nothing if there is none.
+std::optional<int> erste_zeile(const Importquelle& quelle, bool (*ist_es)(std::string_view)) {
     for (int n = 1; n <= hoechste_kopfzeilen; ++n) {
-        if (quelle.zeile(n).starts_with("DATA PERIODS,")) return n;
+        if (ist_es(quelle.zeile(n))) return n;
     }
     return std::nullopt;
+}
+
+bool nennt_die_datenperioden(std::string_view zeile) {
+    return epw_angabe(zeile, 1) == "DATA PERIODS";
+}
+
+/// True for a line that begins with year, month, day and hour.
+bool ist_epw_stunde(std::string_view zeile) {
+    constexpr std::array<std::pair<double, double>, 4> grenzen{{{0, 9999}, {1, 12}, {1, 31}, {0, 24}}};
+    for (std::size_t i = 0; i < grenzen.size(); ++i) {
+        const auto zahl = StringToReal(epw_angabe(zeile, static_cast<int>(i) + 1), false);
+        if (!zahl || *zahl < grenzen[i].first || *zahl > grenzen[i].second) return false;
+    }
+    return true;
+}
+
+/// The head ends with the line of the data periods, or before the first hour where there is none.
+int kopfzeilen_der_epw(const Importquelle& quelle) {
+    if (const auto perioden = erste_zeile(quelle, nennt_die_datenperioden)) return *perioden;
+    if (const auto stunde = erste_zeile(quelle, ist_epw_stunde)) return *stunde - 1;
+    return kopfzeilen_epw;
+}
+
+/// How many of the first hours of an EnergyPlus file, from a line on, are one and the same, at least 1.
+int zeilen_der_ersten_stunde(const Importquelle& quelle, int erste) {
+    const auto dieselbe = [&](int zeile) {
+        if (!ist_epw_stunde(quelle.zeile(zeile))) return false;
+        for (const int n : {2, 3, 4}) {
+            if (epw_angabe(quelle.zeile(zeile), n) != epw_angabe(quelle.zeile(erste), n)) return false;
+        }
+        return true;
+    };
+    int zeile = erste + 1;
+    while (dieselbe(zeile))
+        ++zeile;
+    return zeile - erste;
+}
+
+void namenloses_leeren(Ortsangaben& ort) {
+    for (std::string* text : {&ort.Standortname, &ort.Land}) {
+        if (!ist_benannt(*text)) text->clear();
+    }
 }
 
 }  // namespace
@@ -93,22 +146,23 @@ Quellkopf Meteonorm_Lesen(const Importquelle& quelle) {
     bool oestlich = false;
     kopf.ort.Zeitzone = betrag(ohne_rand(posten(rest)), oestlich);
     kopf.ort.gmt_minus = !oestlich;
+    namenloses_leeren(kopf.ort);
     return kopf;
 }
 
 Quellkopf Epw_Lesen(const Importquelle& quelle) {
     Quellkopf kopf{.form = Quellform::epw,
                    .trennung = Trennung::komma,
-                   .kopfzeilen = zeile_der_datenperioden(quelle).value_or(kopfzeilen_epw),
+                   .kopfzeilen = kopfzeilen_der_epw(quelle),
                    .ort = {},
                    .spalten = {}};
-    const Spaltenteiler teiler(Trennung::komma, {});
-    const auto angabe = [&](int n) { return ohne_rand(teiler.stelle(quelle.zeile(1), n).value_or("")); };
+    const auto angabe = [&](int n) { return epw_angabe(quelle.zeile(1), n); };
     kopf.ort.Standortname = angabe(2);
     kopf.ort.Land = angabe(4);
     kopf.ort.Breitengrad = betrag(angabe(7), kopf.ort.sued);
     kopf.ort.Laengengrad = betrag(angabe(8), kopf.ort.west);
     kopf.ort.Zeitzone = betrag(angabe(9), kopf.ort.gmt_minus);
+    namenloses_leeren(kopf.ort);
     kopf.spalten(7) = belegung::temperatur;
     kopf.spalten(14) = belegung::gesamtstrahlung;
     kopf.spalten(15) = belegung::direktstrahlung;
@@ -118,9 +172,16 @@ Quellkopf Epw_Lesen(const Importquelle& quelle) {
 
 std::string epw_werte_je_stunde(const Importquelle& quelle) {
     constexpr int angabe = 3;
-    const auto zeile = zeile_der_datenperioden(quelle);
-    if (!zeile) return "1";
-    return ohne_rand(Spaltenteiler(Trennung::komma, {}).stelle(quelle.zeile(*zeile), angabe).value_or("1"));
+    if (const auto zeile = erste_zeile(quelle, nennt_die_datenperioden)) {
+        const std::string anzahl = epw_angabe(quelle.zeile(*zeile), angabe);
+        if (!anzahl.empty() && StringToReal(anzahl, false) != 1) return anzahl;
+    }
+    return std::to_string(zeilen_der_ersten_stunde(quelle, kopfzeilen_der_epw(quelle) + 1));
+}
+
+bool ist_benannt(std::string_view text) {
+    const std::string klein = kleinschreiben(ohne_rand(text));
+    return !klein.empty() && klein != "-" && klein != "unknown";
 }
 
 std::optional<Quellkopf> kopf_erkennen(const Importquelle& quelle) {

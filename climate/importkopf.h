@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace velmaris {
 
@@ -54,11 +55,15 @@ struct Quellkopf {
 /// latitude, longitude, zone (north and east positive), height. Dry bulb, global horizontal, direct normal
 /// and diffuse horizontal radiation are the columns 7, 14, 15 and 16. Source: EnergyPlus documentation,
 /// Auxiliary Programs, "EnergyPlus Weather File (EPW) Data Dictionary". The head has eight lines, or more if
-/// a comment is broken: it ends with the line of the data periods.
+/// a comment is broken: it ends with the line of the data periods, or before the first hour if it has none.
 [[nodiscard]] Quellkopf Epw_Lesen(const Importquelle& quelle);
 
-/// How many rows an EnergyPlus file says it has for each hour, as it stands there; "1" if it does not say.
+/// How many rows an EnergyPlus file has for each hour: as it says, else as its first rows show; mostly "1".
 [[nodiscard]] std::string epw_werte_je_stunde(const Importquelle& quelle);
+
+/// True for the name of a place or country; a text of blanks, "-" and "unknown" (in any case) name none. The
+/// heads that are read leave such a field empty.
+[[nodiscard]] bool ist_benannt(std::string_view text);
 
 /// The head by the source's own layout, nothing if it is not recognised.
 [[nodiscard]] std::optional<Quellkopf> kopf_erkennen(const Importquelle& quelle);

@@ -1,10 +1,12 @@
 #include "climate/importquelle.h"
 
+#include "climate/importspalten.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
 #include <algorithm>
+#include <new>
 
 namespace velmaris {
 namespace {
@@ -15,6 +17,11 @@ constexpr std::string_view bytefolgezeichen = "\xEF\xBB\xBF";
 
 bool enthaelt(std::string_view text, std::string_view teil) {
     return text.find(teil) != std::string_view::npos;
+}
+
+bool nennt_einen_ort(std::string_view zeile) {
+    const Spaltenteiler teiler(Trennung::komma, {});
+    return teiler.stelle(zeile, 1) == "LOCATION" && teiler.stelle(zeile, 2);
 }
 
 /// Cuts without leaving a part of a UTF-8 character.
@@ -45,11 +52,15 @@ std::string_view Importquelle::zeile(int n) const {
 }
 
 Importquelle quelle_lesen(const std::filesystem::path& datei) {
-    return Importquelle(bytes_lesen(datei, hoechste_groesse));
+    try {
+        return Importquelle(bytes_lesen(datei, hoechste_groesse));
+    } catch (const std::bad_alloc&) {
+        throw Dateifehler(pfadtext(datei), kein_speicher());
+    }
 }
 
 Quellform quellform(const Importquelle& quelle) {
-    if (quelle.zeile(1).starts_with("LOCATION,")) return Quellform::epw;
+    if (nennt_einen_ort(quelle.zeile(1))) return Quellform::epw;
     const std::string_view namen = quelle.zeile(4);
     if (enthaelt(namen, "Ta") && (enthaelt(namen, "G_Gh") || enthaelt(namen, "G_Dh")))
         return Quellform::meteonorm;

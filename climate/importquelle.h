@@ -33,11 +33,11 @@ class Importquelle {
     std::vector<std::size_t> anfang_;  ///< places of the lines in the bytes
 };
 
-/// Reads a source whole. A file that cannot be read or is larger than any year of hours (512 MB) is a
-/// Dateifehler.
+/// Reads a source whole. A file that cannot be read, is larger than any year of hours (512 MB) or than the
+/// memory that is left is a Dateifehler.
 [[nodiscard]] Importquelle quelle_lesen(const std::filesystem::path& datei);
 
-/// The layout by which a source names itself: an EnergyPlus file in its first line ("LOCATION,"), a
+/// The layout by which a source names itself: an EnergyPlus file in its first line ("LOCATION"), a
 /// Meteonorm file by the column names of its fourth.
 [[nodiscard]] Quellform quellform(const Importquelle& quelle);
 

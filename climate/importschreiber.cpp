@@ -16,6 +16,11 @@ constexpr double hoechste_breite = 90;
 constexpr double hoechste_laenge = 180;
 constexpr double hoechste_zeitzone = 14;
 
+constexpr double grad_je_stunde = 15;
+
+/// Hours that a time zone may lie apart from the longitude: the widest zone in use reaches almost that far.
+constexpr double groesster_abstand = 3;
+
 constexpr const char* kopf_breite = "Breitengrad:  ";
 constexpr const char* kopf_laenge = "Längengrad:   ";
 constexpr const char* kopf_zeitzone = "Zeitzone:     ";
@@ -41,8 +46,9 @@ double ortszahl(const std::string& text, double hoechstens, const Zweisprachig& 
     const auto zahl = StringToReal(text, true);
     if (zahl && std::fabs(*zahl) <= hoechstens) return *zahl;
     const std::string grenze = zahltext(hoechstens);
-    throw Importfehler({groesse.de + ": \"" + text + "\" liegt nicht zwischen 0 und" + grenze + ".",
-                        groesse.en + ": \"" + text + "\" is not between 0 and" + grenze + "."});
+    const std::string was = ": \"" + quelltext(text, 40);
+    throw Importfehler({groesse.de + was + "\" liegt nicht zwischen 0 und" + grenze + ".",
+                        groesse.en + was + "\" is not between 0 and" + grenze + "."});
 }
 
 double mit_vorzeichen(double wert, bool umgekehrt) {
@@ -56,6 +62,10 @@ std::string stationsname(const Ortsangaben& ort) {
 }
 
 Stationsort stationsort(const Ortsangaben& ort) {
+    if (hat_steuerzeichen(stationsname(ort))) {
+        throw Importfehler({"Der Name oder das Land des Standorts enthält Steuerzeichen.",
+                            "The name or country of the location contains control characters."});
+    }
     const double breite = ortszahl(ort.Breitengrad, hoechste_breite, {"Breitengrad", "Latitude"});
     const double laenge = ortszahl(ort.Laengengrad, hoechste_laenge, {"Längengrad", "Longitude"});
     const double zone = ortszahl(ort.Zeitzone, hoechste_zeitzone, {"Zeitzone", "Time zone"});
@@ -79,6 +89,21 @@ Zweisprachig namenshinweis(const std::string& stationsname) {
              "Characters that the character set of station files lacks become \"?\".");
     }
     return hinweis;
+}
+
+Zweisprachig zonenhinweis(const Ortsangaben& ort) {
+    const auto laenge = StringToReal(ort.Laengengrad, true);
+    const auto zone = StringToReal(ort.Zeitzone, true);
+    if (!laenge || !zone) return {};
+    const double unterschied =
+        mit_vorzeichen(*laenge, ort.west) / grad_je_stunde - mit_vorzeichen(*zone, ort.gmt_minus);
+    // Where the date line has moved, the zone is a whole day off.
+    const double abstand = std::fabs(std::remainder(unterschied, stunden));
+    if (abstand <= groesster_abstand + 1e-9) return {};
+    const std::string zahl = muster(abstand, 1);
+    return {
+        "Längengrad und Zeitzone liegen " + zahl + " Stunden auseinander. Bitte prüfen Sie beide Vorzeichen.",
+        "Longitude and time zone are " + zahl + " hours apart. Please check both signs."};
 }
 
 std::string stationszeile(int i, const Stundenwerte& stunde) {

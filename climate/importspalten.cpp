@@ -6,15 +6,44 @@
 namespace velmaris {
 namespace {
 
+constexpr std::string_view leerraum = " \t";
 constexpr std::size_t hoechste_position = std::numeric_limits<std::int16_t>::max();
 
-std::optional<std::string_view> feld(std::string_view zeile, int n, char trenner) {
-    for (int i = 1; i < n; ++i) {
-        const std::size_t ende = zeile.find(trenner);
-        if (ende == std::string_view::npos) return std::nullopt;
-        zeile.remove_prefix(ende + 1);
+/// What stands in the double quotes around the first field of a text: the closing one has nothing but blanks
+/// between it and the next comma or the end. Nothing if the field has no such pair within a sensible length.
+std::optional<std::string_view> angefuehrt(std::string_view text) {
+    constexpr std::size_t laengstes_feld = 1000;
+    const std::size_t anfang = std::min(text.find_first_not_of(leerraum), text.size());
+    const std::string_view ab_hier = text.substr(anfang, laengstes_feld);
+    if (!ab_hier.starts_with('"')) return std::nullopt;
+    for (std::size_t i = ab_hier.find('"', 1); i != std::string_view::npos; i = ab_hier.find('"', i + 1)) {
+        const std::string_view dahinter = text.substr(anfang + i + 1);
+        const std::size_t naechstes = dahinter.find_first_not_of(leerraum);
+        if (naechstes == std::string_view::npos || dahinter[naechstes] == ',')
+            return ab_hier.substr(1, i - 1);
+        if (dahinter.front() == '"') ++i;
     }
-    return zeile.substr(0, zeile.find(trenner));
+    return std::nullopt;
+}
+
+/// Takes the first field off a line that has one; nothing is left behind the last field.
+std::string_view abnehmen(std::optional<std::string_view>& rest, char trenner) {
+    const std::string_view zeile = *rest;
+    const auto innen = trenner == ',' ? angefuehrt(zeile) : std::nullopt;
+    const std::size_t suche_ab =
+        innen ? static_cast<std::size_t>(innen->data() + innen->size() - zeile.data()) : 0;
+    const std::size_t ende = zeile.find(trenner, suche_ab);
+    rest.reset();
+    if (ende != std::string_view::npos) rest = zeile.substr(ende + 1);
+    return innen.value_or(zeile.substr(0, ende));
+}
+
+std::optional<std::string_view> feld(std::string_view zeile, int n, char trenner) {
+    std::optional<std::string_view> rest = zeile;
+    for (int i = 1; i < n && rest; ++i)
+        abnehmen(rest, trenner);
+    if (!rest) return std::nullopt;
+    return abnehmen(rest, trenner);
 }
 
 char trennzeichen(Trennung trennung) {
@@ -26,8 +55,10 @@ bool durch_leerzeichen(Trennung trennung) {
 }
 
 std::int16_t felderzahl(std::string_view zeile, char trenner) {
-    const auto trennungen = std::count(zeile.begin(), zeile.end(), trenner);
-    return static_cast<std::int16_t>(std::min<std::ptrdiff_t>(trennungen + 1, importspalten));
+    std::int16_t zahl = 0;
+    for (std::optional<std::string_view> rest = zeile; rest && zahl < importspalten; ++zahl)
+        abnehmen(rest, trenner);
+    return zahl;
 }
 
 /// The part of a line from a place (from 1) on; nothing is there behind the line's end.

@@ -9,6 +9,7 @@
 namespace velmaris {
 
 /// What tells the columns of an import source apart. The first three are the user's choice in this order.
+/// Between commas, a field may stand in double quotes: they are no part of it, and commas within are.
 enum class Trennung { tabulator, linksbuendig, rechtsbuendig, komma };
 
 /// Columns of a source that can be used.
@@ -41,7 +42,8 @@ class Spaltenteiler {
     /// `musterzeile` shows the columns where blanks separate them, and how many there are.
     Spaltenteiler(Trennung trennung, std::string_view musterzeile);
 
-    /// The n-th field (from 1) of a line, nothing if the line has none.
+    /// The n-th field (from 1) of a line, nothing if the line has none. Doubled quotes in quotes stay
+    /// doubled.
     [[nodiscard]] std::optional<std::string_view> stelle(std::string_view zeile, int n) const;
 
     /// Number of columns of the sample line, 0..`importspalten`.

@@ -18,6 +18,9 @@ constexpr int zeilen_je_meldung = 256;
 constexpr double epw_temperatur_fehlt = 99.9;
 constexpr double epw_strahlung_fehlt = 9999;
 
+/// What is below it cannot be the noise of a sensor at night, W/m2.
+constexpr double kleinste_strahlung = -50;
+
 /// From these on a value, rounded to its tenth, leaves the five columns of its field in the station file.
 constexpr double temperatur_zu_gross = 99.95;
 constexpr double strahlung_zu_gross = 9999.95;
@@ -46,6 +49,13 @@ struct Zeitstempel {
     }
 };
 
+/// True for -99, -99.9, -999 and so on, which stand for missing values in many formats.
+bool ist_negativer_fehlwert(double zahl) {
+    if (zahl > -99) return false;
+    const std::string ziffern = zahltext(zahl).substr(1);
+    return ziffern.find_first_not_of("9.") == std::string::npos;
+}
+
 /// Takes the rows of a source apart.
 class Zeilenleserei {
   public:
@@ -64,7 +74,7 @@ class Zeilenleserei {
         stunde.G_Gh = wert(zeile, spalte, Groesse::G_Gh);
         stunde.G_Dh = wert(zeile, s.diffus, Groesse::G_Dh);
         if (s.gesamt == 0) stunde.G_Gh += stunde.G_Dh;
-        if (std::fabs(runden(stunde.G_Gh)) > hoechste_strahlung) zu_gross(zeile, spalte);
+        if (runden(stunde.G_Gh) > hoechste_strahlung) zu_gross(zeile, spalte);
         return stunde;
     }
 
@@ -84,16 +94,23 @@ class Zeilenleserei {
             fehlerhaft(zeile, spalte, {was + " ist keine Zahl", was + " is not a number"});
         }
         if (fehlwert(*zahl, groesse)) {
-            const std::string was = zahltext(*zahl).substr(1);
+            const std::string was = zahltext(*zahl).substr(*zahl < 0 ? 0 : 1);
             fehlerhaft(zeile, spalte,
                        {was + " steht für einen fehlenden Wert", was + " stands for a missing value"});
         }
-        if (std::fabs(*zahl) >= (groesse == Groesse::Ta ? temperatur_zu_gross : strahlung_zu_gross))
+        if (*zahl >= (groesse == Groesse::Ta ? temperatur_zu_gross : strahlung_zu_gross))
             zu_gross(zeile, spalte);
+        if (groesse != Groesse::Ta && *zahl < kleinste_strahlung) {
+            const std::string was = quelltext(*text, 40);
+            fehlerhaft(zeile, spalte, {was + " liegt unter -50 W/m²", was + " is below -50 W/m²"});
+        }
+        if (*zahl <= -temperatur_zu_gross)
+            fehlerhaft(zeile, spalte, {"der Wert ist zu klein", "the value is too small"});
         return *zahl;
     }
 
     [[nodiscard]] bool fehlwert(double zahl, Groesse groesse) const {
+        if (ist_negativer_fehlwert(zahl)) return true;
         if (plan_.form != Quellform::epw) return false;
         return zahl >= (groesse == Groesse::Ta ? epw_temperatur_fehlt : epw_strahlung_fehlt);
     }
@@ -130,6 +147,26 @@ bool ist_ganzes_jahr(const std::vector<std::optional<int>>& plaetze) {
         belegt[static_cast<std::size_t>(*platz)] = true;
     }
     return plaetze.size() == belegt.size();
+}
+
+/// Rows with a text from a line on.
+int beschriebene_zeilen(const Importquelle& quelle, int ab) {
+    int zahl = 0;
+    for (int zeile = ab; zeile <= quelle.zeilenzahl(); ++zeile) {
+        if (quelle.zeile(zeile).find_first_not_of(" \t,") != std::string_view::npos) ++zahl;
+    }
+    return zahl;
+}
+
+/// What is said where too few rows are left.
+Importfehler zu_wenig(const Zeilenfolge& folge) {
+    const std::string zahl = std::to_string(folge.zeilen.size());
+    const Zweisprachig ohne =
+        folge.ohne_schalttag ? Zweisprachig{", ohne die des 29. Februar.", ", without those of 29 February."}
+                             : Zweisprachig{".", "."};
+    return Importfehler({"Fehler! - Zu wenig Daten. Benötigt werden 8760 Stundenwerte!",
+                         "Error! - Not enough data. 8760 hourly data is needed!"},
+                        {"Gelesen wurden " + zahl + " Zeilen" + ohne.de, zahl + " rows were read" + ohne.en});
 }
 
 /// Row i of a source becomes row i of the station file; that is the hour before it in the year.
@@ -209,8 +246,17 @@ Spaltenwahl spalten_waehlen(const Spaltenbelegungen& spalten, Quellform form) {
 }
 
 Zweisprachig jahreshinweis(const Messjahr& jahr) {
-    if (!jahr.ohne_schalttag) return {};
-    return {"Der 29. Februar der Quelle wurde ausgelassen.", "The source's 29 February was left out."};
+    if (jahr.ohne_schalttag)
+        return {"Der 29. Februar der Quelle wurde ausgelassen.", "The source's 29 February was left out."};
+    if (jahr.weitere == 0) return {};
+    const std::string zahl = std::to_string(stunden_im_jahr + jahr.weitere);
+    Zweisprachig hinweis{"Von " + zahl + " Zeilen wurden die ersten 8760 gelesen.",
+                         "Of " + zahl + " rows the first 8760 were read."};
+    if (jahr.weitere == stunden) {
+        hinweis.de += " Ein 29. Februar wurde nicht ausgelassen.";
+        hinweis.en += " A 29 February was not left out.";
+    }
+    return hinweis;
 }
 
 std::optional<Messjahr> zeilen_lesen(const Importquelle& quelle, const Leseplan& plan,
@@ -229,12 +275,8 @@ std::optional<Messjahr> zeilen_lesen(const Importquelle& quelle, const Leseplan&
             return std::nullopt;
         jahr.stunden[dateizeile(folge.plaetze[i])] = leserei.werte(folge.zeilen[i]);
     }
-    if (folge.zeilen.size() < stunden_im_jahr) {
-        const std::string zahl = std::to_string(folge.zeilen.size());
-        throw Importfehler({"Fehler! - Zu wenig Daten. Benötigt werden 8760 Stundenwerte!",
-                            "Error! - Not enough data. 8760 hourly data is needed!"},
-                           {"Gelesen wurden " + zahl + " Zeilen.", zahl + " rows were read."});
-    }
+    if (folge.zeilen.size() < stunden_im_jahr) throw zu_wenig(folge);
+    jahr.weitere = beschriebene_zeilen(quelle, folge.zeilen.back() + 1);
     return jahr;
 }
 

@@ -61,13 +61,15 @@ struct Stundenwerte {
 struct Messjahr {
     std::vector<Stundenwerte> stunden;  ///< 8760
     bool ohne_schalttag = false;        ///< a 29 February was left out
+    int weitere = 0;                    ///< rows behind the year, which were not read
 };
 
 /// What the user should know of a year that was read, mostly empty.
 [[nodiscard]] Zweisprachig jahreshinweis(const Messjahr& jahr);
 
-/// Reads and tests the 8760 hours behind the head lines; what follows is not looked at. A value that is
-/// missing or no number, that stands for a missing one or that no station file can hold is an Importfehler
+/// Reads and tests the 8760 hours behind the head lines; what follows is only counted. A value that is
+/// missing or no number, that stands for a missing one (such as -99 or -999, in an EnergyPlus file also 99.9
+/// and 9999), that no station file can hold, or a radiation below -50 W/m2 is an Importfehler
 /// with the line of the first row concerned; so are fewer rows, and an EnergyPlus file with several rows for
 /// each hour. Nothing if it was cancelled.
 ///

@@ -23,10 +23,6 @@ constexpr std::array<std::string_view, 23> vergebene_namen{
     "con",  "prn",  "aux",  "nul",  "com1", "com2", "com3", "com4", "com5", "com6", "com7", "com8",
     "com9", "lpt1", "lpt2", "lpt3", "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9", "klima"};
 
-bool ist_steuerzeichen(char zeichen) {
-    return static_cast<unsigned char>(zeichen) < ' ' || zeichen == '\x7F';
-}
-
 bool ist_vergeben(std::string_view name) {
     const std::string klein = kleinschreiben(name);
     const std::string_view vorn = std::string_view(klein).substr(0, klein.find('.'));
@@ -72,10 +68,11 @@ std::string vorgabename(std::string_view quellpfad) {
 
 std::optional<Zweisprachig> namensfehler(std::string_view name) {
     if (name.empty()) return Zweisprachig{"Der Dateiname ist leer.", "The filename is empty."};
-    const bool verboten = std::any_of(name.begin(), name.end(), [](char zeichen) {
-        return ist_steuerzeichen(zeichen) || verbotene_zeichen.find(zeichen) != std::string_view::npos;
-    });
-    if (verboten) {
+    if (hat_steuerzeichen(name)) {
+        return Zweisprachig{"Der Dateiname darf keine Steuerzeichen enthalten.",
+                            "The filename must not contain control characters."};
+    }
+    if (name.find_first_of(verbotene_zeichen) != std::string_view::npos) {
         return Zweisprachig{"Der Dateiname darf keines der Zeichen \\ / : * ? \" < > | , enthalten.",
                             "The filename must not contain any of the characters \\ / : * ? \" < > | ,"};
     }

@@ -44,7 +44,7 @@ std::optional<Druckauftrag> druckauftrag(const QStringList& angaben,
                          .pdf = utf8(leser.value(drucken)),
                          .sprache = utf8(leser.value(sprache))};
     if (leser.isSet(sprache) && auftrag.sprache != "d" && auftrag.sprache != "e") return std::nullopt;
-    if (auftrag.pdf.empty()) return std::nullopt;
+    if (auftrag.pdf.empty() || auftrag.pdf.starts_with("--")) return std::nullopt;
     if (auftrag.sprache.empty())
         auftrag.sprache = sprache_bestimmen(Befehlszeile(""), programmordner, [] { return std::nullopt; });
     if (auftrag.sprache != "e") auftrag.sprache = "d";
@@ -74,13 +74,9 @@ int drucklauf(const QStringList& angaben, const std::filesystem::path& programmo
         fehler << aufruf << '\n';
         return falscher_aufruf;
     }
-    try {
-        drucken(*auftrag, programmordner);
-        return gelungen;
-    } catch (const Laufzeitfehler& grund) {
-        fehler << in_einer_zeile(grund.text(auftrag->sprache)) << '\n';
-        return gescheitert;
-    }
+    const bool gut =
+        versuchen(fehler, auftrag->sprache, auftrag->projekt, [&] { drucken(*auftrag, programmordner); });
+    return gut ? gelungen : gescheitert;
 }
 
 }  // namespace velmaris

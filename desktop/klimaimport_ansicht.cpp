@@ -111,8 +111,9 @@ QGroupBox* standort(E_Klimaimport& e, const Ebenenbau& bau) {
     tabelle.addWidget(bau.anzeige(e.Label_Zeitzone), reihe, 0);
     tabelle.addWidget(bau.liste(e.GMT, e.Label_Zeitzone.text()), reihe, 1);
     tabelle.addWidget(bau.textfeld(e.Zeitzone, e.Label_Zeitzone.text()), reihe++, 2);
-    QLabel* hinweis = bau.anzeige(e.Namenshinweis);
+    QLabel* hinweis = bau.anzeige(e.Ortshinweis);
     hinweis->setWordWrap(true);
+    hinweis->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     tabelle.addWidget(hinweis, 2, 3, 3, 1);
     for (const int spalte : {1, 2})
         tabelle.setColumnMinimumWidth(spalte, 90);

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <exception>
 #include <iostream>
+#include <new>
 
 namespace {
 
@@ -56,10 +57,12 @@ int ohne_fenster(int argc, char** argv) {
     const QGuiApplication anwendung(argc, argv);
     try {
         return drucklauf(QCoreApplication::arguments(), programmordner(), std::cerr);
+    } catch (const std::bad_alloc&) {
+        std::cerr << "nicht genug Speicher / not enough memory\n";
     } catch (const std::exception& fehler) {
         std::cerr << fehler.what() << '\n';
-        return 1;
     }
+    return 1;
 }
 
 }  // namespace

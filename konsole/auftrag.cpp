@@ -15,7 +15,6 @@
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
-#include <functional>
 #include <ostream>
 
 namespace velmaris {
@@ -23,17 +22,6 @@ namespace {
 
 void sichern(const Haupt& haupt, const std::string& datei) {
     datei_ersetzen(pfad(datei), projekt_schreiben(haupt.p));
-}
-
-/// Runs a piece of the order; its fault becomes one line.
-bool versuchen(const Auftrag& auftrag, std::ostream& fehler, const std::function<void()>& stueck) {
-    try {
-        stueck();
-        return true;
-    } catch (const Laufzeitfehler& grund) {
-        fehler << in_einer_zeile(grund.text(auftrag.sprache)) << '\n';
-        return false;
-    }
 }
 
 /// A page of the report as text: a line for each paragraph, tabs between its columns.
@@ -61,21 +49,22 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
     Konsolenplattform plattform;
     bool gut = true;
     if (auftrag.klimaimport) {
-        gut = versuchen(auftrag, fehler, [&] {
-            const std::string bericht =
+        gut = versuchen(fehler, auftrag.sprache, auftrag.klimaimport->quelle, [&] {
+            const Importbericht bericht =
                 importieren(*auftrag.klimaimport, auftrag.programmordner, auftrag.sprache);
-            if (!auftrag.json) aus << bericht << '\n';
+            if (!auftrag.json) aus << in_einer_zeile(bericht.geschrieben) << '\n';
+            if (!bericht.warnung.empty()) fehler << in_einer_zeile(bericht.warnung) << '\n';
         });
     }
     if (auftrag.neu) {
-        gut &= versuchen(auftrag, fehler, [&] {
+        gut &= versuchen(fehler, auftrag.sprache, *auftrag.neu, [&] {
             const auto haupt = programm_vorbereiten(plattform, auftrag.programmordner, auftrag.sprache);
             sichern(*haupt, *auftrag.neu);
         });
     }
     Json ergebnisse = Json::array();
     for (const std::string& datei : auftrag.projekte) {
-        const bool gelungen = versuchen(auftrag, fehler, [&] {
+        const bool gelungen = versuchen(fehler, auftrag.sprache, datei, [&] {
             const auto haupt = projekt_rechnen(plattform, auftrag.programmordner, auftrag.sprache, datei);
             dateien_schreiben(auftrag, *haupt);
             if (auftrag.json) {
@@ -88,9 +77,12 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
         });
         gut = gut && gelungen;
     }
-    if (auftrag.json && auftrag.projekte.size() > 1) aus << ergebnisse.dump(2) << '\n';
-    if (auftrag.json && auftrag.projekte.size() == 1 && !ergebnisse.empty())
-        aus << ergebnisse[0].dump(2) << '\n';
+    if (auftrag.json && !auftrag.projekte.empty()) {
+        gut &= versuchen(fehler, auftrag.sprache, auftrag.projekte.back(), [&] {
+            if (auftrag.projekte.size() > 1) aus << json_text(ergebnisse) << '\n';
+            if (auftrag.projekte.size() == 1 && !ergebnisse.empty()) aus << json_text(ergebnisse[0]) << '\n';
+        });
+    }
     if (!aus.flush()) {
         const Zweisprachig voll{"die Ausgabe kann nicht geschrieben werden", "the output cannot be written"};
         fehler << voll.in(auftrag.sprache) << '\n';

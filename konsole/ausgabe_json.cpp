@@ -46,4 +46,8 @@ Json als_json(const Haupt& haupt) {
     return objekt;
 }
 
+std::string json_text(const Json& wert) {
+    return wert.dump(2, ' ', false, Json::error_handler_t::replace);
+}
+
 }  // namespace velmaris

@@ -18,4 +18,7 @@ using Json = nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::strin
 /// objects, the characteristic values of the heat supply, and the texts of the climate plane.
 [[nodiscard]] Json als_json(const Haupt& haupt);
 
+/// The text of a JSON value; what is no UTF-8, as a file name can be, becomes the replacement character.
+[[nodiscard]] std::string json_text(const Json& wert);
+
 }  // namespace velmaris

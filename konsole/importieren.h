@@ -7,12 +7,18 @@
 
 namespace velmaris {
 
-/// Turns a recognised source (Meteonorm, EnergyPlus) into a station file of the program folder and returns
-/// the line that says what was written. A source that is not recognised, a place without a name or country, a
-/// name that cannot be or that is taken already, and all faults of the rows are a Laufzeitfehler; nothing is
-/// written then.
-[[nodiscard]] std::string importieren(const Importauftrag& auftrag,
-                                      const std::filesystem::path& programmordner,
-                                      const std::string& sprache);
+/// What an import has to say, a line each.
+struct Importbericht {
+    std::string geschrieben;  ///< the station file and what stands in it
+    std::string warnung;      ///< what is doubtful about the place, empty if all is well
+};
+
+/// Turns a recognised source (Meteonorm, EnergyPlus) into a station file of the program folder. A source that
+/// is not recognised, a place without a name or country, a name that cannot be or that is taken already, and
+/// all faults of the rows are a Dateifehler that names the source, or the station file that is there already;
+/// nothing is written then.
+[[nodiscard]] Importbericht importieren(const Importauftrag& auftrag,
+                                        const std::filesystem::path& programmordner,
+                                        const std::string& sprache);
 
 }  // namespace velmaris

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <exception>
 #include <iostream>
+#include <new>
 
 namespace {
 
@@ -20,6 +21,7 @@ void import_beschreiben(CLI::App& app, velmaris::Importauftrag& auftrag) {
                             ->needs(quelle);
     quelle->needs(name);
     app.add_option("--land", auftrag.land, "Land des Standorts / country of the location")->needs(quelle);
+    app.add_option("--ort", auftrag.ort, "Name des Standorts / name of the location")->needs(quelle);
     app.add_flag("--ersetzen", auftrag.ersetzen,
                  "überschreibt eine vorhandene Klimadatei / overwrites a climate file of that name")
         ->needs(quelle);
@@ -43,6 +45,18 @@ void beschreiben(CLI::App& app, velmaris::Auftrag& auftrag, std::string& ordner)
         ->check(CLI::Range(1, velmaris::reportseiten))
         ->excludes(json);
     app.add_option("--ordner", ordner, "Programmordner mit klima/ / program folder with klima/");
+}
+
+/// No option is taken for the value of the option before it.
+void werte_verlangen(CLI::App& app) {
+    const CLI::Validator wert(
+        [](const std::string& text) {
+            return text.starts_with("--") ? "der Wert fehlt / the value is missing: " + text : std::string();
+        },
+        "");
+    for (CLI::Option* option : app.get_options([](const CLI::Option* o) { return o->nonpositional(); })) {
+        if (option->get_type_size() > 0) option->check(wert);
+    }
 }
 
 /// True for an order whose output takes a single project.
@@ -80,6 +94,7 @@ int lauf(int argc, char** argv) {
     std::string ordner;
     beschreiben(app, auftrag, ordner);
     import_beschreiben(app, klimaimport);
+    werte_verlangen(app);
     try {
         app.parse(argc, argv);
         if (app.count("--import") > 0) auftrag.klimaimport = klimaimport;
@@ -96,9 +111,11 @@ int lauf(int argc, char** argv) {
 int main(int argc, char** argv) {
     try {
         return lauf(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::fputs("nicht genug Speicher / not enough memory\n", stderr);
     } catch (const std::exception& fehler) {
         std::fputs(fehler.what(), stderr);
         std::fputc('\n', stderr);
-        return velmaris::projekt_fehlerhaft;
     }
+    return velmaris::projekt_fehlerhaft;
 }

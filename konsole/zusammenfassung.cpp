@@ -103,7 +103,7 @@ std::string zusammenfassung(const Haupt& haupt) {
     gebaeude(bogen, haupt.p);
     heizen_und_kuehlen(bogen, haupt.p);
     energie(bogen, haupt);
-    return haupt.p.Datei + "\n" + bogen.text();
+    return lesbar(haupt.p.Datei) + "\n" + bogen.text();
 }
 
 }  // namespace velmaris

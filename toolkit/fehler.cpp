@@ -24,12 +24,16 @@ Laufzeitfehler::Laufzeitfehler(const Zweisprachig& ort, Zweisprachig grund, std:
       feld_(std::move(feld)) {}
 
 Laufzeitfehler::Laufzeitfehler(Zweisprachig grund, std::string feld)
-    : Laufzeitfehler(ort_der_groesse(feld), std::move(grund), std::move(feld)) {}
+    : Laufzeitfehler(ort_der_groesse(feld), std::move(grund), feld) {}
 
 Dateifehler::Dateifehler(std::string datei, Zweisprachig grund, int zeile, const std::string& feld)
     : Laufzeitfehler({ort_in_datei(datei, "Zeile", zeile, feld), ort_in_datei(datei, "line", zeile, feld)},
                      std::move(grund), feld),
       datei_(std::move(datei)),
       zeile_(zeile) {}
+
+Zweisprachig kein_speicher() {
+    return {"nicht genug Speicher", "not enough memory"};
+}
 
 }  // namespace velmaris

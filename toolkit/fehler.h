@@ -39,6 +39,9 @@ class Laufzeitfehler : public std::runtime_error {
     std::string feld_;
 };
 
+/// What is said where the memory does not suffice.
+[[nodiscard]] Zweisprachig kein_speicher();
+
 /// A fault in or at a file; names the file and, where known, the line (from 1) and the field.
 class Dateifehler : public Laufzeitfehler {
   public:

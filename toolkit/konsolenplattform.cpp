@@ -1,13 +1,38 @@
 #include "toolkit/konsolenplattform.h"
 
+#include "toolkit/fehler.h"
+#include "toolkit/text.h"
+
+#include <exception>
 #include <iostream>
+#include <new>
 
 namespace velmaris {
 
 std::string in_einer_zeile(std::string text) {
     for (std::size_t ende = 0; (ende = text.find_first_of("\r\n", ende)) != std::string::npos;)
         text.replace(ende, text.compare(ende, 2, "\r\n") == 0 ? 2 : 1, " ");
-    return text;
+    return lesbar(text);
+}
+
+bool versuchen(std::ostream& fehler, const std::string& sprache, const std::string& datei,
+               const std::function<void()>& stueck) {
+    const auto melde = [&](const Laufzeitfehler& grund) {
+        fehler << in_einer_zeile(grund.text(sprache)) << '\n';
+    };
+    try {
+        stueck();
+        return true;
+    } catch (const Dateifehler& grund) {
+        melde(grund);
+    } catch (const Laufzeitfehler& grund) {
+        melde(Dateifehler(datei, {grund.text("d"), grund.text("e")}));
+    } catch (const std::bad_alloc&) {
+        melde(Dateifehler(datei, kein_speicher()));
+    } catch (const std::exception& grund) {
+        melde(Dateifehler(datei, {grund.what(), grund.what()}));
+    }
+    return false;
 }
 
 Antwort Konsolenplattform::melde(const Meldung& meldung) {

@@ -2,10 +2,19 @@
 
 #include "toolkit/plattform.h"
 
+#include <functional>
+#include <iosfwd>
+#include <string>
+
 namespace velmaris {
 
-/// A message without its line breaks, as one line of the error stream.
+/// A message as one line of the error stream, readable whatever names it holds: line breaks become blanks.
 [[nodiscard]] std::string in_einer_zeile(std::string text);
+
+/// Does a piece of work with a file. Its fault, whatever its kind, becomes one line to `fehler` that names
+/// the file at fault, which is `datei` where the fault names none. Returns whether it went well.
+bool versuchen(std::ostream& fehler, const std::string& sprache, const std::string& datei,
+               const std::function<void()>& stueck);
 
 /// The platform of a program without a screen: no dialogs, no timers, messages to stderr.
 class Konsolenplattform final : public Plattform {

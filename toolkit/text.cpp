@@ -72,6 +72,10 @@ char byte_fuer(char32_t zeichen) {
     return static_cast<char>(128 + (treffer - obere_zeichen.begin()));
 }
 
+bool ist_steuerzeichen(char32_t z) {
+    return z < 0x20 || (z >= 0x7F && z < 0xA0);
+}
+
 bool ist_grossbuchstabe(char32_t z) {
     return (z >= U'A' && z <= U'Z') || (z >= 0xC0 && z <= 0xDE && z != 0xD7);
 }
@@ -110,6 +114,24 @@ bool ist_utf8(std::string_view bytes) {
         if (naechstes_zeichen(bytes) == ersatzzeichen && vorher - bytes.size() == 1) return false;
     }
     return true;
+}
+
+std::string lesbar(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    while (!bytes.empty()) {
+        const char32_t zeichen = naechstes_zeichen(bytes);
+        anhaengen(text, ist_steuerzeichen(zeichen) ? ersatzzeichen : zeichen);
+    }
+    return text;
+}
+
+bool hat_steuerzeichen(std::string_view utf8) {
+    while (!utf8.empty()) {
+        const char32_t zeichen = naechstes_zeichen(utf8);
+        if (ist_steuerzeichen(zeichen)) return true;
+    }
+    return false;
 }
 
 std::size_t zeichenzahl(std::string_view utf8) {

@@ -20,6 +20,13 @@ namespace velmaris {
 /// True if the bytes are whole UTF-8 characters throughout.
 [[nodiscard]] bool ist_utf8(std::string_view bytes);
 
+/// A text for display in whole UTF-8 characters: bytes that belong to none and control characters become the
+/// replacement character.
+[[nodiscard]] std::string lesbar(std::string_view bytes);
+
+/// True if a text (UTF-8) holds control characters, those of one byte or the upper ones (U+0080 to U+009F).
+[[nodiscard]] bool hat_steuerzeichen(std::string_view utf8);
+
 /// Number of characters (code points) of a UTF-8 text.
 [[nodiscard]] std::size_t zeichenzahl(std::string_view utf8);
 

@@ -112,6 +112,9 @@ TEST(Klimaimport, ErkannteDateienFuellenDieFelder) {
     EXPECT_EQ(e.Kopfzeilen.text(), "8");
     EXPECT_EQ(e.Land.text(), "CHE");
     EXPECT_EQ(e.HScroll1.maximum(), e.Spaltenzahl - 5);
+    EXPECT_EQ(e.HScroll1.position(), 7);
+    EXPECT_EQ(e.Datenreihe[0].text(), "Außenlufttemperatur");
+    EXPECT_EQ(e.Zelle[0][0].text(), "-15.0");
     e.HScroll1.setze(11);
     EXPECT_THAT(texte(e.Datenreihe), ElementsAre("- unbenutzt -", "- unbenutzt -", "- unbenutzt -",
                                                  "Gesamtstrahlung", "Direktstrahlung", "Diffusstrahlung"));
@@ -189,7 +192,37 @@ TEST(Klimaimport, DerImportWartetAufAlleFelder) {
     e.Breitengrad.tippe("4.9.7");
     EXPECT_FALSE(e.Command2.aktiv());
     e.Standortname.tippe("Bern, Zoo");
-    EXPECT_THAT(e.Namenshinweis.text(), StartsWith("Ein Komma im Namen"));
+    EXPECT_THAT(e.Ortshinweis.text(), StartsWith("Ein Komma im Namen"));
+}
+
+TEST(Klimaimport, EineZeitzoneFernDesLaengengradsIstNurEinHinweis) {
+    Importprobe probe("e");
+    std::string text = Quellbau{}.epw();
+    text.replace(text.find("7.50,1.0"), 8, "-7.5,9.5");
+    probe.oeffne("bern.epw", text);
+    E_Klimaimport& e = *probe.e;
+    EXPECT_THAT(e.Ortshinweis.text(), StartsWith("Longitude and time zone are 10.0 hours apart."));
+    e.Laengengrad.tippe("140");
+    e.Laengezusatz.setze(0);
+    EXPECT_EQ(e.Ortshinweis.text(), "");
+    e.GMT.setze(1);
+    EXPECT_THAT(e.Ortshinweis.text(), HasSubstr("hours apart"));
+    probe.importiere("bern");
+    EXPECT_THAT(probe.dateien(), ElementsAre("bern.met"));
+}
+
+TEST(Klimaimport, UnbekannteOrteWerdenEingetippt) {
+    Importprobe probe;
+    std::string text = Quellbau{}.epw();
+    text.replace(text.find("Bern,BE,CHE"), 11, "unknown,-,-");
+    probe.oeffne("pvgis.epw", text);
+    E_Klimaimport& e = *probe.e;
+    for (Textfeld* feld : {&e.Standortname, &e.Land}) {
+        EXPECT_EQ(feld->text(), "");
+        EXPECT_FALSE(e.Command2.aktiv());
+        feld->tippe("Bern");
+    }
+    EXPECT_TRUE(e.Command2.aktiv());
 }
 
 TEST(Klimaimport, FehlendeSpaltenWerdenDerReiheNachGemeldet) {
@@ -313,7 +346,7 @@ TEST(Klimaimport, EineVeraenderteQuelleWirdNeuGezeigt) {
     probe.ordner.schreibe("bern.txt", kurz.meteonorm());
     const Meldung meldung = probe.importiere("bern");
     EXPECT_THAT(meldung.text, StartsWith("Die Quelldatei hat sich seit der Vorschau geändert."));
-    EXPECT_EQ(meldung.hinweis, "Zeilen vorher: 8764, jetzt: 104");
+    EXPECT_EQ(meldung.hinweis, "bern.txt: Zeilen vorher: 8764, jetzt: 104");
     EXPECT_EQ(probe.e->VScroll1.maximum(), 95);
     EXPECT_THAT(probe.importiere("bern").text, StartsWith("Fehler! - Zu wenig Daten."));
     std::filesystem::remove(probe.ordner / "bern.txt");

@@ -144,9 +144,59 @@ TEST(Importjahr, EnergyPlusNenntWoDerKopfEndetUndWieVieleWerteDieStundeHat) {
 
     std::string viertel = text;
     viertel.replace(text.find(perioden), perioden.size(), "DATA PERIODS,1,4,");
-    probe.oeffne("viertel.epw", viertel);
-    EXPECT_EQ(probe.importiere("viertel").text, "The file holds 4 values per hour. One per hour is needed.");
-    EXPECT_THAT(probe.dateien(), ElementsAre("laenger.met"));
+    // Its rows tell where a file does not: the first two are one hour.
+    const std::size_t erste = text.find("1995,");
+    const std::string doppelt =
+        text.substr(0, text.find(perioden)) + text.substr(erste, text.find('\n', erste) + 1 - erste);
+    for (const auto& [quelle, zahl] : {std::pair{viertel, "4"}, {doppelt + text.substr(erste), "2"}}) {
+        probe.oeffne("viertel.epw", quelle);
+        EXPECT_EQ(probe.importiere("viertel").text,
+                  std::string("The file holds ") + zahl + " values per hour. One per hour is needed.");
+        EXPECT_THAT(probe.dateien(), ElementsAre("laenger.met"));
+    }
+}
+
+TEST(Importjahr, QuellenWieSieVorkommen) {
+    const auto mit = [](std::string text, const std::string& alt, const std::string& neu) {
+        return text.replace(text.find(alt), alt.size(), neu);
+    };
+    const auto ohne_zeile = [](std::string text, const char* anfang) {
+        const std::size_t von = text.find(anfang);
+        return text.erase(von, text.find('\n', von) + 1 - von);
+    };
+    const std::string epw = Quellbau{}.epw();
+    const std::string lage = "46.92,7.50,1.0";
+    std::string nur_ort = epw;
+    nur_ort.erase(epw.find('\n') + 1, epw.find("1995,") - epw.find('\n') - 1);
+    struct Fall {
+        const char* name;
+        std::string quelle;
+        const char* kopf;  ///< lines 2 to 4 of the station file
+    };
+    const std::vector<Fall> faelle{
+        {"lf", Quellbau{.zeilenende = "\n"}.epw(), "46.92|-7.5|-1"},
+        {"8784 rows", Quellbau{.zeilen = 8784}.epw(true), "46.92|-7.5|-1"},
+        {"south, half an hour", mit(epw, lage, "-12.4,130.9,9.5"), "-12.4|-130.9|-9.5"},
+        {"west, half an hour", mit(epw, lage, "47.6,-52.7,-3.5"), "47.6|52.7|3.5"},
+        {"three quarters", mit(epw, lage, " 27.7 , 85.3 , 5.75 "), "27.7|-85.3|-5.75"},
+        {"quoted place", mit(epw, "Bern,BE", "\"St. Gallen, \"\"Flug\"\"\",\"BE\""), "46.92|-7.5|-1"},
+        {"quoted source", mit(epw, "IWEC Data", "\"IWEC, Data\""), "46.92|-7.5|-1"},
+        {"commas of a table", mit(epw, "565.0", "565.0,,,,,,,,"), "46.92|-7.5|-1"},
+        {"no data periods", ohne_zeile(epw, "DATA PERIODS"), "46.92|-7.5|-1"},
+        {"place alone", nur_ort, "46.92|-7.5|-1"},
+    };
+    for (const Fall& fall : faelle) {
+        SCOPED_TRACE(fall.name);
+        Importprobe probe;
+        probe.oeffne("quelle.epw", fall.quelle);
+        probe.importiere("neu");
+        vergleiche_zeilen(probe.station("neu"), vorige);
+        const auto zeilen = test::zeilen(probe.station("neu"));
+        std::string kopf;
+        for (const std::size_t i : {1U, 2U, 3U})
+            kopf += (i > 1 ? "|" : "") + zeilen[i].substr(zeilen[i].find_first_of("-0123456789"));
+        EXPECT_EQ(kopf, fall.kopf);
+    }
 }
 
 TEST(Importjahr, JedeTrennungGibtDieselbeStation) {
@@ -258,6 +308,9 @@ TEST(Importjahr, ZuWenigUndZuVieleZeilen) {
             EXPECT_EQ(probe.dateien().size(), fall.gut ? 1U : 0U) << fall.zeilen;
             if (fall.gut) {
                 vergleiche_zeilen(probe.station("bern"), gleiche);
+                EXPECT_EQ(meldung.hinweis.find(std::to_string(fall.zeilen)) != std::string::npos,
+                          fall.zeilen > 8760);
+                EXPECT_EQ(meldung.hinweis.find("29") != std::string::npos, fall.zeilen == 8784);
                 continue;
             }
             EXPECT_EQ(meldung.text, sprache == std::string("d")
@@ -273,7 +326,8 @@ TEST(Importjahr, ZuWenigUndZuVieleZeilen) {
     Importprobe probe;
     probe.oeffne("schaltjahr.epw", kurz.epw(true));
     EXPECT_THAT(probe.importiere("bern").text, testing::StartsWith("Fehler! - Zu wenig Daten."));
-    EXPECT_EQ(probe.plattform.meldungen.at(0).hinweis, "Gelesen wurden 8759 Zeilen.");
+    EXPECT_EQ(probe.plattform.meldungen.at(0).hinweis,
+              "schaltjahr.epw: Gelesen wurden 8759 Zeilen, ohne die des 29. Februar.");
 }
 
 TEST(Importjahr, DieErsteSchlechteZeileWirdGenannt) {
@@ -293,7 +347,14 @@ TEST(Importjahr, DieErsteSchlechteZeileWirdGenannt) {
         {false, {{77, ""}}, 81, "Spalte 3: der Wert fehlt"},
         {false, {{77, "1\t1\t5,5\t0\t0"}}, 81, "Spalte 3: \"5,5\" ist keine Zahl"},
         {false, {{77, "1\t1\t1e999\t0\t0"}}, 81, "Spalte 3: \"1e999\" ist keine Zahl"},
-        {false, {{77, "1\t1\t-999\t0\t0"}}, 81, "Spalte 3: der Wert ist zu groß"},
+        {false, {{77, "1\t1\t-999\t0\t0"}}, 81, "Spalte 3: -999 steht für einen fehlenden Wert"},
+        {false, {{77, "1\t1\t-99\t0\t0"}}, 81, "Spalte 3: -99 steht für einen fehlenden Wert"},
+        {false, {{77, "1\t1\t5\t-99.9\t0"}}, 81, "Spalte 4: -99.9 steht für einen fehlenden Wert"},
+        {false, {{77, "1\t1\t5\t0\t-9999.00"}}, 81, "Spalte 5: -9999 steht für einen fehlenden Wert"},
+        {false, {{77, "1\t1\t100\t0\t0"}}, 81, "Spalte 3: der Wert ist zu groß"},
+        {false, {{77, "1\t1\t-120\t0\t0"}}, 81, "Spalte 3: der Wert ist zu klein"},
+        {false, {{77, "1\t1\t-89.2\t-50\t-49.9"}}, 0, ""},
+        {false, {{77, "1\t1\t5\t-50.1\t0"}}, 81, "Spalte 4: -50.1 liegt unter -50 W/m²"},
         {false, {{77, "1\t1\t99.9\t9999\t9999.9"}}, 0, ""},
         {false, {{77, "1\t1\t5\t9999.6\t0"}}, 81, "Spalte 4: der Wert ist zu groß"},
         {false, {{77, std::string("1\t1\t5\t0\t0\0", 10)}}, 81, "Spalte 5: \"0 \" ist keine Zahl"},
@@ -303,6 +364,9 @@ TEST(Importjahr, DieErsteSchlechteZeileWirdGenannt) {
          {{9, epw + "5" + rest + "0,9999,9999."}},
          17,
          "Spalte 16: 9999 steht für einen fehlenden Wert"},
+        {true, {{9, epw + "-99.9" + rest + "0,0,0"}}, 17, "Spalte 7: -99.9 steht für einen fehlenden Wert"},
+        {true, {{9, epw + "5" + rest + "0,0,-60"}}, 17, "Spalte 16: -60 liegt unter -50 W/m²"},
+        {true, {{9, epw + "5" + rest + "0,-9999,0"}}, 0, ""},
         {true, {{9, epw + "5" + rest + "0,9999,0"}}, 0, ""},
         {true, {{9, epw + "5"}}, 17, "Spalte 14: der Wert fehlt"},
     };
@@ -321,7 +385,7 @@ TEST(Importjahr, DieErsteSchlechteZeileWirdGenannt) {
             if (sprache == std::string("d")) {
                 EXPECT_EQ(meldung.text,
                           "Fehler in Zeile " + nummer + "\r\nKlimadatenimport wurde abgebrochen!");
-                EXPECT_EQ(meldung.hinweis, fall.hinweis);
+                EXPECT_EQ(meldung.hinweis, "bern.txt: " + fall.hinweis);
             } else {
                 EXPECT_EQ(meldung.text, "Error in line " + nummer + "\r\nImport has been aborted!");
             }

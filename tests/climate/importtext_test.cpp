@@ -92,6 +92,30 @@ TEST(Importspalten, LeerzeichenTrennenNachDerMusterzeile) {
     }
 }
 
+TEST(Importspalten, AnfuehrungHaeltKommasZusammen) {
+    struct Fall {
+        std::string_view zeile;
+        std::vector<std::string> felder;
+    };
+    const std::string lang = "\"" + std::string(2000, 'x');
+    for (const Fall& fall :
+         {Fall{R"(a,"b, c",d)", {"a", "b, c", "d", nichts}}, Fall{R"("a","",c)", {"a", "", "c", nichts}},
+          Fall{R"(a , "b,c" ,"d")", {"a ", "b,c", "d", nichts}},
+          Fall{R"("a ""b"", c",d)", {R"(a ""b"", c)", "d", nichts}},
+          Fall{R"("""b""",d)", {R"(""b"")", "d", nichts}},
+          // A quote that no other closes, or within a field, is a character like others.
+          Fall{R"("a,b,c)", {"\"a", "b", "c", nichts}},
+          Fall{R"(a "b,c" d,e)", {"a \"b", "c\" d", "e", nichts}},
+          Fall{R"("a" b,c)", {"\"a\" b", "c", nichts}}, Fall{R"(a,")", {"a", "\"", nichts}},
+          Fall{lang, {lang, nichts}}}) {
+        const Spaltenteiler teiler(Trennung::komma, fall.zeile);
+        for (std::size_t i = 0; i < fall.felder.size(); ++i)
+            EXPECT_EQ(oder_nichts(teiler.stelle(fall.zeile, static_cast<int>(i) + 1)), fall.felder[i])
+                << fall.zeile << ' ' << i;
+        EXPECT_EQ(teiler.spaltenzahl(), static_cast<int>(fall.felder.size()) - 1) << fall.zeile;
+    }
+}
+
 TEST(Importspalten, SindHoechstensHundert) {
     std::string blanks, tabs;
     for (int i = 0; i < 150; ++i) {
@@ -128,7 +152,8 @@ TEST(Importquelle, KenntIhreZeilenUndIhreForm) {
           Fall{"a\nb\nc\nTa G_Dh", Quellform::meteonorm}, Fall{"a\nb\nc\ndy\tTa\tG_Bh\n", Quellform::frei},
           Fall{"a\nb\nc\nG_Gh\tG_Dh\n", Quellform::frei}, Fall{"a\nb\nTa\tG_Gh\n", Quellform::frei},
           Fall{"LOCATION,Bern", Quellform::epw}, Fall{"\xEF\xBB\xBFLOCATION,Bern", Quellform::epw},
-          Fall{"LOCATION;Bern", Quellform::frei}, Fall{"Location,Bern", Quellform::frei}})
+          Fall{"\"LOCATION\",\"Bern\"", Quellform::epw}, Fall{"LOCATION;Bern", Quellform::frei},
+          Fall{"LOCATION", Quellform::frei}, Fall{"Location,Bern", Quellform::frei}})
         EXPECT_EQ(quellform(Importquelle(fall.text)), fall.form) << fall.text;
 }
 
@@ -160,6 +185,7 @@ TEST(Importkopf, MeteonormNenntDenOrtOhneDasLand) {
         {"Ort\n50, 10, 0, -1 , 7\n\nTa\tG_Gh\tx\tx\tx\tG_Dh\tTa\n",
          {"Ort", "", "50", false, "10", false, "1", false},
          {0, 2, 0, 0, 0, 4, 0}},
+        {"unknown\n50,10,0,-1\n\nTa G_Gh\n", {"", "", "50", false, "10", false, "1", false}, {2}},
         {"\"\n50\n\nTa G_Gh\n", {"", "", "50", false, "", false, "", true}, {2, 0, 0, 0, 0, 0, 0}}};
     for (const Fall& fall : faelle) {
         const Quellkopf kopf = Meteonorm_Lesen(Importquelle(fall.kopf));
@@ -180,6 +206,13 @@ TEST(Importkopf, EnergyPlusNenntAllesInDerErstenZeile) {
                                   {"Bern", "CHE", "46.92", false, "7.50", false, "1.0", false}},
                              Fall{"LOCATION, S\xE3o Paulo ,SP,BRA,X,1,-23.62,-46.65,-3.0,803.0\r\n",
                                   {"São Paulo", "BRA", "23.62", true, "46.65", true, "3.0", true}},
+                             Fall{R"(LOCATION,"Bern ""Zoo"", Ost","BE, x","CHE","IWEC, 2",066310,"46.92",)"
+                                  R"("-7.50",1.0,565.0)",
+                                  {"Bern \"Zoo\", Ost", "CHE", "46.92", false, "7.50", true, "1.0", false}},
+                             Fall{"LOCATION, - ,-,UNKNOWN,ECMWF,unknown,45,8,5.5,250",
+                                  {"", "", "45", false, "8", false, "5.5", false}},
+                             Fall{"LOCATION,Unknown Creek,-,\"-\",X,1,45,8,-3.5,250",
+                                  {"Unknown Creek", "", "45", false, "8", false, "3.5", true}},
                              Fall{"LOCATION,Kurz", {"Kurz", "", "", false, "", false, "", false}}}) {
         const Quellkopf kopf = Epw_Lesen(Importquelle(fall.kopf));
         EXPECT_EQ(kopf.ort, fall.ort) << fall.kopf;
@@ -249,9 +282,39 @@ TEST(Stationsdatei, DerOrtLiegtAufDerErde) {
         ort.*feld = schlecht;
         EXPECT_THROW(static_cast<void>(stationsort(ort)), Importfehler) << schlecht;
     }
+    for (const char* schlecht : {"a\tb", "a\nb", "\x1B[1m", "a\x7F", "\xC2\x85"}) {
+        for (const auto feld : {&Ortsangaben::Standortname, &Ortsangaben::Land}) {
+            Ortsangaben ort = gut;
+            ort.*feld = schlecht;
+            EXPECT_THROW(static_cast<void>(stationsort(ort)), Importfehler) << schlecht;
+        }
+    }
     EXPECT_EQ(namenshinweis("Zürich (Schweiz)").de, "");
     EXPECT_NE(namenshinweis("Bern, Zoo (CH)").en.find("comma"), std::string::npos);
     EXPECT_NE(namenshinweis("Łódź (PL)").en.find("character set"), std::string::npos);
+}
+
+TEST(Stationsdatei, EinFremderZeitzonenwertWirdBemerkt) {
+    struct Fall {
+        Ortsangaben ort;
+        const char* stunden;  ///< in the hint, empty for none
+    };
+    const auto ort = [](const char* laenge, bool west, const char* zone, bool minus) {
+        return Ortsangaben{"O", "L", "50", false, laenge, west, zone, minus};
+    };
+    for (const Fall& fall :
+         {Fall{ort("7.5", false, "1", false), ""}, Fall{ort("7.5", true, "9", false), "9.5"},
+          Fall{ort("7,5", true, "9,0", false), "9.5"}, Fall{ort("120", false, "8", true), "8.0"},
+          Fall{ort("45", false, "0", false), ""}, Fall{ort("45.3", false, "0", false), "3.0"},
+          // Kashgar, Samoa and Kiribati keep such times.
+          Fall{ort("76", false, "8", false), ""}, Fall{ort("171.8", true, "13", false), ""},
+          Fall{ort("157.4", true, "14", false), ""}, Fall{ort("", true, "9", false), ""},
+          Fall{ort("100", true, "", false), ""}}) {
+        const Zweisprachig hinweis = zonenhinweis(fall.ort);
+        EXPECT_EQ(hinweis.en.empty(), *fall.stunden == '\0') << fall.ort.Laengengrad;
+        EXPECT_NE(hinweis.en.find(fall.stunden), std::string::npos) << hinweis.en;
+        EXPECT_EQ(hinweis.de.empty(), hinweis.en.empty());
+    }
 }
 
 TEST(Importziel, NamenGeltenAufJedemSystem) {

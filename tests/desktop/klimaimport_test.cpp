@@ -92,6 +92,12 @@ std::string spaltendatei() {
     });
 }
 
+/// A source whose longitude and time zone do not fit each other.
+std::string ferne_zeitzone() {
+    std::string text = Quellbau{}.epw();
+    return text.replace(text.find("7.50,1.0"), 8, "-17.5,11");
+}
+
 /// The pictures are kept in the folder that VELMARIS_BILDER names, to be looked at.
 TEST_F(KlimaimportTest, NichtsIstAbgeschnitten) {
     const QTemporaryDir fluechtig;
@@ -106,7 +112,8 @@ TEST_F(KlimaimportTest, NichtsIstAbgeschnitten) {
                                    {"tabulator", tabelle(), "Łódź, Zoo", 1},
                                    {"spalten", spaltendatei(), "", 1},
                                    {"meteonorm", Quellbau{}.meteonorm(), "", 1},
-                                   {"epw", Quellbau{}.epw(), "", 13}};
+                                   {"epw", Quellbau{}.epw(), "", 13},
+                                   {"zeitzone", ferne_zeitzone(), "Łódź, Zoo", 7}};
     for (const char* sprache : {"d", "e"}) {
         oeffne_fenster(sprache);
         QWidget& fenster = such("Haupt", ebene);
@@ -199,7 +206,7 @@ TEST_F(KlimaimportTest, JedesBedienelementWirkt) {
     QTest::keyClick(&breite, Qt::Key_Left);
     QTest::keyClicks(&breite, QStringLiteral("x5"));
     EXPECT_EQ(breite.text(), "47,53") << "the cursor stays where it was";
-    EXPECT_TRUE(such<QLabel>(ebene, "Namenshinweis").text().startsWith("A comma in the name"));
+    EXPECT_TRUE(such<QLabel>(ebene, "Ortshinweis").text().startsWith("A comma in the name"));
 
     tippe("DateinameBox", (ordner / "fehlt.txt").string().c_str());
     antworte(QMessageBox::Ok, [](QMessageBox& box) {

@@ -6,8 +6,11 @@
 #include "toolkit/konsolenplattform.h"
 #include "toolkit/text.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <new>
 #include <sstream>
+#include <stdexcept>
 
 namespace velmaris {
 namespace {
@@ -63,6 +66,45 @@ TEST_F(Konsole, JsonGibtJedesFeldGenauZurueck) {
 TEST(Konsolenplattform, MeldungenStehenInEinerZeile) {
     EXPECT_EQ(in_einer_zeile("eins\rzwei\r\ndrei\nvier"), "eins zwei drei vier");
     EXPECT_EQ(in_einer_zeile("\n"), " ");
+    EXPECT_EQ(in_einer_zeile("h\xE4user/\x1B[m\x07.vel"), "h\uFFFDuser/\uFFFD[m\uFFFD.vel");
+}
+
+TEST(Konsolenplattform, JederFehlerNenntSeineDatei) {
+    struct Fall {
+        std::function<void()> stueck;
+        const char* zeile;
+    };
+    for (const Fall& fall : {Fall{[] {}, ""},
+                             Fall{[] {
+                                      throw Dateifehler("a.met", {"schlecht", "bad"});
+                                  },
+                                  "a.met: bad\n"},
+                             Fall{[] {
+                                      throw Laufzeitfehler({"schlecht", "bad"}, "f_gd");
+                                  },
+                                  "haus.vel: f_gd: bad\n"},
+                             Fall{[] { throw std::bad_alloc(); }, "haus.vel: not enough memory\n"},
+                             Fall{[] { throw std::length_error("too\nlong"); }, "haus.vel: too long\n"}}) {
+        std::ostringstream fehler;
+        EXPECT_EQ(versuchen(fehler, "e", "haus.vel", fall.stueck), *fall.zeile == '\0');
+        EXPECT_EQ(fehler.str(), fall.zeile);
+    }
+}
+
+TEST_F(Konsole, DateinamenOhneUtf8SchadenDerAusgabeNicht) {
+    const auto eigen = programm.ordner / "h\xFC\xFFus.vel";
+    std::filesystem::copy_file(pfad(haus), eigen);
+    auftrag.projekte = {pfadtext(eigen), haus, pfadtext(programm.ordner / "fehlt\xFF.vel")};
+    auftrag.json = true;
+    EXPECT_EQ(laufen(), projekt_fehlerhaft);
+    const Json ergebnisse = Json::parse(aus.str());
+    ASSERT_EQ(ergebnisse.size(), 2U);
+    EXPECT_TRUE(ergebnisse[0]["Datei"].get<std::string>().ends_with("h\uFFFD\uFFFDus.vel"));
+    EXPECT_TRUE(fehler.str().ends_with("fehlt\uFFFD.vel: file not found\n")) << fehler.str();
+    aus.str({});
+    auftrag.json = false;
+    laufen();
+    EXPECT_TRUE(ist_utf8(aus.str()));
 }
 
 TEST_F(Konsole, EinFehlerHaeltDieAnderenNichtAuf) {
