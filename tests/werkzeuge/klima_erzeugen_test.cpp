@@ -130,11 +130,96 @@ std::vector<double> ohne_jahresgang(std::vector<double> tage) {
     return tage;
 }
 
-/// Extraterrestrial radiation on a plane that faces the sun, by the series of J. W. Spencer (1971).
-double draussen_nach_spencer(int n) {
-    const double g = 2 * std::numbers::pi * (n - 1) / 365;
-    return 1367 * (1.000110 + 0.034221 * std::cos(g) + 0.001280 * std::sin(g) + 0.000719 * std::cos(2 * g) +
-                   0.000077 * std::sin(2 * g));
+/// The sun by the series of J. W. Spencer (1971), which share nothing with the program's formulas.
+struct SpencerSonne {
+    explicit SpencerSonne(std::size_t tag) : g(2 * std::numbers::pi * static_cast<double>(tag) / 365) {}
+
+    [[nodiscard]] double deklination() const {
+        return 0.006918 - 0.399912 * std::cos(g) + 0.070257 * std::sin(g) - 0.006758 * std::cos(2 * g) +
+               0.000907 * std::sin(2 * g) - 0.002697 * std::cos(3 * g) + 0.00148 * std::sin(3 * g);
+    }
+    [[nodiscard]] double zeitgleichung_h() const {
+        return 229.18 / 60 *
+               (0.000075 + 0.001868 * std::cos(g) - 0.032077 * std::sin(g) - 0.014615 * std::cos(2 * g) -
+                0.040849 * std::sin(2 * g));
+    }
+    /// W/m² on a plane that faces the sun outside the air.
+    [[nodiscard]] double draussen() const {
+        return 1367 * (1.000110 + 0.034221 * std::cos(g) + 0.001280 * std::sin(g) +
+                       0.000719 * std::cos(2 * g) + 0.000077 * std::sin(2 * g));
+    }
+
+    double g;  ///< the day's angle in the year
+};
+
+/// A place by its facts.
+struct Ort {
+    explicit Ort(const std::map<std::string, std::string>& fakten)
+        : breite(std::stod(fakten.at("breite_n"))),
+          nachgang_h(std::stod(fakten.at("utc_h")) - std::stod(fakten.at("laenge_o")) / 15) {}
+
+    /// Clock time of noon and half the length of day `tag` (0 on), hours.
+    [[nodiscard]] double mittag(std::size_t tag) const {
+        return 12 + nachgang_h - SpencerSonne(tag).zeitgleichung_h();
+    }
+    [[nodiscard]] double halber_tag(std::size_t tag) const {
+        const double x =
+            -std::tan(breite * std::numbers::pi / 180) * std::tan(SpencerSonne(tag).deklination());
+        return std::acos(std::clamp(x, -1.0, 1.0)) * 12 / std::numbers::pi;
+    }
+    /// Mean of the extraterrestrial radiation on the horizontal in the hour that ends at h, from 20 moments.
+    [[nodiscard]] double draussen(std::size_t tag, int h) const {
+        const SpencerSonne sonne(tag);
+        const double phi = breite * std::numbers::pi / 180;
+        const double delta = sonne.deklination();
+        double mittel = 0;
+        for (int i = 0; i < 20; ++i) {
+            const double omega = (h - 1 + (i + 0.5) / 20 - mittag(tag)) * std::numbers::pi / 12;
+            mittel += std::max(0.0, std::sin(phi) * std::sin(delta) +
+                                        std::cos(phi) * std::cos(delta) * std::cos(omega)) /
+                      20;
+        }
+        return mittel * sonne.draussen();
+    }
+
+    double breite;      ///< degrees north
+    double nachgang_h;  ///< by how much noon comes after 12 o'clock in the year's mean
+};
+
+/// Correlation of the deviations from the months' means over the months of a season.
+double korrelation(const std::vector<double>& a, const std::vector<double>& b, const std::vector<int>& in) {
+    double ab = 0;
+    double aa = 0;
+    double bb = 0;
+    std::size_t tag = 0;
+    for (int m = 1; m <= 12; ++m) {
+        for (int d = 0; d < monatslaengen[static_cast<std::size_t>(m - 1)]; ++d, ++tag) {
+            if (std::ranges::find(in, m) == in.end()) continue;
+            ab += a[tag] * b[tag];
+            aa += a[tag] * a[tag];
+            bb += b[tag] * b[tag];
+        }
+    }
+    return ab / std::sqrt(aa * bb);
+}
+
+double wurzel_des_mittels(const std::vector<double>& werte) {
+    return std::sqrt(std::inner_product(werte.begin(), werte.end(), werte.begin(), 0.0) /
+                     static_cast<double>(werte.size()));
+}
+
+std::vector<double> tageshoechste(const std::vector<double>& stundenwerte) {
+    std::vector<double> hoechste;
+    for (std::size_t i = 0; i < stundenwerte.size(); i += 24)
+        hoechste.push_back(*std::max_element(&stundenwerte[i], &stundenwerte[i] + 24));
+    return hoechste;
+}
+
+std::vector<double> tagesspannen_von(const std::vector<double>& stundenwerte) {
+    std::vector<double> spannen = tageshoechste(stundenwerte);
+    for (std::size_t i = 0; i < spannen.size(); ++i)
+        spannen[i] -= *std::min_element(&stundenwerte[24 * i], &stundenwerte[24 * i] + 24);
+    return spannen;
 }
 
 /// The delivered set, made once per run of the test program.
@@ -236,23 +321,31 @@ TEST_F(Klimasatz, DieMonateHaltenDieFakten) {
 
 TEST_F(Klimasatz, DieStrahlungKommtVonDerSonne) {
     fuer_jede_station([](const auto& fakten, const Dateijahr& jahr) {
+        const Ort ort(fakten);
         const double laenge = -std::stod(fakten.at("laenge_o"));
         const double zone = -std::stod(fakten.at("utc_h"));
-        const Standort ort{static_cast<float>(std::stod(fakten.at("breite_n")) * 0.01745),
-                           static_cast<float>(laenge - 15 * zone)};
+        const Standort gelesen{static_cast<float>(ort.breite * 0.01745),
+                               static_cast<float>(laenge - 15 * zone)};
         double klarste = 0;
         double staerkster = 0;
         for (std::size_t i = 0; i < 8760; ++i) {
-            const int n = static_cast<int>(i) / 24 + 1;
-            const int h = static_cast<int>(i) % 24 + 1;
+            const std::size_t tag = i / 24;
+            const int h = static_cast<int>(i % 24) + 1;
             if (jahr.diffus[i] > jahr.global[i]) FAIL() << "diffuse above global: " << jahr.zeilen[i];
-            const double faktor = direktfaktor_horizontal(ort, n, probezeit(sonnentag(ort, n), h));
-            if (faktor == 0 && jahr.global[i] > 0) FAIL() << "without a sun: hour " << h << jahr.zeilen[i];
-            klarste = std::max(klarste, jahr.global[i] * faktor / draussen_nach_spencer(n));
-            staerkster = std::max(staerkster, (jahr.global[i] - jahr.diffus[i]) * faktor);
+            const int n = static_cast<int>(tag) + 1;
+            const double faktor = direktfaktor_horizontal(gelesen, n, probezeit(sonnentag(gelesen, n), h));
+            const double strahl = (jahr.global[i] - jahr.diffus[i]) * faktor;
+            if (faktor == 0 && jahr.global[i] > jahr.diffus[i])
+                FAIL() << "lost: hour " << h << jahr.zeilen[i];
+            if (faktor > 10 && strahl > 450) FAIL() << "low sun: hour " << h << jahr.zeilen[i];
+            staerkster = std::max(staerkster, strahl);
+            if (tag % 5 != 0 || jahr.global[i] <= 0) continue;
+            const double draussen = ort.draussen(tag, h);
+            if (jahr.global[i] > draussen) FAIL() << "above the sun: hour " << h << jahr.zeilen[i];
+            if (draussen > 100) klarste = std::max(klarste, jahr.global[i] / draussen);
         }
-        // The two ways of telling the sun's distance differ by up to 0.3 %.
-        EXPECT_LE(klarste, 0.85 * 1.003);
+        // The ways of telling the sun's place and distance differ by up to 1.5 %.
+        EXPECT_LE(klarste, 0.85 * 1.015);
         EXPECT_GT(klarste, 0.7);
         EXPECT_LE(staerkster, 1100);
         EXPECT_GT(staerkster, 700);
@@ -273,7 +366,7 @@ TEST_F(Klimasatz, DieTageHabenEinGedaechtnisUndKeineBrueche) {
         };
         double alle = 0;
         for (std::size_t i = 0; i < 8760; ++i)
-            EXPECT_LE(sprung(jahr.ta, i), 5) << i;
+            EXPECT_LE(sprung(jahr.ta, i), 5.5) << i;
         for (std::size_t i = 0; i < 365; ++i)
             alle += sprung(tage, i) / 365;
         std::size_t erster = 0;
@@ -288,34 +381,94 @@ TEST_F(Klimasatz, DieTageHabenEinGedaechtnisUndKeineBrueche) {
     EXPECT_NEAR(mittel, 1, 0.08);
 }
 
-/// The afternoon is the warmest, and clear days have the wider range.
+/// The lowest of a month's mean day lies at sunrise, the highest about two hours after noon. Beyond 55
+/// degrees weather hides the small waves of winter.
 TEST_F(Klimasatz, DerTagFolgtDerSonne) {
     fuer_jede_station([](const auto& fakten, const Dateijahr& jahr) {
-        std::array<double, 24> gang{};
-        for (std::size_t i = 0; i < 8760; ++i)
-            gang[i % 24] += jahr.ta[i] / 365;
-        const auto waermste = std::max_element(gang.begin(), gang.end()) - gang.begin() + 1;
-        const double mittag =
-            12 + (std::stod(fakten.at("utc_h")) * 15 - std::stod(fakten.at("laenge_o"))) / 15;
-        EXPECT_NEAR(static_cast<double>(waermste) - 0.5, mittag + 3, 1.5);
-        double klar = 0;
-        double truebe = 0;
+        const Ort ort(fakten);
         std::size_t erster = 0;
         for (const int laenge : monatslaengen) {
-            std::vector<std::pair<double, double>> tage;
-            for (int d = 0; d < laenge; ++d, erster += 24) {
-                const auto [kleinster, groesster] =
-                    std::minmax_element(&jahr.ta[erster], &jahr.ta[erster] + 24);
-                tage.emplace_back(std::accumulate(&jahr.global[erster], &jahr.global[erster] + 24, 0.0),
-                                  *groesster - *kleinster);
-            }
-            std::sort(tage.begin(), tage.end());
-            for (std::size_t i = 0; i < 10; ++i) {
-                truebe += tage[i].second;
-                klar += tage[tage.size() - 1 - i].second;
-            }
+            std::array<double, 24> gang{};
+            for (std::size_t i = 0; i < static_cast<std::size_t>(laenge) * 24; ++i)
+                gang[i % 24] += jahr.ta[erster * 24 + i];
+            const auto mitte_der_stunde = [&](auto stelle) {
+                return static_cast<double>(stelle - gang.begin()) + 0.5;
+            };
+            const std::size_t tag = erster + 15;
+            erster += static_cast<std::size_t>(laenge);
+            if (std::fabs(ort.breite) > 55) continue;
+            EXPECT_NEAR(mitte_der_stunde(std::ranges::max_element(gang)), ort.mittag(tag) + 1.8, 1) << tag;
+            EXPECT_NEAR(mitte_der_stunde(std::ranges::min_element(gang)),
+                        ort.mittag(tag) - ort.halber_tag(tag) - 0.6, 1)
+                << tag;
         }
-        EXPECT_GT(klar, 1.1 * truebe);
+    });
+}
+
+/// Scatter of the daily means, and what warmth and sun have in common: figures of typical reference years.
+/// With ten or so free days in a season a correlation of a single year is good to 0.15.
+TEST_F(Klimasatz, SonneUndWaermeGehoerenZusammen) {
+    std::vector<double> im_sommer;
+    std::vector<double> im_winter;
+    std::map<std::string, double> streuung;
+    fuer_jede_station([&](const auto& fakten, const Dateijahr& jahr) {
+        const std::vector<double> waerme = ohne_monatsmittel(tagesmittel_von(jahr.ta));
+        const std::vector<double> sonne = ohne_monatsmittel(tagesmittel_von(jahr.global));
+        streuung[fakten.at("datei")] = wurzel_des_mittels(ohne_jahresgang(tagesmittel_von(jahr.ta)));
+        const double breite = Ort(fakten).breite;
+        const std::vector<int> juni{6, 7, 8};
+        const std::vector<int> dezember{12, 1, 2};
+        const double sommer = korrelation(waerme, sonne, breite > 0 ? juni : dezember);
+        EXPECT_GT(sommer, 0);
+        EXPECT_LT(sommer, 0.75);
+        EXPECT_GT(korrelation(ohne_monatsmittel(tagesspannen_von(jahr.ta)), sonne, {3, 4, 5, 9, 10, 11}), 0.4)
+            << "clear days have the wider range";
+        if (std::fabs(breite) < 35 || std::fabs(breite) > 60) return;
+        im_sommer.push_back(sommer);
+        im_winter.push_back(korrelation(waerme, sonne, breite > 0 ? dezember : juni));
+        EXPECT_GT(im_sommer.back(), 0.3);
+        EXPECT_LT(im_winter.back(), 0.05);
+    });
+    const auto mittel = [](const std::vector<double>& zahlen) {
+        return std::accumulate(zahlen.begin(), zahlen.end(), 0.0) / static_cast<double>(zahlen.size());
+    };
+    // Mannheim 0.53, Zürich 0.52, Amsterdam 0.40, Tokyo 0.66, Chicago 0.22.
+    EXPECT_NEAR(mittel(im_sommer), 0.5, 0.06);
+    EXPECT_NEAR(mittel(im_winter), -0.3, 0.08);
+    EXPECT_NEAR(streuung.at("bogota.met"), 0.74, 0.1);
+    EXPECT_NEAR(streuung.at("antananarivo.met"), 1.23, 0.12);
+    EXPECT_NEAR(streuung.at("frankfurt_main.met"), 3.5, 0.4);
+}
+
+/// Days above 30 °C and the longest run of them, and no year beyond what its part of the world has measured.
+TEST_F(Klimasatz, DerSommerHatHeisseTage) {
+    struct Fall {
+        const char* datei;
+        int wenigstens, hoechstens, am_stueck;
+    };
+    for (const Fall& fall : {Fall{"zürich.met", 5, 14, 2},
+                             {"frankfurt_main.met", 10, 20, 3},
+                             {"freiburg.met", 12, 25, 3},
+                             {"genf.met", 12, 22, 3},
+                             {"wien.met", 15, 27, 3},
+                             {"hamburg.met", 3, 9, 2},
+                             {"reykjavik.met", 0, 0, 0}}) {
+        int heiss = 0;
+        int lauf = 0;
+        int laengster = 0;
+        for (const double wert : tageshoechste(zerlegen(bytes_.at(fall.datei)).ta)) {
+            lauf = wert > 30 ? lauf + 1 : 0;
+            heiss += wert > 30 ? 1 : 0;
+            laengster = std::max(laengster, lauf);
+        }
+        EXPECT_GE(heiss, fall.wenigstens) << fall.datei;
+        EXPECT_LE(heiss, fall.hoechstens) << fall.datei;
+        EXPECT_GE(laengster, fall.am_stueck) << fall.datei;
+    }
+    fuer_jede_station([](const auto& fakten, const Dateijahr& jahr) {
+        const auto [kaelteste, waermste] = std::ranges::minmax(jahr.ta);
+        EXPECT_LT(waermste, fakten.at("gruppe") == "D" ? 39 : 51);
+        EXPECT_GT(kaelteste, fakten.at("gruppe") == "D" ? -22 : -60);
     });
 }
 
@@ -329,7 +482,7 @@ TEST(KlimaErzeugen, GibtImmerDieselbenBytes) {
         EXPECT_EQ(in_einem[i].bytes, in_dreien[i].bytes);
     }
     EXPECT_NE(in_einem[0].bytes, in_einem[1].bytes);
-    EXPECT_EQ(fnv1a(in_einem[3].bytes), 15833019909840803193U) << "trier.met changed";
+    EXPECT_EQ(fnv1a(in_einem[3].bytes), 13777168356615980189U) << "trier.met changed";
 }
 
 TEST(KlimaErzeugen, NenntDenFaktDenDieSonneNichtHergibt) {
@@ -363,7 +516,7 @@ TEST(Untersuchen, BemerktJedenSchaden) {
         heiss.replace(stelle(200, h, 6), 5, " 35.0");
     std::string hell = gut;
     for (int n = 1; n <= 31; ++n)
-        hell.replace(stelle(n, 12, 11), 10, "  150  150");
+        hell.replace(stelle(n, 12, 11), 10, "   20   20");
     const std::vector<std::pair<std::string, std::string>> faelle{
         {gut.substr(0, gut.size() - 22), "line 8765: the file ends too early"},
         {gut + gut.substr(zeile7, 22), "line 8767: the file goes on"},

@@ -1,6 +1,7 @@
 #include "werkzeuge/klima_erzeugen/klarheit.h"
 #include "werkzeuge/klima_erzeugen/sonnenjahr.h"
 #include "werkzeuge/klima_erzeugen/temperatur.h"
+#include "werkzeuge/klima_erzeugen/witterung.h"
 #include "werkzeuge/klima_erzeugen/zufall.h"
 
 #include <algorithm>
@@ -95,11 +96,39 @@ TEST(Sonnenjahr, TrifftVeroeffentlichteWerte) {
     // Air mass 1 leaves seven tenths of 1353 W/m²; at 30 degrees of height, air mass 1.994, it is 0.5654.
     EXPECT_NEAR(klarer_strahl(1, 0), 947, 1);
     EXPECT_NEAR(klarer_strahl(0.5, 0), 765, 2);
-    EXPECT_NEAR(klarer_strahl(1, 2000), 947 * 0.72 + 1353 * 0.28, 1);
+    // 2000 m up there are 0.7889 of the air: 1353 * 0.7^0.8515.
+    EXPECT_NEAR(klarer_strahl(1, 2000), 998.6, 1);
+    EXPECT_LT(klarer_strahl(0.09, 3650), 420);
     EXPECT_LT(klarer_strahl(0.001, 0), 50);
     for (const double cos_z : {1e-5, 0.01, 0.1, 0.5, 1.0}) {
         EXPECT_LE(klarheitsgrenze(cos_z, 5000), 0.85);
         EXPECT_GE(klarheitsgrenze(cos_z, 0), 0.3);
+    }
+}
+
+TEST(Sonnenjahr, DieStundeHatDenMittlerenSonnenstand) {
+    // 8.5 degrees east in the zone of 15, 50 north; and a polar place, and one where the hour angle passes
+    // midnight.
+    for (const Standort& ort : {Standort{0.8725F, 6.5F}, {1.3F, 0}, {-0.58F, -25}}) {
+        const Sonnenstand stand = sonnenstand(ort);
+        for (const int n : {1, 80, 172, 265, 300}) {
+            for (int h = 1; h <= 24; ++h) {
+                double mittel = 0;
+                int sonnig = 0;
+                for (int i = 0; i < 600; ++i) {
+                    const float faktor = direktfaktor_horizontal(ort, n, h - 1 + (i + 0.5) / 600);
+                    if (faktor <= 0) continue;
+                    mittel += 1 / static_cast<double>(faktor) / 600;
+                    ++sonnig;
+                }
+                // The second declination may take up to one degree off.
+                EXPECT_LE(stand.stunde(n)(h), mittel + 1e-4) << n << " " << h;
+                EXPECT_GE(stand.stunde(n)(h), mittel - 0.018) << n << " " << h;
+                if (sonnig > 0 && stand.stunde(n)(h) > 0.02) {
+                    EXPECT_NEAR(stand.sonnig(n)(h), mittel * 600 / sonnig, 0.018) << n << " " << h;
+                }
+            }
+        }
     }
 }
 
@@ -134,20 +163,26 @@ TEST(Klarheit, DerDiffusanteilIstDerVeroeffentlichte) {
         EXPECT_NEAR(diffusanteil(naht - 1e-9), diffusanteil(naht + 1e-9), 5e-4);
 }
 
-TEST(Temperatur, DieTageswelleHatSpanneEinsUndIhrenGipfelAmNachmittag) {
-    double summe = 0;
-    std::pair<double, double> kleinster{1, 0};
-    std::pair<double, double> groesster{-1, 0};
-    for (int i = 0; i < 2400; ++i) {
-        const std::pair<double, double> punkt{tageswelle(i / 100.0), i / 100.0};
-        summe += punkt.first / 2400;
-        kleinster = std::min(kleinster, punkt);
-        groesster = std::max(groesster, punkt);
+TEST(Temperatur, DieTageswelleLaeuftVonSonnenaufgangZumNachmittag) {
+    // Day length, and the sunrise for which the wave is drawn: at the poles it is kept between 9 and 2
+    // o'clock.
+    for (const auto& [laenge, aufgang] :
+         {std::pair{12.0, 6.0}, {8.0, 8.0}, {16.0, 4.0}, {0.0, 9.0}, {24.0, 2.0}}) {
+        std::pair<double, double> kleinster{1, 0};
+        std::pair<double, double> groesster{-1, 0};
+        double davor = tageswelle(24 - 1e-9, laenge);
+        for (int i = 0; i < 2400; ++i) {
+            const std::pair<double, double> punkt{tageswelle(i / 100.0, laenge), i / 100.0};
+            EXPECT_LT(std::fabs(punkt.first - davor), 0.01) << laenge << " " << i;
+            davor = punkt.first;
+            kleinster = std::min(kleinster, punkt);
+            groesster = std::max(groesster, punkt);
+        }
+        EXPECT_NEAR(kleinster.first, 0, 0.002);
+        EXPECT_NEAR(groesster.first, 1, 1e-4);
+        EXPECT_NEAR(groesster.second, 13.86, 0.02);
+        EXPECT_NEAR(kleinster.second, aufgang - 0.17, 0.02);
     }
-    EXPECT_NEAR(summe, 0, 1e-9);
-    EXPECT_NEAR(groesster.first - kleinster.first, 1, 0.05);
-    EXPECT_NEAR(groesster.second, 15.5, 1);
-    EXPECT_NEAR(kleinster.second, 5.5, 1);
 }
 
 TEST(Temperatur, DieSpanneWaechstMitDerKlarheit) {
@@ -163,17 +198,64 @@ TEST(Temperatur, DieSpanneWaechstMitDerKlarheit) {
 }
 
 TEST(Temperatur, DieTageStreuenWieDieMonatsmittelEsVerlangen) {
-    Monatswerte gleich;
-    for (double& wert : gleich)
+    Monatswerte ta;
+    for (double& wert : ta)
         wert = 20;
-    // 1.45 - 0.58 = 0.87 K of the monthly means; times sqrt(31 * 0.3 / 1.7) = 2.339.
-    EXPECT_NEAR(tagesstreuung(gleich)(1), 2.035, 0.001);
-    EXPECT_NEAR(tagesstreuung(gleich)(2), 1.934, 0.001);
-    Monatswerte weit = gleich;
+    EXPECT_NEAR(tagesstreuung(ta)(1), 0.72, 1e-9) << "no seasons";
     for (int m = 1; m <= 6; ++m)
-        weit(m) = 0;
-    // The months spread by 10 K: 1.45 + 0.664 = 2.114 K at 0 degrees.
-    EXPECT_NEAR(tagesstreuung(weit)(1), 4.945, 0.001);
+        ta(m) = 8;
+    // The months spread by 6 K: at 8 degrees 1.45 - 0.232 + 0.3984 = 1.6164 K of the monthly means; times
+    // sqrt(31 * 0.3 / 1.7) = 2.3389. February has 28 days: 2.2229.
+    EXPECT_NEAR(tagesstreuung(ta)(1), 3.781, 0.001);
+    EXPECT_NEAR(tagesstreuung(ta)(2), 3.593, 0.001);
+    for (int m = 1; m <= 6; ++m)
+        ta(m) = 14.1;
+    // They spread by 2.95 K, half the way from 1.2 to 4.7: 1.45 - 0.4089 + 0.19588 = 1.23698 K, 2.8932 K a
+    // day.
+    EXPECT_NEAR(tagesstreuung(ta)(1), (0.72 + 2.8932) / 2, 0.001);
+    for (int m = 1; m <= 6; ++m)
+        ta(m) = -20;
+    // Counted as -15 degrees and 8 K: 1.45 + 0.435 + 0.5312 = 2.4162 K.
+    EXPECT_NEAR(tagesstreuung(ta)(1), 5.651, 0.001);
+}
+
+TEST(Witterung, SonneUndWaermeSindDurchDasJahrVerbunden) {
+    // Extraterrestrial sums at 50 degrees north: 11.6 kWh/m² in June, 2.2 in December, 6 and 7.5 at the
+    // equinoxes.
+    EXPECT_NEAR(sonnenwaerme(11.6, 50), 0.58, 1e-9);
+    EXPECT_NEAR(sonnenwaerme(11.6, -50), 0.58, 1e-9);
+    EXPECT_NEAR(sonnenwaerme(2.2, 50), -0.45, 1e-9);
+    EXPECT_NEAR(sonnenwaerme(7.25, 50), 0.065, 1e-9);
+    EXPECT_GT(sonnenwaerme(10, 0), 0.1);
+    EXPECT_LT(sonnenwaerme(10, 0), 0.3);
+    EXPECT_GT(waermeschiefe(0.58, 17), 0.8);
+    EXPECT_EQ(waermeschiefe(-0.4, 5), 0);
+    EXPECT_EQ(waermeschiefe(0.58, 24), 0);
+
+    Jahreszeiten zeiten;
+    for (int n = 1; n <= 365; ++n) {
+        const double sommer = -std::cos(2 * 3.14159265358979 * n / 365);
+        zeiten.kopplung(n) = 0.1 + 0.45 * sommer;
+        zeiten.schiefe(n) = std::max(0.0, sommer);
+        zeiten.stand(n) = 3 * sommer;
+    }
+    double gedaechtnis = 0;
+    for (const char* schluessel : {"a", "b", "c", "d"}) {
+        const Witterung jahr = witterung_erzeugen(schluessel, zeiten);
+        double juli = 0;
+        double januar = 0;
+        for (int n = 1; n <= 365; ++n) {
+            gedaechtnis += jahr.waerme(n) * jahr.waerme(n % 365 + 1) / 365 / 4;
+            if (n > 151 && n <= 243) juli += jahr.waerme(n) * jahr.helle(n) / 92;
+            if (n <= 59 || n > 334) januar += jahr.waerme(n) * jahr.helle(n) / 90;
+        }
+        // The means of the courses over the seasons are 0.1 + 0.45 * 0.9 and 0.1 - 0.45 * 0.9.
+        EXPECT_NEAR(juli, 0.505, 0.1) << schluessel;
+        EXPECT_NEAR(januar, -0.305, 0.1) << schluessel;
+        EXPECT_LT(*std::max_element(jahr.waerme.begin(), jahr.waerme.end()), 3.6) << schluessel;
+    }
+    // The months' means are taken off a series of 0.7.
+    EXPECT_NEAR(gedaechtnis, 0.63, 0.06);
 }
 
 }  // namespace

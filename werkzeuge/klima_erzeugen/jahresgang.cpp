@@ -84,6 +84,13 @@ Monatswerte monatsmittel(const Tageswerte& tage) {
     return mittel;
 }
 
+Monatswerte mit_nachbarn(const Monatswerte& werte) {
+    Monatswerte zu_dritt;
+    for (int m = 1; m <= monate; ++m)
+        zu_dritt(m) = (werte((m + 10) % monate + 1) + werte(m) + werte(m % monate + 1)) / 3;
+    return zu_dritt;
+}
+
 Tageswerte jahresgang(const Monatswerte& mittel) {
     constexpr int schritte = 30;
     Monatswerte stuetzwerte = mittel;

@@ -28,6 +28,9 @@ void fuer_jeden_tag(Tu&& tu) {
 
 [[nodiscard]] Monatswerte monatsmittel(const Tageswerte& tage);
 
+/// The mean of each month and its two neighbours; December and January are neighbours.
+[[nodiscard]] Monatswerte mit_nachbarn(const Monatswerte& werte);
+
 /// A smooth course through the year that closes at its end and keeps each month's mean (within 1e-9 of the
 /// values' span). Nodes in the middle of the months are joined by cubic pieces and shifted until the means
 /// hold; the idea of adjusted nodes, there with straight pieces, is from J. Sheng, F. Zwiers, "An improved

@@ -11,9 +11,6 @@ namespace velmaris::klimasatz {
 /// (1988), 83-92 (normal rank, order one).
 [[nodiscard]] double tagesklarheit(double mittel, double normal);
 
-/// Lag-one correlation of the days' normal ranks (Graham, Hollands, Brunger 1988).
-inline constexpr double klarheitsgedaechtnis = 0.29;
-
 /// How the clearness of the hours of a day of the clearness `tag` runs: mean and scatter at a sun of the
 /// height whose sine is `cos_z`, and the lag-one correlation of the scatter. Source: R. J. Aguiar, M.
 /// Collares-Pereira, "TAG: a time-dependent, autoregressive, Gaussian model for generating synthetic hourly

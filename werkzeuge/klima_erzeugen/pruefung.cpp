@@ -5,9 +5,11 @@
 #include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 #include "werkzeuge/klima_erzeugen/stationsdatei.h"
+#include "werkzeuge/klima_erzeugen/temperatur.h"
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace velmaris::klimasatz {
 namespace {
@@ -89,15 +91,30 @@ double groesste_abweichung(const Monatswerte& ist, const Monatswerte& soll) {
     return groesste;
 }
 
-/// Lag-one correlation of a year whose last day leads on to the first.
-double autokorrelation(const Tageswerte& werte) {
-    double produkte = 0;
-    double quadrate = 0;
-    for (int n = 1; n <= tage_im_jahr; ++n) {
-        produkte += werte(n) * werte(n % tage_im_jahr + 1);
-        quadrate += werte(n) * werte(n);
-    }
-    return quadrate > 0 ? produkte / quadrate : 0;
+double produktsumme(const Tageswerte& a, const Tageswerte& b) {
+    return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
+}
+
+/// Share of the product in the squares; 0 where a series is 0.
+double korrelation(const Tageswerte& a, const Tageswerte& b) {
+    const double quadrate = produktsumme(a, a) * produktsumme(b, b);
+    return quadrate > 0 ? produktsumme(a, b) / std::sqrt(quadrate) : 0;
+}
+
+/// The days of the three months around m, less their months' means; the others 0.
+Tageswerte abweichungen_um(int m, const Tageswerte& werte) {
+    const Monatswerte mittel = monatsmittel(werte);
+    Tageswerte abweichungen;
+    fuer_jeden_tag([&](int i, int n) {
+        if ((i - m + monate + 1) % monate <= 2) abweichungen(n) = werte(n) - mittel(i);
+    });
+    return abweichungen;
+}
+
+/// The month in the middle of the three brightest.
+int hellster_monat(const Monatswerte& ghi) {
+    const Monatswerte zu_dritt = mit_nachbarn(ghi);
+    return static_cast<int>(std::ranges::max_element(zu_dritt) - zu_dritt.begin()) + 1;
 }
 
 void temperatur_messen(Befund& befund, const Stundenwerte& ta, const Stationsfakten& station) {
@@ -109,25 +126,32 @@ void temperatur_messen(Befund& befund, const Stundenwerte& ta, const Stationsfak
     const Tageswerte gang = jahresgang(station.ta);
     for (int n = 1; n <= tage_im_jahr; ++n)
         mittel(n) -= gang(n);
-    befund.gedaechtnis = autokorrelation(mittel);
+    Tageswerte morgen = mittel;
+    std::rotate(morgen.begin(), morgen.begin() + 1, morgen.end());
+    befund.gedaechtnis = korrelation(mittel, morgen);
+    const Tageswerte streuung = jahresgang(tagesstreuung(station.ta));
+    for (int n = 1; n <= tage_im_jahr; ++n)
+        mittel(n) /= streuung(n);
+    befund.streuung = std::sqrt(produktsumme(mittel, mittel) / tage_im_jahr);
 }
 
 void strahlung_messen(Befund& befund, const Spaltenjahr& jahr, const Stationsfakten& station) {
-    const Stundenwerte cos_z = zenitkosinus(standort(station));
+    const Sonnenstand sonne = sonnenstand(standort(station));
     Monatswerte kwh;
     fuer_jeden_tag([&](int m, int n) {
         for (int h = 1; h <= stunden; ++h) {
             const double global = jahr.global(n)(h);
+            const double strahl = global - jahr.diffus(n)(h);
             kwh(m) += global / 1000;
-            if (global <= 0) continue;
-            if (cos_z(n)(h) <= 0) {
+            if ((global > 0 && sonne.stunde(n)(h) <= 0) || (strahl > 0 && sonne.gelesen(n)(h) <= 0)) {
                 const std::string tag = std::to_string(n);
                 throw Dateifehler(station.datei, {"Strahlung ohne Sonne am Tag " + tag,
                                                   "radiation without a sun on day " + tag});
             }
-            const double direkt = (global - jahr.diffus(n)(h)) / cos_z(n)(h);
-            befund.klarheit = std::max(befund.klarheit, global / extraterrestrisch(cos_z(n)(h), n));
-            befund.direktstrahl = std::max(befund.direktstrahl, direkt);
+            if (global > 0)
+                befund.klarheit =
+                    std::max(befund.klarheit, global / extraterrestrisch(sonne.stunde(n)(h), n));
+            if (strahl > 0) befund.direktstrahl = std::max(befund.direktstrahl, strahl / sonne.gelesen(n)(h));
         }
     });
     for (int m = 1; m <= monate; ++m) {
@@ -143,11 +167,14 @@ Befund untersuchen(std::string_view bytes, const Stationsfakten& station) {
     Befund befund;
     temperatur_messen(befund, jahr.ta, station);
     strahlung_messen(befund, jahr, station);
+    const int m = hellster_monat(station.ghi);
+    befund.sonnenwaerme =
+        korrelation(abweichungen_um(m, tagesmittel(jahr.ta)), abweichungen_um(m, tagesmittel(jahr.global)));
     return befund;
 }
 
-const std::array<Kenngroesse, 6>& kenngroessen() {
-    static constexpr std::array<Kenngroesse, 6> tabelle{{
+const std::array<Kenngroesse, 8>& kenngroessen() {
+    static constexpr std::array<Kenngroesse, 8> tabelle{{
         {"Monatsmittel der Temperatur, Abweichung in K", "monthly mean temperature, deviation in K",
          &Befund::temperaturfehler, 0, 0.1},
         {"Tagesspanne im Monat, Abweichung als Anteil", "daily range in the month, deviation as a share",
@@ -158,6 +185,11 @@ const std::array<Kenngroesse, 6>& kenngroessen() {
         {"klarste Stunde", "clearest hour", &Befund::klarheit, 0, klarheit_hoechstens},
         {"Autokorrelation der Tagesmittel", "autocorrelation of the daily means", &Befund::gedaechtnis, 0.5,
          0.9},
+        {"Streuung der Tagesmittel gegen die erwartete", "scatter of the daily means against the expected",
+         &Befund::streuung, 0.75, 1.25},
+        {"Korrelation von Temperatur und Strahlung der Tage in den hellsten Monaten",
+         "correlation of the days' temperature and radiation in the brightest months", &Befund::sonnenwaerme,
+         0.05, 0.9},
         {"stärkste Direktstrahlung in W/m²", "strongest direct radiation in W/m²", &Befund::direktstrahl, 0,
          1370},
     }};

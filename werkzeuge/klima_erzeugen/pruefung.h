@@ -12,13 +12,16 @@ struct Befund {
     double temperaturfehler = 0;  ///< month's mean less its fact, K, as an amount
     double spannenfehler = 0;     ///< month's mean daily range against its fact, share of the fact
     double strahlungsfehler = 0;  ///< month's sum less its fact, share of what may be missed
-    double klarheit = 0;          ///< clearest hour
-    double gedaechtnis = 0;   ///< lag-one correlation of the daily means' deviations from the smooth course
+    double klarheit = 0;          ///< clearest hour, of the sun's mean in the hour
+    double gedaechtnis = 0;  ///< lag-one correlation of the daily means' deviations from the smooth course
+    double streuung = 0;     ///< of these deviations, in units of the law's
+    double sonnenwaerme =
+        0;  ///< correlation of the days' temperature and radiation, the three brightest months
     double direktstrahl = 0;  ///< strongest direct normal radiation that the program will derive, W/m²
 };
 
 /// Reads the bytes of a station file again and measures them. A file that has not the exact form, radiation
-/// while the sun is down, or more diffuse than global radiation is a Dateifehler.
+/// or a beam while the sun is down, or more diffuse than global radiation is a Dateifehler.
 [[nodiscard]] Befund untersuchen(std::string_view bytes, const Stationsfakten& station);
 
 /// One finding: what it is called, and within what it must lie.
@@ -31,7 +34,7 @@ struct Kenngroesse {
 };
 
 /// The table of all findings.
-[[nodiscard]] const std::array<Kenngroesse, 6>& kenngroessen();
+[[nodiscard]] const std::array<Kenngroesse, 8>& kenngroessen();
 
 /// A Dateifehler for a file of which a finding lies outside its limits.
 void befund_pruefen(const Befund& befund, const Stationsfakten& station);

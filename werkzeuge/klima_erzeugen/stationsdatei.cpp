@@ -3,11 +3,24 @@
 #include "toolkit/text.h"
 #include "toolkit/zahlen.h"
 #include "werkzeuge/klima_erzeugen/temperatur.h"
+#include "werkzeuge/klima_erzeugen/witterung.h"
 
 namespace velmaris::klimasatz {
 namespace {
 
 constexpr std::size_t spaltenbreite = 5;
+
+Jahreszeiten jahreszeiten(const Stationsfakten& station, const Tageswerte& draussen) {
+    const Tageswerte gang = jahresgang(station.ta);
+    const Tageswerte streuung = jahresgang(tagesstreuung(station.ta));
+    Jahreszeiten z;
+    for (int n = 1; n <= tage_im_jahr; ++n) {
+        z.kopplung(n) = sonnenwaerme(draussen(n), station.breite_n);
+        z.schiefe(n) = waermeschiefe(z.kopplung(n), gang(n));
+        z.stand(n) = gang(n) / streuung(n);
+    }
+    return z;
+}
 
 }  // namespace
 
@@ -45,8 +58,12 @@ std::string stationsdatei(const Stationsfakten& station, const Stundenwerte& ta,
 }
 
 std::string stationsdatei_erzeugen(const Stationsfakten& station) {
-    const Strahlungsjahr strahlung = strahlung_erzeugen(station, zenitkosinus(standort(station)));
-    return stationsdatei(station, temperatur_erzeugen(station, strahlung.klarheit), strahlung);
+    const Sonnenstand sonne = sonnenstand(standort(station));
+    const Witterung witterung =
+        witterung_erzeugen(station.datei + ":himmel", jahreszeiten(station, tagessummen_draussen(sonne)));
+    const Strahlungsjahr strahlung = strahlung_erzeugen(station, sonne, witterung.helle);
+    return stationsdatei(station, temperatur_erzeugen(station, witterung.waerme, strahlung.klarheit),
+                         strahlung);
 }
 
 }  // namespace velmaris::klimasatz

@@ -18,6 +18,13 @@ double summe(const Tagesgang& werte) {
     return std::accumulate(werte.begin(), werte.end(), 0.0);
 }
 
+Tagesgang stunden_draussen(const Sonnenstand& sonne, int n) {
+    Tagesgang draussen;
+    for (int h = 1; h <= stunden; ++h)
+        draussen(h) = extraterrestrisch(sonne.stunde(n)(h), n);
+    return draussen;
+}
+
 /// A day that waits for its radiation.
 struct Himmelstag {
     Tagesgang draussen;    ///< extraterrestrial on the horizontal, W/m²
@@ -112,14 +119,12 @@ Monatswerte monatsklarheit(const Himmelsjahr& jahr, const Monatswerte& ghi) {
     return klarheit;
 }
 
-Himmelsjahr himmelsjahr(const Stationsfakten& station, const Stundenwerte& cos_z, Normalzufall& zufall) {
+Himmelsjahr himmelsjahr(const Stationsfakten& station, const Sonnenstand& sonne, const Tageswerte& helle) {
     Himmelsjahr jahr;
-    const Tageswerte normal = autoregressives_jahr(zufall, klarheitsgedaechtnis);
     for (int n = 1; n <= tage_im_jahr; ++n) {
-        for (int h = 1; h <= stunden; ++h)
-            jahr(n).draussen(h) = extraterrestrisch(cos_z(n)(h), n);
-        grenzen_setzen(jahr(n), cos_z(n), station.hoehe_m);
-        jahr(n).normal = normal(n);
+        jahr(n).draussen = stunden_draussen(sonne, n);
+        grenzen_setzen(jahr(n), sonne.sonnig(n), station.hoehe_m);
+        jahr(n).normal = helle(n);
     }
     const Tageswerte mittel = jahresgang(monatsklarheit(jahr, station.ghi));
     for (int n = 1; n <= tage_im_jahr; ++n)
@@ -181,11 +186,16 @@ class Ganzrunder {
     double rest_ = 0;
 };
 
-/// The diffuse part of a whole global radiation, whole W/m².
-double diffus(double global, double cos_z, double draussen, double hoehe_m) {
-    if (global <= 0) return 0;
-    const double strahl = runden(global * (1 - diffusanteil(global / draussen)));
-    return global - std::min(strahl, ganzzahl(klarer_strahl(cos_z, hoehe_m) * cos_z));
+/// Whole W/m² of beam on the horizontal in an hour of the global radiation `global`: what is not diffuse, but
+/// no more than the cleanest sky lets through, in the hour and at the moment at which the program looks at
+/// it.
+double strahl(double global, const Sonnenstand& sonne, int n, int h, double hoehe_m) {
+    const double gelesen = sonne.gelesen(n)(h);
+    if (global <= 0 || gelesen <= 0) return 0;
+    const double klarheit = global / extraterrestrisch(sonne.stunde(n)(h), n);
+    const double hoechstens = std::min(klarer_strahl(sonne.sonnig(n)(h), hoehe_m) * sonne.stunde(n)(h),
+                                       klarer_strahl(gelesen, hoehe_m) * gelesen);
+    return std::min(runden(global * (1 - diffusanteil(klarheit))), ganzzahl(hoechstens));
 }
 
 /// The fault of a month whose fact was not reached.
@@ -208,20 +218,32 @@ double strahlungstoleranz(double ghi) {
     return std::max(0.01 * ghi, 0.05);
 }
 
-Strahlungsjahr strahlung_erzeugen(const Stationsfakten& station, const Stundenwerte& cos_z) {
+Tageswerte tagessummen_draussen(const Sonnenstand& sonne) {
+    Tageswerte kwh;
+    for (int n = 1; n <= tage_im_jahr; ++n)
+        kwh(n) = summe(stunden_draussen(sonne, n)) / 1000;
+    return kwh;
+}
+
+Strahlungsjahr strahlung_erzeugen(const Stationsfakten& station, const Sonnenstand& sonne,
+                                  const Tageswerte& helle) {
     Normalzufall zufall(station.datei + ":strahlung");
-    const Himmelsjahr himmel = himmelsjahr(station, cos_z, zufall);
+    const Himmelsjahr himmel = himmelsjahr(station, sonne, helle);
     Strahlungsjahr jahr;
+    // For the seconds by which formulas of the equation of time differ, W/m².
+    constexpr double reserve = 0.5;
     Ganzrunder ganz;
     double abweichung = 0;
     for (int n = 1; n <= tage_im_jahr; ++n) {
         const Himmelstag& tag = himmel(n);
-        const Tagesgang roh = roher_tagesgang(tag, cos_z(n), zufall, abweichung);
+        const Tagesgang roh = roher_tagesgang(tag, sonne.sonnig(n), zufall, abweichung);
         const Tagesgang werte = auf_summe_bringen(roh, tag.hoechstens, tag.klarheit * summe(tag.draussen));
         for (int h = 1; h <= stunden; ++h) {
-            if (cos_z(n)(h) <= 0) continue;
-            jahr.global(n)(h) = ganz(werte(h), tag.draussen(h) * klarheit_hoechstens);
-            jahr.diffus(n)(h) = diffus(jahr.global(n)(h), cos_z(n)(h), tag.draussen(h), station.hoehe_m);
+            if (tag.draussen(h) <= 0) continue;
+            const double global =
+                ganz(werte(h), std::max(0.0, tag.draussen(h) * klarheit_hoechstens - reserve));
+            jahr.global(n)(h) = global;
+            jahr.diffus(n)(h) = global - strahl(global, sonne, n, h, station.hoehe_m);
         }
         jahr.klarheit(n) = tag.klarheit;
     }

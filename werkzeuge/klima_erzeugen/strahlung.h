@@ -15,10 +15,15 @@ struct Strahlungsjahr {
 /// which the facts are told; kWh/m².
 [[nodiscard]] double strahlungstoleranz(double ghi);
 
+/// Extraterrestrial radiation of each day on the horizontal, kWh/m².
+[[nodiscard]] Tageswerte tagessummen_draussen(const Sonnenstand& sonne);
+
 /// Makes the radiation of a station's year: days by the distribution of daily clearness around the month's,
-/// in an autoregressive series that is shifted until the month's sum is the fact; hours by their mean
-/// clearness under that sky with autoregressive scatter; the beam never above that of the cleanest sky. A
+/// by their ranks `helle`, which are shifted until the month's sum is the fact; hours by their mean clearness
+/// under that sky with autoregressive scatter, those of sunrise and sunset by their sunlit part; the beam
+/// never above that of the cleanest sky where the program looks at it, and none where it finds no sun. A
 /// month whose fact the sun cannot give is a Dateifehler for the list of stations, its line and column.
-[[nodiscard]] Strahlungsjahr strahlung_erzeugen(const Stationsfakten& station, const Stundenwerte& cos_z);
+[[nodiscard]] Strahlungsjahr strahlung_erzeugen(const Stationsfakten& station, const Sonnenstand& sonne,
+                                                const Tageswerte& helle);
 
 }  // namespace velmaris::klimasatz

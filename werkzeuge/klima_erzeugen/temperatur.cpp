@@ -1,11 +1,13 @@
 #include "werkzeuge/klima_erzeugen/temperatur.h"
 
 #include "toolkit/zahlen.h"
-#include "werkzeuge/klima_erzeugen/zufall.h"
+#include "werkzeuge/klima_erzeugen/sonnenjahr.h"
+#include "werkzeuge/klima_erzeugen/witterung.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <numeric>
 
 namespace velmaris::klimasatz {
 namespace {
@@ -26,11 +28,16 @@ double zwischen_mittagen(const Tageswerte& tage, int n, int h) {
     return tage(n) + (nachbar - tage(n)) * std::fabs(t) / stunden;
 }
 
+/// Scatter of the daily means against that of the noons between which the levels run in straight lines: a
+/// mean is 3/4 its own noon and 1/8 each neighbour, in a series of lag-one correlation r sqrt(19/32 + 3/8 r +
+/// r^2/32).
+constexpr double tagesmittel_der_mittage = 0.9336;
+
 /// What a year's temperature is put together from.
 struct Bausteine {
     Tageswerte mittags;  ///< level of the days, °C, at noon
     Tageswerte spanne;   ///< range of the wave, K, at noon
-    Stundenwerte welle;  ///< wave of the range 1
+    Stundenwerte welle;  ///< wave of the range 1, mean 0
 };
 
 Stundenwerte zusammensetzen(const Bausteine& b) {
@@ -42,14 +49,19 @@ Stundenwerte zusammensetzen(const Bausteine& b) {
     return ta;
 }
 
+/// Each day's wave, less its mean.
 Stundenwerte wellen(const Standort& ort) {
     Stundenwerte welle;
     for (int n = 1; n <= tage_im_jahr; ++n) {
         const Sonnenuhr uhr(n, ort.Laengenkorrektur);
+        const double tageslaenge = 24 / std::numbers::pi * untergangswinkel(ort, n);
         for (int h = 1; h <= stunden; ++h) {
             const double winkel = uhr.stundenwinkel(h - 0.5);
-            welle(n)(h) = tageswelle(12 + winkel / grad_in_bogen / 15);
+            welle(n)(h) = tageswelle(12 + winkel / grad_in_bogen / 15, tageslaenge);
         }
+        const double mittel = std::accumulate(welle(n).begin(), welle(n).end(), 0.0) / stunden;
+        for (double& wert : welle(n))
+            wert -= mittel;
     }
     return welle;
 }
@@ -80,12 +92,32 @@ Stundenwerte an_fakten_fuehren(Bausteine b, const Stationsfakten& station, const
     return ta;
 }
 
+/// Standard deviation of the means of a month through the years, K, kept to the range for which the law
+/// holds.
+double streuung_der_monatsmittel(double ta, double spreizung) {
+    constexpr double kaelteste = -15;
+    constexpr double groesste_spreizung = 8;
+    constexpr double heiss_ab = 24;
+    constexpr double ruhe_der_hitze = 0.03;
+    return 1.45 - 0.0290 * std::max(ta, kaelteste) + 0.0664 * std::min(spreizung, groesste_spreizung) -
+           ruhe_der_hitze * std::max(0.0, ta - heiss_ab);
+}
+
 }  // namespace
 
-double tageswelle(double sonnenzeit) {
-    const double t = 2 * std::numbers::pi * (sonnenzeit - 1) / 24;
-    return 0.4632 * std::cos(t - 3.805) + 0.0984 * std::cos(2 * t - 0.360) +
-           0.0168 * std::cos(3 * t - 0.822) + 0.0138 * std::cos(4 * t - 3.513);
+double tageswelle(double sonnenzeit, double tageslaenge) {
+    constexpr double gipfel_nach_mittag = 1.86;
+    constexpr double tief_nach_aufgang = -0.17;
+    constexpr double abfall = 2.20;
+    const double halber_tag = std::clamp(tageslaenge, 6.0, 20.0) / 2;
+    const double aufstieg = halber_tag + gipfel_nach_mittag - tief_nach_aufgang;
+    const double bis_untergang = 2 * halber_tag - tief_nach_aufgang;
+    const auto sinus = [&](double t) { return std::sin(std::numbers::pi / 2 * t / aufstieg); };
+    const double t = std::fmod(sonnenzeit - (12 - halber_tag + tief_nach_aufgang) + 48, 24);
+    if (t <= bis_untergang) return sinus(t);
+    const double nachtanteil = (t - bis_untergang) / (24 - bis_untergang);
+    const double ende = std::exp(-abfall);
+    return sinus(bis_untergang) * (std::exp(-abfall * nachtanteil) - ende) / (1 - ende);
 }
 
 double spannenfaktor(double klarheit) {
@@ -95,31 +127,27 @@ double spannenfaktor(double klarheit) {
 }
 
 Monatswerte tagesstreuung(const Monatswerte& ta) {
-    double jahr = 0;
-    double quadrate = 0;
-    for (const double wert : ta)
-        jahr += wert / monate;
-    for (const double wert : ta)
-        quadrate += (wert - jahr) * (wert - jahr) / monate;
+    constexpr double ohne_jahreszeiten = 0.72;
     constexpr double r = temperaturgedaechtnis;
+    const double spreizung = jahresspreizung(ta);
+    const double anteil = jahreszeitlichkeit(spreizung);
     Monatswerte streuung;
     for (int m = 1; m <= monate; ++m) {
-        const double der_monatsmittel = 1.45 - 0.0290 * ta(m) + 0.0664 * std::sqrt(quadrate);
-        streuung(m) =
-            der_monatsmittel * std::sqrt(tage_im_monat[static_cast<std::size_t>(m)] * (1 - r) / (1 + r));
+        const double der_tage = streuung_der_monatsmittel(ta(m), spreizung) *
+                                std::sqrt(tage_im_monat[static_cast<std::size_t>(m)] * (1 - r) / (1 + r));
+        streuung(m) = ohne_jahreszeiten + anteil * (der_tage - ohne_jahreszeiten);
     }
     return streuung;
 }
 
-Stundenwerte temperatur_erzeugen(const Stationsfakten& station, const Tageswerte& klarheit) {
-    Normalzufall zufall(station.datei + ":temperatur");
-    const Tageswerte abweichung = autoregressives_jahr(zufall, temperaturgedaechtnis);
+Stundenwerte temperatur_erzeugen(const Stationsfakten& station, const Tageswerte& waerme,
+                                 const Tageswerte& klarheit) {
     const Tageswerte gang = jahresgang(station.ta);
     const Tageswerte streuung = jahresgang(tagesstreuung(station.ta));
     Bausteine b;
     Tageswerte spannenverlauf;
     for (int n = 1; n <= tage_im_jahr; ++n) {
-        b.mittags(n) = gang(n) + streuung(n) * abweichung(n);
+        b.mittags(n) = gang(n) + streuung(n) / tagesmittel_der_mittage * waerme(n);
         spannenverlauf(n) = spannenfaktor(klarheit(n));
     }
     b.welle = wellen(standort(station));
