@@ -1,6 +1,7 @@
 #include "desktop/qt_plattform.h"
 
 #include "desktop/dateifilter.h"
+#include "desktop/dateisymbole.h"
 #include "desktop/meldungstext.h"
 #include "desktop/qt_text.h"
 #include "toolkit/text.h"
@@ -153,7 +154,9 @@ std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog&
 }
 
 std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialog& dialog) {
+    Dateisymbole symbole;
     QFileDialog fenster(besitzer());
+    fenster.setIconProvider(&symbole);
     // A name that does not exist is the caller's to judge, and so is one that does.
     fenster.setFileMode(QFileDialog::AnyFile);
     fenster.setAcceptMode(dialog.art == Dateidialog::Art::oeffnen ? QFileDialog::AcceptOpen

@@ -16,8 +16,12 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
+#include <QTreeView>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 namespace velmaris {
 namespace {
@@ -169,6 +173,21 @@ TEST(Dateifilter, WirdAusPaarenVonTextUndMuster) {
     for (const auto& [filter, zeilen] : faelle)
         EXPECT_EQ(dateifilter(filter), zeilen) << filter;
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(QtPlattformTest, DateidialogOeffnetKeineDateiNurUmSieZuZeigen) {
+    const Testordner ordner;
+    const std::filesystem::path rohr = ordner / "rohr.vel";
+    ASSERT_EQ(::mkfifo(rohr.c_str(), 0600), 0);
+    am_naechsten_dialog<QFileDialog>([&](QFileDialog& box) {
+        const auto* liste = box.findChild<QTreeView*>(QStringLiteral("treeView"));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return liste->model()->rowCount(liste->rootIndex()) == 1; }));
+        QTest::qWait(50);
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    EXPECT_EQ(plattform.dateidialog({.filter = "Alle|*", .ordner = ordner.pfad()}), std::nullopt);
+}
+#endif
 
 TEST_F(QtPlattformTest, DateidialogOeffnetUndBrichtAb) {
     const Testordner ordner;
