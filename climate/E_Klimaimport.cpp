@@ -3,6 +3,7 @@
 #include "climate/importzahlen.h"
 #include "climate/importziel.h"
 #include "language/beschriftungen.h"
+#include "project/dateiwahl.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
@@ -145,7 +146,7 @@ void E_Klimaimport::weitere_schritte(bool sichtbar) {
 
 void E_Klimaimport::Command1_Click() {
     if (import_aktiv_) return;
-    const auto datei = s_.plattform.dateidialog({.filter = "Alle Dateien (*.*)|*.*"});
+    const auto datei = datei_erfragen(s_, {.filter = "Alle Dateien (*.*)|*.*"});
     if (datei && !datei->empty()) quelle_oeffnen(*datei);
 }
 

@@ -2,7 +2,6 @@
 
 #include "desktop/qt_text.h"
 #include "desktop/startfenster.h"
-#include "project/rettung.h"
 #include "toolkit/text.h"
 
 #include <QCoreApplication>
@@ -12,15 +11,18 @@
 namespace velmaris {
 namespace {
 
-/// Where the rescued project is, if it could be rescued.
-std::string rettungstext(const Projekt& p) {
-    const std::optional<std::filesystem::path> datei = projekt_retten(p);
-    if (!datei) {
-        return Zweisprachig{"Das Projekt konnte nicht gerettet werden.", "The project could not be rescued."}
-            .in(p.Sprache);
-    }
-    return Zweisprachig{"Ihr Projekt wurde gesichert in: ", "Your project has been kept in: "}.in(p.Sprache) +
-           pfadtext(*datei);
+/// That the program ends, and where the rescued project is, if there is one and it could be rescued.
+std::string abschiedstext(const Rettung& rettung, const std::string& sprache) {
+    const Zweisprachig ende{"Das Programm wird beendet.", "The program ends."};
+    if (!rettung.hat_stand()) return ende.in(sprache);
+    const std::optional<std::filesystem::path> datei = rettung.letzten_stand_retten();
+    const Zweisprachig verloren{" Das Projekt konnte nicht gerettet werden.",
+                                " The project could not be rescued."};
+    const Zweisprachig gerettet{
+        " Der letzte Stand Ihres Projekts, der ohne Fehler berechnet wurde, liegt in: ",
+        " The last state of your project that was calculated without a fault is kept in: "};
+    if (!datei) return ende.in(sprache) + verloren.in(sprache);
+    return ende.in(sprache) + gerettet.in(sprache) + pfadtext(*datei);
 }
 
 /// German for what the toolkit's own dialogs and menus say, where its translations are installed.
@@ -70,7 +72,7 @@ void Programm::fehler(const Laufzeitfehler& fehler) {
         return;
     }
     am_ende_ = true;
-    meldung.hinweis = rettungstext(haupt_->p);
+    meldung.hinweis = abschiedstext(haupt_->rettung, sprache);
     plattform_.melde(meldung);
     QMetaObject::invokeMethod(
         qApp, [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);

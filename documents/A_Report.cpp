@@ -4,6 +4,7 @@
 #include "documents/temperaturverlauf.h"
 #include "documents/wort.h"
 #include "language/beschriftungen.h"
+#include "project/dateiwahl.h"
 #include "toolkit/fehler.h"
 
 #include <optional>
@@ -32,13 +33,12 @@ constexpr Dateiart report_datei{"Rich Text Format (*.rtf)|*.rtf", ".rtf"};
 constexpr Dateiart text_datei{"Textdatei (*.txt)|*.txt", ".txt"};
 
 std::optional<std::filesystem::path> zieldatei(Sitzung& sitzung, const Dateiart& art) {
-    return sitzung.plattform.dateidialog({.art = Dateidialog::Art::speichern,
-                                          .filter = art.filter,
-                                          .filterindex = 1,
-                                          .ordner = sitzung.p.InitDir,
-                                          .dateiname = {},
-                                          .endung = art.endung,
-                                          .ueberschreiben_fragen = true});
+    return datei_erfragen(sitzung, {.art = Dateidialog::Art::speichern,
+                                    .filter = art.filter,
+                                    .filterindex = 1,
+                                    .dateiname = namensvorschlag(sitzung, art.endung),
+                                    .endung = art.endung,
+                                    .ueberschreiben_fragen = true});
 }
 
 /// The buttons of the pages, by name and number.

@@ -1,6 +1,7 @@
 #include "documents/Drucken.h"
 
 #include "language/beschriftungen.h"
+#include "project/dateiwahl.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 
@@ -58,13 +59,12 @@ std::optional<Druckziel> Drucken::ziel() const {
     const Projekt& p = sitzung_.p;
     const std::filesystem::path projekt = pfad(p.Datei).filename();
     if (!drucker_.empty()) return Druckziel{.titel = pfadtext(projekt), .drucker = drucker_};
-    const auto datei = sitzung_.plattform.dateidialog(
-        {.art = Dateidialog::Art::speichern,
-         .filter = std::string(pdf_filter.in(p.Sprache)),
-         .ordner = p.InitDir,
-         .dateiname = pfadtext(std::filesystem::path(projekt).replace_extension(".pdf")),
-         .endung = ".pdf",
-         .ueberschreiben_fragen = true});
+    const auto datei = datei_erfragen(
+        sitzung_, {.art = Dateidialog::Art::speichern,
+                   .filter = std::string(pdf_filter.in(p.Sprache)),
+                   .dateiname = pfadtext(std::filesystem::path(projekt).replace_extension(".pdf")),
+                   .endung = ".pdf",
+                   .ueberschreiben_fragen = true});
     if (!datei) return std::nullopt;
     return Druckziel{.titel = pfadtext(projekt), .pdf = *datei};
 }

@@ -41,7 +41,8 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       e_klimaimport(sitzung),
       a_report(sitzung, [this] { return reportquelle(*this); }),
       drucken(sitzung, [this] { return reportquelle(*this); }),
-      datei(sitzung, projektwege()),
+      rettung(sitzung),
+      datei(sitzung, rettung, projektwege()),
       menue(sprache),
       plan_(rechenplan()) {
     verbinden();
@@ -183,7 +184,9 @@ void Haupt::bauteile_anzeigen() {
 }
 
 void Haupt::alles_berechnen() {
+    rettung.rechnung_beginnt();
     velmaris::alles_berechnen(p, plan_);
+    rettung.rechnung_gelungen();
 }
 
 }  // namespace velmaris

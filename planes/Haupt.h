@@ -52,6 +52,7 @@ struct Haupt {
     E_Klimaimport e_klimaimport;
     A_Report a_report;
     Drucken drucken;
+    Rettung rettung;
     FILEIO datei;
     Ebenenleiste e_menue{"E_Menue"};
     Ebenenleiste a_menue{"A_Menue"};

@@ -1,10 +1,13 @@
 #include "project/FILEIO.h"
 
+#include "project/dateiwahl.h"
 #include "project/feldtabelle.h"
 #include "toolkit/fehler.h"
 #include "toolkit/sanduhr.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -33,15 +36,24 @@ Meldung falsche_version(const std::string& sprache, const std::string& datei) {
     return {.text = text.in(sprache), .titel = "Fehler", .symbol = Symbol::ausrufezeichen, .hinweis = datei};
 }
 
+/// What follows for the user from a fault that leaves the load guard set.
+std::string bis_zum_naechsten_projekt(const std::string& sprache) {
+    return Zweisprachig{
+        "\n\nBis Datei > Neu gewählt oder eine andere Datei geöffnet ist, wird nichts mehr berechnet.",
+        "\n\nNothing is calculated any more until File > New is chosen or another file is opened."}
+        .in(sprache);
+}
+
 }  // namespace
 
 void FILEIO::projekt_aufbauen() {
-    Projekt& p = s_.p;
-    p.FormLoadGuard = -1;
+    s_.p.FormLoadGuard = -1;
     wege_.neues_projekt();
+    eigene_.vergessen();
+    s_.projektdatei.clear();
     wege_.klimadatei_lesen();
     wege_.eingaben_anzeigen();
-    p.FormLoadGuard = 0;
+    s_.p.FormLoadGuard = 0;
     s_.alles_berechnen();
 }
 
@@ -64,37 +76,71 @@ void FILEIO::wetter_der_datei_laden() const {
 }
 
 bool FILEIO::projekt_laden(const std::string& datei) {
-    Projekt& p = s_.p;
-    p.Datei = datei;
+    return uebernehmen(datei, aufschlagen(datei));
+}
+
+/// Opens the file on channel 1 and reads its bytes; the project stays as it is.
+std::string FILEIO::aufschlagen(const std::string& datei) {
+    s_.p.Datei = datei;
     kanal_schliessen();
-    const std::string bytes = bytes_lesen(pfad(datei), hoechste_projektgroesse);
+    std::string bytes = bytes_lesen(pfad(datei), hoechste_projektgroesse);
     kanal_oeffnen();
+    return bytes;
+}
+
+/// The calculation that ends the opening of a file; a fault in it is one of the file.
+void FILEIO::rechnen() {
+    s_.p.FormLoadGuard = 0;
+    try {
+        s_.alles_berechnen();
+    } catch (const Laufzeitfehler&) {
+        s_.p.FormLoadGuard = -1;
+        throw;
+    }
+}
+
+bool FILEIO::uebernehmen(const std::string& datei, const std::string& bytes) {
+    Projekt& p = s_.p;
     p.Geaendert = 0;
     p.FormLoadGuard = -1;
+    eigene_.loesen();
+    bool gelesen = true;
     try {
-        const bool gelesen = projekt_lesen(p, bytes, datei, wege_.ebenen);
-        if (!gelesen) p.Datei = unbenannt;
+        gelesen = projekt_lesen(p, bytes, datei, wege_.ebenen);
+        if (!gelesen) {
+            p.Datei = unbenannt;
+            s_.plattform.melde(falsche_version(p.Sprache, datei));
+        }
         wetter_der_datei_laden();
         wege_.eingaben_anzeigen();
-        p.FormLoadGuard = 0;
-        s_.alles_berechnen();
+        rechnen();
+        if (gelesen) projekt_gehoert_zu(datei, bytes);
         return gelesen;
     } catch (const Dateifehler&) {
         throw;
     } catch (const Laufzeitfehler& fehler) {
+        if (!gelesen) throw;  // what cannot be calculated is not that file's
         throw als_dateifehler(datei, fehler);
     }
 }
 
+void FILEIO::projekt_gehoert_zu(const std::string& datei, const std::string& bytes) {
+    std::error_code fehler;
+    eigene_.uebernehmen(pfad(datei), bytes);
+    s_.projektdatei = std::filesystem::absolute(pfad(datei), fehler);
+}
+
 void FILEIO::projekt_sichern() {
     const bool war_offen = s_.p.Datei_offen == 1;
+    const std::string bytes = projekt_schreiben(s_.p);
     kanal_schliessen();
     try {
-        datei_ersetzen(pfad(s_.p.Datei), projekt_schreiben(s_.p));
+        datei_ersetzen(pfad(s_.p.Datei), bytes);
     } catch (const Dateifehler&) {
         if (war_offen) kanal_oeffnen();
         throw;
     }
+    projekt_gehoert_zu(s_.p.Datei, bytes);
     kanal_oeffnen();
 }
 
@@ -117,18 +163,44 @@ void FILEIO::titel_der_datei() {
 }
 
 FILEIO::Frage FILEIO::aenderung_klaeren(Sicherung (FILEIO::*weg)()) {
+    ungesichert_ = false;
     if (s_.p.Geaendert != 1) return Frage::weiter;
     const Antwort antwort = s_.plattform.melde({.text = s_.p.texte.txt_Aenderung,
                                                 .titel = s_.p.texte.txt_Aenderung_Titel,
                                                 .symbol = Symbol::ausrufezeichen,
                                                 .knoepfe = Knoepfe::ja_nein_abbrechen});
     if (antwort == Antwort::abbrechen) return Frage::abbrechen;
-    if (antwort == Antwort::ja && (this->*weg)() == Sicherung::gescheitert) return Frage::abbrechen;
-    return Frage::weiter;
+    return antwort == Antwort::ja ? nach_dem_ja((this->*weg)()) : Frage::weiter;
+}
+
+FILEIO::Frage FILEIO::nach_dem_ja(Sicherung ergebnis) {
+    ungesichert_ = ergebnis == Sicherung::abgebrochen;
+    if (ergebnis == Sicherung::gescheitert) rettung_melden();
+    return ergebnis == Sicherung::gesichert || ungesichert_ ? Frage::weiter : Frage::abbrechen;
+}
+
+/// Before changes are given up that the user wanted to save: keeps them. False if that fails; then the
+/// project has to stay.
+bool FILEIO::aenderung_aufgeben() {
+    return !std::exchange(ungesichert_, false) || rettung_melden();
+}
+
+bool FILEIO::rettung_melden() const {
+    const auto datei = rettung_.projekt_retten();
+    const Zweisprachig gerettet{"Ihr Projekt wurde nicht gespeichert. Es liegt in der Rettungsdatei:",
+                                "Your project has not been saved. It is kept in the rescue file:"};
+    const Zweisprachig verloren{
+        "Ihr Projekt wurde nicht gespeichert, auch nicht in einer Rettungsdatei. Es bleibt geöffnet.",
+        "Your project has not been saved, not in a rescue file either. It stays open."};
+    s_.plattform.melde({.text = (datei ? gerettet : verloren).in(s_.p.Sprache),
+                        .titel = "Velmaris",
+                        .symbol = Symbol::ausrufezeichen,
+                        .hinweis = datei ? pfadtext(*datei) : std::string()});
+    return datei.has_value();
 }
 
 void FILEIO::datei_neu() {
-    if (aenderung_klaeren(&FILEIO::sichern) == Frage::abbrechen) return;
+    if (aenderung_klaeren(&FILEIO::sichern) == Frage::abbrechen || !aenderung_aufgeben()) return;
     const Sanduhr sanduhr(s_.plattform);
     kanal_schliessen();
     projekt_aufbauen();
@@ -144,10 +216,9 @@ void FILEIO::datei_oeffnen(const std::string& datei) {
         }
         if (ziel.empty()) {
             const auto wahl =
-                s_.plattform.dateidialog({.art = Dateidialog::Art::oeffnen,
-                                          .filter = "Alle Dateien (*.*)|*.*|VELM Dateien (*.vel)|*.vel",
-                                          .filterindex = 2,
-                                          .ordner = s_.p.InitDir});
+                datei_erfragen(s_, {.art = Dateidialog::Art::oeffnen,
+                                    .filter = "Alle Dateien (*.*)|*.*|VELM Dateien (*.vel)|*.vel",
+                                    .filterindex = 2});
             if (!wahl) {
                 s_.plattform.melde(fehlermeldung);
                 return;
@@ -155,15 +226,17 @@ void FILEIO::datei_oeffnen(const std::string& datei) {
             ziel = pfadtext(*wahl);
         }
         const Sanduhr sanduhr(s_.plattform);
-        if (projekt_laden(ziel)) {
+        const std::string bytes = aufschlagen(ziel);
+        if (!aenderung_aufgeben()) return;
+        if (uebernehmen(ziel, bytes)) {
             titel_der_datei();
             wege_.erste_ebenen();
         } else {
-            s_.plattform.melde(falsche_version(s_.p.Sprache, ziel));
             titel_unbenannt();
         }
     } catch (const Laufzeitfehler& fehler) {
         fehlermeldung.hinweis = fehler.text(s_.p.Sprache);
+        if (s_.p.FormLoadGuard != 0) fehlermeldung.hinweis += bis_zum_naechsten_projekt(s_.p.Sprache);
         s_.plattform.melde(fehlermeldung);
     }
 }
@@ -181,7 +254,9 @@ FILEIO::Sicherung FILEIO::schreiben_oder_melden() {
 }
 
 FILEIO::Sicherung FILEIO::sichern() {
-    if (s_.p.Datei_offen == 0) return sichern_unter();
+    if (s_.p.Datei_offen == 0 || !eigene_.gehoert(pfad(s_.p.Datei)))
+        return sichern_in(s_.projektdatei.parent_path());
+    if (eigene_.fremd_geaendert(pfad(s_.p.Datei)) && !ersetzen_erlaubt()) return Sicherung::abgelehnt;
     const Sicherung ergebnis = schreiben_oder_melden();
     if (ergebnis == Sicherung::gesichert) s_.p.Geaendert = 0;
     return ergebnis;
@@ -190,28 +265,51 @@ FILEIO::Sicherung FILEIO::sichern() {
 bool FILEIO::ersetzen_erlaubt() {
     std::error_code fehler;
     if (!std::filesystem::exists(pfad(s_.p.Datei), fehler)) return true;
+    const Zweisprachig fremd{
+        "Die Datei wurde geändert, seit dieses Programm sie geöffnet oder gespeichert hat.",
+        "The file has been changed since this program opened or saved it."};
+    const bool geaendert = eigene_.fremd_geaendert(pfad(s_.p.Datei));
     return s_.plattform.melde({.text = s_.p.Datei + "\n" + s_.p.texte.txt_Ersetzen,
                                .titel = "Velmaris",
                                .symbol = Symbol::ausrufezeichen,
                                .knoepfe = Knoepfe::ja_nein,
-                               .vorgabe = Antwort::nein}) == Antwort::ja;
+                               .vorgabe = Antwort::nein,
+                               .hinweis = geaendert ? fremd.in(s_.p.Sprache) : std::string()}) == Antwort::ja;
 }
 
 FILEIO::Sicherung FILEIO::sichern_unter() {
+    return sichern_in({});
+}
+
+/// What was saved is shown anew. A project that cannot be shown, as after a failed opening, was saved all the
+/// same; that is told as a fault of its file.
+void FILEIO::gesichertes_zeigen() {
+    titel_der_datei();
+    try {
+        wege_.eingaben_anzeigen();
+    } catch (const Laufzeitfehler& fehler) {
+        throw als_dateifehler(s_.p.Datei, fehler);
+    }
+}
+
+/// Asks for a file until it may be written; the first dialog begins in that folder, without one where the
+/// last dialog was left.
+FILEIO::Sicherung FILEIO::sichern_in(const std::filesystem::path& ordner) {
+    Dateidialog dialog{.art = Dateidialog::Art::speichern,
+                       .filter = "VELM Dateien (*.vel)|*.vel",
+                       .filterindex = 1,
+                       .ordner = ordner,
+                       .dateiname = pfadtext(s_.projektdatei.filename())};
     do {
-        const auto wahl = s_.plattform.dateidialog({.art = Dateidialog::Art::speichern,
-                                                    .filter = "VELM Dateien (*.vel)|*.vel",
-                                                    .filterindex = 1,
-                                                    .ordner = s_.p.InitDir});
+        const auto wahl = datei_erfragen(s_, dialog);
         if (!wahl) return Sicherung::abgebrochen;
         s_.p.Datei = mit_endung(pfadtext(*wahl));
+        dialog.ordner = wahl->parent_path();
+        dialog.dateiname = dateiname(s_.p.Datei);
         kanal_schliessen();
     } while (!ersetzen_erlaubt());
     const Sicherung ergebnis = schreiben_oder_melden();
-    if (ergebnis == Sicherung::gesichert) {
-        wege_.eingaben_anzeigen();
-        titel_der_datei();
-    }
+    if (ergebnis == Sicherung::gesichert) gesichertes_zeigen();
     return ergebnis;
 }
 
@@ -224,7 +322,7 @@ void FILEIO::datei_speichern_unter() {
 }
 
 void FILEIO::programm_beenden() {
-    if (aenderung_klaeren(&FILEIO::sichern_unter) == Frage::abbrechen) return;
+    if (aenderung_abfragen() == 1) return;
     drucker_zuruecksetzen();
     s_.plattform.beenden();
 }
@@ -244,7 +342,9 @@ void FILEIO::drucker_zuruecksetzen() {
 }
 
 std::int16_t FILEIO::aenderung_abfragen() {
-    return aenderung_klaeren(&FILEIO::sichern_unter) == Frage::abbrechen ? 1 : 0;
+    const bool bleiben =
+        aenderung_klaeren(&FILEIO::sichern_unter) == Frage::abbrechen || !aenderung_aufgeben();
+    return bleiben ? 1 : 0;
 }
 
 void FILEIO::hilfe_zeigen(const std::string& seite) {

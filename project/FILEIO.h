@@ -1,6 +1,8 @@
 #pragma once
 
+#include "project/eigene_datei.h"
 #include "project/projektdatei.h"
+#include "project/rettung.h"
 #include "project/sitzung.h"
 
 #include <cstdint>
@@ -24,9 +26,13 @@ struct Projektwege {
 
 /// The life of a project: new, open, save, leave, and the questions about unsaved changes. The project file
 /// stays open on channel 1 from open or save until it is replaced or the program ends.
+/// Saving writes without a question only into the project's own file, and only while that holds what this run
+/// read from it or wrote into it.
 class FILEIO {
   public:
-    FILEIO(Sitzung& sitzung, Projektwege wege) : s_(sitzung), wege_(std::move(wege)) {}
+    /// `rettung` keeps the changes that a Yes of the question did not save; it must outlive the object.
+    FILEIO(Sitzung& sitzung, const Rettung& rettung, Projektwege wege)
+        : s_(sitzung), rettung_(rettung), wege_(std::move(wege)) {}
 
     /// Builds up a new project and calculates it; the end of the start and the heart of `datei_neu`.
     void projekt_aufbauen();
@@ -36,9 +42,9 @@ class FILEIO {
     void projekt_vorbereiten();
 
     /// Opens a project file: reading, station, planes, one calculation. Returns false if the file has no
-    /// version known here; then the project stays and `Datei` becomes "default.vel".
-    /// Any other fault is a Dateifehler that names file, line and field; what was read up to then stays,
-    /// and so does `FormLoadGuard`.
+    /// version known here; that is told, the project stays and `Datei` becomes "default.vel".
+    /// Any other fault is a Dateifehler that names file, line and field. One of reading the bytes leaves the
+    /// project as it is; after any other what was read up to then stays, and `FormLoadGuard` stays set.
     bool projekt_laden(const std::string& datei);
 
     /// Writes the project to `Datei`, whole or not at all, and keeps it open on channel 1. A fault is
@@ -65,11 +71,20 @@ class FILEIO {
 
   private:
     enum class Frage { weiter, abbrechen };
-    enum class Sicherung { gesichert, abgebrochen, gescheitert };
+    enum class Sicherung { gesichert, abgebrochen, abgelehnt, gescheitert };
 
     Frage aenderung_klaeren(Sicherung (FILEIO::*weg)());
+    Frage nach_dem_ja(Sicherung ergebnis);
+    bool aenderung_aufgeben();
+    bool rettung_melden() const;
     Sicherung sichern();
     Sicherung sichern_unter();
+    Sicherung sichern_in(const std::filesystem::path& ordner);
+    void gesichertes_zeigen();
+    std::string aufschlagen(const std::string& datei);
+    bool uebernehmen(const std::string& datei, const std::string& bytes);
+    void rechnen();
+    void projekt_gehoert_zu(const std::string& datei, const std::string& bytes);
     void wetter_der_datei_laden() const;
     void drucker_zuruecksetzen();
     void kanal_schliessen();
@@ -79,7 +94,10 @@ class FILEIO {
     Sicherung schreiben_oder_melden();
 
     Sitzung& s_;
+    const Rettung& rettung_;
     Projektwege wege_;
+    EigeneDatei eigene_;
+    bool ungesichert_ = false;  ///< the user wanted to save, but cancelled that
     std::ifstream kanal1_;
 };
 

@@ -52,10 +52,10 @@ struct Dachraumzeile {
     float Faktor = 0;         ///< reduction of the heat flow through the flat roof, 0..1
 };
 
-/// The one record of the program: inputs, derived geometry, month table, hourly tables, year sums and
-/// the fields of the program run. Facades: n, s, o (east), w. Energies in kWh, areas in m2, volumes in m3,
-/// temperatures in degC, U values in W/(m2 K), fractions 0..1 unless the comment says percent.
-struct Projekt {
+/// The inputs of a project: what the user sets and a project file holds, and the whole window U values that
+/// follow from them. Facades: n, s, o (east), w. Areas in m2, temperatures in degC, U values in W/(m2 K),
+/// fractions 0..1 unless the comment says percent.
+struct Eingaben {
     // --- Geometry ---
     float l = 0;              ///< building length, east-west extent, m
     float b = 0;              ///< building width, north-south extent, m
@@ -102,15 +102,18 @@ struct Projekt {
     std::int16_t Innenwandart = 0;                    ///< construction of the inner walls, 0 heavy .. 2 light
 
     // --- Climate ---
-    std::string Klimadatei;                  ///< file name of the station, no folder
-    std::int16_t Klimaauswahl = 0;           ///< scope: 1 Germany, 2 Europe, 3 world
-    Reihe<std::string, 1, 12> Regionsdatei;  ///< station files of the German climate regions
+    std::string Klimadatei;         ///< file name of the station, no folder
+    std::int16_t Klimaauswahl = 0;  ///< scope: 1 Germany, 2 Europe, 3 world
 
     // --- Energy supply ---
     std::int16_t Heizsystem = 0;      ///< 1..9
     std::int16_t Uebergabe = 0;       ///< 1..2
     std::int16_t Energietraeger = 0;  ///< 1..4
+};
 
+/// The one record of the program: inputs, derived geometry, month table, hourly tables, year sums and
+/// the fields of the program run. Energies in kWh, volumes in m3, the other units as those of the inputs.
+struct Projekt : Eingaben {
     // --- Derived geometry ---
     float Dachneigung = 0;                             ///< roof pitch, degrees; 0 without heated attic
     float f_sfa = 0, f_wfa = 0, f_nfa = 0, f_ofa = 0;  ///< gross facades
@@ -162,9 +165,10 @@ struct Projekt {
     float Kuehllast_max = 0;        ///< largest `Q_kuehl`, likewise
 
     // --- Station ---
-    float Breite = 0;            ///< latitude, radians
-    float Laengenkorrektur = 0;  ///< longitude (west positive) minus 15 times the zone, degrees
-    std::string Stationsname;    ///< first item of the station file's first line
+    Reihe<std::string, 1, 12> Regionsdatei;  ///< station files of the German climate regions
+    float Breite = 0;                        ///< latitude, radians
+    float Laengenkorrektur = 0;              ///< longitude (west positive) minus 15 times the zone, degrees
+    std::string Stationsname;                ///< first item of the station file's first line
 
     /// Sun and radiation kept between recalculations; valid only by their own keys.
     Strahlungstabellen Strahlung;

@@ -3,6 +3,7 @@
 #include "project/c_glob.h"
 #include "toolkit/plattform.h"
 
+#include <filesystem>
 #include <functional>
 
 namespace velmaris {
@@ -15,6 +16,12 @@ struct Sitzung {
 
     /// Recalculates the whole building and refreshes what is visible.
     std::function<void()> alles_berechnen;
+
+    /// Folder that a file dialog of this run was left in last, empty before the first.
+    std::filesystem::path dialogordner = {};
+
+    /// The project file that this run opened whole or saved last, empty for a project without one.
+    std::filesystem::path projektdatei = {};
 };
 
 /// The rule of most input handlers: the project has changed, so recalculate.

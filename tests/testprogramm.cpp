@@ -2,11 +2,13 @@
 
 #include "project/projektdatei.h"
 #include "tests/climate/stationsdatei.h"
+#include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
 #include <cmath>
+#include <stdexcept>
 
 namespace velmaris::test {
 namespace {
@@ -35,6 +37,16 @@ Testprogramm::Testprogramm(const std::string& sprache) {
     ordner.schreibe("klima/fern.met", stationsbytes("Fern (Ausland)"));
     haupt = std::make_unique<Haupt>(plattform, ordner.pfad(), sprache);
     haupt->datei.projekt_aufbauen();
+}
+
+std::unique_ptr<Testprogramm> aus_rettung(const std::filesystem::path& datei) {
+    auto programm = std::make_unique<Testprogramm>();
+    programm->haupt->datei.datei_oeffnen(pfadtext(datei));
+    for (const Meldung& meldung : programm->plattform.meldungen)
+        throw std::runtime_error(pfadtext(datei) + " does not open: " + meldung.text + meldung.hinweis);
+    if (programm->p().Datei_offen != 1) throw std::runtime_error("not open: " + pfadtext(datei));
+    std::filesystem::remove(datei);
+    return programm;
 }
 
 std::vector<std::string> projektzeilen(const Projekt& p) {

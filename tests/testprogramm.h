@@ -27,6 +27,9 @@ class Testprogramm {
     [[nodiscard]] Projekt& p() const { return haupt->p; }
 };
 
+/// Opens a rescue file in a program of its own and removes it; fails the test unless it opens without a word.
+[[nodiscard]] std::unique_ptr<Testprogramm> aus_rettung(const std::filesystem::path& datei);
+
 /// Lines of the project file that the program writes for its present state, without their ends; line i is
 /// element i - 1.
 [[nodiscard]] std::vector<std::string> projektzeilen(const Projekt& p);

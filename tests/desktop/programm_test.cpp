@@ -1,6 +1,7 @@
 #include "desktop/programm.h"
 
 #include "programmprobe.h"
+#include "tests/testprogramm.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -175,16 +176,18 @@ TEST_F(ProgrammTest, FehlerInDateienBeendenNichtAndereSchon) {
     programm->haupt().e_geometrie.l_sb.geaendert = [] {
         throw Laufzeitfehler({"Überlauf", "overflow"}, "qh");
     };
+    p().l = 0;  // never to be seen again
     QString rettung;
     antworte(QMessageBox::Ok, [&](QMessageBox& box) {
         EXPECT_TRUE(box.text().contains("overflow"));
+        EXPECT_TRUE(box.informativeText().startsWith("The program ends."))
+            << box.informativeText().toStdString();
         rettung = box.informativeText();
     });
     QTimer::singleShot(0, &laenge, [&] { QTest::keyClick(&laenge, Qt::Key_Right); });
     EXPECT_EQ(laufe_bis_zum_ende(), 1);
     const std::filesystem::path datei = rettung.section(QStringLiteral(": "), 1).toStdString();
-    EXPECT_TRUE(std::filesystem::exists(datei)) << rettung.toStdString();
-    std::filesystem::remove(datei);
+    EXPECT_EQ(test::aus_rettung(datei)->p().l, 10.0F) << rettung.toStdString();
 }
 
 /// Notes the names of the windows that come up.

@@ -104,16 +104,5 @@ TEST_F(Hauptprogramm, SpracheGiltErstBeimNaechstenStart) {
     EXPECT_EQ(test::inhalt(programm.ordner / "klima/typ.dat").front(), 'e');
 }
 
-TEST_F(Hauptprogramm, DieRettungBehaeltDieEingaben) {
-    p().Datei = pfadtext(programm.ordner / "haus.vel");
-    haupt().e_geometrie.l_sb.setze(333);
-    const auto erste = projekt_retten(p());
-    const auto zweite = projekt_retten(p());
-    ASSERT_TRUE(erste && zweite);
-    EXPECT_EQ(erste->filename(), "Velmaris_Rettung.vel");
-    EXPECT_EQ(zweite->filename(), "Velmaris_Rettung_2.vel");
-    EXPECT_NE(test::inhalt(*erste).find("\r\n 33.3\r\n"), std::string::npos);
-}
-
 }  // namespace
 }  // namespace velmaris

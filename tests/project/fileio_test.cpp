@@ -103,6 +103,55 @@ TEST_F(Fileio, EineZuGrosseDateiWirdNichtGelesen) {
               std::string::npos);
 }
 
+TEST_F(Fileio, DerFehlerSagtWennNichtsMehrBerechnetWird) {
+    auto zeilen = projektzeilen(p());
+    zeilen[1] = " 60";
+    const auto weit = pfadtext(programm.ordner.schreibe("weit.vel", projekttext(zeilen)));
+    const auto fremd = pfadtext(programm.ordner.schreibe("fremd.vel", "nichts"));
+    const auto nirgends = pfadtext(programm.ordner / "nirgends.vel");
+    bool rechnet = true;
+    programm.haupt->sitzung.alles_berechnen = [&] {
+        if (!rechnet) throw Laufzeitfehler({"Division durch 0", "division by 0"});
+        programm.haupt->alles_berechnen();
+    };
+    struct Fall {
+        std::string datei;
+        bool rechnet, geaendert;
+        std::string hinweis;  ///< what the message says below its text, to begin with
+        bool steht;           ///< nothing is calculated afterwards
+        bool gesagt;
+    };
+    for (const Fall& fall : {Fall{nirgends, true, false, nirgends, false, false},
+                             {weit, true, false, weit, true, true},
+                             {nirgends, true, false, nirgends, true, true},
+                             {"", true, false, "", true, false},
+                             {haus, true, true, "", true, false},
+                             {fremd, true, false, "Wert außerhalb", true, true},
+                             {haus, false, false, haus, true, true}}) {
+        rechnet = fall.rechnet;
+        p().Geaendert = fall.geaendert ? 1 : 0;
+        plattform().antworten = {Antwort::abbrechen};
+        datei().datei_oeffnen(fall.datei);
+        const Meldung& meldung = plattform().meldungen.back();
+        EXPECT_EQ(meldung.text, "Dateifehler!") << fall.datei;
+        EXPECT_TRUE(meldung.hinweis.starts_with(fall.hinweis)) << meldung.hinweis;
+        EXPECT_EQ(p().FormLoadGuard, fall.steht ? -1 : 0) << meldung.hinweis;
+        EXPECT_EQ(meldung.hinweis.find("Datei > Neu") != std::string::npos, fall.gesagt) << meldung.hinweis;
+    }
+    rechnet = true;
+    datei().datei_neu();
+    EXPECT_EQ(p().FormLoadGuard, 0);
+}
+
+TEST_F(Fileio, EineMischungLaesstSichSichernOhneDasProgrammZuBeenden) {
+    auto zeilen = projektzeilen(p());
+    zeilen[1] = " 60";
+    datei().datei_oeffnen(pfadtext(programm.ordner.schreibe("weit.vel", projekttext(zeilen))));
+    plattform().dateien = {programm.ordner / "mischung.vel"};
+    EXPECT_THROW(datei().datei_speichern(), Dateifehler);
+    EXPECT_EQ(plattform().titel, "Velmaris - MISCHUNG.VEL");
+}
+
 TEST_F(Fileio, StellungenAusserhalbNennenDieZeileDerDatei) {
     struct Fall {
         int zeile;
@@ -217,7 +266,7 @@ TEST_F(Fileio, EinNameMitPunktBleibt) {
 TEST_F(Fileio, SpeichernDasMisslingtSagtEsUndBehaeltDieAenderung) {
     datei().datei_oeffnen(haus);
     const std::string vorher = inhalt(pfad(haus));
-    std::filesystem::create_directories(programm.ordner / "haus.vel.neu~/besetzt");
+    std::filesystem::permissions(pfad(haus), std::filesystem::perms::owner_read);
     p().Geaendert = 1;
     datei().datei_speichern();
     ASSERT_EQ(plattform().meldungen.size(), 1U);

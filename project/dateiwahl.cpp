@@ -1,0 +1,41 @@
+#include "project/dateiwahl.h"
+
+#include "toolkit/text.h"
+
+#include <initializer_list>
+#include <system_error>
+#include <utility>
+
+namespace velmaris {
+namespace {
+
+bool ist_ordner(const std::filesystem::path& ordner) {
+    std::error_code fehler;
+    return std::filesystem::is_directory(ordner, fehler);
+}
+
+/// The first folder of a dialog that exists; `InitDir` may name the project of the command line.
+std::filesystem::path anfangsordner(const Sitzung& sitzung, const std::filesystem::path& gewuenscht) {
+    const std::filesystem::path& InitDir = sitzung.p.InitDir;
+    for (const std::filesystem::path& ordner : {gewuenscht, sitzung.dialogordner, InitDir})
+        if (ist_ordner(ordner)) return ordner;
+    return InitDir.parent_path();
+}
+
+}  // namespace
+
+std::optional<std::filesystem::path> datei_erfragen(Sitzung& sitzung, Dateidialog dialog) {
+    dialog.ordner = anfangsordner(sitzung, dialog.ordner);
+    auto datei = sitzung.plattform.dateidialog(dialog);
+    if (datei) sitzung.dialogordner = datei->parent_path();
+    return datei;
+}
+
+std::string namensvorschlag(const Sitzung& sitzung, std::string_view endung) {
+    if (sitzung.projektdatei.empty()) return {};
+    const std::filesystem::path name = sitzung.projektdatei.filename();
+    const bool vel = kleinschreiben(pfadtext(name.extension())) == ".vel";
+    return pfadtext(vel ? name.stem() : name).append(endung);
+}
+
+}  // namespace velmaris
