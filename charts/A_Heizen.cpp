@@ -60,9 +60,9 @@ A_Heizen::A_Heizen(Sitzung& sitzung) : tooltip(sitzung.plattform, ebene.name), s
     ebene.zeige(false);
     bilder_verbinden();
     tooltip.folge_monaten(Heizbilanz, [this](int m) { return tipp_heizbilanz(m); });
-    tooltip.folge(JahrBilanz, [this] { return tipp_jahrbilanz(); });
+    tooltip.folge_jahr(JahrBilanz, [this] { return tipp_jahrbilanz(); });
     tooltip.folge_monaten(NutzungsgradMonat, [this](int m) { return tipp_nutzungsgrad_monat(m); });
-    tooltip.folge(NutzungsgradJahr, [this] { return tipp_nutzungsgrad_jahr(); });
+    tooltip.folge_jahr(NutzungsgradJahr, [this] { return tipp_nutzungsgrad_jahr(); });
     anordnen();
     laden();
 }
@@ -104,6 +104,7 @@ void A_Heizen::laden() {
 }
 
 void A_Heizen::aktiviert() {
+    tooltip.verlassen();
     HeizFelderAusfuellen();
     FassadenbalkenZeichnen();
     JahrBilanzZeichnen();

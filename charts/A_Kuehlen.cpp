@@ -40,11 +40,11 @@ void A_Kuehlen::bilder_verbinden() {
 
 void A_Kuehlen::tipps_verbinden() {
     tooltip.folge_monaten(StundenProTagMonat, [this](int m) { return tipp_stunden_monat(m); });
-    tooltip.folge(StundenProTagJahr, [this] { return tipp_stunden_jahr(); });
+    tooltip.folge_jahr(StundenProTagJahr, [this] { return tipp_stunden_jahr(); });
     tooltip.folge_monaten(KuehlbedarfMonat, [this](int m) { return tipp_bedarf_monat(m); });
-    tooltip.folge(KuehlbedarfJahr, [this] { return tipp_bedarf_jahr(); });
+    tooltip.folge_jahr(KuehlbedarfJahr, [this] { return tipp_bedarf_jahr(); });
     tooltip.folge_monaten(KuehlGradStundenMonat, [this](int m) { return tipp_gradstunden_monat(m); });
-    tooltip.folge(KuehlGradStundenJahr, [this] { return tipp_gradstunden_jahr(); });
+    tooltip.folge_jahr(KuehlGradStundenJahr, [this] { return tipp_gradstunden_jahr(); });
 }
 
 void A_Kuehlen::anordnen() {
@@ -63,7 +63,8 @@ void A_Kuehlen::laden() {
     beschriften(ebene.name, sitzung_.p.Sprache, {&Label1, &Label10, &Label2});
 }
 
-void A_Kuehlen::aktiviert() const {
+void A_Kuehlen::aktiviert() {
+    tooltip.verlassen();
     StundenProTagZeichnen();
     KuehlBedarfZeichnen();
     KuehlGradStundenZeichnen();

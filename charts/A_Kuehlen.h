@@ -27,7 +27,7 @@ struct A_Kuehlen {
     void laden();
 
     /// The plane has come to the front: shows the record as it stands.
-    void aktiviert() const;
+    void aktiviert();
 
     /// Draw anew, both surfaces of each pair.
     void StundenProTagZeichnen() const;

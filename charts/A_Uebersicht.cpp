@@ -33,9 +33,9 @@ A_Uebersicht::A_Uebersicht(Sitzung& sitzung)
     UeberGrafik.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::UeberGrafikZeichnen(p, bild); };
     UeberJahr.zeichnen = [&p](Zeichenflaeche& bild) { UeberJahrZeichnen(p, bild); };
     tooltip.folge_monaten(Monatsbilanz, [this](int m) { return tipp_monatsbilanz(m); });
-    tooltip.folge(JahrBilanz, [this] { return tipp_jahrbilanz(); });
+    tooltip.folge_jahr(JahrBilanz, [this] { return tipp_jahrbilanz(); });
     tooltip.folge_monaten(UeberGrafik, [this](int m) { return tipp_uebergrafik(m); });
-    tooltip.folge(UeberJahr, [this] { return tipp_ueberjahr(); });
+    tooltip.folge_jahr(UeberJahr, [this] { return tipp_ueberjahr(); });
     Temperaturen.maus_geklickt = [this](double, double) {
         if (zoom_oeffnen) zoom_oeffnen();
     };
@@ -62,6 +62,7 @@ void A_Uebersicht::laden() {
 }
 
 void A_Uebersicht::aktiviert() {
+    tooltip.verlassen();
     sitzung_.alles_berechnen();
     monatswahl.markiere();
 }

@@ -8,8 +8,6 @@ namespace velmaris {
 namespace {
 
 constexpr int teile = 5;
-constexpr Farbe solar_ungenutzt{192, 192, 0};
-constexpr Farbe intern_ungenutzt{200, 99, 0};
 
 /// A bar of the usable part and, from it up to the whole, the rest.
 void teil_und_ganzes(const Balkendiagramm& diagramm, double x1, double x2, const Abschnitt& teil,
@@ -21,9 +19,9 @@ void teil_und_ganzes(const Balkendiagramm& diagramm, double x1, double x2, const
 void gewinne_zeichnen(const Balkendiagramm& diagramm, double x, double breite, double abstand,
                       const Gewinne& g) {
     teil_und_ganzes(diagramm, x, x + breite, {g.solar_genutzt, balkenfarben::solar},
-                    {g.solar, solar_ungenutzt});
+                    {g.solar, balkenfarben::solar_ungenutzt});
     teil_und_ganzes(diagramm, x + abstand, x + abstand + breite, {g.intern_genutzt, balkenfarben::intern},
-                    {g.intern, intern_ungenutzt});
+                    {g.intern, balkenfarben::intern_ungenutzt});
 }
 
 }  // namespace

@@ -1,14 +1,16 @@
 #include "charts/schema.h"
 
+#include "language/c_Sprache.h"
+#include "toolkit/diagrammtext.h"
 #include "toolkit/zahlen.h"
+
+#include <vector>
 
 namespace velmaris {
 namespace {
 
 constexpr double links = 30;  ///< vertical axis
 constexpr double strichanfang = 27;
-constexpr double zahlenrand = 25;
-constexpr double spaltenbreite = 24;
 constexpr double jahresrand = 88;
 
 }  // namespace
@@ -20,12 +22,13 @@ void achsen_zeichnen(const Balkendiagramm& diagramm, double rechts) {
     bild.schrift({});
     bild.linie(links, rahmen.achse, links, rahmen.oben, farben::schwarz);
     bild.linie(links, rahmen.achse, rechts, rahmen.achse, farben::schwarz);
+    std::vector<Achsenzahl> zahlen;
     for (int i = 0; i <= diagramm.teile; ++i) {
         const double y = diagramm.strich(i);
-        const std::string zahl = zahltext(i * diagramm.schritt);
         bild.linie(strichanfang, y, links, y, farben::schwarz);
-        bild.text(zahlenrand - bild.textbreite(zahl), y - 5, zahl);
+        zahlen.push_back({i * diagramm.schritt, y});
     }
+    achsenzahlen_zeichnen(bild, zahlen);
 }
 
 void balken_zeichnen(const Balkendiagramm& diagramm, double x1, double x2, double wert, Farbe farbe) {
@@ -53,10 +56,7 @@ std::optional<int> spaltenmonat(double x) {
 }
 
 void monatsnamen_zeichnen(Zeichenflaeche& bild, const Projekt& p, double y) {
-    for (int m = 1; m <= monate; ++m) {
-        const std::string& name = p.Monat(m).Kurz;
-        bild.text(47 + spaltenbreite * (m - 1) - bild.textbreite(name) / 2, y, name);
-    }
+    spaltennamen_zeichnen(bild, monatskuerzel(p), y);
 }
 
 void jahresname_zeichnen(Zeichenflaeche& bild, const std::string& name) {

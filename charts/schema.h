@@ -21,6 +21,8 @@ inline constexpr Farbe intern{255, 128, 0};
 inline constexpr Farbe solar{255, 255, 0};
 inline constexpr Farbe komfort{255, 255, 0};
 inline constexpr Farbe kuehlen{0, 0, 255};
+inline constexpr Farbe solar_ungenutzt{192, 192, 0};
+inline constexpr Farbe intern_ungenutzt{200, 99, 0};
 }  // namespace balkenfarben
 
 /// The frame that a family of bar charts shares, y coordinates and heights in pixels. The ticks count from

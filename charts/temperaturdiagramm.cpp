@@ -1,8 +1,10 @@
 #include "charts/temperaturdiagramm.h"
 
+#include "toolkit/diagrammtext.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -12,6 +14,11 @@ namespace {
 
 constexpr double breit = 600;  ///< from this width on each day has its number
 constexpr int tage_der_achse = 31;
+constexpr double rand_rechts = 10;
+constexpr double legendentext = 15;  ///< from the patch of a legend entry to its text
+constexpr Schrift schrift{.groesse = 8};
+constexpr Farbe farbe_raum = farben::rot;
+constexpr Farbe farbe_aussen = farben::blau;
 
 /// The plot area, the axes and the pixels per unit.
 struct Plan {
@@ -29,7 +36,7 @@ struct Plan {
 Plan plan(const Zeichenflaeche& bild, const Temperaturachse& achse) {
     Plan p{.links = 30,
            .oben = 35,
-           .rechts = bild.breite() - 10,
+           .rechts = bild.breite() - rand_rechts,
            .unten = bild.hoehe() - 20,
            .achse = achse,
            .x_faktor = 0,
@@ -39,11 +46,21 @@ Plan plan(const Zeichenflaeche& bild, const Temperaturachse& achse) {
     return p;
 }
 
-void legende(Zeichenflaeche& bild, double abstand, const std::string& text, Farbe farbe) {
+void eintrag(Zeichenflaeche& bild, double abstand, const std::string& text, Farbe farbe) {
     constexpr double mitte = 35 - 8;
     const double x = bild.breite() - abstand;
     bild.flaeche(x, mitte - 3, x + 9, mitte + 3, farbe);
-    bild.text(x + 15, mitte - bild.texthoehe("T") / 2, text);
+    bild.text(x + legendentext, mitte - bild.texthoehe("T") / 2, text);
+}
+
+/// Both entries in one font, in which the second one ends above the right end of the axis.
+void legende(Zeichenflaeche& bild, const Projekt& p) {
+    constexpr double raum = 280, aussen = 130;
+    const std::array<std::string, 2> texte{p.texte.txt_Raumluft, p.texte.txt_Aussenluft};
+    schrift_einpassen(bild, texte, aussen - legendentext - rand_rechts, schrift);
+    eintrag(bild, raum, texte[0], farbe_raum);
+    eintrag(bild, aussen, texte[1], farbe_aussen);
+    bild.schrift(schrift);
 }
 
 Farbe linienfarbe(bool achse) {
@@ -136,13 +153,11 @@ void TemperaturDiagrammZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     const double T_max = std::max(max_suchen(Ta, monat), max_suchen(Ti, monat));
     const Plan flaechenplan = plan(bild, temperaturachse(T_min, T_max));
     bild.Cls();
-    bild.schrift({.groesse = 8});
-    legende(bild, 280, p.texte.txt_Raumluft, farben::rot);
-    legende(bild, 130, p.texte.txt_Aussenluft, farben::blau);
+    legende(bild, p);
     tagesachse(bild, flaechenplan);
     temperaturachse_zeichnen(bild, flaechenplan);
-    kurve(bild, flaechenplan, Ta, monat, farben::blau);
-    kurve(bild, flaechenplan, Ti, monat, farben::rot);
+    kurve(bild, flaechenplan, Ta, monat, farbe_aussen);
+    kurve(bild, flaechenplan, Ti, monat, farbe_raum);
 }
 
 }  // namespace velmaris

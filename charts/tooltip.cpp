@@ -15,7 +15,8 @@ constexpr double zeilenhoehe = 12.5;
 constexpr double rand_hoehe = 14;  ///< of the frame around the label, both sides together
 constexpr double rand_breite = 16;
 
-Rechteck rahmen(const Platz& platz, std::string_view text) {
+/// The frame of a text in the letters of the charts.
+Groesse textrahmen(std::string_view text) {
     double breite = 0;
     int zeilen = 0;
     while (!text.empty()) {
@@ -24,64 +25,114 @@ Rechteck rahmen(const Platz& platz, std::string_view text) {
         text.remove_prefix(std::min(zeile.size() + 1, text.size()));
         ++zeilen;
     }
-    return {.links = platz.links,
-            .oben = platz.oben,
-            .breite = runden(breite + rand_breite),
-            .hoehe = runden(zeilen * zeilenhoehe + rand_hoehe)};
+    return {.breite = runden(breite + rand_breite), .hoehe = runden(zeilen * zeilenhoehe + rand_hoehe)};
+}
+
+/// The pointer on the plane.
+Platz auf_der_ebene(Bildschirmpunkt zeiger, const Ebenenlage& lage) {
+    return {.links = zeiger.x - lage.haupt.links - lage.ebene.links,
+            .oben = zeiger.y - lage.haupt.oben - lage.ebene.oben};
 }
 
 }  // namespace
 
-Platz tooltip_platz(Bildschirmpunkt zeiger, const Ebenenlage& lage) {
-    const double links = zeiger.x - lage.haupt.links - lage.ebene.links - 5;
-    const double oben = zeiger.y - lage.haupt.oben - lage.ebene.oben - 20;
-    return {.links = std::max(links, 0.0), .oben = oben};
+Platz platz_am_zeiger(Bildschirmpunkt zeiger, const Ebenenlage& lage, const Groesse& /*rahmen*/) {
+    const Platz ort = auf_der_ebene(zeiger, lage);
+    return {.links = std::max(ort.links - 5, 0.0), .oben = ort.oben - 20};
+}
+
+Platz platz_neben_dem_zeiger(Bildschirmpunkt zeiger, const Ebenenlage& lage, const Groesse& rahmen) {
+    const Platz ort = auf_der_ebene(zeiger, lage);
+    const double oben = ort.oben - 20;
+    const bool unter_der_ebene = oben + rahmen.hoehe > lage.hoehe;
+    return {.links = std::max(ort.links - rahmen.breite - 5, 0.0),
+            .oben = unter_der_ebene ? ort.oben - 50 - rahmen.hoehe : oben};
 }
 
 bool ist_bemalt(const Bildfeld& bild, double x, double y) {
     return bild.lies_punkt && bild.lies_punkt(x, y) != bild.lies_punkt(2, 2);
 }
 
-Tooltip::Tooltip(Plattform& plattform, std::string_view ebene)
-    : plattform_(plattform), zeitgeber_(std::string(ebene) + ".Timer_Tip_ein") {
+Tooltip::Tooltip(Plattform& plattform, std::string_view ebene, const Tooltipart& art)
+    : plattform_(plattform), zeitgeber_(std::string(ebene) + ".Timer_Tip_ein"), art_(art) {
     Frame_ToolTip.zeige(false);
+}
+
+void Tooltip::Label_Tooltip_MouseMove() {
+    if (!art_.verbirgt_bei_druck) Frame_ToolTip.zeige(false);
+}
+
+void Tooltip::Label_Tooltip_MouseDown() {
+    if (art_.verbirgt_bei_druck) Frame_ToolTip.zeige(false);
+}
+
+void Tooltip::verlassen() {
+    Frame_ToolTip.zeige(false);
+    plattform_.zeitgeber_stoppen(zeitgeber_);
+}
+
+void Tooltip::erneuern() {
+    if (!Frame_ToolTip.sichtbar() || !zuletzt_) return;
+    if (const std::optional<std::string> text = zuletzt_()) {
+        Label_Tooltip.schreibe(*text);
+        aufstellen();
+    } else {
+        verlassen();
+    }
+}
+
+void Tooltip::folge(Bildfeld& bild, Text text) {
+    bild.maus_bewegt = [this, text = std::move(text)](double x, double y) {
+        zuletzt_ = [text, x, y] { return text(x, y); };
+        bewegt(zuletzt_());
+    };
+}
+
+void Tooltip::folge_monaten(Bildfeld& bild, std::function<std::string(int m)> text) {
+    folge(bild, [&bild, text = std::move(text)](double x, double y) -> std::optional<std::string> {
+        const std::optional<int> monat = ist_bemalt(bild, x, y) ? spaltenmonat(x) : std::nullopt;
+        if (!monat) return std::nullopt;
+        return text(*monat);
+    });
+}
+
+void Tooltip::folge_jahr(Bildfeld& bild, std::function<std::string()> text) {
+    folge(bild, [&bild, text = std::move(text)](double x, double y) -> std::optional<std::string> {
+        if (!ist_bemalt(bild, x, y)) return std::nullopt;
+        return text();
+    });
 }
 
 void Tooltip::bewegt(const std::optional<std::string>& text) {
     if (!text) {
-        verberge();
-        plattform_.zeitgeber_stoppen(zeitgeber_);
+        verlassen();
         return;
     }
     gemerkt_ = plattform_.zeiger();
-    if (!Frame_ToolTip.sichtbar())
-        plattform_.zeitgeber_starten(zeitgeber_, ruhezeit, [this] { zeitgeber_abgelaufen(); });
     Label_Tooltip.schreibe(*text);
-}
-
-void Tooltip::folge_monaten(Bildfeld& bild, std::function<std::string(int m)> text) {
-    bild.maus_bewegt = [this, &bild, text = std::move(text)](double x, double y) {
-        const std::optional<int> monat = ist_bemalt(bild, x, y) ? spaltenmonat(x) : std::nullopt;
-        bewegt(monat ? std::optional(text(*monat)) : std::nullopt);
-    };
-}
-
-void Tooltip::folge(Bildfeld& bild, std::function<std::string()> text) {
-    bild.maus_bewegt = [this, &bild, text = std::move(text)](double x, double y) {
-        bewegt(ist_bemalt(bild, x, y) ? std::optional(text()) : std::nullopt);
-    };
+    if (Frame_ToolTip.sichtbar()) {
+        aufstellen();
+    } else {
+        plattform_.zeitgeber_starten(zeitgeber_, ruhezeit, [this] { zeitgeber_abgelaufen(); });
+    }
 }
 
 void Tooltip::zeitgeber_abgelaufen() {
-    const Bildschirmpunkt zeiger = plattform_.zeiger();
-    if (zeiger != gemerkt_) return;
-    const Platz platz = tooltip_platz(zeiger, ebenenlage ? ebenenlage() : Ebenenlage{});
-    Frame_ToolTip.lege(rahmen(platz, Label_Tooltip.text()));
+    if (plattform_.zeiger() != gemerkt_) return;
+    aufgestellt_ = gemerkt_;
+    aufstellen();
     Frame_ToolTip.zeige(true);
 }
 
-void Tooltip::verberge() {
-    Frame_ToolTip.zeige(false);
+/// Gives the frame the size of its text, at the place where the pointer had come to rest.
+void Tooltip::aufstellen() {
+    const Groesse bedarf = platzbedarf ? platzbedarf() : Groesse{};
+    Groesse rahmen = textrahmen(Label_Tooltip.text());
+    if (art_.hoehe > 0) rahmen.hoehe = art_.hoehe;
+    rahmen = {std::max(rahmen.breite, bedarf.breite), std::max(rahmen.hoehe, bedarf.hoehe)};
+    const Platz platz = art_.platz(aufgestellt_, ebenenlage ? ebenenlage() : Ebenenlage{}, rahmen);
+    Frame_ToolTip.lege(
+        {.links = platz.links, .oben = platz.oben, .breite = rahmen.breite, .hoehe = rahmen.hoehe});
 }
 
 std::string tippmonat(const Projekt& p, int m) {

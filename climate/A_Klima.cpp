@@ -4,6 +4,7 @@
 #include "calc/waermestroeme.h"
 #include "climate/jahreswerte.h"
 #include "climate/regionen.h"
+#include "toolkit/fehler.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
@@ -34,11 +35,25 @@ std::string klimaname(const Projekt& p) {
     return "Region " + (region > 0 ? std::string(klimaregion(region).text) : p.Stationsname);
 }
 
+[[noreturn]] void ohne_waermeverlust() {
+    throw Laufzeitfehler(
+        {"Es gibt keine Heizgrenztemperatur, denn das Gebäude verliert keine Wärme: Die Verluste durch "
+         "Wände, "
+         "Fenster, Tür, Dach, Boden und Lüftung ergeben zusammen 0. Bitte U-Werte, Luftwechsel und die Räume "
+         "über und unter dem Gebäude prüfen.",
+         "There is no heating limit temperature, since the building loses no heat: the losses through walls, "
+         "windows, door, roof, floor and ventilation add up to 0. Please check the U values, the air change "
+         "and the rooms above and below the building."},
+        "Heizgrenztemperatur");
+}
+
 }  // namespace
 
 Heizgrenze heizgrenze(const Projekt& p) {
+    const double verlust = lueftungskoeffizient(p) + huellverlust(p);
+    if (verlust == 0) ohne_waermeverlust();
     Heizgrenze grenze;
-    grenze.Temperatur = p.Troom - innere_leistung(p) / (lueftungskoeffizient(p) + huellverlust(p));
+    grenze.Temperatur = p.Troom - innere_leistung(p) / verlust;
     for (const double mittel : p.Strahlung.werte.Tagesmittel) {
         if (mittel < grenze.Temperatur) ++grenze.Heiztage;
         if (mittel < heizgrenze_der_gradtage) grenze.Heizgradtage += raum_der_gradtage - mittel;

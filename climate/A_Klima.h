@@ -15,7 +15,8 @@ struct Heizgrenze {
 };
 
 /// Heating limit from the losses of the simple envelope with the reductions of roof space and floor; solar
-/// gains do not enter. Degree days 20/12 as in SIA 381/3 (1982).
+/// gains do not enter. Degree days 20/12 as in SIA 381/3 (1982). Without any losses there is no such limit:
+/// a Laufzeitfehler.
 [[nodiscard]] Heizgrenze heizgrenze(const Projekt& p);
 
 /// The plane "Klima / Gebäude": labels with the climate in force and the figures of the building. Each

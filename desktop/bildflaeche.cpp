@@ -98,10 +98,14 @@ void Bildflaeche::enterEvent(QEnterEvent*) {
     setCursor(feld_.maus_geklickt ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
-/// A pointer that has left the surface is told as a move to a place outside of it. A panel that opens
-/// under the resting pointer, as the charts' tooltips do, is no leaving.
+/// A pointer that has left the surface is told as a move to a place outside of it. A panel that lies over
+/// the surface under the pointer, as the charts' tooltips do, is no leaving; its own leaving is its affair.
+/// The place of the pointer alone proves nothing: it may be the last one that the window was told.
 void Bildflaeche::leaveEvent(QEvent*) {
-    if (rect().contains(mapFromGlobal(QCursor::pos()))) return;
+    const QPoint zeiger = QCursor::pos();
+    const QWidget* dort = window()->childAt(window()->mapFromGlobal(zeiger));
+    const bool verdeckt = isVisible() && dort != nullptr && dort != this;
+    if (verdeckt && rect().contains(mapFromGlobal(zeiger))) return;
     wache_.fuehre_aus([this] {
         if (feld_.maus_bewegt) feld_.maus_bewegt(-1, -1);
     });

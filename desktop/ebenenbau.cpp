@@ -29,9 +29,9 @@ constexpr int spalte_wert = 42;
 constexpr int spalte_einheit = 46;
 
 /// Calls a routine on one kind of event of the widget that it belongs to.
-class Mauswaechter : public QObject {
+class Waechter : public QObject {
   public:
-    Mauswaechter(QWidget& fenster, const Fehlerwache& wache, QEvent::Type art, std::function<void()> tu)
+    Waechter(QWidget& fenster, const Fehlerwache& wache, QEvent::Type art, std::function<void()> tu)
         : QObject(&fenster), wache_(wache), art_(art), tu_(std::move(tu)) {
         fenster.installEventFilter(this);
     }
@@ -85,8 +85,18 @@ QLabel* Ebenenbau::bruch(std::string_view feld) const {
     return neu;
 }
 
+/// A frame whose ground is known to what stands on it.
+QGroupBox* Ebenenbau::tafel() const {
+    auto* neu = new QGroupBox(&ebene_);
+    QPalette farben = neu->palette();
+    farben.setColor(QPalette::Window, QColor(stilfarben::tafel));
+    neu->setPalette(farben);
+    return neu;
+}
+
 QGroupBox* Ebenenbau::rahmen(std::string_view feld) const {
-    auto* neu = new QGroupBox(qtext(text(feld)), &ebene_);
+    QGroupBox* neu = tafel();
+    neu->setTitle(qtext(text(feld)));
     neu->setObjectName(qtext(feld));
     return neu;
 }
@@ -98,7 +108,7 @@ QGroupBox* Ebenenbau::rahmen(Feld& feld) const {
 }
 
 QGroupBox* Ebenenbau::rahmen(Anzeige& titel) const {
-    auto* neu = new QGroupBox(&ebene_);
+    QGroupBox* neu = tafel();
     mittel_.binder.binde(*neu, titel);
     return neu;
 }
@@ -223,13 +233,17 @@ QVBoxLayout* stapel(QWidget& rahmen) {
     return neu;
 }
 
+void bei_ereignis(QWidget& fenster, QEvent::Type art, const Fehlerwache& wache, std::function<void()> tu) {
+    new Waechter(fenster, wache, art, std::move(tu));
+}
+
 void bei_mausbewegung(QWidget& fenster, const Fehlerwache& wache, std::function<void()> tu) {
     fenster.setMouseTracking(true);
-    new Mauswaechter(fenster, wache, QEvent::MouseMove, std::move(tu));
+    bei_ereignis(fenster, QEvent::MouseMove, wache, std::move(tu));
 }
 
 void bei_mausdruck(QWidget& fenster, const Fehlerwache& wache, std::function<void()> tu) {
-    new Mauswaechter(fenster, wache, QEvent::MouseButtonPress, std::move(tu));
+    bei_ereignis(fenster, QEvent::MouseButtonPress, wache, std::move(tu));
 }
 
 }  // namespace velmaris

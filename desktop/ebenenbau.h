@@ -4,6 +4,7 @@
 #include "desktop/fehlerwache.h"
 #include "toolkit/felder.h"
 
+#include <QEvent>
 #include <QString>
 #include <functional>
 #include <string>
@@ -90,6 +91,7 @@ class Ebenenbau {
 
   private:
     [[nodiscard]] QLabel* schild(const std::string& text) const;
+    [[nodiscard]] QGroupBox* tafel() const;
     QPushButton* beschriftet(QPushButton* neu, Knopf& knopf) const;
 
     QWidget& ebene_;
@@ -103,7 +105,8 @@ class Ebenenbau {
 /// Widgets one below the other, or side by side, inside a frame.
 [[nodiscard]] QVBoxLayout* stapel(QWidget& rahmen);
 
-/// Runs a routine whenever the pointer moves over a widget, or presses it.
+/// Runs a routine whenever a widget gets an event of that kind, the pointer moves over it, or presses it.
+void bei_ereignis(QWidget& fenster, QEvent::Type art, const Fehlerwache& wache, std::function<void()> tu);
 void bei_mausbewegung(QWidget& fenster, const Fehlerwache& wache, std::function<void()> tu);
 void bei_mausdruck(QWidget& fenster, const Fehlerwache& wache, std::function<void()> tu);
 

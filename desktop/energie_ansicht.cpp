@@ -4,7 +4,7 @@
 #include "desktop/ebene.h"
 #include "desktop/qt_text.h"
 #include "desktop/stil.h"
-#include "desktop/tippfenster.h"
+#include "desktop/tooltip_ansicht.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -139,28 +139,6 @@ void auswahlliste(E_Energie& e, const Ansichtsmittel& mittel, QWidget* ebene) {
     bei_mausdruck(*rahmen, mittel.wache, [&e] { e.Frame_Auswahl_Click(); });
 }
 
-void tooltip(E_Energie& e, const Ansichtsmittel& mittel, QWidget* ebene) {
-    auto* fenster = new Tippfenster(ebene);
-    mittel.binder.binde(*fenster->text(), e.Label_Tooltip);
-    mittel.binder.binde(static_cast<QWidget&>(*fenster), e.Frame_ToolTip);
-    e.Frame_ToolTip.ansicht = [&e, fenster] {
-        fenster->adjustSize();
-        if (const auto& platz = e.Frame_ToolTip.platz())
-            fenster->move(QPointF(platz->links, platz->oben).toPoint());
-        grundzustand(*fenster, e.Frame_ToolTip);
-    };
-    bei_mausdruck(*fenster->text(), mittel.wache, [&e] { e.Label_Tooltip_MouseDown(); });
-    e.tipplage = [ebene, fenster] {
-        const QPoint haupt = ebene->window()->frameGeometry().topLeft();
-        return Tipplage{.haupt_links = static_cast<double>(haupt.x()),
-                        .haupt_oben = static_cast<double>(haupt.y()),
-                        .ebene_links = static_cast<double>(ebene->x()),
-                        .ebene_oben = static_cast<double>(ebene->y()),
-                        .ebene_hoehe = static_cast<double>(ebene->height()),
-                        .breite = static_cast<double>(fenster->sizeHint().width())};
-    };
-}
-
 }  // namespace
 
 QWidget* energie_ansicht(E_Energie& e, const Ansichtsmittel& mittel, QWidget* eltern) {
@@ -186,7 +164,7 @@ QWidget* energie_ansicht(E_Energie& e, const Ansichtsmittel& mittel, QWidget* el
     spalte.addWidget(diagramm);
     spalte.addStretch();
     auswahlliste(e, mittel, ebene);
-    tooltip(e, mittel, ebene);
+    tooltip_ansicht(e.tooltip, mittel, ebene);
     return ebene;
 }
 

@@ -38,7 +38,7 @@ void haus(E_Geometrie& e, const Ebenenbau& bau, QWidget* ebene) {
         setze(bau.bild(e.Picture3, farben_des_fensters), ebene, bild_links, bild_oben, 190, 176);
     setze(mittig(bau.wort("Label12")), bild, 6, 98, 52);
     setze(mittig(bau.wort("Label15")), bild, 6, 110, 52);
-    setze(bau.zahl(e.f_wfa_anz), bild, 6, 122, 33);
+    setze(bau.zahl(e.f_wfa_anz), bild, 2, 122, 38);
     setze(bau.einheit("Einheit_f_wfa"), bild, 42, 122);
     setze(mittig(bau.wort("Label14")), bild, 62, 128, 106);
     setze(bau.zahl(e.f_nfa_anz), bild, 62, 142, 56);
@@ -68,7 +68,7 @@ void masse(E_Geometrie& e, const Ebenenbau& bau, QWidget* ebene) {
     setze(umbrochen(bau.wort("Label22")), ebene, 2, 128, 74, 40);
     setze(mittig(bau.anzeige(e.h_anz)), ebene, 2, 168, 74, 16);
     setze(bau.leiste(e.h_sb, bau.text("Label22"), Qt::Vertical), ebene, leiste_links, 111, mass::leiste, 97);
-    setze(umbrochen(bau.wort("Label1")), ebene, 286, 44, 64, 40);
+    setze(umbrochen(bau.wort("Label1")), ebene, 288, 44, 62, 40);
     setze(bau.leiste(e.ag_sb, bau.text("Label1"), Qt::Vertical), ebene, 296, 88, mass::leiste, 97);
     setze(mittig(bau.anzeige(e.ag_anz)), ebene, 316, 128, 28, 16);
 
@@ -94,9 +94,11 @@ QGroupBox* gebaeudedaten(E_Geometrie& e, const Ebenenbau& bau) {
         Anzeige& wert;
         std::string_view einheit;
     };
+    constexpr int seitenrand = 4, spaltenabstand = 2;  // the largest volume has eight places
     QGroupBox* rahmen = bau.rahmen("Frame4");
     auto* tabelle = new QGridLayout(rahmen);
-    tabelle->setContentsMargins(mass::rand, 0, mass::rand, mass::innenrand);
+    tabelle->setContentsMargins(seitenrand, 0, seitenrand, mass::innenrand);
+    tabelle->setHorizontalSpacing(spaltenabstand);
     tabelle->setVerticalSpacing(mass::zeilenabstand);
     tabelle->setColumnStretch(1, 1);
     int nummer = 0;
@@ -114,6 +116,7 @@ QGroupBox* gebaeudedaten(E_Geometrie& e, const Ebenenbau& bau) {
 
 /// The plan of the house between the compass letters, with the scroll field that turns it.
 QGroupBox* orientierung(E_Geometrie& e, const Ebenenbau& bau) {
+    constexpr int zweckschrift = 10;  // on one line, so that the plan keeps its height
     QGroupBox* rahmen = bau.rahmen("Frame2");
     auto* rose = new QGridLayout(rahmen);
     rose->setContentsMargins(mass::rand, 0, mass::rand, mass::innenrand);
@@ -134,7 +137,11 @@ QGroupBox* orientierung(E_Geometrie& e, const Ebenenbau& bau) {
     enden->addWidget(bau.wort("Label30"));
     rose->addLayout(enden, 3, 0, 1, 3);
     rose->addWidget(bau.leiste(e.orient_sb, bau.text("Label23")), 4, 0, 1, 3);
-    rose->addWidget(umbrochen(bau.wort("Label23")), 5, 0, 1, 3);
+    QLabel* zweck = umbrochen(bau.wort("Label23"));
+    QFont schrift = zweck->font();
+    schrift.setPixelSize(zweckschrift);
+    zweck->setFont(schrift);
+    rose->addWidget(zweck, 5, 0, 1, 3);
     return rahmen;
 }
 

@@ -74,10 +74,10 @@ QWidget* heizen_ansicht(A_Heizen& a, const Ansichtsmittel& mittel, QWidget* elte
     legende(bau, ebene, 8, 17, 436, {{balkenfarben::intern, &a.Label25}, {balkenfarben::solar, &a.Label21}});
     bau.bild(a.Heizbilanz);
     bau.bild(a.JahrBilanz);
-    constexpr Farbe dunkelgelb{192, 192, 0};
-    constexpr Farbe braun{200, 99, 0};
-    legende(bau, ebene, 8, 179, 436, {{balkenfarben::solar, &a.Label13}, {dunkelgelb, &a.Label11}});
-    legende(bau, ebene, 8, 195, 436, {{balkenfarben::intern, &a.Label12}, {braun, &a.Label10}});
+    legende(bau, ebene, 8, 179, 436,
+            {{balkenfarben::solar, &a.Label13}, {balkenfarben::solar_ungenutzt, &a.Label11}});
+    legende(bau, ebene, 8, 195, 436,
+            {{balkenfarben::intern, &a.Label12}, {balkenfarben::intern_ungenutzt, &a.Label10}});
     bau.bild(a.NutzungsgradMonat);
     bau.bild(a.NutzungsgradJahr);
     jahrestabelle(a, bau, ebene);

@@ -15,8 +15,17 @@ Tippfenster::Tippfenster(QWidget* ebene) : QFrame(ebene), text_(new QLabel(this)
     spalte->addWidget(text_);
 }
 
+QSize Tippfenster::sizeHint() const {
+    return layout()->totalSizeHint();
+}
+
 void Tippfenster::moveEvent(QMoveEvent* ereignis) {
     QFrame::moveEvent(ereignis);
+    hineinruecken(*this);
+}
+
+void Tippfenster::resizeEvent(QResizeEvent* ereignis) {
+    QFrame::resizeEvent(ereignis);
     hineinruecken(*this);
 }
 

@@ -15,8 +15,12 @@ class Tippfenster : public QFrame {
 
     [[nodiscard]] QLabel* text() const { return text_; }
 
+    /// What frame and text need; a frame alone would ask for its edge only.
+    [[nodiscard]] QSize sizeHint() const override;
+
   protected:
     void moveEvent(QMoveEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
     void showEvent(QShowEvent* ereignis) override;
 
   private:

@@ -17,11 +17,13 @@ QWidget* uebersicht_ansicht(A_Uebersicht& a, const Ansichtsmittel& mittel, QWidg
     const Ebenenbau bau(*ebene, "A_Uebersicht", mittel);
     bau.bild(a.Temperaturen);
     monatsleiste_ansicht(a.monatsleiste, bau, ebene);
-    legende(bau, ebene, 8, 187, 430, {{farben::rot, &a.Label9}, {farben::blau, &a.Label1}});
+    legende(bau, ebene, 8, 187, 430, {{balkenfarben::heizen, &a.Label9}, {balkenfarben::kuehlen, &a.Label1}});
     bau.bild(a.Monatsbilanz);
     bau.bild(a.JahrBilanz);
     legende(bau, ebene, 8, 345, 430,
-            {{farben::rot, &a.Label32}, {farben::gelb, &a.Label01}, {farben::blau, &a.Label02}});
+            {{balkenfarben::heizen, &a.Label32},
+             {balkenfarben::komfort, &a.Label01},
+             {balkenfarben::kuehlen, &a.Label02}});
     bau.bild(a.UeberGrafik);
     bau.bild(a.UeberJahr);
     tooltip_ansicht(a.tooltip, mittel, ebene);

@@ -12,8 +12,7 @@
 namespace velmaris {
 namespace {
 
-constexpr const char* zeitgeber = "E_Energie.Timer_Tip_ein";
-constexpr int tipp_nach_millisekunden = 1000;
+constexpr Tooltipart tooltipart{.platz = platz_neben_dem_zeiger, .hoehe = 72, .verbirgt_bei_druck = true};
 
 template <class Liste>
 std::vector<std::string> als_vektor(const Liste& texte) {
@@ -22,18 +21,9 @@ std::vector<std::string> als_vektor(const Liste& texte) {
 
 }  // namespace
 
-Platz tippplatz(Bildschirmpunkt zeiger, const Tipplage& lage) {
-    const double x = zeiger.x - lage.haupt_links - lage.ebene_links;
-    const double y = zeiger.y - lage.haupt_oben - lage.ebene_oben;
-    const double links = x - lage.breite - 5;
-    const double oben = y - 20;
-    const bool unter_der_ebene = oben + tipphoehe > lage.ebene_hoehe;
-    return {links < 0 ? 0 : links, unter_der_ebene ? y - 50 - tipphoehe : oben};
-}
-
-E_Energie::E_Energie(Sitzung& sitzung) : sitzung_(sitzung) {
+E_Energie::E_Energie(Sitzung& sitzung)
+    : tooltip(sitzung.plattform, ebene.name, tooltipart), sitzung_(sitzung) {
     ebene.zeige(false);
-    Frame_ToolTip.zeige(false);
     for (Anzeige* verdeckt : {&anz_q_ce, &anz_q_d, &anz_q_s, &anz_q_d_he, &anz_q_s_he, &anz_q_g_he})
         verdeckt->zeige(false);
 
@@ -53,7 +43,10 @@ E_Energie::E_Energie(Sitzung& sitzung) : sitzung_(sitzung) {
     Monatsübersicht_Energieträger.zeichnen = [this](Zeichenflaeche& bild) {
         Monatsverbrauch_zeichnen(bild, sitzung_.p);
     };
-    Monatsübersicht_Energieträger.maus_bewegt = [this](double x, double y) { maus_ueber_chart(x, y); };
+    tooltip.folge(Monatsübersicht_Energieträger, [this](double x, double y) -> std::optional<std::string> {
+        if (!auf_saeule(monatswerte(sitzung_.p), x, y)) return std::nullopt;
+        return tooltip_text(monat_bei(x));
+    });
     laden();
 }
 
@@ -67,6 +60,7 @@ void E_Energie::laden() {
 }
 
 void E_Energie::aktiviert() {
+    tooltip.verlassen();
     sitzung_.alles_berechnen();
     EnergRefresh();
 }
@@ -167,41 +161,17 @@ void E_Energie::Frame_Auswahl_Click() {
     Auswahl.Frame_Auswahl.zeige(false);
 }
 
-void E_Energie::Label_Tooltip_MouseDown() {
-    Frame_ToolTip.zeige(false);
-}
-
 std::string E_Energie::tooltip_text(int m) const {
     const Projekt& p = sitzung_.p;
     const Monatsenergie werte = monatswerte(p);
-    const std::string je_monat = " kWh / (m² " + p.texte.txt_Monat + ")";
     const auto zeile = [&](const Anzeige& feld, float wert) {
-        return "\r" + feld.text() + ": " + muster(wert, 1) + je_monat;
+        return tippzeile(feld, wert, kwh_je_monat(p));
     };
-    const std::string kopf = p.texte.txt_Monat + ": " + p.Monat(m).Name;
+    const std::string kopf = tippmonat(p, m);
     if (kurzname(p.Heizsystem, p.Energietraeger).elektrisch())
         return kopf + zeile(Label8, werte.E(m)) + zeile(Label21, werte.P(m));
     return kopf + zeile(Label8, werte.E(m)) + zeile(Label33, werte.H(m)) + zeile(Label21, werte.P(m)) +
            zeile(Label14, werte.Q(m));
-}
-
-void E_Energie::maus_ueber_chart(double x, double y) {
-    if (!auf_saeule(monatswerte(sitzung_.p), x, y)) {
-        Frame_ToolTip.zeige(false);
-        sitzung_.plattform.zeitgeber_stoppen(zeitgeber);
-        return;
-    }
-    gemerkter_zeiger_ = sitzung_.plattform.zeiger();
-    if (!Frame_ToolTip.sichtbar())
-        sitzung_.plattform.zeitgeber_starten(zeitgeber, tipp_nach_millisekunden, [this] { tip_ein(); });
-    Label_Tooltip.schreibe(tooltip_text(monat_bei(x)));
-}
-
-void E_Energie::tip_ein() {
-    const Bildschirmpunkt zeiger = sitzung_.plattform.zeiger();
-    if (zeiger != gemerkter_zeiger_) return;
-    Frame_ToolTip.setze(tippplatz(zeiger, tipplage ? tipplage() : Tipplage{}));
-    Frame_ToolTip.zeige(true);
 }
 
 }  // namespace velmaris

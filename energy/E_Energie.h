@@ -1,32 +1,15 @@
 #pragma once
 
+#include "charts/tooltip.h"
 #include "energy/Auswahlrahmen.h"
 #include "energy/Heizsysteme.h"
 #include "energy/katalog_werte.h"
 #include "project/sitzung.h"
 #include "toolkit/felder.h"
 
-#include <functional>
 #include <string>
 
 namespace velmaris {
-
-/// Where a tooltip panel may stand, all in pixels.
-struct Tipplage {
-    double haupt_links = 0;  ///< main window on the screen
-    double haupt_oben = 0;
-    double ebene_links = 0;  ///< plane in the main window
-    double ebene_oben = 0;
-    double ebene_hoehe = 0;
-    double breite = 0;  ///< of the panel
-};
-
-/// Height of the tooltip panel over the monthly chart, pixels.
-inline constexpr double tipphoehe = 72;
-
-/// Place of the tooltip panel on the plane for a pointer on the screen: left of it, never beyond the left
-/// edge, and above it where it would end below the plane. Pixels.
-[[nodiscard]] Platz tippplatz(Bildschirmpunkt zeiger, const Tipplage& lage);
 
 /// The energy plane: choice of the heat supply, end and primary energy.
 struct E_Energie {
@@ -69,8 +52,7 @@ struct E_Energie {
     Bildfeld Picture3{"Picture3"};  ///< auxiliary electricity
     Anzeige Monatsverbrauch{"Monatsverbrauch"};
     Bildfeld Monatsübersicht_Energieträger{"Monatsübersicht_Energieträger"};
-    Anzeige Frame_ToolTip{"Frame_ToolTip"};  ///< its place is in pixels on the plane
-    Anzeige Label_Tooltip{"Label_Tooltip"};
+    Tooltip tooltip;
 
     /// Fills the catalogue and the captions in the language of the run.
     void laden();
@@ -100,14 +82,8 @@ struct E_Energie {
     /// A click on the panel beside its entries, which closes it.
     void Frame_Auswahl_Click();
 
-    /// A mouse press on the tooltip, which hides it.
-    void Label_Tooltip_MouseDown();
-
     /// Text of the tooltip over month m (1..12); lines end at a carriage return.
     [[nodiscard]] std::string tooltip_text(int m) const;
-
-    /// Where the tooltip may stand; set by the view.
-    std::function<Tipplage()> tipplage;
 
   private:
     void auswahl_zeigen();
@@ -115,13 +91,10 @@ struct E_Energie {
     void beschriften(const Kurzname& name);
     void bilder_erneuern() const;
     [[nodiscard]] const Heizsystemzeile& katalogzeile() const;
-    void maus_ueber_chart(double x, double y);
-    void tip_ein();
 
     Sitzung& sitzung_;
     Heizsystemkatalog Heizsysteme;
     Kennwerte kennwerte_;
-    Bildschirmpunkt gemerkter_zeiger_;
 };
 
 }  // namespace velmaris

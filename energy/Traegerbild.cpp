@@ -1,6 +1,7 @@
 #include "energy/Traegerbild.h"
 
 #include "energy/katalog_werte.h"
+#include "toolkit/diagrammtext.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -86,14 +87,9 @@ constexpr std::array<Traegerart, 5> arten{{{"Erdgas", 10.4, " m³/a", gas},
 /// A line of text in the middle, in smaller letters where it is too long for the surface. Its edge sets it
 /// off from the pictogram.
 void titelzeile(Zeichenflaeche& bild, double oben, const std::string& text) {
-    constexpr double schmaler = 7.5;
-    Schrift schrift{.hof = bild.hintergrund()};
-    bild.schrift(schrift);
-    if (bild.textbreite(text) > bild.breite()) {
-        schrift.groesse = schmaler;
-        bild.schrift(schrift);
-    }
-    bild.text(mitte - bild.textbreite(text) / 2, oben, text);
+    const double breite =
+        schrift_einpassen(bild, {&text, 1}, bild.breite(), {.hof = bild.hintergrund()}).front();
+    bild.text(mitte - breite / 2, oben, text);
 }
 
 /// The titles come last, so that they can be read on the pictogram.

@@ -1,5 +1,7 @@
 #include "energy/energie_zeichnen.h"
 
+#include "language/c_Sprache.h"
+#include "toolkit/diagrammtext.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -12,7 +14,6 @@ constexpr double links = 30;  ///< vertical axis
 constexpr double boden = 95;  ///< horizontal axis
 constexpr int schritte = 3;   ///< scale steps on the axis
 constexpr double saeulenhoehe = 90;
-constexpr double monatsbreite = 24;
 
 constexpr Farbe end_traeger{255, 0, 0};
 constexpr Farbe end_strom{255, 128, 0};
@@ -38,23 +39,15 @@ void achsen(Zeichenflaeche& bild) {
     bild.linie(links, boden, 325, boden, farben::schwarz);
 }
 
-void monatsnamen(Zeichenflaeche& bild, const Projekt& p) {
-    for (int m = 1; m <= monate; ++m) {
-        const std::string& kurz = p.Monat(m).Kurz;
-        bild.text(47 + monatsbreite * (m - 1) - bild.textbreite(kurz) / 2, 98, kurz);
-    }
-}
-
 void skala(Zeichenflaeche& bild, int schritt) {
     for (int i = 0; i <= schritte; ++i)
         bild.linie(27, teilung(i), links, teilung(i), farben::schwarz);
-    if (schritte * schritt >= 10000) bild.schrift({.name = "Arial", .groesse = 6.75});
     bild.flaeche(0, 0, 25, 100, bild.hintergrund());
-    for (int i = 0; i <= schritte; ++i) {
-        const std::string zahl = zahltext(i * schritt);
-        bild.text(25 - bild.textbreite(zahl), teilung(i) - 5, zahl);
-    }
-    bild.schrift({});
+    std::array<Achsenzahl, schritte + 1> zahlen{};
+    for (int i = 0; i <= schritte; ++i)
+        zahlen[static_cast<std::size_t>(i)] = {static_cast<double>(i * schritt), teilung(i)};
+    const bool lang = schritte * schritt >= 10000;
+    achsenzahlen_zeichnen(bild, zahlen, lang ? Schrift{.name = "Arial", .groesse = 6.75} : Schrift{});
 }
 
 }  // namespace
@@ -88,7 +81,7 @@ std::vector<Saeule> saeulen(const Monatsenergie& werte) {
         if (hilfe > 0) ergebnis.push_back({x, y(traeger), x + 8, y(traeger + hilfe), farbe_hilfe});
     };
     for (int m = 1; m <= monate; ++m) {
-        const double x = 35 + monatsbreite * (m - 1);
+        const double x = 35 + spaltenbreite * (m - 1);
         stapel(x, werte.E(m), werte.H(m), end_traeger, end_strom);
         stapel(x + 10, werte.P(m), werte.Q(m), primaer_traeger, primaer_strom);
     }
@@ -105,7 +98,7 @@ bool auf_saeule(const Monatsenergie& werte, double x, double y) {
 }
 
 int monat_bei(double x) {
-    const double m = runden((x - links - 3) / monatsbreite + 0.5);
+    const double m = runden((x - links - 3) / spaltenbreite + 0.5);
     return m >= 1 && m <= monate ? static_cast<int>(m) : 1;
 }
 
@@ -114,7 +107,7 @@ void Monatsverbrauch_zeichnen(Zeichenflaeche& bild, const Projekt& p) {
     bild.Cls();
     bild.schrift({});
     achsen(bild);
-    monatsnamen(bild, p);
+    spaltennamen_zeichnen(bild, monatskuerzel(p), 98);
     skala(bild, skalenschritt(groesster(werte)));
     for (const Saeule& s : saeulen(werte))
         bild.flaeche(s.x1, s.unten, s.x2, s.oben, s.farbe);

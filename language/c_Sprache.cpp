@@ -80,6 +80,13 @@ void sprachtexte_setzen(Projekt& p) {
     }
 }
 
+std::array<std::string, monate> monatskuerzel(const Projekt& p) {
+    std::array<std::string, monate> namen;
+    for (int m = 1; m <= monate; ++m)
+        namen[static_cast<std::size_t>(m - 1)] = p.Monat(m).Kurz;
+    return namen;
+}
+
 std::filesystem::path sprachdatei(const Projekt& p) {
     return p.AppPfad / pfad("klima\\typ.dat");
 }

@@ -3,6 +3,7 @@
 #include "project/c_glob.h"
 #include "toolkit/plattform.h"
 
+#include <array>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -17,6 +18,9 @@ using Sprachfenster = std::function<std::optional<std::string>()>;
 /// Sets the shared texts and the month names of the record by `Sprache`. A letter other than "d" and "e"
 /// leaves all of them as they are but `txt_Sprache`, which speaks both languages.
 void sprachtexte_setzen(Projekt& p);
+
+/// The short names of the twelve months.
+[[nodiscard]] std::array<std::string, monate> monatskuerzel(const Projekt& p);
 
 /// The one-line file that keeps the letter for the next start.
 [[nodiscard]] std::filesystem::path sprachdatei(const Projekt& p);

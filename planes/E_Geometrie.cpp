@@ -70,7 +70,6 @@ E_Geometrie::E_Geometrie(Sitzung& sitzung) : s_(sitzung) {
     Label4.schreibe(s_.p.Sprache == "e" ? "height of roof" : "Dachhöhe:");
     Option_Dachfirst.markiere(1);
     s_.p.Option_Dachfirst = 1;
-    dachbeschriftung_zeigen(1);
     dach_zeigen();
     orient_zeigen();
     ebene.zeige(false);
@@ -100,6 +99,7 @@ void E_Geometrie::dach_zeigen() {
     Option_Dachfirst.aktiviere(beheizt);
     Frame3.aktiviere(beheizt);
     dachbild_zeigen();
+    dachbeschriftung_zeigen(s_.p.Option_Dachfirst);
     if (dachgeschoss_gezeigt) dachgeschoss_gezeigt(beheizt);
     hd_sb.zeige(beheizt);
     h_sb.lege(beheizt ? hoehe_unter_dach : hoehe_allein);

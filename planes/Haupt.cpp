@@ -127,6 +127,9 @@ Rechenplan Haupt::rechenplan() {
     zeile("KuehlBedarfZeichnen", a_kuehlen.ebene, [this] { a_kuehlen.KuehlBedarfZeichnen(); });
     zeile("KuehlGradStundenZeichnen", a_kuehlen.ebene, [this] { a_kuehlen.KuehlGradStundenZeichnen(); });
     zeile("Ausfuellen", a_klima.ebene, [this] { a_klima.Ausfuellen(p); });
+    for (Tooltip* tooltip :
+         {&e_energie.tooltip, &a_uebersicht.tooltip, &a_heizen.tooltip, &a_kuehlen.tooltip})
+        zeile("Tooltip", tooltip->Frame_ToolTip, [tooltip] { tooltip->erneuern(); });
     return plan;
 }
 

@@ -4,8 +4,10 @@
 #include "charts/A_Zoom.h"
 #include "tests/charts/probe.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -306,6 +308,37 @@ TEST_F(Tooltiptest, AufDemGrundUndNebenDenMonatenVerschwindetEr) {
     EXPECT_TRUE(laeuft());
     bewege(30, 60);  // the axis, left of January
     EXPECT_FALSE(laeuft());
+}
+
+TEST_F(Tooltiptest, NimmtPlatzFuerSeinenTextUndBleibtNichtStehen) {
+    s.plattform.zeiger_ort = {600, 400};
+    bewege(90, 100);
+    s.plattform.lasse_ablaufen(uhr);
+    Groesse bedarf{260, 70};
+    u.tooltip.platzbedarf = [&] { return bedarf; };
+    bewege(92, 100);
+    EXPECT_EQ(u.tooltip.Frame_ToolTip.lage(), (Rechteck{143, 330, 260, 70}));
+    s.p->Monat(3).Stunden_kalt = 100;
+    bedarf.breite = 300;
+    u.tooltip.erneuern();
+    EXPECT_EQ(u.tooltip.Frame_ToolTip.lage()->breite, 300);
+    EXPECT_EQ(u.tooltip.Label_Tooltip.text(), u.tipp_uebergrafik(3)) << "recalculated under the pointer";
+    bild.Cls();
+    u.tooltip.erneuern();
+    EXPECT_FALSE(sichtbar()) << "the bar has gone";
+
+    u.UeberGrafik.zeichnen(bild);
+    for (const bool gezeigt : {false, true}) {
+        for (const auto& fort : std::vector<std::function<void()>>{
+                 [&] { u.aktiviert(); }, [&] { bewege(-1, -1); }, [&] { u.tooltip.verlassen(); }}) {
+            bewege(90, 100);
+            if (gezeigt) s.plattform.lasse_ablaufen(uhr);
+            ASSERT_EQ(sichtbar(), gezeigt);
+            fort();
+            EXPECT_FALSE(sichtbar());
+            EXPECT_FALSE(laeuft());
+        }
+    }
 }
 
 TEST_F(Tooltiptest, OhneAnsichtGibtEsKeinen) {

@@ -2,6 +2,7 @@
 
 #include "climate/regionen.h"
 #include "climate/strahlung.h"
+#include "toolkit/fehler.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -54,6 +55,26 @@ TEST(Heizgrenze, FolgtAusVerlustenUndInnerenGewinnen) {
     p->lw = 1;
     p->WRG = 0.4F;  // the plant adds 0.6 / 3600 x 1290 x 1000 = 215 W/K
     EXPECT_NEAR(heizgrenze(*p).Temperatur, 20 - 1000.0 / 654, 1e-4);
+}
+
+TEST(Heizgrenze, OhneVerlusteGibtEsKeine) {
+    const auto p = wuerfel();
+    p->f_nw = p->f_sw = p->f_ow = p->f_ww = 0;  // heated neighbours on all sides
+    p->Fx_ugd = 0;
+    p->Dachraum_typ = 3;
+    p->infiltration = 0;
+    for (const float gewinn : {0.0F, 876.0F}) {
+        p->intg = gewinn;
+        try {
+            A_Klima().Ausfuellen(*p);
+            FAIL() << "shown as a number";
+        } catch (const Laufzeitfehler& fehler) {
+            EXPECT_NE(fehler.text("d").find("verliert keine Wärme"), std::string::npos);
+            EXPECT_NE(fehler.text("e").find("loses no heat"), std::string::npos);
+        }
+    }
+    p->Fx_ugd = 0.1F;
+    EXPECT_LT(heizgrenze(*p).Temperatur, p->Troom);
 }
 
 TEST(Heizgrenze, ZaehltTageUndGradtageMitStrengenGrenzen) {

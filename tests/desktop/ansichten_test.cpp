@@ -1,5 +1,6 @@
 #include "desktop/bildflaeche.h"
 #include "programmprobe.h"
+#include "tests/textlage.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -8,19 +9,53 @@
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <gmock/gmock.h>
+#include <set>
 
 namespace velmaris {
 namespace {
 
 /// Views of the planes in the whole program.
-class AnsichtenTest : public test::Programmprobe {};
+class AnsichtenTest : public test::Programmprobe {
+  protected:
+    /// Moves every scroll field of the input planes to one of its ends, the horizontal ones and the vertical
+    /// ones each to theirs, and calculates the house that comes of it.
+    void an_die_enden(bool waagrecht_groesste, bool senkrecht_groesste) {
+        Haupt& haupt = programm->haupt();
+        p().FormLoadGuard = 1;
+        haupt.e_geometrie.Check_Dachgeschoss.setze(1);
+        haupt.e_geometrie.Option_Dachfirst.setze(senkrecht_groesste ? 2 : 1);
+        haupt.e_fenster.Option1.setze(1);
+        for (const char* ebene : {"E_Geometrie", "E_Fenster", "E_Daemmung", "E_Gebaeude"}) {
+            for (auto* leiste : such("Haupt", ebene).findChildren<Scrollleiste*>()) {
+                const bool senkrecht = leiste->orientation() == Qt::Vertical;
+                // Vertical fields grow upward, through negative positions.
+                const bool oberstes = senkrecht ? !senkrecht_groesste : waagrecht_groesste;
+                leiste->setValue(oberstes ? leiste->maximum() : leiste->minimum());
+            }
+        }
+        // Without any losses, or cooled without any gains, nothing can be calculated.
+        p().infiltration = std::max(p().infiltration, 0.2F);
+        p().intg = std::max(p().intg, 1.0F);
+        p().FormLoadGuard = 0;
+        haupt.alles_berechnen();
+    }
+};
 
 TEST_F(AnsichtenTest, KeinTextIstAbgeschnittenUndNichtsRagtHinaus) {
     for (const char* sprache : {"d", "e"}) {
-        starte(sprache);
-        programm->haupt().e_geometrie.Check_Dachgeschoss.setze(1);
-        programm->haupt().e_fenster.Option1.setze(1);
-        fuer_jede_ebene([&](QWidget& ebene) { test::pruefe_platz(ebene, sprache); });
+        for (const bool waagrecht : {false, true}) {
+            for (const bool senkrecht : {false, true}) {
+                starte(sprache);
+                an_die_enden(waagrecht, senkrecht);
+                const std::string wo =
+                    std::string(sprache) + (waagrecht ? " long" : " short") + (senkrecht ? " high" : " low");
+                fuer_jede_ebene([&](QWidget& ebene) { test::pruefe_platz(ebene, wo); });
+                QtFlaeche masse(QSize(1, 1), 1, farben::weiss);
+                for (const test::Diagramm& diagramm : test::diagramme(programm->haupt()))
+                    EXPECT_THAT(test::textfehler(diagramm, masse), testing::IsEmpty()) << wo;
+            }
+        }
     }
 }
 
@@ -98,8 +133,22 @@ TEST_F(AnsichtenTest, NachbarwandVerbirgtDenFensteranteil) {
     EXPECT_FALSE(such("E_Fenster", "fs_sb").isEnabled());
     const auto& anteil = such<QLabel>("E_Fenster", "fs_anz");
     EXPECT_EQ(anteil.text(), "40");
-    EXPECT_EQ(anteil.palette().color(anteil.foregroundRole()),
-              anteil.palette().color(anteil.backgroundRole()));
+    klicke(such<QAbstractButton>("E_Menue", "Fenster"));
+    const auto farben = [&] {
+        const QWidget* tafel = anteil.parentWidget();
+        const QImage bild = such("Haupt", "E_Fenster").grab().toImage();
+        const double fein = bild.devicePixelRatio();
+        const QPointF ecke = QPointF(tafel->mapTo(&such("Haupt", "E_Fenster"), anteil.pos())) * fein;
+        std::set<QRgb> alle;
+        for (int y = 0; y < anteil.height() * fein; ++y) {
+            for (int x = 0; x < anteil.width() * fein; ++x)
+                alle.insert(bild.pixel(ecke.toPoint() + QPoint(x, y)));
+        }
+        return alle.size();
+    };
+    EXPECT_EQ(farben(), 1U) << "nothing can be told from its ground";
+    programm->haupt().e_gebaeude.aws_cb.setze(0);
+    EXPECT_GT(farben(), 1U);
 }
 
 TEST_F(AnsichtenTest, AuswahlDerHeizungOeffnetWaehltUndSchliesst) {
@@ -129,6 +178,55 @@ TEST_F(AnsichtenTest, TooltipKommtWennDerZeigerRuht) {
     EXPECT_TRUE(tip.parentWidget()->rect().contains(tip.geometry()));
     QTest::mouseMove(&bild, QPoint(200, 3));  // background
     EXPECT_FALSE(tip.isVisible());
+}
+
+/// However the pointer goes, or the plane, no tooltip stays behind; on each plane that has one.
+TEST_F(AnsichtenTest, TooltipBleibtNichtStehen) {
+    starte("e");
+    Haupt& h = programm->haupt();
+    struct Fall {
+        Ebenenleiste& leiste;
+        const char* knopf;
+        const char* anderer;
+        const Feld& ebene;
+        const Bildfeld& bild;
+        int fuss;
+    };
+    const std::vector<Fall> faelle{
+        {h.a_menue, "Uebersicht", "Klima", h.a_uebersicht.ebene, h.a_uebersicht.UeberGrafik, 114},
+        {h.a_menue, "Heizen", "Klima", h.a_heizen.ebene, h.a_heizen.Heizbilanz, 114},
+        {h.e_menue, "Energie", "Klima", h.e_energie.ebene, h.e_energie.Monatsübersicht_Energieträger, 94}};
+    for (const Fall& fall : faelle) {
+        fall.leiste.klicke(fall.knopf);
+        QApplication::processEvents();
+        auto& bild = such<Bildflaeche>(fall.ebene.name.c_str(), fall.bild.name.c_str());
+        auto& tip = such(fall.ebene.name.c_str(), "Frame_ToolTip");
+        auto& text = such<QLabel>(fall.ebene.name.c_str(), "Label_Tooltip");
+        const auto zeigen = [&] {
+            QTest::mouseMove(&bild, QPoint(200, 2));
+            QTest::mouseMove(&bild, QPoint(38, fall.fuss));
+            return QTest::qWaitFor([&] { return tip.isVisible(); }, 3000);
+        };
+        ASSERT_TRUE(zeigen()) << fall.knopf;
+        p().Monat(1).Name = "a month of a name that takes more room than any other";
+        h.alles_berechnen();
+        EXPECT_TRUE(text.text().contains("takes more room"));
+        test::pruefe_platz(tip, fall.knopf);
+        EXPECT_TRUE(tip.parentWidget()->rect().contains(tip.geometry()));
+        QEvent verlassen(QEvent::Leave);
+        QApplication::sendEvent(&tip, &verlassen);
+        EXPECT_FALSE(tip.isVisible()) << fall.knopf << ", left over the panel";
+
+        ASSERT_TRUE(zeigen()) << fall.knopf;
+        fall.leiste.klicke(fall.anderer);
+        fall.leiste.klicke(fall.knopf);
+        EXPECT_FALSE(tip.isVisible()) << fall.knopf << ", plane switched and back";
+
+        ASSERT_TRUE(zeigen()) << fall.knopf;
+        QCursor::setPos(programm->fenster().mapToGlobal(QPoint(-50, -50)));
+        QApplication::sendEvent(&bild, &verlassen);
+        EXPECT_FALSE(tip.isVisible()) << fall.knopf << ", left by a jump";
+    }
 }
 
 TEST_F(AnsichtenTest, ZoomZeigtDenMonatDerUebersicht) {

@@ -1,5 +1,6 @@
 #include "bedienung.h"
 
+#include "desktop/bildflaeche.h"
 #include "toolkit/text.h"
 
 #include <QAbstractItemView>
@@ -114,6 +115,13 @@ void pruefe_platz(const QWidget& fenster, const std::string& wo) {
         const bool karte = teil->objectName() == "Picture3";
         const bool rollt = qobject_cast<QAbstractScrollArea*>(teil->parentWidget()) != nullptr;
         EXPECT_TRUE(karte || rollt || fenster.rect().adjusted(-10, 0, 0, 0).contains(platz)) << name;
+        if (qobject_cast<const QLabel*>(teil) == nullptr) continue;
+        // The label that marks a month is one pixel larger than its frame.
+        EXPECT_TRUE(rollt || teil->parentWidget()->rect().adjusted(-10, 0, 1, 1).contains(teil->geometry()))
+            << name << " is cut by what it stands on";
+        for (const auto* bild : teil->parentWidget()->findChildren<Bildflaeche*>(Qt::FindDirectChildrenOnly))
+            EXPECT_FALSE(bild->isVisible() && bild->geometry().intersects(teil->geometry()))
+                << name << " lies on " << bild->objectName().toStdString();
     }
 }
 

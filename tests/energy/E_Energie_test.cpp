@@ -268,28 +268,37 @@ constexpr const char* zeitgeber = "E_Energie.Timer_Tip_ein";
 
 TEST_F(Energieebene, TooltipErscheintWennDerZeigerRuht) {
     const auto bewege = [&](double x, double y) { ebene->Monatsübersicht_Energieträger.maus_bewegt(x, y); };
-    ebene->tipplage = [] { return Tipplage{0, 0, 0, 25, 500, 150}; };
+    Tooltip& tooltip = ebene->tooltip;
+    tooltip.ebenenlage = [] { return Ebenenlage{.haupt = {}, .ebene = {0, 25}, .hoehe = 500}; };
+    Groesse bedarf{280, 60};
+    tooltip.platzbedarf = [&] { return bedarf; };
     plattform.zeiger_ort = {300, 400};
     bewege(310, 94);
     ASSERT_EQ(plattform.zeitgeber.count(zeitgeber), 1U);
     EXPECT_EQ(plattform.zeitgeber[zeitgeber].millisekunden, 1000);
-    EXPECT_FALSE(ebene->Frame_ToolTip.sichtbar());
-    EXPECT_TRUE(ebene->Label_Tooltip.text().starts_with("Monat: Dezember\r"));
+    EXPECT_FALSE(tooltip.Frame_ToolTip.sichtbar());
+    EXPECT_TRUE(tooltip.Label_Tooltip.text().starts_with("Monat: Dezember\r"));
 
     plattform.zeiger_ort = {301, 400};
     plattform.lasse_ablaufen(zeitgeber);
-    EXPECT_FALSE(ebene->Frame_ToolTip.sichtbar());
+    EXPECT_FALSE(tooltip.Frame_ToolTip.sichtbar());
 
     bewege(310, 94);
     plattform.lasse_ablaufen(zeitgeber);
-    EXPECT_TRUE(ebene->Frame_ToolTip.sichtbar());
-    EXPECT_EQ(ebene->Frame_ToolTip.platz(), (Platz{146, 355}));
+    EXPECT_TRUE(tooltip.Frame_ToolTip.sichtbar());
+    // As wide as its text asks for, and as high as told.
+    EXPECT_EQ(tooltip.Frame_ToolTip.lage(), (Rechteck{16, 355, 280, 72}));
 
     bewege(36, 94);
     EXPECT_TRUE(plattform.zeitgeber.empty());
-    EXPECT_TRUE(ebene->Label_Tooltip.text().starts_with("Monat: Januar\r"));
-    ebene->Label_Tooltip_MouseDown();
-    EXPECT_FALSE(ebene->Frame_ToolTip.sichtbar());
+    EXPECT_TRUE(tooltip.Label_Tooltip.text().starts_with("Monat: Januar\r"));
+    tooltip.Label_Tooltip_MouseMove();
+    EXPECT_TRUE(tooltip.Frame_ToolTip.sichtbar());
+    bedarf = {290, 90};
+    tooltip.erneuern();
+    EXPECT_EQ(tooltip.Frame_ToolTip.lage(), (Rechteck{6, 355, 290, 90})) << "a longer text";
+    tooltip.Label_Tooltip_MouseDown();
+    EXPECT_FALSE(tooltip.Frame_ToolTip.sichtbar());
 
     bewege(36, 94);
     EXPECT_EQ(plattform.zeitgeber.size(), 1U);
@@ -303,13 +312,14 @@ TEST(Tippplatz, BleibtAufDerEbene) {
         Platz platz;
     };
     // Main window at (100, 50), plane at (0, 25) in it, 500 pixels high, panel 200 wide and 72 high.
-    const Tipplage lage{100, 50, 0, 25, 500, 200};
+    const Ebenenlage lage{.haupt = {100, 50}, .ebene = {0, 25}, .hoehe = 500};
     for (const Fall& f : std::vector<Fall>{{{400, 200}, {95, 105}},
                                            {{305, 200}, {0, 105}},
                                            {{250, 200}, {0, 105}},
                                            {{400, 523}, {95, 428}},     // ends at 500, just inside
                                            {{400, 524}, {95, 327}}}) {  // 449 - 50 - 72
-        EXPECT_EQ(tippplatz(f.zeiger, lage), f.platz) << f.zeiger.x << "," << f.zeiger.y;
+        EXPECT_EQ(platz_neben_dem_zeiger(f.zeiger, lage, {200, 72}), f.platz)
+            << f.zeiger.x << "," << f.zeiger.y;
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "language/c_Sprache.h"
 #include "tests/testflaeche.h"
+#include "tests/textlage.h"
+#include "toolkit/svg_flaeche.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -155,16 +157,20 @@ TEST(Monatsverbrauch, LangeZahlenInKleinerSchrift) {
         float hoehe;
         std::string oberste;
         std::string schrift;
+        double groesse;  ///< the largest in which blank and digits are not wider than 25 pixels
     };
-    for (const Fall& f : std::vector<Fall>{{29.9F, " 30", "MS Sans Serif"},
-                                           {30, " 60", "MS Sans Serif"},
-                                           {5999, " 6000", "MS Sans Serif"},
-                                           {6000, " 15000", "Arial"},
-                                           {1e6F, " 150000", "Arial"}}) {
-        const auto texte = zeichne(*projekt(f.hoehe)).alle(Art::text);
+    SvgFlaeche masse(1, 1);
+    for (const Fall& f : std::vector<Fall>{{29.9F, " 30", "MS Sans Serif", 8.25},
+                                           {30, " 60", "MS Sans Serif", 8.25},
+                                           {5999, " 6000", "MS Sans Serif", 6.75},
+                                           {6000, " 15000", "Arial", 6},
+                                           {1e6F, " 150000", "Arial", 4.5}}) {
+        test::Textprobe bild(330, 115, masse);
+        Monatsverbrauch_zeichnen(bild, *projekt(f.hoehe));
+        const auto texte = bild.alle(Art::text);
         EXPECT_EQ(texte.back().text, f.oberste);
         EXPECT_EQ(texte.back().schrift.name, f.schrift);
-        EXPECT_EQ(texte.back().schrift.groesse, f.schrift == "Arial" ? 6.75 : 8.25);
+        EXPECT_EQ(texte.back().schrift.groesse, f.groesse);
         EXPECT_EQ(texte.front().schrift.name, "MS Sans Serif");
     }
 }

@@ -4,7 +4,9 @@
 #include "tests/testflaeche.h"
 #include "tests/testprogramm.h"
 
+#include <array>
 #include <cmath>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace velmaris {
@@ -82,6 +84,7 @@ TEST_F(EGeometrie, FirstOhneDachgeschossAendertNurSichSelbst) {
     EXPECT_EQ(p().Geaendert, 0);
     e().Check_Dachgeschoss.setze(1);
     EXPECT_EQ(e().Picture3.bild().filename(), "haus2.bmp");
+    EXPECT_EQ(e().Label9.text(), "Giebel:");
     e().Option_Dachfirst.setze(1);
     EXPECT_EQ(e().Label9.text(), "Dachfläche (West):");
     EXPECT_EQ(e().Label9.platz(), (Platz{.links = 26, .oben = 48}));
@@ -89,6 +92,38 @@ TEST_F(EGeometrie, FirstOhneDachgeschossAendertNurSichSelbst) {
     EXPECT_EQ(e().Giebel_anz.platz(), (Platz{-10, 70}));
     EXPECT_GT(p().f_dach_n, 0);
     EXPECT_EQ(p().f_dach_w, 0);
+}
+
+/// A file and New move the ridge while the attic is off; once it is on, picture and captions are of one
+/// house.
+TEST_F(EGeometrie, BeschriftungPasstNachJederReihenfolgeZumHaus) {
+    struct Haus {
+        const char* bild;
+        const char* label9;
+        Platz label6;
+        Platz flaeche;
+    };
+    const std::array<Haus, 2> haeuser{{{"haus1.bmp", "Dachfläche (West):", {88, 72}, {24, 76}},
+                                       {"haus2.bmp", "Giebel:", {48, 68}, {80, 84}}}};
+    const auto haken = [this](int wert) { e().Check_Dachgeschoss.setze(wert); };
+    const std::vector<std::function<void(int)>> wege{
+        [&](int first) { haken(0), e().dachfirst_lesen(first), haken(1); },
+        [&](int first) { e().dachgeschoss_lesen(0), e().dachfirst_lesen(first), e().dachgeschoss_lesen(1); },
+        [&](int first) { haken(1), e().dachfirst_lesen(first), haken(0), haken(1); },
+        [&](int first) {
+            haken(0), e().Option_Dachfirst.setze(first), programm.haupt->neues_projekt(), haken(1);
+        },
+    };
+    for (std::size_t weg = 0; weg < wege.size(); ++weg) {
+        for (const int first : {2, 1}) {
+            wege[weg](first);
+            const Haus& haus = haeuser[static_cast<std::size_t>(first - 1)];
+            EXPECT_EQ(e().Picture3.bild().filename(), haus.bild) << weg;
+            EXPECT_EQ(e().Label9.text(), haus.label9) << weg;
+            EXPECT_EQ(e().Label6.platz(), haus.label6) << weg;
+            EXPECT_EQ(e().dachfläche_anz.platz(), haus.flaeche) << weg;
+        }
+    }
 }
 
 TEST_F(EGeometrie, AvDiagrammStelltGleicheFormenGleichHoch) {
