@@ -63,7 +63,7 @@ struct Haupt {
     /// What the main window does when it comes up: shows both bars and the first planes, notes the printer.
     void laden();
 
-    /// Shows the first input and the first output plane.
+    /// Shows the first input and the first output plane; the user goes on at the input plane.
     void erste_ebenen();
 
     /// Sets all inputs, the controls that keep state and the title to those of a new project.
