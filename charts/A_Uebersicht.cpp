@@ -36,9 +36,10 @@ A_Uebersicht::A_Uebersicht(Sitzung& sitzung)
     tooltip.folge_jahr(JahrBilanz, [this] { return tipp_jahrbilanz(); });
     tooltip.folge_monaten(UeberGrafik, [this](int m) { return tipp_uebergrafik(m); });
     tooltip.folge_jahr(UeberJahr, [this] { return tipp_ueberjahr(); });
-    Temperaturen.maus_geklickt = [this](double, double) {
+    Temperaturen.gedrueckt = [this] {
         if (zoom_oeffnen) zoom_oeffnen();
     };
+    Temperaturen.maus_geklickt = [this](double, double) { Temperaturen.gedrueckt(); };
     anordnen();
     laden();
 }

@@ -2,6 +2,8 @@
 
 #include "desktop/binde.h"
 #include "desktop/qt_text.h"
+#include "desktop/stil.h"
+#include "desktop/taste.h"
 #include "toolkit/text.h"
 
 #include <QCursor>
@@ -18,6 +20,7 @@ Bildflaeche::Bildflaeche(Bildfeld& feld, const Fehlerwache& wache, QWidget* elte
     setAccessibleName(qtext(feld.name));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
+    if (feld.gedrueckt) setFocusPolicy(Qt::StrongFocus);
     feld.ansicht = [this] { feld_zeigen(); };
     feld.lies_punkt = [this](double x, double y) { return flaeche().lies_punkt(x, y); };
     feld_zeigen();
@@ -71,7 +74,18 @@ void Bildflaeche::melde_bildfehler() {
 }
 
 void Bildflaeche::paintEvent(QPaintEvent*) {
-    QPainter(this).drawImage(QPointF(0, 0), flaeche().bild());
+    constexpr qreal fokusrahmen = 2;
+    QPainter maler(this);
+    maler.drawImage(QPointF(0, 0), flaeche().bild());
+    if (!hasFocus()) return;
+    maler.setPen(
+        QPen(QColor(stilfarben::betonung), fokusrahmen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    maler.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+}
+
+void Bildflaeche::keyPressEvent(QKeyEvent* ereignis) {
+    if (!feld_.gedrueckt || !ist_drucktaste(*ereignis)) return QWidget::keyPressEvent(ereignis);
+    wache_.fuehre_aus(feld_.gedrueckt);
 }
 
 void Bildflaeche::mouseMoveEvent(QMouseEvent* ereignis) {

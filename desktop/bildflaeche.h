@@ -11,8 +11,8 @@
 namespace velmaris {
 
 /// The widget of a picture or chart surface. It keeps what was drawn and draws anew when it is about to be
-/// seen and the record has asked for it since: a hidden surface costs nothing. The record must outlive the
-/// widget.
+/// seen and the record has asked for it since: a hidden surface costs nothing. A picture that stands for
+/// a button takes the focus and shows it by a frame. The record must outlive the widget.
 class Bildflaeche : public QWidget {
     Q_OBJECT
 
@@ -28,6 +28,7 @@ class Bildflaeche : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* ereignis) override;
     void mouseMoveEvent(QMouseEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
     void mouseReleaseEvent(QMouseEvent* ereignis) override;

@@ -7,6 +7,7 @@
 #include "desktop/qt_text.h"
 #include "desktop/scrollleiste.h"
 #include "desktop/stil.h"
+#include "desktop/taste.h"
 #include "language/beschriftungen.h"
 
 #include <QCheckBox>
@@ -177,7 +178,7 @@ std::vector<QRadioButton*> Ebenenbau::optionen(Optionsgruppe& gruppe) const {
 }
 
 QPushButton* Ebenenbau::knopf(Knopf& knopf) const {
-    return beschriftet(new QPushButton(&ebene_), knopf);
+    return beschriftet(new Taste(&ebene_), knopf);
 }
 
 QPushButton* Ebenenbau::reiter(Knopf& knopf) const {
@@ -190,7 +191,6 @@ QPushButton* Ebenenbau::beschriftet(QPushButton* neu, Knopf& knopf) const {
     for (const Beschriftung& zeile : beschriftungen(name_)) {
         if (zeile.feld == knopf.name) neu->setText(qtext(text(knopf.name)));
     }
-    neu->setAutoDefault(false);
     mittel_.binder.binde(*neu, knopf);
     return neu;
 }

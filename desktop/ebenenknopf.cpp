@@ -3,16 +3,32 @@
 #include "desktop/stil.h"
 
 #include <QPainter>
+#include <QScopedValueRollback>
 
 namespace velmaris {
 
-Ebenenknopf::Ebenenknopf(QWidget* leiste) : QPushButton(leiste) {
+Ebenenknopf::Ebenenknopf(QWidget* leiste) : Taste(leiste) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
     QFont schrift = font();
     schrift.setPixelSize(mass::ebenenschrift);
     setFont(schrift);
+}
+
+void Ebenenknopf::betone(bool an) {
+    betont_ = an;
+    update();
+}
+
+void Ebenenknopf::keyPressEvent(QKeyEvent* ereignis) {
+    const QScopedValueRollback merker(getastet_, true);
+    Taste::keyPressEvent(ereignis);
+}
+
+void Ebenenknopf::keyReleaseEvent(QKeyEvent* ereignis) {
+    const QScopedValueRollback merker(getastet_, true);
+    Taste::keyReleaseEvent(ereignis);
 }
 
 void Ebenenknopf::paintEvent(QPaintEvent*) {
@@ -29,6 +45,10 @@ void Ebenenknopf::paintEvent(QPaintEvent*) {
     maler.setPen(hasFocus() ? betonung : QColor(stilfarben::tafelrand));
     maler.setBrush(grund);
     maler.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), rundung, rundung);
+    if (betont_) {
+        maler.setPen(Qt::white);
+        maler.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), rundung, rundung);
+    }
     maler.setPen(gewaehlt ? QColor(Qt::white) : palette().color(QPalette::Active, QPalette::ButtonText));
     maler.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
 }

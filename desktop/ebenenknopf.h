@@ -1,19 +1,31 @@
 #pragma once
 
-#include <QPushButton>
+#include "desktop/taste.h"
 
 namespace velmaris {
 
 /// A button of the bars that choose the plane on show. It is disabled while its plane shows, and then looks
 /// chosen rather than dead.
-class Ebenenknopf : public QPushButton {
+class Ebenenknopf : public Taste {
     Q_OBJECT
 
   public:
     explicit Ebenenknopf(QWidget* leiste);
 
+    /// True while a key works at the button, as opposed to the mouse.
+    [[nodiscard]] bool getastet() const { return getastet_; }
+
+    /// Draws the chosen button as the one with the focus, which it cannot have itself.
+    void betone(bool an);
+
   protected:
     void paintEvent(QPaintEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* ereignis) override;
+    void keyReleaseEvent(QKeyEvent* ereignis) override;
+
+  private:
+    bool getastet_ = false;
+    bool betont_ = false;
 };
 
 }  // namespace velmaris

@@ -1,5 +1,6 @@
 #include "desktop/ansichten.h"
-#include "desktop/auswahleintrag.h"
+#include "desktop/auswahlschild.h"
+#include "desktop/auswahltafel.h"
 #include "desktop/bildflaeche.h"
 #include "desktop/ebene.h"
 #include "desktop/qt_text.h"
@@ -17,8 +18,6 @@
 namespace velmaris {
 namespace {
 
-constexpr int twips = 15;
-
 /// The three choices: caption, field, button that opens the list.
 struct Wahl {
     Anzeige& wort;
@@ -31,7 +30,18 @@ std::array<Wahl, 3> wahlen(E_Energie& e) {
             Wahl{e.Label2, e.Label_Energieträger, e.Command3}};
 }
 
-QWidget* versorgung(E_Energie& e, const Ebenenbau& bau, QWidget* ebene) {
+/// The chosen text of a list, framed like a list that is closed.
+Auswahlschild* auswahlfeld(Anzeige& feld, const Binder& binder, QWidget* eltern) {
+    auto* schild = new Auswahlschild(eltern);
+    schild->setFrameShape(QFrame::StyledPanel);
+    schild->setBackgroundRole(QPalette::Base);
+    schild->setAutoFillBackground(true);
+    schild->setMargin(2);
+    binder.binde(*schild, feld);
+    return schild;
+}
+
+QWidget* versorgung(E_Energie& e, const Ebenenbau& bau, QWidget* ebene, Auswahltafel& liste) {
     auto* block = new QWidget(ebene);
     auto* tabelle = new QGridLayout(block);
     tabelle->setContentsMargins(0, 0, 0, 0);
@@ -40,18 +50,14 @@ QWidget* versorgung(E_Energie& e, const Ebenenbau& bau, QWidget* ebene) {
     int reihe = 0;
     for (const Wahl& wahl : wahlen(e)) {
         tabelle->addWidget(bau.anzeige(wahl.wort), reihe++, 0, 1, 2);
-        QLabel* feld = bau.anzeige(wahl.feld);
-        feld->setFrameShape(QFrame::StyledPanel);
-        feld->setBackgroundRole(QPalette::Base);
-        feld->setAutoFillBackground(true);
-        feld->setMargin(2);
-        feld->setWordWrap(true);
+        Auswahlschild* feld = auswahlfeld(wahl.feld, bau.mittel().binder, block);
         tabelle->addWidget(feld, reihe, 0);
         QPushButton* knopf = bau.knopf(wahl.knopf);
         knopf->setText(QStringLiteral("▾"));
         knopf->setAccessibleName(schildtext(wahl.wort.text()));
         knopf->setFixedSize(mass::knopf, mass::knopf);
         tabelle->addWidget(knopf, reihe++, 1, Qt::AlignTop);
+        liste.bediene(*feld, *knopf);
     }
     return block;
 }
@@ -97,46 +103,6 @@ QGroupBox* faktoren(E_Energie& e, const Ebenenbau& bau) {
     return rahmen;
 }
 
-/// The list that drops down from a field, on top of everything else on the plane.
-void auswahlliste(E_Energie& e, const Ansichtsmittel& mittel, QWidget* ebene) {
-    constexpr int innen = 6;
-    auto* rahmen = new QFrame(ebene);
-    rahmen->setFrameShape(QFrame::Box);
-    rahmen->setBackgroundRole(QPalette::Base);
-    rahmen->setAutoFillBackground(true);
-    auto* halter = new QWidget(rahmen);
-    for (int i = 1; i <= Auswahlrahmen::eintraege; ++i) {
-        auto* eintrag = new Auswahleintrag(halter);
-        mittel.binder.binde(*eintrag, e.Auswahl.Label_Auswahl(i), 1.0 / twips);
-        eintrag->gewaehlt = [&e, i, &wache = mittel.wache] {
-            wache.fuehre_aus([&] { e.Label_Auswahl_Click(i); });
-        };
-    }
-    const auto breite = [&e, ebene] {
-        return ebene->findChild<QLabel*>(qtext(e.Label_System.name))->width() - 2 * innen;
-    };
-    e.Auswahl.eintragshoehe = [halter, breite](const Anzeige& eintrag) {
-        auto* schild = halter->findChild<QLabel*>(qtext(eintrag.name));
-        schild->setFixedSize(breite(), schild->heightForWidth(breite()));
-        return static_cast<double>(schild->height() * twips);
-    };
-    e.Auswahl.unterkante = [ebene](const Anzeige& feld) {
-        const auto* schild = ebene->findChild<QLabel*>(qtext(feld.name));
-        const QPoint ecke = schild->mapTo(ebene, QPoint(0, schild->height()));
-        return Platz{.links = static_cast<double>(ecke.x() * twips),
-                     .oben = static_cast<double>(ecke.y() * twips)};
-    };
-    mittel.binder.binde(static_cast<QWidget&>(*rahmen), e.Auswahl.Frame_Auswahl);
-    e.Auswahl.Frame_Auswahl.ansicht = [&e, rahmen, halter, breite] {
-        const Platz ort = e.Auswahl.platz();
-        const int hoehe = static_cast<int>(e.Auswahl.hoehe() / twips);
-        rahmen->setGeometry(static_cast<int>(ort.links / twips), static_cast<int>(ort.oben / twips),
-                            breite() + 2 * innen, hoehe + innen);
-        halter->setGeometry(innen, innen, breite(), hoehe);
-        grundzustand(*rahmen, e.Auswahl.Frame_Auswahl);
-        rahmen->raise();
-    };
-    bei_mausdruck(*rahmen, mittel.wache, [&e] { e.Frame_Auswahl_Click(); });
 }
 
 }  // namespace
@@ -146,7 +112,8 @@ QWidget* energie_ansicht(E_Energie& e, const Ansichtsmittel& mittel, QWidget* el
     QWidget* ebene = ebene_bauen(e.ebene, eingabegroesse, mittel, eltern);
     const Ebenenbau bau(*ebene, "E_Energie", mittel);
     QVBoxLayout& spalte = *ebenenspalte(*ebene);
-    spalte.addWidget(versorgung(e, bau, ebene));
+    auto* liste = new Auswahltafel(e, mittel, ebene);
+    spalte.addWidget(versorgung(e, bau, ebene, *liste));
     spalte.addWidget(endenergie(e, bau));
     auto* mitte = new QHBoxLayout;
     mitte->addWidget(faktoren(e, bau), 1);
@@ -163,7 +130,6 @@ QWidget* energie_ansicht(E_Energie& e, const Ansichtsmittel& mittel, QWidget* el
     diagramm->setFixedSize(330, 114);
     spalte.addWidget(diagramm);
     spalte.addStretch();
-    auswahlliste(e, mittel, ebene);
     tooltip_ansicht(e.tooltip, mittel, ebene);
     return ebene;
 }

@@ -1,13 +1,11 @@
 #include "desktop/hauptfenster.h"
 
 #include "desktop/ansichten.h"
-#include "desktop/ebenenknopf.h"
+#include "desktop/ebenenbalken.h"
 #include "desktop/qt_text.h"
-#include "desktop/stil.h"
 
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -53,7 +51,7 @@ QString projektdatei(const QMimeData& ding) {
 }  // namespace
 
 Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
-    : haupt_(haupt), mittel_(mittel), flaeche_(new QWidget(this)) {
+    : haupt_(haupt), mittel_(mittel), flaeche_(new QWidget(this)), ebenenfokus_(*flaeche_) {
     setObjectName(QStringLiteral("Haupt"));
     setAcceptDrops(true);
     setCentralWidget(flaeche_);
@@ -101,18 +99,18 @@ void Hauptfenster::menue_fuellen(QMenu& menue, const std::vector<Menueknoten>& a
     }
 }
 
+/// A plane that is chosen gets the focus, unless the button was worked by key.
 void Hauptfenster::leiste_bauen(Ebenenleiste& leiste, const QRect& platz) {
-    auto* rahmen = new QWidget(flaeche_);
-    rahmen->setGeometry(platz);
-    auto* reihe = new QHBoxLayout(rahmen);
-    reihe->setContentsMargins(mass::zeilenabstand, 2, mass::zeilenabstand, 1);
-    reihe->setSpacing(2);
-    for (const Ebenenleiste::Eintrag& eintrag : leiste.eintraege()) {
-        auto* knopf = new Ebenenknopf(rahmen);
-        mittel_.binder.binde(*knopf, *eintrag.knopf);
-        reihe->addWidget(knopf);
-    }
-    mittel_.binder.binde(*rahmen, leiste.leiste);
+    auto* balken = new Ebenenbalken(leiste, mittel_.binder, flaeche_);
+    balken->setGeometry(platz);
+    leiste.zugewandt = [this, balken](const Feld& ebene) {
+        const QString name = qtext(ebene.name);
+        if (balken->behaelt_fokus()) {
+            ebenenfokus_.merke(name);
+        } else {
+            ebenenfokus_.gehe_zu(name);
+        }
+    };
 }
 
 void Hauptfenster::eingabeebenen_bauen() {
@@ -141,7 +139,6 @@ void Hauptfenster::zeigen() {
     move(schirm.center() - QPoint(width() / 2, height() / 2 + hoeher));
     mittel_.wache.fuehre_aus([this] { haupt_.laden(); });
     show();
-    flaeche_->setFocus();
 }
 
 void Hauptfenster::closeEvent(QCloseEvent* ereignis) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/ebenenbau.h"
+#include "desktop/ebenenfokus.h"
 #include "planes/Haupt.h"
 
 #include <QMainWindow>
@@ -17,6 +18,9 @@ class Hauptfenster : public QMainWindow {
     /// Comes up for the first time: in the middle of the screen, with the first planes.
     void zeigen();
 
+    /// Name of the plane that the user turned to or gave the focus to last.
+    [[nodiscard]] const QString& ebene_in_gebrauch() const { return ebenenfokus_.in_gebrauch(); }
+
   protected:
     void closeEvent(QCloseEvent* ereignis) override;
     void dragEnterEvent(QDragEnterEvent* ereignis) override;
@@ -32,6 +36,7 @@ class Hauptfenster : public QMainWindow {
     Haupt& haupt_;
     const Ansichtsmittel& mittel_;
     QWidget* flaeche_;
+    Ebenenfokus ebenenfokus_;
 };
 
 }  // namespace velmaris

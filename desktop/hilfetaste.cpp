@@ -9,34 +9,10 @@
 namespace velmaris {
 namespace {
 
-constexpr QLatin1String leiste("_Menue");
-
-/// Planes and windows with a page of their own carry its name.
+/// Planes and windows with a page of their own carry its name; a button bar has none.
 bool hat_seite(const QString& name) {
     const bool ebene = name.startsWith(QLatin1String("E_")) || name.startsWith(QLatin1String("A_"));
-    return (ebene && !name.endsWith(leiste)) || name == QLatin1String("Drucken");
-}
-
-/// The plane on show within a widget whose name begins so.
-QString gezeigte_ebene(const QWidget& flaeche, QStringView anfang) {
-    for (const QWidget* ebene : flaeche.findChildren<QWidget*>()) {
-        QString name = ebene->objectName();
-        if (!ebene->isHidden() && !ebene->isWindow() && hat_seite(name) && name.startsWith(anfang))
-            return name;
-    }
-    return {};
-}
-
-/// The page for a widget: that of the plane or window around it; from a button bar, or where no plane holds
-/// the focus, that of the plane on show.
-QString seite_zu(const QWidget* von) {
-    for (const QWidget* ort = von; ort != nullptr; ort = ort->parentWidget()) {
-        QString name = ort->objectName();
-        if (hat_seite(name)) return name;
-        if (name.endsWith(leiste)) return gezeigte_ebene(*ort->parentWidget(), QStringView(name).left(2));
-        if (QString ebene = gezeigte_ebene(*ort, u"E_"); !ebene.isEmpty()) return ebene;
-    }
-    return {};
+    return (ebene && !name.endsWith(QLatin1String("_Menue"))) || name == QLatin1String("Drucken");
 }
 
 bool ist_f1(const QEvent& ereignis) {
@@ -46,8 +22,19 @@ bool ist_f1(const QEvent& ereignis) {
 
 }  // namespace
 
-Hilfetaste::Hilfetaste(std::function<void(const std::string& seite)> zeigen) : zeigen_(std::move(zeigen)) {
+Hilfetaste::Hilfetaste(std::function<void(const std::string& seite)> zeigen,
+                       std::function<QString()> ebene_in_gebrauch)
+    : zeigen_(std::move(zeigen)), ebene_in_gebrauch_(std::move(ebene_in_gebrauch)) {
     qApp->installEventFilter(this);
+}
+
+QString Hilfetaste::seite_zu(const QWidget* von) const {
+    for (const QWidget* ort = von; ort != nullptr; ort = ort->parentWidget()) {
+        QString name = ort->objectName();
+        if (hat_seite(name)) return name;
+        if (name == QLatin1String("Haupt")) return ebene_in_gebrauch_();
+    }
+    return {};
 }
 
 bool Hilfetaste::eventFilter(QObject* fenster, QEvent* ereignis) {

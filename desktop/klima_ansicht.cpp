@@ -120,7 +120,9 @@ QWidget* zoom_klima_ansicht(E_Zoom_Klima& e, const Ansichtsmittel& mittel, QWidg
     auto* reihe = new QHBoxLayout;
     reihe->addWidget(bau.liste(e.Klimaregionwahl2, e.ebene.text()), 1);
     reihe->addWidget(bau.anzeige(e.MausRegion), 1);
-    reihe->addWidget(bau.knopf(e.Command1));
+    QPushButton* ok = bau.knopf(e.Command1);
+    ok->setDefault(true);
+    reihe->addWidget(ok);
     reihe->addWidget(bau.knopf(e.Command2));
     spalte->addLayout(reihe);
     spalte->setSizeConstraint(QLayout::SetFixedSize);

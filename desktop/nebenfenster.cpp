@@ -18,6 +18,12 @@ void Nebenfenster::resizeEvent(QResizeEvent* ereignis) {
     });
 }
 
+void Nebenfenster::setVisible(bool sichtbar) {
+    const bool hat_die_tasten = isActiveWindow();
+    QDialog::setVisible(sichtbar);
+    if (!sichtbar && hat_die_tasten && parentWidget() != nullptr) parentWidget()->activateWindow();
+}
+
 void Nebenfenster::closeEvent(QCloseEvent* ereignis) {
     ereignis->ignore();
     reject();

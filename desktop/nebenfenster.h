@@ -8,7 +8,7 @@
 namespace velmaris {
 
 /// A window beside the main window whose record decides whether it is open: the frame's close box and Escape
-/// only ask the record.
+/// only ask the record. With it the keys go back to the window that it was opened from.
 class Nebenfenster : public QDialog {
     Q_OBJECT
 
@@ -20,6 +20,7 @@ class Nebenfenster : public QDialog {
     std::function<void(QSize)> anordnen;
 
     void reject() override;
+    void setVisible(bool sichtbar) override;
 
   protected:
     void resizeEvent(QResizeEvent* ereignis) override;

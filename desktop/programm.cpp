@@ -43,9 +43,9 @@ Programm::Programm(const std::filesystem::path& programmordner, const std::strin
       fenster_(std::make_unique<Hauptfenster>(*haupt_, mittel_)),
       startfenster_(startfenster(*start_, *haupt_, mittel_, [this] { plattform_.beenden(); })),
       hilfefenster_(wache_, sprache),
-      hilfetaste_([this](const std::string& seite) {
-          wache_.fuehre_aus([&] { haupt_->datei.hilfe_zeigen(seite); });
-      }) {
+      hilfetaste_(
+          [this](const std::string& seite) { wache_.fuehre_aus([&] { haupt_->datei.hilfe_zeigen(seite); }); },
+          [this] { return fenster_->ebene_in_gebrauch(); }) {
     if (sprache != "e") qt_deutsch(qt_texte_);
     wache_.fehler_behandeln = [this](const Laufzeitfehler& f) { fehler(f); };
     plattform_.hauptfenster(fenster_.get());

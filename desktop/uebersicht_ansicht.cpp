@@ -5,6 +5,7 @@
 #include "desktop/legende.h"
 #include "desktop/monatsleiste_ansicht.h"
 #include "desktop/nebenfenster.h"
+#include "desktop/qt_text.h"
 #include "desktop/tooltip_ansicht.h"
 
 #include <QPushButton>
@@ -15,7 +16,7 @@ namespace velmaris {
 QWidget* uebersicht_ansicht(A_Uebersicht& a, const Ansichtsmittel& mittel, QWidget* eltern) {
     QWidget* ebene = ebene_bauen(a.ebene, ausgabegroesse, mittel, eltern);
     const Ebenenbau bau(*ebene, "A_Uebersicht", mittel);
-    bau.bild(a.Temperaturen);
+    bau.bild(a.Temperaturen)->setAccessibleName(qtext(bau.text(a.Temperaturen.name)));
     monatsleiste_ansicht(a.monatsleiste, bau, ebene);
     legende(bau, ebene, 8, 187, 430, {{balkenfarben::heizen, &a.Label9}, {balkenfarben::kuehlen, &a.Label1}});
     bau.bild(a.Monatsbilanz);

@@ -14,11 +14,6 @@ namespace {
 
 constexpr Tooltipart tooltipart{.platz = platz_neben_dem_zeiger, .hoehe = 72, .verbirgt_bei_druck = true};
 
-template <class Liste>
-std::vector<std::string> als_vektor(const Liste& texte) {
-    return {texte.begin(), texte.end()};
-}
-
 }  // namespace
 
 E_Energie::E_Energie(Sitzung& sitzung)
@@ -27,16 +22,9 @@ E_Energie::E_Energie(Sitzung& sitzung)
     for (Anzeige* verdeckt : {&anz_q_ce, &anz_q_d, &anz_q_s, &anz_q_d_he, &anz_q_s_he, &anz_q_g_he})
         verdeckt->zeige(false);
 
-    Command1.gedrueckt = [this] {
-        std::vector<std::string> texte;
-        for (const Heizsystemzeile& zeile : Heizsysteme)
-            texte.push_back(zeile.Bezeichnung);
-        Auswahl.oeffne(Label_System, texte);
-    };
-    Command2.gedrueckt = [this] { Auswahl.oeffne(Label_Übergabe, als_vektor(katalogzeile().Uebergabe)); };
-    Command3.gedrueckt = [this] {
-        Auswahl.oeffne(Label_Energieträger, als_vektor(katalogzeile().Energietraeger));
-    };
+    Command1.gedrueckt = [this] { auswahl_oeffnen(Label_System); };
+    Command2.gedrueckt = [this] { auswahl_oeffnen(Label_Übergabe); };
+    Command3.gedrueckt = [this] { auswahl_oeffnen(Label_Energieträger); };
 
     Picture2.zeichnen = [this](Zeichenflaeche& bild) { Energietraeger_zeichnen(bild, sitzung_.p); };
     Picture3.zeichnen = [this](Zeichenflaeche& bild) { Hilfsstrom_zeichnen(bild, sitzung_.p); };
@@ -62,7 +50,8 @@ void E_Energie::laden() {
 void E_Energie::aktiviert() {
     tooltip.verlassen();
     sitzung_.alles_berechnen();
-    EnergRefresh();
+    // A load that failed leaves a record of which nothing may be calculated.
+    if (sitzung_.p.FormLoadGuard == 0) EnergRefresh();
 }
 
 void E_Energie::EnergRefresh() {
@@ -81,25 +70,46 @@ void E_Energie::zeigen() {
     if (ebene.sichtbar()) bilder_erneuern();
 }
 
-/// The catalogue row of the heating system in use; the row must exist.
-const Heizsystemzeile& E_Energie::katalogzeile() const {
-    const Projekt& p = sitzung_.p;
-    kombination_pruefen(p.Heizsystem, p.Uebergabe, p.Energietraeger);
-    return Heizsysteme(p.Heizsystem);
+/// The record's choice behind one of the three fields.
+std::int16_t& E_Energie::stelle(std::string_view feld) const {
+    Projekt& p = sitzung_.p;
+    if (feld == Label_System.name) return p.Heizsystem;
+    return feld == Label_Übergabe.name ? p.Uebergabe : p.Energietraeger;
+}
+
+/// What the list of a field offers as entry i: a text of the row of the record, empty for what is not there.
+const std::string& E_Energie::eintrag(std::string_view feld, int i) const {
+    static const std::string nichts;
+    const bool systeme = feld == Label_System.name;
+    const int zeile = systeme ? i : sitzung_.p.Heizsystem;
+    if (i < 1 || zeile < 1 || zeile > heizsysteme) return nichts;
+    if (systeme) return Heizsysteme(zeile).Bezeichnung;
+    if (feld == Label_Übergabe.name) return i <= uebergaben ? Heizsysteme(zeile).Uebergabe(i) : nichts;
+    return i <= energietraeger_je_zeile ? Heizsysteme(zeile).Energietraeger(i) : nichts;
 }
 
 void E_Energie::eingaben_anzeigen() {
     Projekt& p = sitzung_.p;
+    Auswahl.schliesse();
     kombination_pruefen(p.Heizsystem, p.Uebergabe, p.Energietraeger);
     if (ohne_uebergabe(p.Heizsystem)) p.Uebergabe = 1;
     auswahl_zeigen();
 }
 
+void E_Energie::auswahl_oeffnen(const Anzeige& feld) {
+    std::vector<std::string> texte;
+    for (int i = 1; i <= Auswahlrahmen::eintraege; ++i)
+        texte.push_back(eintrag(feld.name, i));
+    Auswahl.oeffne(feld, texte, stelle(feld.name));
+}
+
+/// A choice that has changed closes the list, which may not fit it any more.
 void E_Energie::auswahl_zeigen() {
-    const Heizsystemzeile& zeile = katalogzeile();
-    Label_System.schreibe(zeile.Bezeichnung);
-    Label_Übergabe.schreibe(zeile.Uebergabe(sitzung_.p.Uebergabe));
-    Label_Energieträger.schreibe(zeile.Energietraeger(sitzung_.p.Energietraeger));
+    for (Anzeige* feld : {&Label_System, &Label_Übergabe, &Label_Energieträger}) {
+        const std::string& text = eintrag(feld->name, stelle(feld->name));
+        if (feld->text() != text) Auswahl.schliesse();
+        feld->schreibe(text);
+    }
 }
 
 void E_Energie::felder_fuellen(const Kennwerte& k) {
@@ -140,25 +150,22 @@ void E_Energie::bilder_erneuern() const {
 }
 
 void E_Energie::Label_Auswahl_Click(int i) {
-    if (!Auswahl.Label_Auswahl(i).sichtbar()) return;
-    Projekt& p = sitzung_.p;
-    const std::int16_t index = i16(i, Auswahl.feld());
-    if (Auswahl.feld() == Label_System.name) {
-        p.Heizsystem = index;
-        p.Uebergabe = 1;
-        p.Energietraeger = 1;
-    } else if (Auswahl.feld() == Label_Übergabe.name) {
-        p.Uebergabe = index;
-    } else {
-        p.Energietraeger = index;
+    const std::string feld = Auswahl.feld();
+    const std::string& text = Auswahl.Label_Auswahl(i).text();
+    const bool angeboten = Auswahl.offen() && !text.empty() && text == eintrag(feld, i);
+    Auswahl.schliesse();
+    if (!angeboten) return;
+    stelle(feld) = i16(i, feld);
+    if (feld == Label_System.name) {
+        sitzung_.p.Uebergabe = 1;
+        sitzung_.p.Energietraeger = 1;
     }
     auswahl_zeigen();
-    Auswahl.Frame_Auswahl.zeige(false);
     sitzung_.alles_berechnen();
 }
 
 void E_Energie::Frame_Auswahl_Click() {
-    Auswahl.Frame_Auswahl.zeige(false);
+    Auswahl.schliesse();
 }
 
 std::string E_Energie::tooltip_text(int m) const {

@@ -7,7 +7,9 @@
 #include "project/sitzung.h"
 #include "toolkit/felder.h"
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace velmaris {
 
@@ -68,12 +70,12 @@ struct E_Energie {
     void rechnen();
     void zeigen();
 
-    /// Takes entry i (1..9) of the open list: stores the choice and recalculates. The dirty flag stays. An
-    /// entry that is hidden cannot be taken.
+    /// Takes entry i (1..9) of the open list and closes it: stores the choice and recalculates. The dirty
+    /// flag stays. An entry that is hidden, or that the row of the record does not offer, cannot be taken.
     void Label_Auswahl_Click(int i);
 
-    /// Shows the texts of the record's choice; a heating without transfer gets transfer 1. Errors as in
-    /// `kombination_pruefen`.
+    /// Shows the texts of the record's choice and closes the list; a heating without transfer gets transfer
+    /// 1. Errors as in `kombination_pruefen`.
     void eingaben_anzeigen();
 
     /// The characteristic values of the last `EnergRefresh`.
@@ -86,11 +88,13 @@ struct E_Energie {
     [[nodiscard]] std::string tooltip_text(int m) const;
 
   private:
+    void auswahl_oeffnen(const Anzeige& feld);
     void auswahl_zeigen();
     void felder_fuellen(const Kennwerte& k);
     void beschriften(const Kurzname& name);
     void bilder_erneuern() const;
-    [[nodiscard]] const Heizsystemzeile& katalogzeile() const;
+    [[nodiscard]] const std::string& eintrag(std::string_view feld, int i) const;
+    [[nodiscard]] std::int16_t& stelle(std::string_view feld) const;
 
     Sitzung& sitzung_;
     Heizsystemkatalog Heizsysteme;

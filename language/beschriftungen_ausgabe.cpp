@@ -14,6 +14,7 @@ constexpr std::array A_Menue{
 };
 
 constexpr std::array A_Uebersicht{
+    Beschriftung{"Temperaturen", "Temperaturdiagramm vergrößern", "Enlarge the temperature chart"},
     Beschriftung{"Label9", " Heizwärmebedarf", "heat energy demand"},
     Beschriftung{"Label1", "Kühlbedarf", "cooling demand"},
     Beschriftung{"Label32", "Heizstunden", "heating hours"},

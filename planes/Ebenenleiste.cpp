@@ -9,6 +9,7 @@ void Ebenenleiste::aufnehmen(const std::string& knopf, Feld& ebene, std::functio
 }
 
 void Ebenenleiste::Alle_Fenster_Schliessen() {
+    if (vor_wechsel) vor_wechsel();
     for (const Eintrag& eintrag : eintraege_) {
         eintrag.ebene->zeige(false);
         eintrag.knopf->aktiviere(true);
@@ -22,7 +23,14 @@ void Ebenenleiste::klicke(const std::string& knopf) {
         eintrag.ebene->zeige(true);
         eintrag.knopf->aktiviere(false);
         if (eintrag.aktivieren) eintrag.aktivieren();
+        zuwenden();
         return;
+    }
+}
+
+void Ebenenleiste::zuwenden() const {
+    for (const Eintrag& eintrag : eintraege_) {
+        if (zugewandt && eintrag.ebene->sichtbar()) zugewandt(*eintrag.ebene);
     }
 }
 

@@ -63,6 +63,7 @@ void Haupt::leisten_fuellen() {
     a_menue.aufnehmen("Kuehlen", a_kuehlen.ebene, [this] { a_kuehlen.aktiviert(); });
     a_menue.aufnehmen("Sankey", a_sankey.ebene, [this] { a_sankey.aktiviert(); });
     for (Ebenenleiste* leiste : {&e_menue, &a_menue}) {
+        leiste->vor_wechsel = [this] { e_energie.Auswahl.schliesse(); };
         for (const auto& eintrag : leiste->eintraege()) {
             eintrag.knopf->schreibe(beschriftung(leiste->leiste.name, eintrag.knopf->name, p.Sprache));
         }
@@ -86,6 +87,7 @@ void Haupt::drucker_merken() {
 void Haupt::erste_ebenen() {
     e_menue.klicke("Geometrie");
     a_menue.klicke("Uebersicht");
+    e_menue.zuwenden();
 }
 
 void Haupt::verbinden() {

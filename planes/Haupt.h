@@ -64,8 +64,7 @@ struct Haupt {
     /// What the main window does when it comes up: shows both bars and the first planes, notes the printer.
     void laden();
 
-    /// Shows the first input and the first output plane.
-    void drucker_merken();
+    /// Shows the first input and the first output plane; the user goes on at the input plane.
     void erste_ebenen();
 
     /// Sets all inputs, the controls that keep state and the title to those of a new project.
@@ -92,6 +91,9 @@ struct Haupt {
     [[nodiscard]] Rechenplan rechenplan();
     void verbinden();
     void leisten_fuellen();
+
+    /// Notes which printer is the current one.
+    void drucker_merken();
 
     /// Reads the station of the record and shows its figures.
     void klimadatei_lesen();

@@ -270,6 +270,9 @@ class Bildfeld : public Feld {
     std::function<void(double, double)> maus_bewegt;
     std::function<void(double, double)> maus_geklickt;
 
+    /// What Enter and the space bar do at a picture that stands for a button; such a one takes the focus.
+    std::function<void()> gedrueckt;
+
     /// The colour of a pixel as it was drawn last; set by the view.
     std::function<Farbe(double, double)> lies_punkt;
 

@@ -151,21 +151,6 @@ TEST_F(AnsichtenTest, NachbarwandVerbirgtDenFensteranteil) {
     EXPECT_GT(farben(), 1U);
 }
 
-TEST_F(AnsichtenTest, AuswahlDerHeizungOeffnetWaehltUndSchliesst) {
-    starte("d");
-    klicke(such<QAbstractButton>("E_Menue", "Energie"));
-    auto& liste = such("E_Energie", "Frame_Auswahl");
-    EXPECT_FALSE(liste.isVisible());
-    klicke(such<QAbstractButton>("E_Energie", "Command1"));
-    ASSERT_TRUE(liste.isVisible());
-    auto& feld = such<QLabel>("E_Energie", "Label_System");
-    EXPECT_EQ(liste.y(), feld.geometry().bottom() + feld.parentWidget()->y() + 1);
-    QTest::mouseClick(&such("E_Energie", "Label_Auswahl8"), Qt::LeftButton);
-    EXPECT_EQ(p().Heizsystem, 8);
-    EXPECT_FALSE(liste.isVisible());
-    EXPECT_EQ(feld.text(), such<QLabel>("E_Energie", "Label_Auswahl8").text());
-}
-
 TEST_F(AnsichtenTest, TooltipKommtWennDerZeigerRuht) {
     starte("d");
     auto& bild = such<Bildflaeche>("A_Uebersicht", "Monatsbilanz");

@@ -157,6 +157,9 @@ TEST_F(Energieebene, FalscherIndexLaesstDieEbeneStehen) {
     EXPECT_THROW(ebene->EnergRefresh(), Laufzeitfehler);
     EXPECT_EQ(ebene->anz_q_HE_Energieträger.text(), "57.9");
     EXPECT_EQ(ebene->Label_Energieträger.text(), "Heizöl EL");
+    p->FormLoadGuard = -1;
+    sitzung.alles_berechnen = [] {};
+    EXPECT_NO_THROW(ebene->aktiviert()) << "what a failed opening has left";
 }
 
 /// How many entries the open list shows.
@@ -203,27 +206,73 @@ TEST_F(Energieebene, WahlSpeichertUndRechnetOhneDenMerkerGeaendert) {
     EXPECT_FALSE(ebene->Auswahl.Frame_Auswahl.sichtbar());
 }
 
-TEST_F(Energieebene, VerdeckterEintragIstKeineWahl) {
-    waehle(5, 1, 1);
-    klicke(&E_Energie::Command3, 2);
-    EXPECT_EQ(wahl(), "511");
+/// The row of the record counts, not what the list shows.
+TEST_F(Energieebene, WasDieZeileNichtBietetIstKeineWahl) {
+    struct Fall {
+        Knopf E_Energie::*knopf;
+        std::int16_t davor, jetzt;  // heating systems, at the opening of the list and at the click
+        int eintrag;
+    };
+    for (const Fall& fall : {Fall{&E_Energie::Command3, 5, 5, 2},
+                             {&E_Energie::Command3, 6, 1, 4},
+                             {&E_Energie::Command3, 1, 7, 2},
+                             {&E_Energie::Command3, 1, 4, 2},  // another text in the same place
+                             {&E_Energie::Command2, 1, 8, 2},
+                             {&E_Energie::Command2, 8, 8, 1},  // no list at all
+                             {&E_Energie::Command3, 1, 12, 1}}) {
+        waehle(fall.davor, 1, 1);
+        ((*ebene).*fall.knopf).druecke();
+        p->Heizsystem = fall.jetzt;
+        ebene->Label_Auswahl_Click(fall.eintrag);
+        EXPECT_EQ(wahl(), std::to_string(fall.jetzt) + "11") << fall.davor;
+        EXPECT_FALSE(ebene->Auswahl.offen());
+    }
     EXPECT_EQ(berechnet, 0);
 }
 
-TEST_F(Energieebene, KnopfSchaltetDenRahmenUm) {
-    const Feld& rahmen = ebene->Auswahl.Frame_Auswahl;
-    EXPECT_FALSE(rahmen.sichtbar());
+TEST_F(Energieebene, KnopfKlapptSeineListeAufUndZu) {
+    const auto offen = [&] { return ebene->Auswahl.offen() ? ebene->Auswahl.feld() : std::string(); };
+    EXPECT_EQ(offen(), "");
     ebene->Command1.druecke();
-    EXPECT_TRUE(rahmen.sichtbar());
-    EXPECT_EQ(ebene->Auswahl.feld(), "Label_System");
+    EXPECT_EQ(offen(), "Label_System");
     ebene->Command1.druecke();
-    EXPECT_FALSE(rahmen.sichtbar());
+    EXPECT_EQ(offen(), "");
     ebene->Command3.druecke();
-    EXPECT_EQ(ebene->Auswahl.feld(), "Label_Energieträger");
+    ebene->Command2.druecke();
+    EXPECT_EQ(offen(), "Label_Übergabe");
     ebene->Frame_Auswahl_Click();
-    EXPECT_FALSE(rahmen.sichtbar());
+    EXPECT_EQ(offen(), "");
     EXPECT_EQ(wahl(), "111");
     EXPECT_EQ(berechnet, 0);
+    ebene->Command2.druecke();
+    waehle(8, 1, 1);
+    ebene->EnergRefresh();
+    EXPECT_EQ(offen(), "") << "closed by a choice from elsewhere";
+    ebene->Command3.druecke();
+    ebene->Command2.druecke();
+    EXPECT_EQ(offen(), "") << "nothing to choose from";
+    ebene->Command1.druecke();
+    ebene->eingaben_anzeigen();
+    EXPECT_EQ(offen(), "") << "closed by a project";
+}
+
+TEST_F(Energieebene, MarkeBeginntBeiDerWahlUndBleibtInDerListe) {
+    Auswahlrahmen& rahmen = ebene->Auswahl;
+    waehle(6, 2, 3);
+    ebene->Command3.druecke();
+    EXPECT_EQ(rahmen.marke(), 3);
+    for (const auto& [schritte, marke] :
+         std::vector<std::pair<int, int>>{{-1, 2}, {-5, 1}, {-1, 1}, {2, 3}, {9, 4}, {1, 4}, {0, 4}}) {
+        rahmen.ruecke(schritte);
+        EXPECT_EQ(rahmen.marke(), marke) << schritte;
+    }
+    rahmen.markiere(5);
+    EXPECT_EQ(rahmen.marke(), 4) << "a hidden entry";
+    ebene->Command2.druecke();
+    EXPECT_EQ(rahmen.marke(), 2);
+    rahmen.schliesse();
+    rahmen.markiere(1);
+    EXPECT_EQ(rahmen.marke(), 0);
 }
 
 TEST_F(Energieebene, EintraegeStapelnSichNachIhrerHoehe) {
