@@ -37,7 +37,8 @@ namespace fs = std::filesystem;
     if (grund == EROFS)
         scheitern(datei, {"Datei kann nicht geschrieben werden (schreibgeschützter Datenträger)",
                           "file cannot be written (write-protected disk)"});
-    if (grund == ENOENT)
+    std::error_code fehler;
+    if (grund == ENOENT && !fs::exists(fs::absolute(datei, fehler).parent_path(), fehler))
         scheitern(datei, {"Datei kann nicht geschrieben werden (den Ordner gibt es nicht)",
                           "file cannot be written (there is no such folder)"});
     const std::string system =
