@@ -50,7 +50,8 @@ std::string groesse_in_worten(std::size_t bytes) {
     if (grund == EROFS)
         scheitern(datei, {"Datei kann nicht geschrieben werden (schreibgeschützter Datenträger)",
                           "file cannot be written (write-protected disk)"});
-    if (grund == ENOENT)
+    std::error_code fehler;
+    if (grund == ENOENT && !fs::exists(fs::absolute(datei, fehler).parent_path(), fehler))
         scheitern(datei, {"Datei kann nicht geschrieben werden (den Ordner gibt es nicht)",
                           "file cannot be written (there is no such folder)"});
     const std::string system =
