@@ -49,10 +49,15 @@ struct Zeitstempel {
     }
 };
 
+/// A number as text, without the blank in the place of its sign.
+std::string ohne_leerstelle(double zahl) {
+    return zahltext(zahl).substr(zahl < 0 ? 0 : 1);
+}
+
 /// True for -99, -99.9, -999 and so on, which stand for missing values in many formats.
 bool ist_negativer_fehlwert(double zahl) {
     if (zahl > -99) return false;
-    const std::string ziffern = zahltext(zahl).substr(1);
+    const std::string ziffern = ohne_leerstelle(-zahl);
     return ziffern.find_first_not_of("9.") == std::string::npos;
 }
 
@@ -94,14 +99,14 @@ class Zeilenleserei {
             fehlerhaft(zeile, spalte, {was + " ist keine Zahl", was + " is not a number"});
         }
         if (fehlwert(*zahl, groesse)) {
-            const std::string was = zahltext(*zahl).substr(*zahl < 0 ? 0 : 1);
+            const std::string was = ohne_leerstelle(*zahl);
             fehlerhaft(zeile, spalte,
                        {was + " steht für einen fehlenden Wert", was + " stands for a missing value"});
         }
         if (*zahl >= (groesse == Groesse::Ta ? temperatur_zu_gross : strahlung_zu_gross))
             zu_gross(zeile, spalte);
         if (groesse != Groesse::Ta && *zahl < kleinste_strahlung) {
-            const std::string was = quelltext(*text, 40);
+            const std::string was = ohne_leerstelle(*zahl);
             fehlerhaft(zeile, spalte, {was + " liegt unter -50 W/m²", was + " is below -50 W/m²"});
         }
         if (*zahl <= -temperatur_zu_gross)

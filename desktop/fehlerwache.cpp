@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <iostream>
+#include <new>
 #include <string>
 
 namespace velmaris {
@@ -12,6 +13,8 @@ bool Fehlerwache::fuehre_aus(const std::function<void()>& handler) const noexcep
         return true;
     } catch (const Laufzeitfehler& fehler) {
         behandle(fehler);
+    } catch (const std::bad_alloc&) {
+        behandle(Laufzeitfehler(kein_speicher()));
     } catch (const std::exception& fehler) {
         const std::string grund = fehler.what();
         behandle(Laufzeitfehler({grund, grund}));

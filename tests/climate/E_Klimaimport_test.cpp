@@ -119,6 +119,12 @@ TEST(Klimaimport, ErkannteDateienFuellenDieFelder) {
     EXPECT_THAT(texte(e.Datenreihe), ElementsAre("- unbenutzt -", "- unbenutzt -", "- unbenutzt -",
                                                  "Gesamtstrahlung", "Direktstrahlung", "Diffusstrahlung"));
 
+    probe.oeffne("breit.dat", "Bern\n46,7,5,-1\n\na\tb\tc\td\tTa\tG_Gh\tG_Dh\tx\n1\t2\t3\t4\t5\t6\t7\t8\n");
+    EXPECT_EQ(e.HScroll1.position(), 3) << "the last place that fills the grid";
+    EXPECT_EQ(e.Datenreihe[2].text(), "Außenlufttemperatur");
+    e.HScroll1.setze(1);
+    EXPECT_EQ(e.Zelle[0][0].text(), "1");
+
     probe.oeffne("frei.txt", "1\t2\n");
     EXPECT_EQ(e.Erkannt.text(), "");
     EXPECT_TRUE(e.Datentrennung.gesetzt(0));
