@@ -517,6 +517,14 @@ TEST(Untersuchen, BemerktJedenSchaden) {
     std::string hell = gut;
     for (int n = 1; n <= 31; ++n)
         hell.replace(stelle(n, 12, 11), 10, "   20   20");
+    // May to July with each month's days of temperature in turned order: means, ranges and memory stay.
+    std::string verdreht = gut;
+    for (const auto& [erster, letzter] : {std::pair{121, 151}, {152, 181}, {182, 212}}) {
+        for (int n = erster; n <= letzter; ++n) {
+            for (int h = 1; h <= 24; ++h)
+                verdreht.replace(stelle(n, h, 6), 5, gut, stelle(erster + letzter - n, h, 6), 5);
+        }
+    }
     const std::vector<std::pair<std::string, std::string>> faelle{
         {gut.substr(0, gut.size() - 22), "line 8765: the file ends too early"},
         {gut + gut.substr(zeile7, 22), "line 8767: the file goes on"},
@@ -531,6 +539,7 @@ TEST(Untersuchen, BemerktJedenSchaden) {
         {ersetzt(stelle(200, 13, 11), " 1200"), "clearest hour"},
         {heiss, "monthly mean temperature"},
         {hell, "monthly sum of radiation"},
+        {verdreht, "correlation of the days' temperature and radiation"},
     };
     EXPECT_NO_THROW(befund_pruefen(untersuchen(gut, trier), trier));
     for (const auto& [bytes, meldung] : faelle) {
