@@ -103,8 +103,6 @@ QGroupBox* faktoren(E_Energie& e, const Ebenenbau& bau) {
     return rahmen;
 }
 
-}
-
 }  // namespace
 
 QWidget* energie_ansicht(E_Energie& e, const Ansichtsmittel& mittel, QWidget* eltern) {
