@@ -26,7 +26,7 @@ std::vector<Diagramm> diagramme(Haupt& haupt) {
          {&u.Temperaturen, &u.Monatsbilanz, &u.JahrBilanz, &u.UeberGrafik, &u.UeberJahr, &h.Heizbilanz,
           &h.JahrBilanz, &h.NutzungsgradMonat, &h.NutzungsgradJahr, &k.StundenProTagMonat,
           &k.StundenProTagJahr, &k.KuehlbedarfMonat, &k.KuehlbedarfJahr, &k.KuehlGradStundenMonat,
-          &k.KuehlGradStundenJahr})
+          &k.KuehlGradStundenJahr, &haupt.a_sankey.Sankey, &haupt.a_sankey.Sankey_Kühlen})
         alle.push_back({bild, bild->lage()->breite, bild->lage()->hoehe});
     return alle;
 }

@@ -40,6 +40,13 @@ class AnsichtenTest : public test::Programmprobe {
         p().FormLoadGuard = 0;
         haupt.alles_berechnen();
     }
+
+    /// Looks at the texts of all charts in the letters of the screen.
+    void pruefe_diagramme(const std::string& wo) {
+        QtFlaeche masse(QSize(1, 1), 1, farben::weiss);
+        for (const test::Diagramm& diagramm : test::diagramme(programm->haupt()))
+            EXPECT_THAT(test::textfehler(diagramm, masse), testing::IsEmpty()) << wo;
+    }
 };
 
 TEST_F(AnsichtenTest, KeinTextIstAbgeschnittenUndNichtsRagtHinaus) {
@@ -51,9 +58,12 @@ TEST_F(AnsichtenTest, KeinTextIstAbgeschnittenUndNichtsRagtHinaus) {
                 const std::string wo =
                     std::string(sprache) + (waagrecht ? " long" : " short") + (senkrecht ? " high" : " low");
                 fuer_jede_ebene([&](QWidget& ebene) { test::pruefe_platz(ebene, wo); });
-                QtFlaeche masse(QSize(1, 1), 1, farben::weiss);
-                for (const test::Diagramm& diagramm : test::diagramme(programm->haupt()))
-                    EXPECT_THAT(test::textfehler(diagramm, masse), testing::IsEmpty()) << wo;
+                for (std::int16_t system = 1; system <= 9; ++system) {
+                    p().Heizsystem = system;
+                    programm->haupt().alles_berechnen();
+                    pruefe_diagramme(wo);
+                    test::pruefe_platz(such("Haupt", "E_Energie"), wo + " " + std::to_string(system));
+                }
             }
         }
     }
