@@ -6,11 +6,13 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <algorithm>
 
 namespace velmaris {
 
-Ebenenbalken::Ebenenbalken(Ebenenleiste& leiste, const Binder& binder, QWidget* eltern) : QWidget(eltern) {
+Ebenenbalken::Ebenenbalken(Ebenenleiste& leiste, const Binder& binder, QWidget* eltern)
+    : QWidget(eltern), leiste_(leiste) {
     auto* reihe = new QHBoxLayout(this);
     reihe->setContentsMargins(mass::zeilenabstand, 2, mass::zeilenabstand, 1);
     reihe->setSpacing(2);
@@ -61,6 +63,11 @@ void Ebenenbalken::keyPressEvent(QKeyEvent* ereignis) {
     } else {
         QWidget::keyPressEvent(ereignis);
     }
+}
+
+void Ebenenbalken::mousePressEvent(QMouseEvent* ereignis) {
+    const bool auf_gewaehltem = gewaehlter()->geometry().contains(ereignis->position().toPoint());
+    if (ereignis->button() == Qt::LeftButton && auf_gewaehltem) leiste_.zuwenden();
 }
 
 bool Ebenenbalken::focusNextPrevChild(bool weiter) {

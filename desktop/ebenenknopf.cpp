@@ -2,6 +2,7 @@
 
 #include "desktop/stil.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 
@@ -19,6 +20,12 @@ Ebenenknopf::Ebenenknopf(QWidget* leiste) : Taste(leiste) {
 void Ebenenknopf::betone(bool an) {
     betont_ = an;
     update();
+}
+
+/// Other disabled buttons swallow the mouse.
+bool Ebenenknopf::event(QEvent* ereignis) {
+    if (!isEnabled() && ereignis->type() == QEvent::MouseButtonPress) return false;
+    return Taste::event(ereignis);
 }
 
 void Ebenenknopf::keyPressEvent(QKeyEvent* ereignis) {

@@ -5,7 +5,7 @@
 namespace velmaris {
 
 /// A button of the bars that choose the plane on show. It is disabled while its plane shows, and then looks
-/// chosen rather than dead.
+/// chosen rather than dead; a press on it goes to the bar.
 class Ebenenknopf : public Taste {
     Q_OBJECT
 
@@ -19,6 +19,7 @@ class Ebenenknopf : public Taste {
     void betone(bool an);
 
   protected:
+    bool event(QEvent* ereignis) override;
     void paintEvent(QPaintEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
     void keyReleaseEvent(QKeyEvent* ereignis) override;

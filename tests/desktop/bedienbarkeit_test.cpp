@@ -189,7 +189,13 @@ TEST_F(EbenenfokusTest, BleibtBeiNeuUndGehtBeimOeffnenAufDieErsteEbene) {
             EXPECT_EQ(f1(), "E_Geometrie");
         }
     }
-    such("E_Geometrie", "b_sb").setFocus();
+    for (const auto& [leiste, knopf, ebene] :
+         {std::tuple{"A_Menue", "Uebersicht", "A_Uebersicht"}, {"E_Menue", "Geometrie", "E_Geometrie"}}) {
+        const QWidget& gewaehlter = such(leiste, knopf);
+        QTest::mouseClick(programm->fenster().windowHandle(), Qt::LeftButton, {},
+                          gewaehlter.mapTo(&programm->fenster(), gewaehlter.rect().center()));
+        EXPECT_EQ(f1(), ebene) << "a click on the button of the plane on show";
+    }
     such("A_Uebersicht", "Monatsbutton4").setFocus(Qt::TabFocusReason);
     such("E_Menue", "Energie").setFocus(Qt::TabFocusReason);
     EXPECT_EQ(f1(), "A_Uebersicht") << "the plane that had the focus last";
