@@ -5,6 +5,7 @@
 #include "toolkit/text.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
@@ -89,6 +90,14 @@ void als_klartext(QMessageBox& fenster) {
         schild->setTextFormat(schild->pixmap().isNull() ? Qt::PlainText : schild->textFormat());
 }
 
+/// Puts a name into the field of a file dialog. An existing file would be selected in the list as well, and
+/// that counts for more than a path pasted over the name.
+void vorschlagen(QFileDialog& fenster, const std::string& name) {
+    fenster.selectFile(qtext(name));
+    if (auto* liste = fenster.findChild<QAbstractItemView*>(QStringLiteral("listView")))
+        liste->clearSelection();
+}
+
 }  // namespace
 
 QtPlattform::QtPlattform(const Fehlerwache& wache, std::function<std::string()> sprache)
@@ -171,7 +180,7 @@ std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialo
         fenster.selectNameFilter(filter[dialog.filterindex - 1]);
     const QFileInfo ordner(dialog.ordner);
     fenster.setDirectory(ordner.isDir() ? ordner.absoluteFilePath() : QDir::homePath());
-    if (!dialog.dateiname.empty()) fenster.selectFile(qtext(dialog.dateiname));
+    if (!dialog.dateiname.empty()) vorschlagen(fenster, dialog.dateiname);
     if (fenster.exec() != QDialog::Accepted || fenster.selectedFiles().isEmpty()) return std::nullopt;
     return QFileInfo(fenster.selectedFiles().constFirst()).filesystemFilePath();
 }
