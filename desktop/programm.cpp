@@ -19,8 +19,8 @@ std::string abschiedstext(const Rettung& rettung, const std::string& sprache) {
     const Zweisprachig verloren{" Das Projekt konnte nicht gerettet werden.",
                                 " The project could not be rescued."};
     const Zweisprachig gerettet{
-        " Der letzte Stand Ihres Projekts, der ohne Fehler berechnet wurde, liegt in: ",
-        " The last state of your project that was calculated without a fault is kept in: "};
+        " Der letzte Stand Ihres Projekts, der ohne Fehler berechnet wurde, liegt in:\n",
+        " The last state of your project that was calculated without a fault is kept in:\n"};
     if (!datei) return ende.in(sprache) + verloren.in(sprache);
     return ende.in(sprache) + gerettet.in(sprache) + pfadtext(*datei);
 }

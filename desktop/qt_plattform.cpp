@@ -7,6 +7,7 @@
 #include "toolkit/text.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
@@ -83,6 +84,14 @@ class Zeigerpause {
   private:
     bool sanduhr_;
 };
+
+/// Puts a name into the field of a file dialog. An existing file would be selected in the list as well, and
+/// that counts for more than a path pasted over the name.
+void vorschlagen(QFileDialog& fenster, const std::string& name) {
+    fenster.selectFile(qtext(name));
+    if (auto* liste = fenster.findChild<QAbstractItemView*>(QStringLiteral("listView")))
+        liste->clearSelection();
+}
 
 }  // namespace
 
@@ -169,7 +178,7 @@ std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialo
         fenster.selectNameFilter(filter[dialog.filterindex - 1]);
     const QFileInfo ordner(dialog.ordner);
     fenster.setDirectory(ordner.isDir() ? ordner.absoluteFilePath() : QDir::homePath());
-    if (!dialog.dateiname.empty()) fenster.selectFile(qtext(dialog.dateiname));
+    if (!dialog.dateiname.empty()) vorschlagen(fenster, dialog.dateiname);
     if (fenster.exec() != QDialog::Accepted || fenster.selectedFiles().isEmpty()) return std::nullopt;
     return QFileInfo(fenster.selectedFiles().constFirst()).filesystemFilePath();
 }

@@ -27,7 +27,7 @@ std::filesystem::path anfangsordner(const Sitzung& sitzung, const std::filesyste
 std::optional<std::filesystem::path> datei_erfragen(Sitzung& sitzung, Dateidialog dialog) {
     dialog.ordner = anfangsordner(sitzung, dialog.ordner);
     auto datei = sitzung.plattform.dateidialog(dialog);
-    if (datei) sitzung.dialogordner = datei->parent_path();
+    if (datei && ist_ordner(datei->parent_path())) sitzung.dialogordner = datei->parent_path();
     return datei;
 }
 

@@ -25,7 +25,7 @@ using test::am_naechsten_dialog;
 using test::waehle_datei;
 
 /// A file that nobody can write, not even root.
-constexpr const char* unbeschreibbar = "/proc/velmaris";
+constexpr const char* unbeschreibbar = "/dev/null/velmaris";
 
 /// The windows of the documents in the whole program.
 class DokumenteTest : public test::Programmprobe {

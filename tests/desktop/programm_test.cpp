@@ -186,7 +186,7 @@ TEST_F(ProgrammTest, FehlerInDateienBeendenNichtAndereSchon) {
     });
     QTimer::singleShot(0, &laenge, [&] { QTest::keyClick(&laenge, Qt::Key_Right); });
     EXPECT_EQ(laufe_bis_zum_ende(), 1);
-    const std::filesystem::path datei = rettung.section(QStringLiteral(": "), 1).toStdString();
+    const std::filesystem::path datei = rettung.section(u'\n', 1).toStdString();
     EXPECT_EQ(test::aus_rettung(datei)->p().l, 10.0F) << rettung.toStdString();
 }
 
