@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <algorithm>
 #include <array>
 
@@ -259,6 +260,10 @@ void QtPlattform::drucker_waehlen(int index) {
     const QStringList namen = QPrinterInfo::availablePrinterNames();
     if (index < 0) drucker_ = QString();
     if (index >= 0 && index < namen.size()) drucker_ = namen[index];
+}
+
+std::filesystem::path QtPlattform::benutzerordner() {
+    return QFileInfo(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filesystemFilePath();
 }
 
 void QtPlattform::beenden() {

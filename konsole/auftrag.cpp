@@ -62,8 +62,9 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
     bool gut = true;
     if (auftrag.klimaimport) {
         gut = versuchen(auftrag, fehler, [&] {
-            const std::string bericht =
-                importieren(*auftrag.klimaimport, auftrag.programmordner, auftrag.sprache);
+            const Klimaordner ordner(auftrag.programmordner,
+                                     datenordner_bestimmen(auftrag.programmordner, plattform.datenordner()));
+            const std::string bericht = importieren(*auftrag.klimaimport, ordner, auftrag.sprache);
             if (!auftrag.json) aus << bericht << '\n';
         });
     }

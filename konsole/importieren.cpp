@@ -33,14 +33,15 @@ Quellkopf kopf_der_quelle(const Importauftrag& auftrag, const Importquelle& quel
     return *kopf;
 }
 
-std::filesystem::path freies_ziel(const Importauftrag& auftrag, const std::filesystem::path& programmordner) {
+std::string freies_ziel(const Importauftrag& auftrag, const Klimaordner& ordner) {
     if (const auto fehler = namensfehler(auftrag.name))
         throw Laufzeitfehler({auftrag.name + ": " + fehler->de, auftrag.name + ": " + fehler->en});
-    std::filesystem::path ziel = stationspfad(programmordner, auftrag.name);
+    std::string ziel = stationsdatei(auftrag.name);
+    const std::filesystem::path vorhanden = ordner.datei(ziel);
     std::error_code ohne;
-    if (!auftrag.ersetzen && std::filesystem::exists(ziel, ohne)) {
-        throw Dateifehler(pfadtext(ziel), {"die Datei ist schon vorhanden; --ersetzen überschreibt sie",
-                                           "the file exists already; --ersetzen overwrites it"});
+    if (!auftrag.ersetzen && std::filesystem::exists(vorhanden, ohne)) {
+        throw Dateifehler(pfadtext(vorhanden), {"die Datei ist schon vorhanden; --ersetzen überschreibt sie",
+                                                "the file exists already; --ersetzen overwrites it"});
     }
     return ziel;
 }
@@ -70,15 +71,14 @@ std::string bericht(const std::string& sprache, const std::string& ziel,
 
 }  // namespace
 
-std::string importieren(const Importauftrag& auftrag, const std::filesystem::path& programmordner,
-                        const std::string& sprache) {
-    const std::filesystem::path ziel = freies_ziel(auftrag, programmordner);
+std::string importieren(const Importauftrag& auftrag, const Klimaordner& ordner, const std::string& sprache) {
+    const std::string ziel = freies_ziel(auftrag, ordner);
     const Importquelle quelle = quelle_lesen(pfad(auftrag.quelle));
     const Quellkopf kopf = kopf_der_quelle(auftrag, quelle);
     const Stationsort ort = stationsort(kopf.ort);
     const Messjahr jahr = jahr_lesen(auftrag, quelle, kopf);
-    datei_ersetzen(ziel, *stationstext(ort, jahr, {}));
-    return bericht(sprache, pfadtext(ziel),
+    const std::filesystem::path datei = ordner.schreiben(ziel, *stationstext(ort, jahr, {}));
+    return bericht(sprache, pfadtext(datei),
                    {{ort.name + ".", ort.name + "."},
                     erkannt_als(kopf.form),
                     jahreshinweis(jahr),

@@ -74,10 +74,12 @@ bool FILEIO::projekt_laden(const std::string& datei) {
     try {
         const bool gelesen = projekt_lesen(p, bytes, datei, wege_.ebenen);
         if (!gelesen) p.Datei = unbenannt;
+        const std::string station = p.Klimadatei;
         wetter_der_datei_laden();
         wege_.eingaben_anzeigen();
         p.FormLoadGuard = 0;
         s_.alles_berechnen();
+        if (p.Klimadatei != station) p.Geaendert = 1;
         return gelesen;
     } catch (const Dateifehler&) {
         throw;
@@ -130,6 +132,7 @@ FILEIO::Frage FILEIO::aenderung_klaeren(Sicherung (FILEIO::*weg)()) {
 void FILEIO::datei_neu() {
     if (aenderung_klaeren(&FILEIO::sichern) == Frage::abbrechen) return;
     const Sanduhr sanduhr(s_.plattform);
+    if (!wege_.neu_moeglich()) return;
     kanal_schliessen();
     projekt_aufbauen();
 }

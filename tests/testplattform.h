@@ -27,6 +27,7 @@ class Testplattform : public Plattform {
     std::vector<bool> sanduhren;
     std::string titel;
     std::vector<std::string> hilfeseiten;
+    std::filesystem::path daten;  ///< the user's folder
     bool beendet = false;
 
     struct Zeitgeber {
@@ -52,6 +53,7 @@ class Testplattform : public Plattform {
     [[nodiscard]] std::vector<std::string> druckerliste() const override { return drucker; }
     [[nodiscard]] int aktueller_drucker() const override { return druckerindex; }
     void drucker_waehlen(int index) override { druckerindex = index; }
+    [[nodiscard]] std::filesystem::path datenordner() const override { return daten; }
     void beenden() override { beendet = true; }
 };
 

@@ -24,6 +24,7 @@ class Konsolenplattform final : public Plattform {
     [[nodiscard]] std::vector<std::string> druckerliste() const override;
     [[nodiscard]] int aktueller_drucker() const override;
     void drucker_waehlen(int index) override;
+    [[nodiscard]] std::filesystem::path datenordner() const override;
     void beenden() override;
 };
 
