@@ -50,20 +50,20 @@ void auffrischen(const std::vector<Auffrischung>& tabelle) {
     }
 }
 
-/// Under the load guard a half-built project may divide by 0; nobody asks.
-void nur_geometrie(Projekt& p, const Rechenplan& plan) {
+}  // namespace
+
+void geometrie_allein(Projekt& p, const Rechenplan& plan) {
+    const Merkerwache wache;
     geometrie_berechnen(p);
     rufe(plan.geometrie_zeigen);
 }
 
-}  // namespace
-
 void alles_berechnen(Projekt& p, const Rechenplan& plan) {
-    const Merkerwache wache;
     if (p.FormLoadGuard != 0) {
-        nur_geometrie(p, plan);
+        geometrie_allein(p, plan);
         return;
     }
+    const Merkerwache wache;
     stufe({"Die Geometrie des Gebäudes", "The geometry of the building"}, [&] { geometrie_berechnen(p); });
     rufe(plan.geometrie_zeigen);
     stufe({"Die Monatsbilanz", "The monthly balance"}, [&] { monatsbilanz(p); });

@@ -25,6 +25,10 @@ struct Rechenplan {
     std::vector<Auffrischung> tabelle;       ///< run in order; visibility is asked anew before each row
 };
 
+/// The geometry and its display alone, for a project that is half built or has no climate. Its values may
+/// divide by 0; nobody asks.
+void geometrie_allein(Projekt& p, const Rechenplan& plan);
+
 /// The recalculation that follows every change of an input: geometry, month balance, hourly simulation,
 /// energy, then the refresh table. While `FormLoadGuard` is not 0 it ends after the geometry and its display.
 /// A division by zero, an overflow or an invalid operation in a stage is a Laufzeitfehler that names the

@@ -1,14 +1,17 @@
 #include "climate/E_Klima.h"
 
 #include "climate/jahreswerte.h"
+#include "climate/klimadatei.h"
 #include "climate/postleitzahlen.h"
 #include "climate/regionen.h"
 #include "language/beschriftungen.h"
+#include "project/klimaordner.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -61,6 +64,25 @@ std::vector<std::string> regionstexte() {
     return texte;
 }
 
+const Zweisprachig keine_station{
+    "Es kann keine Klimadatei gelesen werden.\rBis Sie auf der Ebene Klima eine lesbare wählen, wird nichts "
+    "berechnet.",
+    "No climate file can be read.\rNothing is calculated until you choose one that can on the plane "
+    "Climate."};
+
+/// Why the lists do not have the record's station.
+Dateifehler ungelistet(const Projekt& p) {
+    const std::filesystem::path datei = Klimaordner(p).datei(p.Klimadatei);
+    try {
+        static_cast<void>(stationskopf_lesen(datei));
+    } catch (const Dateifehler& fehler) {
+        return fehler;
+    }
+    return {pfadtext(datei),
+            {"die Station steht erst nach einem neuen Start in den Listen",
+             "the station is in the lists after a new start only"}};
+}
+
 Zweisprachig plz_ohne_eintrag(const std::string& plz) {
     return {"Die Tabelle \"plz.txt\" enthält keine Klimaregion für die Postleitzahl " + plz + ".",
             "The table \"plz.txt\" has no climatic region for the post code " + plz + "."};
@@ -69,7 +91,7 @@ Zweisprachig plz_ohne_eintrag(const std::string& plz) {
 }  // namespace
 
 E_Klima::E_Klima(Sitzung& sitzung, std::function<void()> wetter_laden)
-    : stationen(stationslisten_lesen(sitzung.p.AppPfad / "klima")),
+    : stationen(stationslisten_lesen(Klimaordner(sitzung.p).alle())),
       HScroll1("HScroll1", 0, (weltbreite - rahmenbreite) * twips, kleiner_schritt, grosser_schritt),
       zoom(sitzung, stationen.Welt, Klimaregionwahl2),
       s_(sitzung),
@@ -132,10 +154,12 @@ void E_Klima::klima_anzeigen() {
 void E_Klima::Option_Click(int bereich) {
     s_.p.Klimaauswahl = i16(bereich, "Klimaauswahl");
     bereich_zeigen(bereich);
+    const bool ersetzt = !gelistet() && !klima_fehlt_ && ersatz_erlaubt && ersatz_laden(ungelistet(s_.p));
     if (bereich == deutschland) {
-        deutschland_abgleichen();
+        region_zeigen();
     } else {
-        stationen_abgleichen(stationen_des_bereichs());
+        Klimaregionwahl2.fuelle(stationsnamen(stationen_des_bereichs()));
+        station_zeigen(ersetzt || klima_fehlt_);
     }
 }
 
@@ -158,33 +182,80 @@ const std::vector<Station>& E_Klima::stationen_des_bereichs() const {
     return s_.p.Klimaauswahl == europa ? stationen.Europa : stationen.Welt;
 }
 
-/// The region of the record's station is only marked: its climate is in force already.
-void E_Klima::deutschland_abgleichen() {
-    if (const int region = region_der_station(s_.p); region > 0) {
-        Picture1.lade(regionenbild(s_.p, region));
-        Klimaregionwahl.markiere(region - 1);
-    } else if (stationsindex(stationen.Welt, s_.p.Klimadatei) >= 0) {
-        Picture1.lade(regionenbild(s_.p, 0));
-        Klimaregionwahl.schreibe(stationsname());
-    } else {
-        fehlt_melden();
-        Klimaregionwahl.setze(ersatzregion - 1);
-    }
+/// True if the lists of the scope know the record's station, or those of the world do.
+bool E_Klima::gelistet() const {
+    const bool region = s_.p.Klimaauswahl == deutschland && region_der_station(s_.p) > 0;
+    return region || stationsindex(stationen.Welt, s_.p.Klimadatei) >= 0;
 }
 
-void E_Klima::stationen_abgleichen(const std::vector<Station>& liste) {
-    Klimaregionwahl2.fuelle(stationsnamen(liste));
-    if (const int index = stationsindex(liste, s_.p.Klimadatei); index >= 0) {
+/// The region of the record's station is only marked: its climate is in force already.
+void E_Klima::region_zeigen() {
+    const int region = region_der_station(s_.p);
+    Picture1.lade(regionenbild(s_.p, region));
+    auswahl_nachziehen();
+}
+
+/// Elsewhere the station is chosen anew, unless that has just been tried.
+void E_Klima::station_zeigen(bool versucht) {
+    const std::vector<Station>& liste = stationen_des_bereichs();
+    const int index = stationsindex(liste, s_.p.Klimadatei);
+    if (index >= 0 && !versucht) {
         Klimaregionwahl2.setze(index);
-    } else if (stationsindex(stationen.Welt, s_.p.Klimadatei) >= 0) {
-        Klimaregionwahl2.schreibe(stationsname());
-    } else if (!liste.empty()) {
-        fehlt_melden();
-        Klimaregionwahl2.setze(
-            static_cast<int>(ganzzahl(s_.plattform.zufall() * static_cast<double>(liste.size()))));
+        return;
     }
+    auswahl_nachziehen();
+    if (index >= 0 && s_.p.Klimaauswahl == welt) station_in_sicht(liste[static_cast<std::size_t>(index)]);
     Picture2.neu_zeichnen();
     Picture3.neu_zeichnen();
+}
+
+/// The stations to try in place of one that cannot be used, in their order.
+std::vector<std::string> E_Klima::ersatzstationen() const {
+    std::vector<std::string> dateien;
+    if (s_.p.Klimaauswahl == deutschland) {
+        dateien.push_back(s_.p.Regionsdatei(ersatzregion));
+        for (int region = 1; region <= klimaregionen; ++region)
+            dateien.push_back(s_.p.Regionsdatei(region));
+    } else if (const std::vector<Station>& liste = stationen_des_bereichs(); !liste.empty()) {
+        const double los = ganzzahl(s_.plattform.zufall() * static_cast<double>(liste.size()));
+        for (std::size_t i = 0; i < liste.size(); ++i)
+            dateien.push_back(liste[(static_cast<std::size_t>(los) + i) % liste.size()].datei);
+    }
+    for (const Station& station : stationen.Welt)
+        dateien.push_back(station.datei);
+    return dateien;
+}
+
+bool E_Klima::ersatz_laden(const Dateifehler& grund) {
+    const std::string vorher = s_.p.Klimadatei;
+    for (const std::string& datei : ersatzstationen()) {
+        s_.p.Klimadatei = datei;
+        try {
+            wetter_laden_();
+        } catch (const Dateifehler&) {
+            continue;
+        }
+        s_.p.Geaendert = 1;
+        const Zweisprachig geladen{"Geladen wurde: ", "Loaded: "};
+        fehlt_melden(s_.p.texte.txt_Klima_fehlt, grund, "\n" + geladen.in(s_.p.Sprache) + stationsname());
+        return true;
+    }
+    s_.p.Klimadatei = vorher;
+    return false;
+}
+
+void E_Klima::station_ersetzen(const Dateifehler& fehler) {
+    if (!ersatz_erlaubt) throw Dateifehler(fehler);
+    if (ersatz_laden(fehler)) return;
+    klima_fehlt_ = true;
+    fehlt_melden(keine_station.in(s_.p.Sprache), fehler, {});
+}
+
+void E_Klima::fehlt_melden(const std::string& text, const Dateifehler& grund, const std::string& folge) {
+    s_.plattform.melde({.text = text,
+                        .titel = s_.p.texte.txt_Klima_Titel,
+                        .symbol = Symbol::information,
+                        .hinweis = grund.text(s_.p.Sprache) + folge});
 }
 
 /// Brings the selection back to the record's station, without a handler.
@@ -286,7 +357,7 @@ void E_Klima::plz_suchen() {
         return;
     }
     try {
-        const auto region = region_der_postleitzahl(s_.p.AppPfad / "klima" / "plz.txt", plz.text());
+        const auto region = region_der_postleitzahl(Klimaordner(s_.p).datei("plz.txt"), plz.text());
         if (!region) {
             melde(plz_ohne_eintrag(plz.text()).in(sprache));
         } else if (*region == 0) {
@@ -301,23 +372,23 @@ void E_Klima::plz_suchen() {
     }
 }
 
-void E_Klima::fehlt_melden() {
-    s_.plattform.melde({.text = s_.p.texte.txt_Klima_fehlt,
-                        .titel = s_.p.texte.txt_Klima_Titel,
-                        .symbol = Symbol::information});
-}
-
 void E_Klima::melde(const std::string& text) {
     s_.plattform.melde({.text = text, .titel = "Velmaris", .symbol = Symbol::ausrufezeichen});
 }
 
-void E_Klima::klima_zeigen() {
+void E_Klima::klima_zeigen(const std::optional<Zweisprachig>& warnung) {
     const Projekt& p = s_.p;
+    klima_fehlt_ = false;
     if (const int region = region_der_station(p); region > 0) Picture1.lade(regionenbild(p, region));
     const Jahreswerte jahr = jahreswerte(p);
     anz_MittelJahrTemp.schreibe(muster(jahr.mittel, 1));
     anz_MinMonatTemp.schreibe(muster(p.Monat(jahr.kaeltester_monat).Tmittel, 1));
     anz_MaxMonatTemp.schreibe(muster(p.Monat(jahr.waermster_monat).Tmittel, 1));
+    const std::string zuletzt = std::exchange(gewarnt_vor_, warnung ? p.Klimadatei : std::string());
+    if (warnung && zuletzt != p.Klimadatei) {
+        s_.plattform.melde(
+            {.text = warnung->in(p.Sprache), .titel = "Velmaris", .symbol = Symbol::information});
+    }
 }
 
 }  // namespace velmaris

@@ -4,10 +4,12 @@
 #include "climate/Stationskarte.h"
 #include "climate/stationslisten.h"
 #include "project/sitzung.h"
+#include "toolkit/fehler.h"
 #include "toolkit/felder.h"
 #include "toolkit/textfeld.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -70,19 +72,38 @@ struct E_Klima {
     void klima_anzeigen();
 
     /// The logic behind the options: shows the controls of the scope and brings its list and the record's
-    /// station together. A station that no list has is replaced, with a message: by that of region 4 in
-    /// Germany, by one drawn by lot elsewhere, if there is any.
+    /// station together. A station that no list has is replaced as by `station_ersetzen`; if none can be read
+    /// it stays in force.
     void Option_Click(int bereich);
 
+    /// Replaces the record's station, which cannot be used for the reason of `fehler`, and tells the user: by
+    /// that of region 4 in Germany, by one drawn by lot elsewhere; where that cannot be read either, by
+    /// another one of the scope, or of all stations. If none can be read the record keeps its station and
+    /// `klima_fehlt` is true. Throws the fault on where stations are not to be replaced.
+    void station_ersetzen(const Dateifehler& fehler);
+
+    /// True if no station could be read since the last one was asked for; then nothing can be calculated.
+    [[nodiscard]] bool klima_fehlt() const { return klima_fehlt_; }
+
+    /// False for a program that rather fails than calculates another climate than the project's.
+    bool ersatz_erlaubt = true;
+
     /// Shows the record's station on the German map, if it is that of a region, and the temperatures of the
-    /// climate in force.
-    void klima_zeigen();
+    /// climate in force, which has just been read. Its `warnung` is told once for a station.
+    void klima_zeigen(const std::optional<Zweisprachig>& warnung = std::nullopt);
+
+    /// Lets the next warning be told, whichever station it is about.
+    void warnung_vergessen() { gewarnt_vor_.clear(); }
 
   private:
     void verbinden();
     void bereich_zeigen(int bereich);
-    void deutschland_abgleichen();
-    void stationen_abgleichen(const std::vector<Station>& liste);
+    void region_zeigen();
+    void station_zeigen(bool versucht);
+    [[nodiscard]] bool gelistet() const;
+    [[nodiscard]] std::vector<std::string> ersatzstationen() const;
+    [[nodiscard]] bool ersatz_laden(const Dateifehler& grund);
+    void fehlt_melden(const std::string& text, const Dateifehler& grund, const std::string& folge);
     void auswahl_nachziehen();
     void region_gewaehlt();
     void station_gewaehlt();
@@ -93,7 +114,6 @@ struct E_Klima {
     void karte_geklickt(double x, double y);
     void hinweis_ein();
     void plz_suchen();
-    void fehlt_melden();
     void melde(const std::string& text);
     [[nodiscard]] bool in_region(double x, double y, int region) const;
     [[nodiscard]] const std::vector<Station>& stationen_des_bereichs() const;
@@ -101,6 +121,8 @@ struct E_Klima {
 
     Sitzung& s_;
     std::function<void()> wetter_laden_;
+    bool klima_fehlt_ = false;
+    std::string gewarnt_vor_;  ///< the station whose warning was the last one
     Stationskarte europakarte_;
     Stationskarte weltkarte_;
 };

@@ -365,13 +365,14 @@ void E_Klimaimport::importieren() {
         const Importsperre sperre(*this);
         const auto jahr = zeilen_lesen(quelle_, plan, [this](double anteil) { return weiter(anteil / 2); });
         if (!jahr) return;
-        const auto ziel = ziel_erfragen(s_.plattform, s_.p.Sprache, s_.p.AppPfad, ort.name,
-                                        vorgabename(DateinameBox.text()));
+        const Klimaordner ordner(s_.p);
+        const auto ziel =
+            ziel_erfragen(s_.plattform, s_.p.Sprache, ordner, ort.name, vorgabename(DateinameBox.text()));
         if (!ziel) return;
         const auto text =
             stationstext(ort, *jahr, [this](double anteil) { return weiter(0.5 + anteil / 2); });
         if (!text || !weiter(1)) return;
-        datei_ersetzen(*ziel, *text);
+        ordner.schreiben(*ziel, *text);
         s_.plattform.melde(
             {.text = in_sprache({"Klimadatenimport beendet! Biite starten Sie Velmaris neu, um "
                                  "die gerade importierten Daten verwenden zu können.",

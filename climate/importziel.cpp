@@ -93,13 +93,13 @@ std::optional<Zweisprachig> namensfehler(std::string_view name) {
     return std::nullopt;
 }
 
-std::filesystem::path stationspfad(const std::filesystem::path& programmordner, std::string_view name) {
-    return programmordner / "klima" / pfad(std::string(name).append(endung));
+std::string stationsdatei(std::string_view name) {
+    return std::string(name).append(endung);
 }
 
-std::optional<std::filesystem::path> ziel_erfragen(Plattform& plattform, const std::string& sprache,
-                                                   const std::filesystem::path& programmordner,
-                                                   const std::string& station, std::string vorgabe) {
+std::optional<std::string> ziel_erfragen(Plattform& plattform, const std::string& sprache,
+                                         const Klimaordner& ordner, const std::string& station,
+                                         std::string vorgabe) {
     const Zweisprachig titel{"Klimadatensatz speichern unter ...", "Save climatic data as ..."};
     std::string name = std::move(vorgabe);
     for (;;) {
@@ -112,9 +112,10 @@ std::optional<std::filesystem::path> ziel_erfragen(Plattform& plattform, const s
         plattform.melde(
             {.text = fehler->in(sprache), .titel = titel.in(sprache), .symbol = Symbol::ausrufezeichen});
     }
-    std::filesystem::path ziel = stationspfad(programmordner, name);
+    std::string ziel = stationsdatei(name);
     std::error_code ohne;
-    if (std::filesystem::exists(ziel, ohne) && !darf_ersetzen(plattform, sprache, titel.in(sprache)))
+    if (std::filesystem::exists(ordner.datei(ziel), ohne) &&
+        !darf_ersetzen(plattform, sprache, titel.in(sprache)))
         return std::nullopt;
     return ziel;
 }

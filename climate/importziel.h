@@ -1,9 +1,9 @@
 #pragma once
 
+#include "project/klimaordner.h"
 #include "toolkit/fehler.h"
 #include "toolkit/plattform.h"
 
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,16 +17,14 @@ namespace velmaris {
 /// nothing if it can.
 [[nodiscard]] std::optional<Zweisprachig> namensfehler(std::string_view name);
 
-/// The station file of that name in the program's folder.
-[[nodiscard]] std::filesystem::path stationspfad(const std::filesystem::path& programmordner,
-                                                 std::string_view name);
+/// The station file of that name (without extension).
+[[nodiscard]] std::string stationsdatei(std::string_view name);
 
 /// Asks for the name of a station file until it is a good one, and before an old file is overwritten.
-/// `station` is the name of the place, `vorgabe` the name proposed. Nothing if the user gives up.
-[[nodiscard]] std::optional<std::filesystem::path> ziel_erfragen(Plattform& plattform,
-                                                                 const std::string& sprache,
-                                                                 const std::filesystem::path& programmordner,
-                                                                 const std::string& station,
-                                                                 std::string vorgabe);
+/// `station` is the name of the place, `vorgabe` the name proposed. Returns the name with its extension,
+/// nothing if the user gives up.
+[[nodiscard]] std::optional<std::string> ziel_erfragen(Plattform& plattform, const std::string& sprache,
+                                                       const Klimaordner& ordner, const std::string& station,
+                                                       std::string vorgabe);
 
 }  // namespace velmaris

@@ -1,8 +1,10 @@
 #include "climate/klimadatei.h"
 
 #include "climate/dachraum.h"
+#include "climate/klimapruefung.h"
 #include "climate/sonne.h"
 #include "climate/strahlung.h"
+#include "project/klimaordner.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
@@ -17,6 +19,7 @@ namespace {
 constexpr float hoechste_direktstrahlung = 1370;
 
 constexpr int zeilen_des_kopfes = 4;
+constexpr int erste_datenzeile = 7;
 constexpr std::size_t anfang_der_datei = 1024;
 
 double kopfzahl(std::string_view zeile) {
@@ -40,12 +43,10 @@ int zeilenzahl(std::string_view bytes) {
                               "the climate file ends after " + ist + " of " + soll + " lines"});
 }
 
-/// One data row of a station file.
-struct Messwerte {
-    double Ta;    ///< degC
-    double G_Gh;  ///< total radiation on the horizontal, W/m2
-    double G_Dh;  ///< diffuse radiation on the horizontal, W/m2
-};
+void zeilen_pruefen(std::string_view bytes, const std::string& datei) {
+    if (const int zeilen = zeilenzahl(bytes); zeilen < zeilen_der_klimadatei)
+        zu_kurz(datei, zeilen, zeilen_der_klimadatei);
+}
 
 Messwerte messwerte(std::string_view zeile) {
     return {zahl_lesen(spalten(zeile, 6, 10)), zahl_lesen(spalten(zeile, 11, 15)),
@@ -83,6 +84,9 @@ class Datenzeilen {
         return ++gelesen_ < stunden_im_jahr ? naechste_der_datei() : gemerkt_;
     }
 
+    /// Line of the file (from 1) of the row taken last.
+    [[nodiscard]] int zeile() const { return erste_datenzeile + (gelesen_ < stunden_im_jahr ? gelesen_ : 0); }
+
   private:
     std::string_view naechste_der_datei() { return leser_.naechste().value_or(std::string_view()); }
 
@@ -91,13 +95,17 @@ class Datenzeilen {
     int gelesen_ = 0;
 };
 
-void wetter_lesen(Projekt& p, Zeilenleser& leser) {
+void wetter_lesen(Projekt& p, Zeilenleser& leser, Klimapruefung& pruefung) {
     const Standort ort{p.Breite, p.Laengenkorrektur};
     Datenzeilen zeilen(leser);
     fuer_jeden_tag([&](int m, int d, int n) {
         const Tagessonne sonne(ort, n);
-        for (int h = 1; h <= stunden; ++h)
-            p.Wetter(m, d, h) = wetterstunde(messwerte(zeilen.naechste()), sonne, h);
+        for (int h = 1; h <= stunden; ++h) {
+            const std::string_view zeile = zeilen.naechste();
+            const Messwerte werte = messwerte(zeile);
+            pruefung.datenzeile(zeilen.zeile(), zeile, werte);
+            p.Wetter(m, d, h) = wetterstunde(werte, sonne, h);
+        }
     });
 }
 
@@ -131,28 +139,40 @@ Stationskopf stationskopf_lesen(const std::filesystem::path& datei) {
     return kopf;
 }
 
-void klimadaten_uebernehmen(Projekt& p, std::string_view bytes, const std::string& datei) {
+std::optional<Zweisprachig> klimadaten_uebernehmen(Projekt& p, std::string_view bytes,
+                                                   const std::string& datei) {
+    zeilen_pruefen(bytes, datei);
     for (int m = 1; m <= monate; ++m)
         p.Monat(m).Tage = static_cast<std::int16_t>(tage_im_monat[static_cast<std::size_t>(m)]);
-    if (const int zeilen = zeilenzahl(bytes); zeilen < zeilen_der_klimadatei)
-        zu_kurz(datei, zeilen, zeilen_der_klimadatei);
     Zeilenleser leser(bytes);
+    Klimapruefung pruefung;
     const auto zeile = [&leser] { return leser.naechste().value_or(std::string_view()); };
+    const auto zahl = [&] {
+        const std::string_view text = zeile();
+        pruefung.kopfzeile(leser.zeile(), text);
+        return kopfzahl(text);
+    };
     p.Stationsname = stationsname(zeile());
-    p.Breite = f32(kopfzahl(zeile()) * grad_in_bogen);
-    const double laenge = kopfzahl(zeile());
-    p.Laengenkorrektur = f32(-kopfzahl(zeile()) * 15 + laenge);
+    p.Breite = f32(zahl() * grad_in_bogen);
+    const double laenge = zahl();
+    p.Laengenkorrektur = f32(-zahl() * 15 + laenge);
     for (int i = 0; i < 2; ++i)
         static_cast<void>(zeile());
-    wetter_lesen(p, leser);
+    wetter_lesen(p, leser, pruefung);
     station_uebernehmen(p);
     dachraum_fuellen(p);
     monatsstrahlung_berechnen(p);
+    return pruefung.warnung(datei);
 }
 
-void klimadatei_lesen(Projekt& p) {
-    const std::filesystem::path datei = p.AppPfad / "klima" / pfad(p.Klimadatei);
-    klimadaten_uebernehmen(p, bytes_lesen(datei, hoechste_stationsgroesse), pfadtext(datei));
+std::optional<Zweisprachig> klimadatei_lesen(Projekt& p) {
+    const std::filesystem::path datei = Klimaordner(p).datei(p.Klimadatei);
+    return klimadaten_uebernehmen(p, bytes_lesen(datei, hoechste_stationsgroesse), pfadtext(datei));
+}
+
+void klimadatei_pruefen(const Projekt& p, std::string_view name) {
+    const std::filesystem::path datei = Klimaordner(p).datei(name);
+    zeilen_pruefen(bytes_lesen(datei, hoechste_stationsgroesse), pfadtext(datei));
 }
 
 }  // namespace velmaris

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "project/c_glob.h"
+#include "toolkit/fehler.h"
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,15 +32,22 @@ struct Stationskopf {
 /// `hoechste_kopfgroesse` are a Dateifehler.
 [[nodiscard]] Stationskopf stationskopf_lesen(const std::filesystem::path& datei);
 
-/// Reads the station file `Klimadatei` in the folder "klima" beside the program. Fills `Monat().Tage`,
+/// Reads the station file `Klimadatei` of the climate folders (`Klimaordner`). Fills `Monat().Tage`,
 /// `Stationsname`, `Breite`, `Laengenkorrektur`, `Wetter`, `Dachraum`, `Strahlung`, and by
 /// `monatsstrahlung_berechnen` the means and radiation sums of the months. Nothing else is recalculated. A
 /// file that cannot be read, is too short or too large is a Dateifehler and leaves the former climate as it
 /// was.
-void klimadatei_lesen(Projekt& p);
+///
+/// Returns a warning that names file, line and value if the file holds values that no place on earth has or
+/// columns without a number.
+std::optional<Zweisprachig> klimadatei_lesen(Projekt& p);
 
 /// The same from the bytes of a station file (windows-1252, lines end at CR LF or LF); `datei` is its name in
 /// messages. Lines behind the last hour are not looked at, columns that a row lacks read as 0.
-void klimadaten_uebernehmen(Projekt& p, std::string_view bytes, const std::string& datei);
+std::optional<Zweisprachig> klimadaten_uebernehmen(Projekt& p, std::string_view bytes,
+                                                   const std::string& datei);
+
+/// The Dateifehler of `klimadatei_lesen` for a station file of that name; nothing else.
+void klimadatei_pruefen(const Projekt& p, std::string_view name);
 
 }  // namespace velmaris

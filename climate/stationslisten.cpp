@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <optional>
 #include <system_error>
 
@@ -27,18 +28,16 @@ bool ist_stationsdatei(const std::string& name) {
     return !klimanamensfehler(name) && kleinschreiben(name) != "klima.met";
 }
 
-/// File names of the stations in ascending order; the order in which a folder lists them is the system's own.
-std::vector<std::string> stationsdateien(const fs::path& ordner) {
-    std::vector<std::string> namen;
+/// Adds the stations of a folder but those whose name is there already.
+void dateien_hinzufuegen(std::map<std::string, fs::path>& dateien, const fs::path& ordner) {
     std::error_code fehler;
     for (fs::directory_iterator eintrag(ordner, fehler), ende; !fehler && eintrag != ende;
          eintrag.increment(fehler)) {
         std::error_code ohne_art;
         std::string name = pfadtext(eintrag->path().filename());
-        if (ist_stationsdatei(name) && eintrag->is_regular_file(ohne_art)) namen.push_back(std::move(name));
+        if (ist_stationsdatei(name) && eintrag->is_regular_file(ohne_art))
+            dateien.emplace(std::move(name), eintrag->path());
     }
-    std::sort(namen.begin(), namen.end());
-    return namen;
 }
 
 std::optional<Stationskopf> kopf(const fs::path& datei) {
@@ -55,11 +54,15 @@ bool sortiert_vor(std::string_view name, std::string_view anderer) {
     return nach_windows1252(name) < nach_windows1252(anderer);
 }
 
-Stationslisten stationslisten_lesen(const fs::path& ordner) {
+Stationslisten stationslisten_lesen(const std::vector<fs::path>& ordner) {
+    // By name: the order in which a folder lists its files is the system's own.
+    std::map<std::string, fs::path> dateien;
+    for (const fs::path& einer : ordner)
+        dateien_hinzufuegen(dateien, einer);
     Stationslisten listen;
     std::vector<Station> europa;
-    for (const std::string& datei : stationsdateien(ordner)) {
-        const auto station = kopf(ordner / pfad(datei));
+    for (const auto& [datei, ort] : dateien) {
+        const auto station = kopf(ort);
         if (!station) continue;
         const std::string name = station->name.empty() ? datei : station->name;
         listen.Welt.push_back({name, datei, weltpunkt(station->breite, -station->laenge)});

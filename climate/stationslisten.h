@@ -42,10 +42,11 @@ struct Stationslisten {
     std::vector<Station> Europa;  ///< those that lie on the map of Europe
 };
 
-/// Lists the station files (".met", but "klima.met") of a folder. A file that cannot be read or ends within
+/// Lists the station files (".met", but "klima.met") of some folders; a name that several of them have stands
+/// for the file of the first. A file that cannot be read or ends within
 /// its head is left out, so that one bad file costs one station; a file without a name is listed under its
-/// file name. Without the folder the lists are empty.
-[[nodiscard]] Stationslisten stationslisten_lesen(const std::filesystem::path& ordner);
+/// file name. Without a folder the lists are empty.
+[[nodiscard]] Stationslisten stationslisten_lesen(const std::vector<std::filesystem::path>& ordner);
 
 /// True if the first name stands before the second one in the order of the lists.
 [[nodiscard]] bool sortiert_vor(std::string_view name, std::string_view anderer);

@@ -46,7 +46,8 @@ std::optional<Druckauftrag> druckauftrag(const QStringList& angaben,
     if (leser.isSet(sprache) && auftrag.sprache != "d" && auftrag.sprache != "e") return std::nullopt;
     if (auftrag.pdf.empty() || auftrag.pdf.starts_with("--")) return std::nullopt;
     if (auftrag.sprache.empty())
-        auftrag.sprache = sprache_bestimmen(Befehlszeile(""), programmordner, [] { return std::nullopt; });
+        auftrag.sprache = sprache_bestimmen(Befehlszeile(""), programmordner,
+                                            Konsolenplattform().datenordner(), [] { return std::nullopt; });
     if (auftrag.sprache != "e") auftrag.sprache = "d";
     return auftrag;
 }

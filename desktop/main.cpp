@@ -29,8 +29,8 @@ int ausfuehren() {
     const Befehlszeile befehlszeile(befehlstext());
     const std::filesystem::path ordner = programmordner();
     symbol_setzen(ordner);
-    const std::string sprache =
-        sprache_bestimmen(befehlszeile, ordner, [&] { return sprachfenster(ordner); });
+    const std::string sprache = sprache_bestimmen(befehlszeile, ordner, QtPlattform::benutzerordner(),
+                                                  [&] { return sprachfenster(ordner); });
     Programm programm(ordner, sprache, befehlszeile);
     programm.starten();
     return QApplication::exec();

@@ -19,6 +19,7 @@
 #include <QMessageBox>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <algorithm>
 #include <array>
 
@@ -269,6 +270,10 @@ std::string QtPlattform::aktueller_drucker() const {
 
 void QtPlattform::drucker_waehlen(const std::string& name) {
     drucker_ = name;
+}
+
+std::filesystem::path QtPlattform::benutzerordner() {
+    return QFileInfo(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filesystemFilePath();
 }
 
 void QtPlattform::beenden() {

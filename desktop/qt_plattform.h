@@ -51,8 +51,11 @@ class QtPlattform final : public Plattform {
     [[nodiscard]] std::vector<std::string> druckerliste() const override;
     [[nodiscard]] std::string aktueller_drucker() const override;
     void drucker_waehlen(const std::string& name) override;
-
+    [[nodiscard]] std::filesystem::path datenordner() const override { return benutzerordner(); }
     void beenden() override;
+
+    /// The user's folder for data of this application, also before there is a platform.
+    [[nodiscard]] static std::filesystem::path benutzerordner();
 
   private:
     /// A one-shot timer with what it runs.

@@ -50,8 +50,9 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
     bool gut = true;
     if (auftrag.klimaimport) {
         gut = versuchen(fehler, auftrag.sprache, auftrag.klimaimport->quelle, [&] {
-            const Importbericht bericht =
-                importieren(*auftrag.klimaimport, auftrag.programmordner, auftrag.sprache);
+            const Klimaordner ordner(auftrag.programmordner,
+                                     datenordner_bestimmen(auftrag.programmordner, plattform.datenordner()));
+            const Importbericht bericht = importieren(*auftrag.klimaimport, ordner, auftrag.sprache);
             if (!auftrag.json) aus << in_einer_zeile(bericht.geschrieben) << '\n';
             if (!bericht.warnung.empty()) fehler << in_einer_zeile(bericht.warnung) << '\n';
         });

@@ -39,16 +39,17 @@ Quellkopf kopf_der_quelle(const Importauftrag& auftrag, const Importquelle& quel
     return *kopf;
 }
 
-std::filesystem::path freies_ziel(const Importauftrag& auftrag, const std::filesystem::path& programmordner) {
+std::string freies_ziel(const Importauftrag& auftrag, const Klimaordner& ordner) {
     if (const auto fehler = namensfehler(auftrag.name)) {
         const std::string name = "--name " + auftrag.name + ": ";
         throw Dateifehler(auftrag.quelle, {name + fehler->de, name + fehler->en});
     }
-    std::filesystem::path ziel = stationspfad(programmordner, auftrag.name);
+    std::string ziel = stationsdatei(auftrag.name);
+    const std::filesystem::path vorhanden = ordner.datei(ziel);
     std::error_code ohne;
-    if (!auftrag.ersetzen && std::filesystem::exists(ziel, ohne)) {
-        throw Dateifehler(pfadtext(ziel), {"die Datei ist schon vorhanden; --ersetzen überschreibt sie",
-                                           "the file exists already; --ersetzen overwrites it"});
+    if (!auftrag.ersetzen && std::filesystem::exists(vorhanden, ohne)) {
+        throw Dateifehler(pfadtext(vorhanden), {"die Datei ist schon vorhanden; --ersetzen überschreibt sie",
+                                                "the file exists already; --ersetzen overwrites it"});
     }
     return ziel;
 }
@@ -92,15 +93,15 @@ std::string ueber_datei(const std::string& sprache, const std::string& datei,
 
 }  // namespace
 
-Importbericht importieren(const Importauftrag& auftrag, const std::filesystem::path& programmordner,
+Importbericht importieren(const Importauftrag& auftrag, const Klimaordner& ordner,
                           const std::string& sprache) {
-    const std::filesystem::path ziel = freies_ziel(auftrag, programmordner);
+    const std::string ziel = freies_ziel(auftrag, ordner);
     const Importquelle quelle = quelle_lesen(pfad(auftrag.quelle));
     const Quellkopf kopf = kopf_der_quelle(auftrag, quelle);
     const Station station = station_lesen(auftrag, quelle, kopf);
-    datei_ersetzen(ziel, *stationstext(station.ort, station.jahr, {}));
+    const std::filesystem::path datei = ordner.schreiben(ziel, *stationstext(station.ort, station.jahr, {}));
     const std::string name = station.ort.name + ".";
-    return {ueber_datei(sprache, pfadtext(ziel),
+    return {ueber_datei(sprache, pfadtext(datei),
                         {{name, name},
                          erkannt_als(kopf.form),
                          jahreshinweis(station.jahr),

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "konsole/auftrag.h"
+#include "project/klimaordner.h"
 
-#include <filesystem>
 #include <string>
 
 namespace velmaris {
@@ -13,12 +13,11 @@ struct Importbericht {
     std::string warnung;      ///< what is doubtful about the place, empty if all is well
 };
 
-/// Turns a recognised source (Meteonorm, EnergyPlus) into a station file of the program folder. A source that
+/// Turns a recognised source (Meteonorm, EnergyPlus) into a station file of the climate folder. A source that
 /// is not recognised, a place without a name or country, a name that cannot be or that is taken already, and
 /// all faults of the rows are a Dateifehler that names the source, or the station file that is there already;
 /// nothing is written then.
-[[nodiscard]] Importbericht importieren(const Importauftrag& auftrag,
-                                        const std::filesystem::path& programmordner,
+[[nodiscard]] Importbericht importieren(const Importauftrag& auftrag, const Klimaordner& ordner,
                                         const std::string& sprache);
 
 }  // namespace velmaris

@@ -1,5 +1,6 @@
 #include "language/c_Sprache.h"
 
+#include "project/klimaordner.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
@@ -60,8 +61,10 @@ constexpr std::array<Monatsname, monate> monatsnamen{{
     {"Dezember", "Dez.", "December", "Dec."},
 }};
 
+constexpr const char* sprachdatei = "typ.dat";
+
 void sprachdatei_schreiben(const Projekt& p, std::string_view buchstabe) {
-    datei_ersetzen(sprachdatei(p), nach_windows1252(buchstabe) + "\r\n");
+    Klimaordner(p).schreiben(sprachdatei, nach_windows1252(buchstabe) + "\r\n");
 }
 
 }  // namespace
@@ -87,17 +90,13 @@ std::array<std::string, monate> monatskuerzel(const Projekt& p) {
     return namen;
 }
 
-std::filesystem::path sprachdatei(const Projekt& p) {
-    return p.AppPfad / pfad("klima\\typ.dat");
-}
-
 bool datei_da(const std::filesystem::path& datei) {
     std::error_code fehler;
     return std::filesystem::is_regular_file(datei, fehler);
 }
 
 void sprache_lesen(Projekt& p, const Sprachfenster& sprachfenster) {
-    if (const auto datei = sprachdatei(p); datei_da(datei)) {
+    if (const auto datei = Klimaordner(p).datei(sprachdatei); datei_da(datei)) {
         const std::string text = anfang_lesen(datei, hoechste_sprachzeile);
         p.Sprache = aus_windows1252(Listenleser(text).naechster().value_or(""));
     } else if (const auto buchstabe = sprachfenster()) {

@@ -22,14 +22,12 @@ void sprachtexte_setzen(Projekt& p);
 /// The short names of the twelve months.
 [[nodiscard]] std::array<std::string, monate> monatskuerzel(const Projekt& p);
 
-/// The one-line file that keeps the letter for the next start.
-[[nodiscard]] std::filesystem::path sprachdatei(const Projekt& p);
-
 /// True if there is a file (not a folder) of that path.
 [[nodiscard]] bool datei_da(const std::filesystem::path& datei);
 
-/// Takes `Sprache` from the first item of the language file as it stands; without the file asks by the
-/// window. A choice is stored by `schreibe_sprache`; without one `Sprache` stays as it is.
+/// Takes `Sprache` from the first item of the language file, which keeps the letter beside the stations, as
+/// it stands; without the file asks by the window. A choice is stored by `schreibe_sprache`; without one
+/// `Sprache` stays as it is.
 void sprache_lesen(Projekt& p, const Sprachfenster& sprachfenster);
 
 /// Writes the letter to the language file and sets `Sprache`. A failed write is a Dateifehler.

@@ -6,6 +6,8 @@
 #include "planes/menueverbindung.h"
 #include "planes/neues_projekt.h"
 #include "planes/reportquelle.h"
+#include "project/klimaordner.h"
+#include "toolkit/fehler.h"
 #include "toolkit/sanduhr.h"
 #include "toolkit/zahlen.h"
 
@@ -15,9 +17,11 @@ namespace velmaris {
 namespace {
 
 /// The record before the first plane is built: language, texts and folders.
-void vorbereiten(Projekt& p, const std::filesystem::path& programmordner, const std::string& sprache) {
+void vorbereiten(Projekt& p, const Plattform& plattform, const std::filesystem::path& programmordner,
+                 const std::string& sprache) {
     p.Sprache = sprache;
     p.AppPfad = programmordner;
+    p.Datenordner = datenordner_bestimmen(programmordner, plattform.datenordner());
     p.InitDir = programmordner;
     p.Datei = unbenannt;
     sprachtexte_setzen(p);
@@ -27,7 +31,7 @@ void vorbereiten(Projekt& p, const std::filesystem::path& programmordner, const 
 
 Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, const std::string& sprache)
     : sitzung{p, plattform, [this] { alles_berechnen(); }},
-      e_geometrie((vorbereiten(p, programmordner, sprache), sitzung)),
+      e_geometrie((vorbereiten(p, plattform, programmordner, sprache), sitzung)),
       e_fenster(sitzung),
       e_daemmung(sitzung),
       e_gebaeude(sitzung),
@@ -138,8 +142,9 @@ Rechenplan Haupt::rechenplan() {
 Projektwege Haupt::projektwege() {
     Projektwege wege;
     wege.neues_projekt = [this] { neues_projekt(); };
-    wege.klimadatei_lesen = [this] { klimadatei_lesen(); };
-    wege.wetter_laden = [this] { wetter_laden(); };
+    wege.neu_moeglich = [this] { return neu_moeglich(); };
+    wege.klimadatei_lesen = [this] { oder_ersatzstation([this] { klimadatei_lesen(); }); };
+    wege.wetter_laden = [this] { oder_ersatzstation([this] { wetter_laden(); }); };
     wege.eingaben_anzeigen = [this] { eingaben_anzeigen(); };
     wege.bauteile_anzeigen = [this] { bauteile_anzeigen(); };
     wege.erste_ebenen = [this] { erste_ebenen(); };
@@ -169,9 +174,36 @@ void Haupt::wetter_laden() {
 }
 
 void Haupt::klimadatei_lesen() {
-    velmaris::klimadatei_lesen(p);
-    e_klima.klima_zeigen();
+    const auto warnung = velmaris::klimadatei_lesen(p);
     a_klima.stationswerte_zeigen(p);
+    e_klima.klima_zeigen(warnung);
+}
+
+void Haupt::oder_ersatzstation(const std::function<void()>& laden) {
+    e_klima.warnung_vergessen();
+    try {
+        laden();
+    } catch (const Dateifehler& fehler) {
+        e_klima.station_ersetzen(fehler);
+    }
+}
+
+bool Haupt::neu_moeglich() {
+    try {
+        klimadatei_pruefen(p, vorgabestation());
+        return true;
+    } catch (const Dateifehler& fehler) {
+        const Zweisprachig text{
+            "Ein neues Projekt ist nicht möglich, da seine Klimadatei nicht gelesen werden kann. "
+            "Das bisherige Projekt bleibt, wie es ist.",
+            "A new project is not possible, since its climate file cannot be read. The present "
+            "project stays as it is."};
+        sitzung.plattform.melde({.text = text.in(p.Sprache),
+                                 .titel = p.texte.txt_Klima_Titel,
+                                 .symbol = Symbol::ausrufezeichen,
+                                 .hinweis = fehler.text(p.Sprache)});
+        return false;
+    }
 }
 
 void Haupt::eingaben_anzeigen() {
@@ -190,7 +222,11 @@ void Haupt::bauteile_anzeigen() {
 
 void Haupt::alles_berechnen() {
     rettung.rechnung_beginnt();
-    velmaris::alles_berechnen(p, plan_);
+    if (e_klima.klima_fehlt()) {
+        geometrie_allein(p, plan_);
+    } else {
+        velmaris::alles_berechnen(p, plan_);
+    }
     rettung.rechnung_gelungen();
 }
 

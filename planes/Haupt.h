@@ -83,7 +83,7 @@ struct Haupt {
     /// The same without the climate plane.
     void bauteile_anzeigen();
 
-    /// Recalculates and refreshes what is visible.
+    /// Recalculates and refreshes what is visible; no more than the geometry while no station can be read.
     void alles_berechnen();
 
   private:
@@ -97,6 +97,12 @@ struct Haupt {
 
     /// Reads the station of the record and shows its figures.
     void klimadatei_lesen();
+
+    /// Loads a station for a project; one that cannot be read is replaced, where that is allowed.
+    void oder_ersatzstation(const std::function<void()>& laden);
+
+    /// True if the station of a new project can be read; else the user is told.
+    bool neu_moeglich();
 
     Rechenplan plan_;
 };

@@ -2,6 +2,7 @@
 
 #include "language/beschriftungen.h"
 #include "language/c_Sprache.h"
+#include "project/klimaordner.h"
 
 #include <memory>
 
@@ -20,10 +21,12 @@ std::string ueber_text(const std::string& sprache) {
 }  // namespace
 
 std::string sprache_bestimmen(const Befehlszeile& befehlszeile, const std::filesystem::path& programmordner,
+                              const std::filesystem::path& benutzerordner,
                               const std::function<std::optional<std::string>()>& sprachfenster) {
     if (const auto sprache = befehlszeile.sprache()) return *sprache;
     const auto vorab = std::make_unique<Projekt>();
     vorab->AppPfad = programmordner;
+    vorab->Datenordner = datenordner_bestimmen(programmordner, benutzerordner);
     sprache_lesen(*vorab, sprachfenster);
     return vorab->Sprache;
 }

@@ -37,9 +37,11 @@ struct Start {
 };
 
 /// The language of the run: the command line's, else that of the language file, else what the language
-/// window (a callback) brings; empty without a choice.
+/// window (a callback) brings; empty without a choice. `benutzerordner` is the platform's folder for data of
+/// the user.
 [[nodiscard]] std::string sprache_bestimmen(const Befehlszeile& befehlszeile,
                                             const std::filesystem::path& programmordner,
+                                            const std::filesystem::path& benutzerordner,
                                             const std::function<std::optional<std::string>()>& sprachfenster);
 
 }  // namespace velmaris

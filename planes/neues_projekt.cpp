@@ -53,13 +53,17 @@ void neue_nutzung(Projekt& p) {
 
 }  // namespace
 
+std::string vorgabestation() {
+    return std::string(klimaregion(4).datei);
+}
+
 void neue_eingaben(Projekt& p) {
     neue_geometrie(p);
     neue_daemmung(p);
     neue_fenster(p);
     neue_nutzung(p);
     regionsdateien_setzen(p);
-    p.Klimadatei = p.Regionsdatei(4);
+    p.Klimadatei = vorgabestation();
     p.Klimaauswahl = 2;
     p.Heizsystem = p.Uebergabe = p.Energietraeger = 1;
     p.Datei = unbenannt;

@@ -10,6 +10,7 @@ namespace velmaris {
 std::unique_ptr<Haupt> programm_vorbereiten(Plattform& plattform, const std::filesystem::path& programmordner,
                                             const std::string& sprache) {
     auto haupt = std::make_unique<Haupt>(plattform, programmordner, sprache);
+    haupt->e_klima.ersatz_erlaubt = false;
     haupt->datei.projekt_vorbereiten();
     return haupt;
 }

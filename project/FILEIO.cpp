@@ -111,9 +111,11 @@ bool FILEIO::uebernehmen(const std::string& datei, const std::string& bytes) {
             p.Datei = unbenannt;
             s_.plattform.melde(falsche_version(p.Sprache, datei));
         }
+        const std::string station = p.Klimadatei;
         wetter_der_datei_laden();
         wege_.eingaben_anzeigen();
         rechnen();
+        if (p.Klimadatei != station) p.Geaendert = 1;
         if (gelesen) projekt_gehoert_zu(datei, bytes);
         return gelesen;
     } catch (const Dateifehler&) {
@@ -200,8 +202,9 @@ bool FILEIO::rettung_melden() const {
 }
 
 void FILEIO::datei_neu() {
-    if (aenderung_klaeren(&FILEIO::sichern) == Frage::abbrechen || !aenderung_aufgeben()) return;
+    if (aenderung_klaeren(&FILEIO::sichern) == Frage::abbrechen) return;
     const Sanduhr sanduhr(s_.plattform);
+    if (!wege_.neu_moeglich() || !aenderung_aufgeben()) return;
     kanal_schliessen();
     projekt_aufbauen();
 }

@@ -15,7 +15,8 @@ namespace velmaris {
 
 /// What the life of a project needs of the rooms above it.
 struct Projektwege {
-    std::function<void()> neues_projekt;      ///< sets the record and the planes to the new project
+    std::function<bool()> neu_moeglich;   ///< false, and the user is told why, if a new one cannot be built
+    std::function<void()> neues_projekt;  ///< sets the record and the planes to the new project
     std::function<void()> klimadatei_lesen;   ///< reads the station of the record
     std::function<void()> wetter_laden;       ///< makes the station of the record the current climate
     std::function<void()> bauteile_anzeigen;  ///< moves the input planes but the climate's to the record
@@ -41,8 +42,9 @@ class FILEIO {
     /// another one at once, or that only writes the new one.
     void projekt_vorbereiten();
 
-    /// Opens a project file: reading, station, planes, one calculation. Returns false if the file has no
-    /// version known here; that is told, the project stays and `Datei` becomes "default.vel".
+    /// Opens a project file: reading, station, planes, one calculation. If another station had to take the
+    /// place of the file's, the project counts as changed. Returns false if the file has no version known
+    /// here; that is told, the project stays and `Datei` becomes "default.vel".
     /// Any other fault is a Dateifehler that names file, line and field. One of reading the bytes leaves the
     /// project as it is; after any other what was read up to then stays, and `FormLoadGuard` stays set.
     bool projekt_laden(const std::string& datei);

@@ -182,6 +182,7 @@ struct Projekt : Eingaben {
     std::int16_t Druckerindex = 0;      ///< printer that was the default at start
     std::filesystem::path InitDir;      ///< first folder of the file dialogs
     std::filesystem::path AppPfad;      ///< folder of the program
+    std::filesystem::path Datenordner;  ///< the user's own, empty where the program's can be written
     std::string Sprache;                ///< "d" or "e"
     std::int16_t Monat_Uebersicht = 7;  ///< month shown on the overview plane
     Texte texte;                        ///< shared texts in the language of the run

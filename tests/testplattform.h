@@ -27,6 +27,7 @@ class Testplattform : public Plattform {
     std::vector<bool> sanduhren;
     std::string titel;
     std::vector<std::string> hilfeseiten;
+    std::filesystem::path daten;  ///< the user's folder
     bool beendet = false;
 
     struct Zeitgeber {
@@ -52,6 +53,7 @@ class Testplattform : public Plattform {
     [[nodiscard]] std::vector<std::string> druckerliste() const override { return drucker; }
     [[nodiscard]] std::string aktueller_drucker() const override { return druckername; }
     void drucker_waehlen(const std::string& name) override { druckername = name; }
+    [[nodiscard]] std::filesystem::path datenordner() const override { return daten; }
     void beenden() override { beendet = true; }
 };
 

@@ -3,11 +3,22 @@
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 
+#include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <new>
 
 namespace velmaris {
+namespace {
+
+/// A folder below the one that a variable of the environment names; empty if it names none.
+std::filesystem::path unter(const char* variable, const char* ordner) {
+    const char* wert = std::getenv(variable);
+    const std::filesystem::path basis = wert != nullptr ? wert : "";
+    return basis.is_absolute() ? basis / ordner : std::filesystem::path();
+}
+
+}  // namespace
 
 std::string in_einer_zeile(std::string text) {
     for (std::size_t ende = 0; (ende = text.find_first_of("\r\n", ende)) != std::string::npos;)
@@ -86,6 +97,17 @@ std::string Konsolenplattform::aktueller_drucker() const {
 }
 
 void Konsolenplattform::drucker_waehlen(const std::string& /*name*/) {}
+
+std::filesystem::path Konsolenplattform::datenordner() const {
+#if defined(_WIN32)
+    return unter("APPDATA", "Velmaris");
+#elif defined(__APPLE__)
+    return unter("HOME", "Library/Application Support/Velmaris");
+#else
+    const std::filesystem::path daten = unter("XDG_DATA_HOME", "Velmaris");
+    return daten.empty() ? unter("HOME", ".local/share/Velmaris") : daten;
+#endif
+}
 
 void Konsolenplattform::beenden() {}
 

@@ -33,6 +33,7 @@ class Konsolenplattform final : public Plattform {
     [[nodiscard]] std::vector<std::string> druckerliste() const override;
     [[nodiscard]] std::string aktueller_drucker() const override;
     void drucker_waehlen(const std::string& name) override;
+    [[nodiscard]] std::filesystem::path datenordner() const override;
     void beenden() override;
 };
 

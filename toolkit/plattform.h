@@ -91,6 +91,10 @@ class Plattform {
     [[nodiscard]] virtual std::string aktueller_drucker() const = 0;
     virtual void drucker_waehlen(const std::string& name) = 0;
 
+    /// The user's own folder for data of this program, whether it is there yet or not; empty if the system
+    /// names none.
+    [[nodiscard]] virtual std::filesystem::path datenordner() const = 0;
+
     /// Ends the program once the running event is over.
     virtual void beenden() = 0;
 };

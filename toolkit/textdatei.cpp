@@ -152,6 +152,17 @@ bool datei_anlegen(const fs::path& datei, std::string_view bytes) {
     return grund == 0;
 }
 
+// What rights and attributes tell is not the whole truth on every system, so an empty folder is made and
+// removed again; its name is not in use, else making it fails.
+bool ordner_beschreibbar(const fs::path& ordner) {
+    std::error_code fehler;
+    std::random_device zufall;
+    const fs::path probe = ordner / (".velmaris-" + std::to_string(zufall()));
+    if (!fs::create_directory(probe, fehler)) return false;
+    fs::remove(probe, fehler);
+    return true;
+}
+
 void dateigrenze_melden() {
 #ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN);
@@ -179,11 +190,6 @@ std::optional<std::string_view> Listenleser::naechster() {
         posten.remove_prefix(1);
     if (neue_zeile_ && !posten.empty() && posten.back() == '\r') posten.remove_suffix(1);
     return posten;
-}
-
-std::string_view spalten(std::string_view zeile, std::size_t von, std::size_t bis) {
-    if (zeile.size() < von) return {};
-    return zeile.substr(von - 1, bis - von + 1);
 }
 
 }  // namespace velmaris

@@ -28,6 +28,8 @@ void datei_ersetzen(const std::filesystem::path& datei, std::string_view bytes);
 /// Writes a file that does not exist yet; false if it does, and it stays as it is. A failure is
 /// a Dateifehler and leaves nothing.
 [[nodiscard]] bool datei_anlegen(const std::filesystem::path& datei, std::string_view bytes);
+/// True if files can be made in a folder, found out by trying; false for a folder that does not exist.
+[[nodiscard]] bool ordner_beschreibbar(const std::filesystem::path& ordner);
 
 /// Lets a file that would exceed the size limit of the process fail like any other that cannot be written,
 /// where the system would end the process instead. To be called at the start of a program.
@@ -71,6 +73,9 @@ class Listenleser {
 };
 
 /// The columns `von` to `bis` (from 1) of a line; what lies behind the line's end is missing.
-[[nodiscard]] std::string_view spalten(std::string_view zeile, std::size_t von, std::size_t bis);
+[[nodiscard]] inline std::string_view spalten(std::string_view zeile, std::size_t von, std::size_t bis) {
+    if (zeile.size() < von) return {};
+    return zeile.substr(von - 1, bis - von + 1);
+}
 
 }  // namespace velmaris

@@ -78,8 +78,72 @@ TEST(EKlima, EineFehlendeStationWirdErsetzt) {
         EXPECT_EQ(probe.plattform.meldungen[0].titel, fall.titel);
         EXPECT_EQ(probe.plattform.meldungen[0].symbol, Symbol::information);
         EXPECT_EQ(probe.plattform.meldungen[0].knoepfe, Knoepfe::ok);
+        EXPECT_THAT(probe.plattform.meldungen[0].hinweis, HasSubstr("atlantis.met: "));
+        EXPECT_EQ(probe.p->Geaendert, 1);
         EXPECT_EQ(probe.e->Klimaregionwahl.index(), fall.bereich == deutschland ? 3 : -1);
     }
+}
+
+TEST(EKlima, DerErsatzIstDieErsteStationDieGelesenWerdenKann) {
+    struct Fall {
+        int bereich;
+        std::vector<std::string> fehlend;
+        std::string ersatz, gezeigt;
+    };
+    const std::vector<std::string> europaeische{"bremen.met", "paris.met", "passau.met", "trier.met"};
+    for (const Fall& fall :
+         {Fall{deutschland,
+               {"trier.met"},
+               "bremen.met",
+               "  1: Nord- / Ostseeküste, nördliches Schleswig-Holstein"},
+          Fall{deutschland, {"bremen.met", "passau.met", "trier.met"}, "honolulu.met", "Honolulu (USA)"},
+          Fall{europa, {"passau.met"}, "trier.met", "Trier (Deutschland)"},
+          Fall{europa, {"passau.met", "trier.met"}, "bremen.met", "Bremen (Deutschland)"},
+          Fall{europa, europaeische, "honolulu.met", "Honolulu (USA)"},
+          Fall{welt, {"passau.met", "trier.met"}, "tokyo.met", "Tokyo (Japan)"}}) {
+        Klimaprobe probe("e");
+        probe.plattform.lose = {0.5};
+        for (const std::string& datei : fall.fehlend)
+            std::filesystem::remove(probe.ordner / ("klima/" + datei));
+        probe.p->Klimadatei = "atlantis.met";
+        probe.p->Klimaauswahl = static_cast<std::int16_t>(fall.bereich);
+        probe.e->station_ersetzen({"atlantis.met", {"weg", "gone"}});
+        EXPECT_EQ(probe.p->Klimadatei, fall.ersatz);
+        EXPECT_FALSE(probe.e->klima_fehlt());
+        probe.e->klima_anzeigen();
+        const Auswahlliste& liste =
+            fall.bereich == deutschland ? probe.e->Klimaregionwahl : probe.e->Klimaregionwahl2;
+        EXPECT_EQ(liste.text(), fall.gezeigt);
+        ASSERT_EQ(probe.plattform.meldungen.size(), 1U);
+        EXPECT_THAT(probe.plattform.meldungen[0].hinweis, HasSubstr("atlantis.met: gone\nLoaded: "));
+    }
+}
+
+TEST(EKlima, WoNichtErsetztWirdBleibtDieStation) {
+    Klimaprobe probe;
+    probe.e->ersatz_erlaubt = false;
+    probe.p->Klimadatei = "atlantis.met";
+    EXPECT_THROW(probe.e->station_ersetzen({"atlantis.met", {"weg", "gone"}}), Dateifehler);
+    for (const int bereich : {deutschland, europa, welt}) {
+        probe.e->Option.setze(bereich);
+        EXPECT_EQ(probe.p->Klimadatei, "atlantis.met");
+    }
+    EXPECT_THAT(probe.geladen, IsEmpty());
+    EXPECT_THAT(probe.plattform.meldungen, IsEmpty());
+}
+
+TEST(EKlima, EineWarnungKommtEinmalJeStation) {
+    Klimaprobe probe("e");
+    const Zweisprachig warnung{"Zeile 7", "line 7"};
+    probe.p->Klimadatei = "trier.met";
+    for (int i = 0; i < 3; ++i)
+        probe.e->klima_zeigen(warnung);
+    ASSERT_EQ(probe.plattform.meldungen.size(), 1U);
+    EXPECT_EQ(probe.plattform.meldungen[0].text, "line 7");
+    EXPECT_EQ(probe.plattform.meldungen[0].symbol, Symbol::information);
+    probe.e->klima_zeigen();
+    probe.e->klima_zeigen(warnung);
+    EXPECT_EQ(probe.plattform.meldungen.size(), 2U) << "chosen again after another one";
 }
 
 TEST(EKlima, EuropaUndWeltWaehlenDieStationAusIhrerListe) {
@@ -201,9 +265,15 @@ TEST(EKlima, EinLeererOrdnerBringtNichtsZuFall) {
         }
     }
     EXPECT_THAT(e.Klimaregionwahl2.eintraege(), IsEmpty());
-    // Germany alone has a station to fall back on, and says that it is missing too.
-    ASSERT_EQ(voll.plattform.meldungen.size(), 2U);
-    EXPECT_EQ(voll.plattform.meldungen[1].text, "trier.met: fehlt");
+    EXPECT_FALSE(e.klima_fehlt()) << "the climate in force stays";
+    EXPECT_THAT(voll.plattform.meldungen, IsEmpty());
+    e.station_ersetzen({"atlantis.met", {"weg", "gone"}});
+    EXPECT_TRUE(e.klima_fehlt());
+    for (const int bereich : {europa, welt, deutschland})
+        e.Option.setze(bereich);
+    ASSERT_EQ(voll.plattform.meldungen.size(), 1U) << "told once";
+    EXPECT_THAT(voll.plattform.meldungen[0].text, HasSubstr("keine Klimadatei"));
+    EXPECT_EQ(voll.plattform.meldungen[0].hinweis, "atlantis.met: weg");
 }
 
 TEST(EKlima, DieWeltkarteRolltZurStation) {

@@ -284,7 +284,7 @@ TEST(Importjahr, DieStationWirdBeimNaechstenStartAngeboten) {
     probe.e->Standortname.tippe("Bümpliz");
     probe.e->Land.tippe("Schweiz");
     probe.importiere("bümpliz");
-    const Stationslisten listen = stationslisten_lesen(probe.p->AppPfad / "klima");
+    const Stationslisten listen = stationslisten_lesen({probe.p->AppPfad / "klima"});
     EXPECT_THAT(stationsnamen(listen.Welt), ElementsAre("Bümpliz (Schweiz)"));
     EXPECT_EQ(listen.Welt.at(0).datei, "bümpliz.met");
     EXPECT_NEAR(listen.Welt.at(0).ort.x, 325 + 1.677777778 * 7.5, 1e-9);

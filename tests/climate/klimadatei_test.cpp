@@ -182,6 +182,60 @@ TEST(Klimadatei, EinFehlerLaesstDasBisherigeKlima) {
     }
 }
 
+TEST(Klimadatei, WarntVorWertenDieEsNirgendsGibt) {
+    struct Fall {
+        std::string breite, laenge, zone;
+        int von, bis;  // data rows in the order of the file
+        Datenzeile werte;
+        std::string warnung;  // empty for a good file
+    };
+    const std::string nord = "Breitengrad:  49.75";
+    const std::string ost = "Laengengrad:  -6.66";
+    const std::string mez = "Zeitzone:     -1";
+    const std::string wie_viele = " lines hold values that no place on earth has";
+    const std::vector<Fall> faelle{
+        {nord, ost, mez, 0, 1, {"10.0", "0", "0"}, ""},
+        {"Breitengrad: -90", "Laengengrad:  180", "Zeitzone:     -14", 0, 9, {"-95.0", "1500", "-50"}, ""},
+        {"Breitengrad:   0", "Laengengrad:  0", "Zeitzone:     .5", 0, 9, {".0", "00", ".00"}, ""},
+        {"Breitengrad:  90.1", ost, mez, 0, 0, {}, "line 2: latitude 90.1 °. One line holds"},
+        {"Breitengrad:  500", ost, mez, 0, 0, {}, "line 2: latitude 500 °. One line holds"},
+        {"Breitengrad:  nord", ost, mez, 0, 0, {}, "line 2: latitude \"nord\" is not a number. One line"},
+        {nord, "Laengengrad: ", mez, 0, 0, {}, "line 3: longitude is missing. One line holds"},
+        {nord, "Laengengrad:  -181", "Zeitzone:     15", 0, 0, {}, "line 3: longitude -181 °. 2" + wie_viele},
+        {nord, ost, "Zeitzone:     -14.5", 0, 0, {}, "line 4: time zone -14.5 h. One line holds"},
+        {nord, ost, mez, 5, 8, {"9999", "0", "0"}, "line 12: outdoor air temperature 9999 °C. 3" + wie_viele},
+        {nord, ost, mez, 0, 1, {"65.1", "0", "0"}, "line 7: outdoor air temperature 65.1 °C. One line"},
+        {nord,
+         ost,
+         mez,
+         0,
+         8760,
+         {"-95.1", "0", "0"},
+         "line 7: outdoor air temperature -95.1 °C. 8760" + wie_viele},
+        {nord, ost, mez, 8759, 8760, {"1", "1501", "0"}, "line 8766: total radiation 1501 W/m²"},
+        {nord, ost, mez, 1, 2, {"1", "0", "-51"}, "line 8: diffuse radiation -51 W/m²"},
+        {nord,
+         ost,
+         mez,
+         0,
+         8760,
+         {"warm", "hell", "trueb"},
+         "line 7: outdoor air temperature \"warm\" is not a number. 8760" + wie_viele},
+        {nord, ost, mez, 3, 4, {"0", "*****", "0"}, "line 10: total radiation \"*****\" is not a number"},
+        {nord, ost, mez, 3, 4, {"1.0", "2", ""}, "line 10: diffuse radiation is missing"},
+        {nord, ost, mez, 3, 4, {"-", "2", "1"}, "line 10: outdoor air temperature \"-\" is not a number"}};
+    for (const Fall& fall : faelle) {
+        Stationsdatei datei{.breite = fall.breite, .laenge = fall.laenge, .zone = fall.zone};
+        datei.zeile = [&fall](int i) { return i >= fall.von && i < fall.bis ? fall.werte : Datenzeile{}; };
+        const auto p = std::make_unique<Projekt>();
+        const auto warnung = klimadaten_uebernehmen(*p, datei.text(), "feld.met");
+        EXPECT_EQ(warnung.has_value(), !fall.warnung.empty()) << fall.warnung << (warnung ? warnung->en : "");
+        if (!warnung || fall.warnung.empty()) continue;
+        EXPECT_EQ(warnung->en.find("feld.met, " + fall.warnung), 0U) << warnung->en;
+        EXPECT_EQ(warnung->de.find("feld.met, Zeile "), 0U) << warnung->de;
+    }
+}
+
 TEST(Klimadatei, ZaehltDieStationenDesDatensatzes) {
     const std::string text = Stationsdatei{}.text();
     const auto p = std::make_unique<Projekt>();

@@ -50,7 +50,7 @@ TEST(Stationslisten, SindNachDenBytesDerNamenGeordnet) {
     ordner.schreibe("d.met", kopftext("\x8Aibenik (HR)", 43, 16));
     ordner.schreibe("GROSS.MET", kopftext("Aachen (D)", 51, 6));
     ordner.schreibe("f.met", kopftext("Tokyo (J)", 35.7, 139.8));
-    const Stationslisten listen = stationslisten_lesen(ordner.pfad());
+    const Stationslisten listen = stationslisten_lesen({ordner.pfad()});
     EXPECT_THAT(stationsnamen(listen.Welt), ElementsAre("Aachen (D)", "Tokyo (J)", "Zürich (CH)",
                                                         "aarau (CH)", "Šibenik (HR)", "Ålesund (N)"));
     EXPECT_THAT(stationsnamen(listen.Europa),
@@ -74,7 +74,7 @@ TEST(Stationslisten, EuropaEndetAmRandDesBildes) {
     const Testordner ordner;
     for (const Fall& fall : faelle)
         ordner.schreibe(fall.datei, kopftext(fall.datei, fall.breite, fall.laenge));
-    const Stationslisten listen = stationslisten_lesen(ordner.pfad());
+    const Stationslisten listen = stationslisten_lesen({ordner.pfad()});
     EXPECT_EQ(listen.Welt.size(), faelle.size());
     for (const Fall& fall : faelle)
         EXPECT_EQ(stationsindex(listen.Europa, fall.datei) >= 0, fall.drin) << fall.datei;
@@ -92,18 +92,29 @@ TEST(Stationslisten, SchlechteDateienKostenNurSichSelbst) {
     ordner.schreibe("namenlos.met", kopftext("", 50, 10));
     ordner.schreibe("lang.met", kopftext(std::string(hoechste_kopfgroesse, 'x'), 50, 10));
     ordner.schreibe("komma.met", kopftext("Bad, Ort (D)", 49.75, 6.66));
-    const Stationslisten listen = stationslisten_lesen(ordner.pfad());
+    const Stationslisten listen = stationslisten_lesen({ordner.pfad()});
     EXPECT_THAT(stationsnamen(listen.Welt), ElementsAre("Bad", "Gut (D)", "namenlos.met"));
     // Behind the comma the rest of line 1 counts as the latitude, and the latitude as the longitude.
     EXPECT_NEAR(station(listen.Welt, "komma.met").ort.x, 325 - 1.677777778 * 49.75, 1e-9);
     EXPECT_EQ(station(listen.Welt, "komma.met").ort.y, 123);
 }
 
+TEST(Stationslisten, DerErsteOrdnerGehtVor) {
+    const Testordner ordner;
+    ordner.schreibe("eigen/b.met", kopftext("Eigen B", 50, 10));
+    ordner.schreibe("eigen/c.met", kopftext("Eigen C", 50, 10));
+    ordner.schreibe("programm/a.met", kopftext("Programm A", 50, 10));
+    ordner.schreibe("programm/b.met", kopftext("Programm B", 50, 10));
+    const Stationslisten listen =
+        stationslisten_lesen({ordner / "eigen", ordner / "fehlt", ordner / "programm"});
+    EXPECT_THAT(stationsnamen(listen.Welt), ElementsAre("Eigen B", "Eigen C", "Programm A"));
+}
+
 TEST(Stationslisten, OhneDateienSindLeer) {
     const Testordner ordner;
     for (const auto& pfad : {ordner.pfad(), ordner / "fehlt"}) {
-        EXPECT_THAT(stationslisten_lesen(pfad).Welt, IsEmpty());
-        EXPECT_THAT(stationslisten_lesen(pfad).Europa, IsEmpty());
+        EXPECT_THAT(stationslisten_lesen({pfad}).Welt, IsEmpty());
+        EXPECT_THAT(stationslisten_lesen({pfad}).Europa, IsEmpty());
     }
 }
 

@@ -55,13 +55,17 @@ TEST_F(FehlerfaelleTest, SchlechteDateienWerdenGenanntUndDasProgrammBleibtBedien
         {"version.vel", projekt_mit(1, "Haus"), {"This is not a valid Velmaris data file.", "version.vel"}},
         {"cut.vel", gut.substr(0, gut.size() / 2), {"Dateifehler!", "cut.vel, line "}},
         {"empty.vel", "", {"This is not a valid Velmaris data file.", "empty.vel"}},
-        {"station.vel", projekt_mit(56, "away.met"), {"Dateifehler!", "station.vel, line 56", "away.met"}},
+        {"path.vel", projekt_mit(56, "../away.met"), {"Dateifehler!", "path.vel, line 56", "../away.met"}},
+        {"station.vel",
+         projekt_mit(56, "away.met"),
+         {"Climatic data not found!", "away.met: file not found"}},
     };
     for (const Fall& fall : faelle) {
         const std::string text = meldung_beim_oeffnen(ordner.schreibe(fall.name, fall.bytes));
         for (const std::string& wort : fall.worte)
             EXPECT_NE(text.find(wort), std::string::npos) << fall.name << ": " << text;
         EXPECT_EQ(QApplication::overrideCursor(), nullptr) << fall.name;
+        p().Geaendert = 0;
     }
     EXPECT_NE(meldung_beim_oeffnen(ordner / "nowhere.vel").find("nowhere.vel"), std::string::npos);
 
@@ -112,7 +116,7 @@ TEST_F(FehlerfaelleTest, FremderSprachbuchstabeLaeuftOhneTexteBeiderSprachen) {
     ordner.schreibe("klima/typ.dat", "x\r\n");
     const Befehlszeile befehl("");
     const std::string sprache =
-        sprache_bestimmen(befehl, ordner.pfad(), [] { return std::optional<std::string>(); });
+        sprache_bestimmen(befehl, ordner.pfad(), {}, [] { return std::optional<std::string>(); });
     ASSERT_EQ(sprache, "x");
     programm = std::make_unique<Programm>(ordner.pfad(), sprache, befehl);
     programm->starten();

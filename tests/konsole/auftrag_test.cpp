@@ -15,6 +15,7 @@
 namespace velmaris {
 namespace {
 
+using test::inhalt;
 using test::projekttext;
 using test::projektzeilen;
 using test::Testprogramm;
@@ -116,6 +117,18 @@ TEST_F(Konsole, EinFehlerHaeltDieAnderenNichtAuf) {
     EXPECT_NE(zeilen.find("kurz.met: "), std::string::npos);
     EXPECT_NE(zeilen.find("fehlt.vel: file not found"), std::string::npos);
     EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), '\n'), 2);
+}
+
+TEST_F(Konsole, WarntVorUnmoeglichenWertenUndRechnetDochDamit) {
+    std::string station = inhalt(programm.ordner / "klima/trier.met");
+    station.replace(station.find("49.75"), 5, "97.25");
+    programm.ordner.schreibe("klima/trier.met", station);
+    auftrag.projekte = {haus};
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(laufen(), alles_gut) << fehler.str();
+    const std::string warnung = testing::internal::GetCapturedStderr();
+    EXPECT_NE(warnung.find("trier.met, line 2: latitude 97.25 °. One line"), std::string::npos) << warnung;
+    EXPECT_EQ(std::count(warnung.begin(), warnung.end(), '\n'), 1);
 }
 
 TEST_F(Konsole, BeiFehlernWirdNichtsGeschrieben) {

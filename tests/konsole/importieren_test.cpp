@@ -138,5 +138,18 @@ TEST_F(Konsolenimport, ErsetztNurAufVerlangen) {
     EXPECT_THAT(fehler.str(), HasSubstr("bern.met: file cannot be written"));
 }
 
+#ifdef __linux__
+// A folder that nobody can write to, whoever runs the test: the user's own takes the station, under the name
+// that the program's may have.
+TEST_F(Konsolenimport, WeichtInDenOrdnerDesBenutzersAus) {
+    const std::filesystem::path unbeschreibbar = "/proc/self";
+    const Klimaordner ziel(unbeschreibbar, datenordner_bestimmen(unbeschreibbar, ordner / "eigen"));
+    const std::string quelle = pfadtext(ordner.schreibe("quelle.txt", Quellbau{}.epw()));
+    const std::string zeile = importieren({quelle, "bern", {}, false}, ziel, "e");
+    EXPECT_THAT(zeile, HasSubstr(pfadtext(ordner / "eigen/klima/bern.met")));
+    EXPECT_THROW(static_cast<void>(importieren({quelle, "bern", {}, false}, ziel, "e")), Dateifehler);
+}
+#endif
+
 }  // namespace
 }  // namespace velmaris

@@ -113,7 +113,7 @@ TEST_F(Sprachdatei, FehltUndDieWahlWirdGemerkt) {
     sprache_lesen(*p, fenster);
     EXPECT_EQ(gefragt, 1);
     EXPECT_EQ(p->Sprache, "");
-    EXPECT_FALSE(datei_da(sprachdatei(*p)));
+    EXPECT_FALSE(datei_da(ordner / "klima/typ.dat"));
     wahl = "e";
     sprache_lesen(*p, fenster);
     sprache_lesen(*p, fenster);
@@ -140,6 +140,19 @@ TEST_F(Sprachdatei, MerkenGiltErstBeimNaechstenStart) {
 TEST_F(Sprachdatei, SchreibenOhneOrdnerScheitert) {
     EXPECT_THROW(schreibe_sprache(*p, "d"), Dateifehler);
     EXPECT_EQ(p->Sprache, "");
+}
+
+TEST_F(Sprachdatei, LiegtBeimBenutzerWoDerProgrammordnerNichtBeschriebenWird) {
+    ordner.schreibe("klima/typ.dat", "d\r\n");
+    p->Datenordner = ordner / "eigen/Velmaris";
+    sprache_lesen(*p, fenster);
+    EXPECT_EQ(p->Sprache, "d");
+    Testplattform plattform;
+    sprache_merken(*p, plattform, "e");
+    sprache_lesen(*p, fenster);
+    EXPECT_EQ(p->Sprache, "e");
+    EXPECT_EQ(inhalt(ordner / "eigen/Velmaris/klima/typ.dat"), "e\r\n");
+    EXPECT_EQ(inhalt(ordner / "klima/typ.dat"), "d\r\n");
 }
 
 TEST_F(Sprachdatei, DateiDaKenntKeineOrdner) {

@@ -1,5 +1,7 @@
 #include "planes/Start.h"
 
+#include "documents/report.h"
+#include "planes/reportquelle.h"
 #include "project/projektdatei.h"
 #include "tests/testprogramm.h"
 #include "toolkit/text.h"
@@ -102,6 +104,60 @@ TEST_F(Programmstart, OeffnetDasProjektDerBefehlszeile) {
     EXPECT_EQ(gezeigt, 1);
 }
 
+TEST(Startfehler, OhneVorgabestationKommtDasProgrammMitEinerAnderenHoch) {
+    struct Fall {
+        std::string befehlszeile;
+        bool projekt;
+        bool andere;  // there is another station
+    };
+    for (const Fall& fall : {Fall{"d", false, true},
+                             {"", false, true},
+                             {"", true, true},
+                             {"d", false, false},
+                             {"", false, false},
+                             {"", true, false}}) {
+        const test::Testordner ordner;
+        test::Testplattform plattform;
+        ordner.schreibe("klima/trier.met", test::stationsbytes("Trier").substr(0, 9000));
+        if (fall.andere) ordner.schreibe("klima/fern.met", test::stationsbytes("Fern (Ausland)"));
+        const auto haupt = std::make_unique<Haupt>(plattform, ordner.pfad(), "d");
+        haupt->datei.projekt_vorbereiten();
+        auto zeilen = test::projektzeilen(haupt->p);
+        zeilen[1] = " 14";
+        zeilen[55] = "fern.met";
+        const auto haus = pfadtext(ordner.schreibe("haus.vel", test::projekttext(zeilen)));
+        int gezeigt = 0;
+        Start start(*haupt, Befehlszeile(fall.projekt ? haus : fall.befehlszeile), [&gezeigt] { ++gezeigt; });
+        start.laden();
+        if (fall.befehlszeile.empty()) start.OK_Button.druecke();
+        const Projekt& p = haupt->p;
+        EXPECT_EQ(gezeigt, 1);
+        EXPECT_EQ(p.Gestartet, 1);
+        EXPECT_FALSE(start.fenster.sichtbar());
+        ASSERT_EQ(plattform.meldungen.size(), !fall.andere && fall.projekt ? 2U : 1U);
+        EXPECT_NE(plattform.meldungen[0].hinweis.find("trier.met: die Klimadatei endet"), std::string::npos);
+        EXPECT_EQ(p.FormLoadGuard, 0);
+        EXPECT_EQ(p.Geaendert, 0);
+        EXPECT_EQ(p.l, fall.projekt ? 14 : 10);
+        EXPECT_EQ(p.qh > 0, fall.andere);
+        haupt->laden();
+        for (const Ebenenleiste* leiste : {&haupt->e_menue, &haupt->a_menue}) {
+            for (const auto& eintrag : leiste->eintraege())
+                eintrag.knopf->druecke();
+        }
+        for (int seite = 1; seite <= reportseiten; ++seite)
+            EXPECT_FALSE(report_in_sprache(reportquelle(*haupt), seite).empty());
+        haupt->e_geometrie.l_sb.setze(120);
+        EXPECT_EQ(p.qh > 0, fall.andere);
+        EXPECT_EQ(haupt->e_klima.klima_fehlt(), !fall.andere);
+        ordner.schreibe("klima/trier.met", test::stationsbytes("Trier"));
+        haupt->e_klima.Option.setze(E_Klima::deutschland);
+        haupt->e_klima.Klimaregionwahl.setze(3);
+        EXPECT_EQ(p.Klimadatei, "trier.met");
+        EXPECT_GT(p.qh, 0);
+    }
+}
+
 TEST(SpracheBestimmen, BefehlszeileVorDateiVorFenster) {
     const test::Testordner ordner;
     int gefragt = 0;
@@ -110,10 +166,10 @@ TEST(SpracheBestimmen, BefehlszeileVorDateiVorFenster) {
         return "e";
     };
     std::filesystem::create_directories(ordner / "klima");
-    EXPECT_EQ(sprache_bestimmen(Befehlszeile("d"), ordner.pfad(), frage), "d");
+    EXPECT_EQ(sprache_bestimmen(Befehlszeile("d"), ordner.pfad(), {}, frage), "d");
     EXPECT_EQ(gefragt, 0);
-    EXPECT_EQ(sprache_bestimmen(Befehlszeile(""), ordner.pfad(), frage), "e");
-    EXPECT_EQ(sprache_bestimmen(Befehlszeile(""), ordner.pfad(), frage), "e");
+    EXPECT_EQ(sprache_bestimmen(Befehlszeile(""), ordner.pfad(), {}, frage), "e");
+    EXPECT_EQ(sprache_bestimmen(Befehlszeile(""), ordner.pfad(), {}, frage), "e");
     EXPECT_EQ(gefragt, 1);
 }
 

@@ -204,14 +204,75 @@ TEST_F(Fileio, DerFehlerNenntDenWertDerDateiUndSeinenBereich) {
     }
 }
 
-TEST_F(Fileio, FehlendeStationIstEinDateifehler) {
-    auto zeilen = projektzeilen(p());
-    zeilen[55] = "nirgends.met";
-    const auto name = pfadtext(programm.ordner.schreibe("ort.vel", projekttext(zeilen)));
-    datei().datei_oeffnen(name);
-    ASSERT_EQ(plattform().meldungen.size(), 1U);
-    EXPECT_EQ(plattform().meldungen[0].text, "Dateifehler!");
-    EXPECT_NE(plattform().meldungen[0].hinweis.find("nirgends.met"), std::string::npos);
+TEST_F(Fileio, EineUnbrauchbareStationWirdErsetztUndDasProjektGiltAlsGeaendert) {
+    struct Fall {
+        std::string station, grund;
+        int bereich;
+        double los;
+        std::string ersatz;
+    };
+    for (const Fall& fall : {Fall{"nirgends.met", "Datei nicht gefunden", 1, 0.9, "trier.met"},
+                             {"nirgends.met", "Datei nicht gefunden", 2, 0, "fern.met"},
+                             {"kurz.met", " von 8766 Zeilen", 3, 0.4, "fern.met"},
+                             {"leer.met", "endet nach 0 von", 1, 0, "trier.met"},
+                             {"ordner.met", "ist ein Ordner", 3, 0.99, "trier.met"}}) {
+        Testprogramm frisch;
+        frisch.ordner.schreibe("klima/kurz.met", test::stationsbytes("Kurz").substr(0, 70000));
+        frisch.ordner.schreibe("klima/leer.met", "");
+        frisch.ordner.schreibe("klima/ordner.met/x", "");
+        auto zeilen = projektzeilen(frisch.p());
+        zeilen[1] = " 14";
+        zeilen[55] = fall.station;
+        zeilen[63] = " " + std::to_string(fall.bereich);
+        frisch.plattform.zufallszahl = fall.los;
+        frisch.haupt->datei.datei_oeffnen(pfadtext(frisch.ordner.schreibe("ort.vel", projekttext(zeilen))));
+        const Projekt& q = frisch.p();
+        ASSERT_EQ(frisch.plattform.meldungen.size(), 1U) << fall.station;
+        const Meldung& meldung = frisch.plattform.meldungen[0];
+        EXPECT_EQ(meldung.text, q.texte.txt_Klima_fehlt);
+        EXPECT_EQ(meldung.titel, q.texte.txt_Klima_Titel);
+        EXPECT_NE(meldung.hinweis.find(fall.station + ": "), std::string::npos) << meldung.hinweis;
+        EXPECT_NE(meldung.hinweis.find(fall.grund), std::string::npos) << meldung.hinweis;
+        EXPECT_EQ(q.Klimadatei, fall.ersatz);
+        EXPECT_EQ(q.Klimaauswahl, fall.bereich);
+        EXPECT_EQ(q.l, 14);
+        EXPECT_EQ(q.FormLoadGuard, 0);
+        EXPECT_EQ(q.Geaendert, 1);
+        EXPECT_EQ(q.Datei_offen, 1);
+        EXPECT_EQ(frisch.plattform.titel, "Velmaris - ORT.VEL");
+        frisch.haupt->datei.datei_speichern();
+        EXPECT_EQ(projektzeilen(q)[55], fall.ersatz);
+        EXPECT_EQ(q.Geaendert, 0);
+        const float gerechnet = q.qh;
+        frisch.haupt->alles_berechnen();
+        EXPECT_EQ(q.qh, gerechnet) << "calculated with the station in use";
+    }
+}
+
+TEST_F(Fileio, NeuLaesstDasProjektGanzWennSeineStationFehlt) {
+    datei().datei_oeffnen(haus);
+    programm.haupt->e_geometrie.l_sb.setze(150);
+    const auto vorher = std::make_unique<Projekt>(p());
+    const std::string ganz = inhalt(programm.ordner / "klima/trier.met");
+    for (const std::string& bytes : {std::string(), ganz.substr(0, 100000)}) {
+        programm.ordner.schreibe("klima/trier.met", bytes);
+        if (bytes.empty()) std::filesystem::remove(programm.ordner / "klima/trier.met");
+        plattform().antworten = {Antwort::nein};
+        datei().datei_neu();
+        EXPECT_NE(plattform().meldungen.back().hinweis.find("trier.met: "), std::string::npos);
+        EXPECT_EQ(projekttext(projektzeilen(p())), projekttext(projektzeilen(*vorher)));
+        EXPECT_EQ(p().qh, vorher->qh);
+        EXPECT_EQ(p().Datei, haus);
+        EXPECT_EQ(p().Datei_offen, 1);
+        EXPECT_EQ(p().Geaendert, 1);
+        EXPECT_EQ(p().FormLoadGuard, 0);
+        EXPECT_EQ(plattform().titel, "Velmaris - HAUS.VEL");
+    }
+    programm.haupt->e_geometrie.l_sb.setze(160);
+    EXPECT_NE(p().qh, vorher->qh);
+    datei().datei_speichern();
+    EXPECT_NE(inhalt(pfad(haus)).find("Version 3.2\r\n 16\r\n"), std::string::npos);
+    EXPECT_EQ(p().Geaendert, 0);
 }
 
 TEST_F(Fileio, NeuFragtNurNachAenderungen) {
