@@ -1,10 +1,8 @@
 #include "desktop/qt_flaeche.h"
 
-#include "desktop/qt_schrift.h"
 #include "desktop/qt_text.h"
 #include "toolkit/zahlen.h"
 
-#include <QFontMetricsF>
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
@@ -272,27 +270,30 @@ void QtFlaeche::text(double x, double y, std::string_view text, Farbe farbe) {
     striche_ablegen();
     if (!maler_) {
         maler_.emplace(&bild_);
-        maler_->setFont(font_);
+        schrift_des_malers_ = nullptr;
     }
-    const QPointF ort(pixel(x), pixel(y) + QFontMetricsF(font_).ascent());
+    if (schrift_des_malers_ != schriftbild_) {
+        schrift_des_malers_ = schriftbild_;
+        maler_->setFont(schriftbild_->font);
+    }
+    const QPointF ort(pixel(x), pixel(y) + schriftbild_->masse.ascent());
     if (schrift_ && schrift_->hof) hof_zeichnen(*maler_, ort, qtext(text), *schrift_->hof);
     maler_->setPen(qfarbe(farbe));
     maler_->drawText(ort, qtext(text));
 }
 
 double QtFlaeche::textbreite(std::string_view text) const {
-    return QFontMetricsF(font_).horizontalAdvance(qtext(text));
+    return schriftbild_->breite(text);
 }
 
 double QtFlaeche::texthoehe(std::string_view) const {
-    return QFontMetricsF(font_).height();
+    return schriftbild_->masse.height();
 }
 
 void QtFlaeche::schrift(const Schrift& schrift) {
     if (schrift_ == schrift) return;
     schrift_ = schrift;
-    font_ = qschrift(schrift);
-    maler_.reset();
+    schriftbild_ = &schriftbild(schrift);
 }
 
 Farbe QtFlaeche::lies_punkt(double x, double y) const {

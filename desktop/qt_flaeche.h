@@ -1,8 +1,8 @@
 #pragma once
 
+#include "desktop/qt_schrift.h"
 #include "toolkit/zeichenflaeche.h"
 
-#include <QFont>
 #include <QImage>
 #include <QPainter>
 #include <QRect>
@@ -79,7 +79,8 @@ class QtFlaeche final : public Zeichenflaeche {
     mutable Strichlage striche_;
     std::optional<QPainter> maler_;
     std::optional<Schrift> schrift_;
-    QFont font_;
+    const Schriftbild* schriftbild_ = nullptr;
+    const Schriftbild* schrift_des_malers_ = nullptr;
 };
 
 }  // namespace velmaris

@@ -3,7 +3,12 @@
 #include "toolkit/zeichenflaeche.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QString>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
 
 namespace velmaris {
 
@@ -20,5 +25,24 @@ namespace velmaris {
 /// A font of the charts: its family if it is installed, `sans_familie` otherwise; its size in whole pixels,
 /// so that the layout is the same at every screen resolution.
 [[nodiscard]] QFont qschrift(const Schrift& schrift);
+
+/// A font of the charts with its measures. The charts write the same few texts again and again, so their
+/// widths are kept.
+class Schriftbild {
+  public:
+    explicit Schriftbild(const QFont& schrift) : font(schrift), masse(schrift) {}
+
+    const QFont font;
+    const QFontMetricsF masse;
+
+    /// Width of a UTF-8 text, pixels.
+    [[nodiscard]] double breite(std::string_view text) const;
+
+  private:
+    mutable std::map<std::string, double, std::less<>> breiten_;
+};
+
+/// The font of a chart, made once; it lives as long as the application. For the user-interface thread.
+[[nodiscard]] const Schriftbild& schriftbild(const Schrift& schrift);
 
 }  // namespace velmaris

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gmock/gmock.h>
@@ -198,8 +199,9 @@ TEST_F(AnsichtenTest, TooltipBleibtNichtStehen) {
         auto& tip = such(fall.ebene.name.c_str(), "Frame_ToolTip");
         auto& text = such<QLabel>(fall.ebene.name.c_str(), "Label_Tooltip");
         const auto zeigen = [&] {
-            QTest::mouseMove(&bild, QPoint(200, 2));
-            QTest::mouseMove(&bild, QPoint(38, fall.fuss));
+            const QPointF ort(38, fall.fuss);
+            QMouseEvent zug(QEvent::MouseMove, ort, bild.mapToGlobal(ort), Qt::NoButton, Qt::NoButton, {});
+            QApplication::sendEvent(&bild, &zug);
             return QTest::qWaitFor([&] { return tip.isVisible(); }, 3000);
         };
         ASSERT_TRUE(zeigen()) << fall.knopf;
