@@ -109,6 +109,11 @@ void wetter_lesen(Projekt& p, Zeilenleser& leser, Klimapruefung& pruefung) {
     });
 }
 
+void monatslaengen_setzen(Projekt& p) {
+    for (int m = 1; m <= monate; ++m)
+        p.Monat(m).Tage = static_cast<std::int16_t>(tage_im_monat[static_cast<std::size_t>(m)]);
+}
+
 bool hat_kopf(std::string_view bytes) {
     return std::count(bytes.begin(), bytes.end(), '\n') >= zeilen_des_kopfes;
 }
@@ -141,9 +146,8 @@ Stationskopf stationskopf_lesen(const std::filesystem::path& datei) {
 
 std::optional<Zweisprachig> klimadaten_uebernehmen(Projekt& p, std::string_view bytes,
                                                    const std::string& datei) {
+    monatslaengen_setzen(p);
     zeilen_pruefen(bytes, datei);
-    for (int m = 1; m <= monate; ++m)
-        p.Monat(m).Tage = static_cast<std::int16_t>(tage_im_monat[static_cast<std::size_t>(m)]);
     Zeilenleser leser(bytes);
     Klimapruefung pruefung;
     const auto zeile = [&leser] { return leser.naechste().value_or(std::string_view()); };
@@ -166,6 +170,7 @@ std::optional<Zweisprachig> klimadaten_uebernehmen(Projekt& p, std::string_view 
 }
 
 std::optional<Zweisprachig> klimadatei_lesen(Projekt& p) {
+    monatslaengen_setzen(p);
     const std::filesystem::path datei = Klimaordner(p).datei(p.Klimadatei);
     return klimadaten_uebernehmen(p, bytes_lesen(datei, hoechste_stationsgroesse), pfadtext(datei));
 }

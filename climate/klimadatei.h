@@ -36,7 +36,7 @@ struct Stationskopf {
 /// `Stationsname`, `Breite`, `Laengenkorrektur`, `Wetter`, `Dachraum`, `Strahlung`, and by
 /// `monatsstrahlung_berechnen` the means and radiation sums of the months. Nothing else is recalculated. A
 /// file that cannot be read, is too short or too large is a Dateifehler and leaves the former climate as it
-/// was.
+/// was; the lengths of the months are set all the same.
 ///
 /// Returns a warning that names file, line and value if the file holds values that no place on earth has or
 /// columns without a number.

@@ -1,8 +1,10 @@
 #include "planes/Start.h"
 
+#include "documents/Ausdrucken.h"
 #include "documents/report.h"
 #include "planes/reportquelle.h"
 #include "project/projektdatei.h"
+#include "tests/testdrucker.h"
 #include "tests/testprogramm.h"
 #include "toolkit/text.h"
 
@@ -147,6 +149,11 @@ TEST(Startfehler, OhneVorgabestationKommtDasProgrammMitEinerAnderenHoch) {
         }
         for (int seite = 1; seite <= reportseiten; ++seite)
             EXPECT_FALSE(report_in_sprache(reportquelle(*haupt), seite).empty());
+        test::Testdrucker drucker;
+        Ausdrucken(drucker, reportquelle(*haupt), alles_drucken, {});
+        EXPECT_EQ(drucker.seiten, 8);
+        for (const test::Druckzeichen& z : drucker.zeichen)
+            EXPECT_EQ(z.text.find("NaN"), std::string::npos) << z.text;
         haupt->e_geometrie.l_sb.setze(120);
         EXPECT_EQ(p.qh > 0, fall.andere);
         EXPECT_EQ(haupt->e_klima.klima_fehlt(), !fall.andere);
