@@ -10,11 +10,11 @@ namespace velmaris {
 
 /// The climate data to import.
 struct Importauftrag {
-    std::string quelle;               ///< path of the source
-    std::string name;                 ///< of the station file, without extension
-    std::optional<std::string> land;  ///< in place of the source's own country
-    std::optional<std::string> ort;   ///< in place of the source's own place
-    bool ersetzen = false;            ///< overwrites a station of that name
+    std::string quelle;                    ///< path of the source
+    std::string name;                      ///< of the station file, without extension
+    std::optional<std::string> land = {};  ///< in place of the source's own country
+    std::optional<std::string> ort = {};   ///< in place of the source's own place
+    bool ersetzen = false;                 ///< overwrites a station of that name
 };
 
 /// What a call of the console program asks for.

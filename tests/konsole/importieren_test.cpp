@@ -144,10 +144,11 @@ TEST_F(Konsolenimport, ErsetztNurAufVerlangen) {
 TEST_F(Konsolenimport, WeichtInDenOrdnerDesBenutzersAus) {
     const std::filesystem::path unbeschreibbar = "/proc/self";
     const Klimaordner ziel(unbeschreibbar, datenordner_bestimmen(unbeschreibbar, ordner / "eigen"));
-    const std::string quelle = pfadtext(ordner.schreibe("quelle.txt", Quellbau{}.epw()));
-    const std::string zeile = importieren({quelle, "bern", {}, false}, ziel, "e");
-    EXPECT_THAT(zeile, HasSubstr(pfadtext(ordner / "eigen/klima/bern.met")));
-    EXPECT_THROW(static_cast<void>(importieren({quelle, "bern", {}, false}, ziel, "e")), Dateifehler);
+    const Importauftrag bern{.quelle = pfadtext(ordner.schreibe("quelle.txt", Quellbau{}.epw())),
+                             .name = "bern"};
+    EXPECT_THAT(importieren(bern, ziel, "e").geschrieben,
+                HasSubstr(pfadtext(ordner / "eigen/klima/bern.met")));
+    EXPECT_THROW(static_cast<void>(importieren(bern, ziel, "e")), Dateifehler);
 }
 #endif
 
