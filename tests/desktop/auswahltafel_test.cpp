@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QTest>
 
 namespace velmaris {
@@ -81,6 +82,13 @@ TEST_F(AuswahltafelTest, ListenOeffnenUnterIhremFeldMitEintraegenVonDerHoeheIhre
     }
 }
 
+/// Moves the mouse onto a widget, which at twice the resolution lies beyond the small screen of the tests.
+void ueberfahre(QWidget& feld) {
+    const QPointF ort(5, 5);
+    QMouseEvent bewegung(QEvent::MouseMove, ort, feld.mapToGlobal(ort), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&feld, &bewegung);
+}
+
 TEST_F(AuswahltafelTest, MausOeffnetWaehltUndSchliesst) {
     beginne();
     for (const char* name : felder) {
@@ -93,8 +101,8 @@ TEST_F(AuswahltafelTest, MausOeffnetWaehltUndSchliesst) {
     klicke(knopf("Command3"));
     klicke(knopf("Command1"));
     ASSERT_TRUE(tafel().isVisible());
-    QTest::mouseMove(&eintrag(5));
-    QTest::mouseMove(&eintrag(6), QPoint(5, 5));
+    ueberfahre(eintrag(5));
+    ueberfahre(eintrag(6));
     EXPECT_EQ(programm->haupt().e_energie.Auswahl.marke(), 6);
     QTest::mouseClick(&eintrag(6), Qt::LeftButton);
     EXPECT_EQ(wahl(), "611");

@@ -126,7 +126,7 @@ TEST_F(Fileio, DerFehlerSagtWennNichtsMehrBerechnetWird) {
                              {nirgends, true, false, nirgends, true, true},
                              {"", true, false, "", true, false},
                              {haus, true, true, "", true, false},
-                             {fremd, true, false, "Wert außerhalb", true, true},
+                             {fremd, true, false, "l: Wert außerhalb", true, true},
                              {haus, false, false, haus, true, true}}) {
         rechnet = fall.rechnet;
         p().Geaendert = fall.geaendert ? 1 : 0;
