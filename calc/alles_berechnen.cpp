@@ -36,8 +36,7 @@ void stufe(const Zweisprachig& name, Rechnung&& rechne) {
     throw Laufzeitfehler({name.de + " lässt sich mit diesen Eingaben nicht berechnen (" + art.de +
                               "). Bitte die zuletzt geänderten Eingaben prüfen.",
                           name.en + " cannot be calculated from these inputs (" + art.en +
-                              "). Please check the inputs changed last."},
-                         name.de);
+                              "). Please check the inputs changed last."});
 }
 
 void rufe(const std::function<void()>& routine) {

@@ -123,8 +123,7 @@ float nutzungsgrad(float tau, float gamma) {
                  zahltext(gamma) +
                  "-mal so groß wie die Verluste. Bitte Dämmung, Fenster und Bauweise prüfen.",
              "The utilisation factor of the heat gains cannot be calculated: the gains are" +
-                 zahltext(gamma) + " times the losses. Please check insulation, windows and construction."},
-            "Nutzgrad");
+                 zahltext(gamma) + " times the losses. Please check insulation, windows and construction."});
     }
     return f32(zaehler / nenner);
 }

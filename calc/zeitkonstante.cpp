@@ -45,8 +45,7 @@ float baukapazitaet(const Projekt& p) {
              "prüfen.",
          "The heat capacity of the building is negative: with a usable floor of " + nutz +
              " m² the interior is too small for its outer walls. Please check length, width, height and "
-             "number of floors."},
-        "Cwirk");
+             "number of floors."});
 }
 
 [[noreturn]] void ohne_waermeverlust() {
@@ -54,8 +53,7 @@ float baukapazitaet(const Projekt& p) {
         {"Das Gebäude verliert keine Wärme: Transmissions- und Lüftungsverluste ergeben zusammen 0. Bitte "
          "U-Werte und Luftwechsel prüfen.",
          "The building loses no heat: transmission and ventilation losses add up to 0. Please check the U "
-         "values and the air change."},
-        "tau");
+         "values and the air change."});
 }
 
 double kapazitaet_je_volumen(const Projekt& p) {

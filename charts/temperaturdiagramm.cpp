@@ -16,7 +16,7 @@ constexpr double breit = 600;  ///< from this width on each day has its number
 constexpr int tage_der_achse = 31;
 constexpr double rand_rechts = 10;
 constexpr double legendentext = 15;  ///< from the patch of a legend entry to its text
-constexpr Schrift schrift{.groesse = 8};
+const Schrift schrift{.groesse = 8};
 constexpr Farbe farbe_raum = farben::rot;
 constexpr Farbe farbe_aussen = farben::blau;
 

@@ -43,8 +43,7 @@ std::string klimaname(const Projekt& p) {
          "über und unter dem Gebäude prüfen.",
          "There is no heating limit temperature, since the building loses no heat: the losses through walls, "
          "windows, door, roof, floor and ventilation add up to 0. Please check the U values, the air change "
-         "and the rooms above and below the building."},
-        "Heizgrenztemperatur");
+         "and the rooms above and below the building."});
 }
 
 }  // namespace

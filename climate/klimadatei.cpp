@@ -43,7 +43,18 @@ int zeilenzahl(std::string_view bytes) {
                               "the climate file ends after " + ist + " of " + soll + " lines"});
 }
 
+bool hat_kopf(std::string_view bytes) {
+    return std::count(bytes.begin(), bytes.end(), '\n') >= zeilen_des_kopfes;
+}
+
+void kopf_pruefen(std::string_view bytes, const std::string& datei) {
+    if (bytes.size() < hoechste_kopfgroesse || hat_kopf(bytes.substr(0, hoechste_kopfgroesse))) return;
+    throw Dateifehler(datei, {"der Kopf der Klimadatei ist größer als 64 KB",
+                              "the head of the climate file is larger than 64 KB"});
+}
+
 void zeilen_pruefen(std::string_view bytes, const std::string& datei) {
+    kopf_pruefen(bytes, datei);
     if (const int zeilen = zeilenzahl(bytes); zeilen < zeilen_der_klimadatei)
         zu_kurz(datei, zeilen, zeilen_der_klimadatei);
 }
@@ -114,16 +125,9 @@ void monatslaengen_setzen(Projekt& p) {
         p.Monat(m).Tage = static_cast<std::int16_t>(tage_im_monat[static_cast<std::size_t>(m)]);
 }
 
-bool hat_kopf(std::string_view bytes) {
-    return std::count(bytes.begin(), bytes.end(), '\n') >= zeilen_des_kopfes;
-}
-
 std::string langer_kopf(const std::filesystem::path& datei) {
     std::string bytes = anfang_lesen(datei, hoechste_kopfgroesse);
-    if (bytes.size() == hoechste_kopfgroesse && !hat_kopf(bytes)) {
-        throw Dateifehler(pfadtext(datei), {"der Kopf der Klimadatei ist größer als 64 KB",
-                                            "the head of the climate file is larger than 64 KB"});
-    }
+    kopf_pruefen(bytes, pfadtext(datei));
     return bytes;
 }
 

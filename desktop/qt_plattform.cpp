@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +21,7 @@
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTreeView>
 #include <algorithm>
 #include <array>
 
@@ -85,6 +87,14 @@ class Zeigerpause {
   private:
     bool sanduhr_;
 };
+
+/// The columns beside the name show their texts whole.
+void spalten_weiten(const QFileDialog& fenster) {
+    const auto* tafel = fenster.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (tafel == nullptr) return;
+    tafel->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    tafel->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
 
 /// Puts a name into the field of a file dialog. An existing file would be selected in the list as well, and
 /// that counts for more than a path pasted over the name.
@@ -180,6 +190,7 @@ std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialo
     const QFileInfo ordner(dialog.ordner);
     fenster.setDirectory(ordner.isDir() ? ordner.absoluteFilePath() : QDir::homePath());
     if (!dialog.dateiname.empty()) vorschlagen(fenster, dialog.dateiname);
+    spalten_weiten(fenster);
     if (fenster.exec() != QDialog::Accepted || fenster.selectedFiles().isEmpty()) return std::nullopt;
     return QFileInfo(fenster.selectedFiles().constFirst()).filesystemFilePath();
 }

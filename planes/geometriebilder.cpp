@@ -14,6 +14,9 @@ constexpr double balken_oben = 7;
 constexpr double balken_links = 44;
 constexpr double balken_rechts = 50;
 
+/// Lowest place of the number beside the bar, so that it stays on the surface when no bar is left.
+constexpr double av_tiefste = 110;
+
 double kantenlaenge(const Projekt& p) {
     return std::cbrt(static_cast<double>(p.v_geb));
 }
@@ -79,7 +82,7 @@ void suedpfeil(const Plan& plan, double orient) {
 AVTexte av_texte(const Projekt& p) {
     AVTexte texte;
     texte.av_anz = muster(p.AV, 2) + " ";
-    texte.av_oben = std::max(balkenhoehe(p) - 8, 5.0);
+    texte.av_oben = std::clamp(balkenhoehe(p) - 8, 5.0, av_tiefste);
     const double c = kantenlaenge(p);
     if (c > 0) {
         texte.AV_Kugel = muster(av_kugel / c, 2);

@@ -15,6 +15,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 constexpr int boese = FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID;
 
@@ -101,16 +102,17 @@ TEST(AllesBerechnen, RechenfehlerNennenDieStufe) {
         std::string en;
     };
     const std::vector<Fall> faelle{
-        {"no ground at all", [](Projekt& p) { p.l = p.b = 0; }, "Die Geometrie des Gebäudes",
+        {"no ground at all", [](Projekt& p) { p.l = p.b = 0; }, "Die Geometrie des Gebäudes lässt sich",
          "The geometry of the building"},
         {"a volume beyond all numbers", [](Projekt& p) { p.l = p.b = p.h = 1e15F; },
-         "Die Geometrie des Gebäudes", "overflow"},
+         "Die Geometrie des Gebäudes lässt sich", "overflow"},
         {"no heated floor",
          [](Projekt& p) {
              p.ag = 0;
              p.Aussenwandart = 0;
          },
-         "Die Monatsbilanz", "The monthly balance cannot be calculated from these inputs (division by 0)"},
+         "Die Monatsbilanz lässt sich",
+         "The monthly balance cannot be calculated from these inputs (division by 0)"},
         {"cooling without any gain",
          [](Projekt& p) {
              test::gleiches_wetter(p, {0, 0, 0});
@@ -127,7 +129,7 @@ TEST(AllesBerechnen, RechenfehlerNennenDieStufe) {
             alles_berechnen(*p, {});
             ADD_FAILURE() << "no fault";
         } catch (const Laufzeitfehler& fehler) {
-            EXPECT_THAT(fehler.text("d"), HasSubstr(fall.de));
+            EXPECT_THAT(fehler.text("d"), StartsWith(fall.de));
             EXPECT_THAT(fehler.text("e"), HasSubstr(fall.en));
         }
         EXPECT_EQ(std::fetestexcept(boese), 0);

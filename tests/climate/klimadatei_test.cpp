@@ -150,6 +150,7 @@ TEST(Klimadatei, EinFehlerLaesstDasBisherigeKlima) {
     ordner.schreibe("klima/randvoll.met", ganz + std::string(hoechste_stationsgroesse - ganz.size(), 'x'));
     ordner.schreibe("klima/uebervoll.met",
                     ganz + std::string(hoechste_stationsgroesse - ganz.size() + 1, 'x'));
+    ordner.schreibe("klima/kopf.met", std::string(hoechste_kopfgroesse, 'x') + ganz);
     const auto p = std::make_unique<Projekt>();
     p->AppPfad = ordner.pfad();
     for (const char* gut : {"ohne_ende.met", "randvoll.met", "feld.met"}) {
@@ -162,6 +163,7 @@ TEST(Klimadatei, EinFehlerLaesstDasBisherigeKlima) {
         {"kurz.met", "8765 of 8766 lines"}, {"leer.met", "0 of 8766 lines"},
         {"ordner.met", "is a folder"},      {"", "is a folder"},
         {"fehlt.met", "not found"},         {"uebervoll.met", "larger than 2 MB"},
+        {"kopf.met", "larger than 64 KB"},
     };
     for (const auto& [name, grund] : faelle) {
         p->Klimadatei = name;

@@ -145,6 +145,8 @@ TEST_F(EGeometrie, AvDiagrammStelltGleicheFormenGleichHoch) {
     EXPECT_EQ(hoch.alle(Art::flaeche, farben::rot)[0].zahlen[3], 7);
     EXPECT_TRUE(hoch.alle(Art::flaeche, farben::weiss).empty());
     EXPECT_EQ(av_texte(wuerfel).av_oben, 5);
+    wuerfel.AV = 0;
+    EXPECT_EQ(av_texte(wuerfel).av_oben, 110);
 }
 
 TEST_F(EGeometrie, SuedpfeilZeigtNachUntenUndDrehtMitDerOrientierung) {
