@@ -45,7 +45,7 @@ fs::path Klimaordner::ziel(std::string_view name) const {
 fs::path Klimaordner::schreiben(std::string_view name, std::string_view bytes) const {
     std::error_code fehler;
     if (ordner_.size() > 1) fs::create_directories(ordner_.front(), fehler);
-    const fs::path datei = ziel(name);
+    fs::path datei = ziel(name);
     datei_ersetzen(datei, bytes);
     return datei;
 }
