@@ -79,22 +79,22 @@ void ziel_pruefen(const fs::path& datei, const fs::path& ziel, const fs::file_st
     if (!ist_beschreibbar(ziel)) scheitern(datei, {"ist schreibgeschützt", "is write-protected"});
 }
 
-/// A name in the folder that no other writer uses, and far shorter than a file name may be.
-fs::path nachbar(const fs::path& ziel) {
+/// A name in the folder that nobody else uses, and far shorter than a file name may be.
+fs::path eigener_name(const fs::path& ordner) {
     constexpr std::string_view ziffern = "0123456789abcdef";
     constexpr int stellen = 16;
     std::random_device zufall;
     std::string name = "velmaris_";
     for (int i = 0; i < stellen; ++i)
         name += ziffern[zufall() % ziffern.size()];
-    return ziel.parent_path() / (name + ".neu~");
+    return ordner / (name + ".neu~");
 }
 
 /// Writes the bytes into a neighbour of its own; returns its path.
 fs::path nachbar_schreiben(const fs::path& datei, const fs::path& ziel, std::string_view bytes,
                            fs::perms rechte) {
     while (true) {
-        fs::path neben = nachbar(ziel);
+        fs::path neben = eigener_name(ziel.parent_path());
         const int grund = neue_datei(neben, bytes, rechte);
         if (grund == 0) return neben;
         if (grund != EEXIST) schreiben_scheitert(datei, grund);
@@ -156,8 +156,7 @@ bool datei_anlegen(const fs::path& datei, std::string_view bytes) {
 // removed again; its name is not in use, else making it fails.
 bool ordner_beschreibbar(const fs::path& ordner) {
     std::error_code fehler;
-    std::random_device zufall;
-    const fs::path probe = ordner / (".velmaris-" + std::to_string(zufall()));
+    const fs::path probe = eigener_name(ordner);
     if (!fs::create_directory(probe, fehler)) return false;
     fs::remove(probe, fehler);
     return true;
