@@ -8,7 +8,7 @@ cd "$(dirname "$(readlink -f "$0")")"
 pakete_holen $PAKETE_PROGRAMM
 cmake --preset release -DVELMARIS_TESTS=OFF -DVELMARIS_BENCH=OFF -B build/run
 cmake --build build/run
-projekt=${1:-beispiele/niedrigenergiehaus.vel}
+projekt=${1:-samples/niedrigenergiehaus.vel}
 [ $# -eq 0 ] || [[ $projekt == /* ]] || projekt=$aufruf/$projekt
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     build/run/bin/velmaris "$projekt"

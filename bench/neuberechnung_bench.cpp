@@ -2,7 +2,7 @@
 #include "calc/gebaeudekennwerte.h"
 #include "calc/geometrie.h"
 #include "calc/monatsbilanz.h"
-#include "climate/A_Klima.h"
+#include "climate/planes/A_Klima.h"
 #include "climate/strahlung.h"
 #include "energy/energiebilanz.h"
 #include "tests/musterprojekt.h"

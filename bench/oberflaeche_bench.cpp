@@ -1,6 +1,6 @@
+#include "desktop/platform/stil.h"
 #include "desktop/programm.h"
-#include "desktop/scrollleiste.h"
-#include "desktop/stil.h"
+#include "desktop/widgets/scrollleiste.h"
 #include "tests/testprogramm.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "charts/sankey_kuehlen.h"
 
-#include "charts/A_Sankey.h"
+#include "charts/planes/A_Sankey.h"
 #include "tests/charts/probe.h"
 #include "tests/charts/sankeyprobe.h"
 #include "toolkit/svg_flaeche.h"

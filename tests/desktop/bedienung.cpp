@@ -1,6 +1,6 @@
-#include "bedienung.h"
+#include "tests/desktop/bedienung.h"
 
-#include "desktop/bildflaeche.h"
+#include "desktop/widgets/bildflaeche.h"
 #include "toolkit/text.h"
 
 #include <QAbstractItemView>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/scrollleiste.h"
+#include "desktop/widgets/scrollleiste.h"
 
 #include <QApplication>
 #include <QFileDialog>

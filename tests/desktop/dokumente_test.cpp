@@ -1,6 +1,6 @@
-#include "desktop/qt_drucker.h"
-#include "desktop/qt_schrift.h"
-#include "programmprobe.h"
+#include "desktop/platform/qt_drucker.h"
+#include "desktop/platform/qt_schrift.h"
+#include "tests/desktop/programmprobe.h"
 #include "toolkit/text.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
-#include "programmprobe.h"
 #include "project/projektdatei.h"
+#include "tests/desktop/programmprobe.h"
 #include "tests/testprogramm.h"
 #include "tests/volle_festplatte.h"
 

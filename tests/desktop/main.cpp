@@ -1,4 +1,4 @@
-#include "desktop/stil.h"
+#include "desktop/platform/stil.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "desktop/programm.h"
 
-#include "programmprobe.h"
+#include "tests/desktop/programmprobe.h"
 #include "tests/testprogramm.h"
 
 #include <QFileDialog>

@@ -1,4 +1,4 @@
-#include "programmprobe.h"
+#include "tests/desktop/programmprobe.h"
 
 #include "tests/testprogramm.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "bedienung.h"
 #include "desktop/programm.h"
+#include "tests/desktop/bedienung.h"
 #include "tests/hilfen.h"
 
 #include <QAbstractButton>

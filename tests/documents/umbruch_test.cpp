@@ -1,6 +1,6 @@
 #include "documents/umbruch.h"
 
-#include "documents/reporttext.h"
+#include "documents/report/reporttext.h"
 
 #include <array>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "planes/E_Geometrie.h"
 
-#include "planes/geometriebilder.h"
+#include "charts/geometriebilder.h"
 #include "tests/testflaeche.h"
 #include "tests/testprogramm.h"
 

@@ -1,7 +1,7 @@
 #include "planes/Start.h"
 
-#include "documents/Ausdrucken.h"
-#include "documents/report.h"
+#include "documents/print/Ausdrucken.h"
+#include "documents/report/report.h"
 #include "planes/reportquelle.h"
 #include "project/projektdatei.h"
 #include "tests/testdrucker.h"

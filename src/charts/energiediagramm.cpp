@@ -1,0 +1,116 @@
+#include "charts/energiediagramm.h"
+
+#include "language/c_Sprache.h"
+#include "toolkit/diagrammtext.h"
+#include "toolkit/zahlen.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velmaris {
+namespace {
+
+constexpr double links = 30;  ///< vertical axis
+constexpr double boden = 95;  ///< horizontal axis
+constexpr int schritte = 3;   ///< scale steps on the axis
+constexpr double saeulenhoehe = 90;
+
+constexpr Farbe end_traeger{255, 0, 0};
+constexpr Farbe end_strom{255, 128, 0};
+constexpr Farbe primaer_traeger{128, 0, 0};
+constexpr Farbe primaer_strom{192, 64, 0};
+
+double groesster(const Monatsenergie& werte) {
+    double M = 0;
+    for (int m = 1; m <= monate; ++m) {
+        M = std::max(M, double{werte.E(m)} + werte.H(m));
+        M = std::max(M, double{werte.P(m)} + werte.Q(m));
+    }
+    return M;
+}
+
+/// Height of tick i; the ticks share 89 pixels where the columns share 90.
+double teilung(int i) {
+    return boden - i * 89.0 / schritte;
+}
+
+void achsen(Zeichenflaeche& bild) {
+    bild.linie(links, boden, links, 5, farben::schwarz);
+    bild.linie(links, boden, 325, boden, farben::schwarz);
+}
+
+void skala(Zeichenflaeche& bild, int schritt) {
+    for (int i = 0; i <= schritte; ++i)
+        bild.linie(27, teilung(i), links, teilung(i), farben::schwarz);
+    bild.flaeche(0, 0, 25, 100, bild.hintergrund());
+    std::array<Achsenzahl, schritte + 1> zahlen{};
+    for (int i = 0; i <= schritte; ++i)
+        zahlen[static_cast<std::size_t>(i)] = {static_cast<double>(i * schritt), teilung(i)};
+    const bool lang = schritte * schritt >= 10000;
+    achsenzahlen_zeichnen(bild, zahlen, lang ? Schrift{.name = "Arial", .groesse = 6.75} : Schrift{});
+}
+
+}  // namespace
+
+int skalenschritt(double groesster) {
+    struct Stufe {
+        double grenze;
+        int schritt;
+    };
+    static constexpr std::array<Stufe, 10> stufen{{{30, 10},
+                                                   {60, 20},
+                                                   {150, 50},
+                                                   {300, 100},
+                                                   {600, 200},
+                                                   {1500, 500},
+                                                   {3000, 1000},
+                                                   {6000, 2000},
+                                                   {15000, 5000},
+                                                   {30000, 10000}}};
+    const auto* const stufe =
+        std::find_if(stufen.begin(), stufen.end(), [&](const Stufe& s) { return groesster < s.grenze; });
+    return stufe != stufen.end() ? stufe->schritt : 50000;
+}
+
+std::vector<Saeule> saeulen(const Monatsenergie& werte) {
+    const double schritt = skalenschritt(groesster(werte));
+    const auto y = [&](double wert) { return boden - wert / schritt * saeulenhoehe / schritte; };
+    std::vector<Saeule> ergebnis;
+    const auto stapel = [&](double x, double traeger, double hilfe, Farbe farbe, Farbe farbe_hilfe) {
+        if (traeger > 0) ergebnis.push_back({x, boden, x + 8, y(traeger), farbe});
+        if (hilfe > 0) ergebnis.push_back({x, y(traeger), x + 8, y(traeger + hilfe), farbe_hilfe});
+    };
+    for (int m = 1; m <= monate; ++m) {
+        const double x = 35 + spaltenbreite * (m - 1);
+        stapel(x, werte.E(m), werte.H(m), end_traeger, end_strom);
+        stapel(x + 10, werte.P(m), werte.Q(m), primaer_traeger, primaer_strom);
+    }
+    return ergebnis;
+}
+
+bool auf_saeule(const Monatsenergie& werte, double x, double y) {
+    const double px = runden(x);
+    const double py = runden(y);
+    const std::vector<Saeule> alle = saeulen(werte);
+    return std::any_of(alle.begin(), alle.end(), [&](const Saeule& s) {
+        return px >= s.x1 && px <= s.x2 && py >= runden(s.oben) && py <= runden(s.unten);
+    });
+}
+
+int monat_bei(double x) {
+    const double m = runden((x - links - 3) / spaltenbreite + 0.5);
+    return m >= 1 && m <= monate ? static_cast<int>(m) : 1;
+}
+
+void Monatsverbrauch_zeichnen(Zeichenflaeche& bild, const Projekt& p) {
+    const Monatsenergie werte = monatswerte(p);
+    bild.Cls();
+    bild.schrift({});
+    achsen(bild);
+    spaltennamen_zeichnen(bild, monatskuerzel(p), 98);
+    skala(bild, skalenschritt(groesster(werte)));
+    for (const Saeule& s : saeulen(werte))
+        bild.flaeche(s.x1, s.unten, s.x2, s.oben, s.farbe);
+}
+
+}  // namespace velmaris

@@ -1,0 +1,139 @@
+#include "desktop/platform/hausstil.h"
+
+#include "desktop/platform/stil.h"
+
+#include <QDialogButtonBox>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <algorithm>
+
+namespace velmaris {
+namespace {
+
+constexpr qreal rundung = 3;
+
+void rundes_feld(QPainter& maler, const QRect& feld, QColor grund, QColor rand) {
+    maler.setPen(rand);
+    maler.setBrush(grund);
+    maler.drawRoundedRect(QRectF(feld).adjusted(0.5, 0.5, -0.5, -0.5), rundung, rundung);
+}
+
+/// A small triangle in the middle of a button, that points the way the button moves.
+void pfeil(QPainter& maler, const QRect& knopf, Qt::Orientation richtung, int vorzeichen, QColor farbe) {
+    constexpr qreal halbe_hoehe = 2;
+    constexpr qreal halbe_breite = 4;
+    QPainterPath dreieck;
+    dreieck.moveTo(-halbe_hoehe, -halbe_breite);
+    dreieck.lineTo(halbe_hoehe, 0);
+    dreieck.lineTo(-halbe_hoehe, halbe_breite);
+    maler.save();
+    maler.translate(QRectF(knopf).center());
+    if (richtung == Qt::Vertical) maler.rotate(90);
+    maler.scale(vorzeichen, 1);
+    maler.fillPath(dreieck, farbe);
+    maler.restore();
+}
+
+/// Ground of a part of a scroll bar: by itself, under the pointer, pressed.
+QColor grund(const QStyleOptionSlider& balken, QStyle::SubControl teil, QColor ruhe) {
+    const bool getroffen =
+        balken.activeSubControls.testFlag(teil) && balken.state.testFlag(QStyle::State_Enabled);
+    if (!getroffen) return ruhe;
+    return balken.state.testFlag(QStyle::State_Sunken) ? ruhe.darker(118) : ruhe.darker(106);
+}
+
+}  // namespace
+
+Hausstil::Hausstil() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+int Hausstil::styleHint(StyleHint hinweis, const QStyleOption* option, const QWidget* fenster,
+                        QStyleHintReturn* rueckgabe) const {
+    switch (hinweis) {
+        case SH_DialogButtonLayout:
+            return QDialogButtonBox::WinLayout;
+        case SH_ScrollBar_LeftClickAbsolutePosition:
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+        case SH_ComboBox_Popup:
+            return 0;
+        default:
+            return QProxyStyle::styleHint(hinweis, option, fenster, rueckgabe);
+    }
+}
+
+int Hausstil::pixelMetric(PixelMetric groesse, const QStyleOption* option, const QWidget* fenster) const {
+    switch (groesse) {
+        case PM_ScrollBarExtent:
+            return mass::leiste;
+        case PM_LayoutLeftMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutBottomMargin:
+            return mass::rand;
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+            return mass::abstand;
+        default:
+            return QProxyStyle::pixelMetric(groesse, option, fenster);
+    }
+}
+
+/// The title of a frame stands inside of it.
+QRect Hausstil::subControlRect(ComplexControl bedienteil, const QStyleOptionComplex* option, SubControl teil,
+                               const QWidget* fenster) const {
+    constexpr int titelabstand = 2;
+    const QRect feld = QProxyStyle::subControlRect(bedienteil, option, teil, fenster);
+    if (bedienteil != CC_GroupBox) return feld;
+    if (teil == SC_GroupBoxLabel) return feld.translated(mass::rand, titelabstand);
+    if (teil == SC_GroupBoxContents) return feld.adjusted(0, titelabstand, 0, 0);
+    return feld;
+}
+
+void Hausstil::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* maler,
+                             const QWidget* fenster) const {
+    if (element != PE_FrameGroupBox) {
+        QProxyStyle::drawPrimitive(element, option, maler, fenster);
+        return;
+    }
+    maler->save();
+    maler->setRenderHint(QPainter::Antialiasing);
+    rundes_feld(*maler, option->rect, QColor(stilfarben::tafel), QColor(stilfarben::tafelrand));
+    maler->restore();
+}
+
+void Hausstil::drawComplexControl(ComplexControl bedienteil, const QStyleOptionComplex* option,
+                                  QPainter* maler, const QWidget* fenster) const {
+    const auto* balken = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (bedienteil != CC_ScrollBar || balken == nullptr) {
+        QProxyStyle::drawComplexControl(bedienteil, option, maler, fenster);
+        return;
+    }
+    maler->save();
+    maler->setRenderHint(QPainter::Antialiasing);
+    zeichne_rollbalken(*balken, *maler, fenster);
+    maler->restore();
+}
+
+void Hausstil::zeichne_rollbalken(const QStyleOptionSlider& balken, QPainter& maler,
+                                  const QWidget* fenster) const {
+    const auto ort = [&](SubControl teil) { return subControlRect(CC_ScrollBar, &balken, teil, fenster); };
+    const bool aktiv = balken.state.testFlag(State_Enabled);
+    const bool mit_fokus = balken.state.testFlag(State_HasFocus);
+    const QColor betonung(stilfarben::betonung);
+    const QColor rand = mit_fokus ? betonung : QColor(stilfarben::tafelrand);
+    const QColor zeichen = aktiv ? QColor(stilfarben::nebenschrift) : balken.palette.color(QPalette::Mid);
+
+    rundes_feld(maler, balken.rect, QColor(stilfarben::rille), rand);
+    for (const auto& [teil, vorzeichen] : {std::pair{SC_ScrollBarSubLine, -1}, {SC_ScrollBarAddLine, 1}}) {
+        const QRect knopf = ort(teil);
+        rundes_feld(maler, knopf, grund(balken, teil, balken.palette.color(QPalette::Button)), rand);
+        pfeil(maler, knopf, balken.orientation, vorzeichen, zeichen);
+    }
+    if (!aktiv || balken.minimum == balken.maximum) return;
+    const QRect griff = ort(SC_ScrollBarSlider);
+    const QColor griffrand = mit_fokus ? betonung : QColor(stilfarben::griffrand);
+    rundes_feld(maler, griff, grund(balken, SC_ScrollBarSlider, QColor(stilfarben::griff)), griffrand);
+}
+
+}  // namespace velmaris

@@ -1,0 +1,307 @@
+#include "desktop/platform/qt_flaeche.h"
+
+#include "desktop/platform/qt_text.h"
+#include "toolkit/zahlen.h"
+
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace velmaris {
+namespace {
+
+/// Far beyond any screen; keeps sums of coordinates inside the integers.
+constexpr double weitester_pixel = 32767;
+
+template <typename... Zahl>
+bool zahlen(Zahl... zahl) {
+    return (... && !std::isnan(zahl));
+}
+
+int pixel(double koordinate) {
+    return static_cast<int>(std::clamp(runden(koordinate), -weitester_pixel, weitester_pixel));
+}
+
+QRgb rgb(Farbe farbe) {
+    return qRgb(farbe.r, farbe.g, farbe.b);
+}
+
+Farbe farbe_von(QRgb wert) {
+    return {static_cast<std::uint8_t>(qRed(wert)), static_cast<std::uint8_t>(qGreen(wert)),
+            static_cast<std::uint8_t>(qBlue(wert))};
+}
+
+/// Mixes `deckung`/255 of a colour into a pixel.
+QRgb gemischt(QRgb unten, Farbe oben, int deckung) {
+    const auto anteil = [deckung](int u, int o) {
+        return u + ((o - u) * deckung + (o > u ? 127 : -127)) / 255;
+    };
+    return qRgb(anteil(qRed(unten), oben.r), anteil(qGreen(unten), oben.g), anteil(qBlue(unten), oben.b));
+}
+
+/// The edge around the letters of a text that begins at `ort` on the base line.
+void hof_zeichnen(QPainter& maler, const QPointF& ort, const QString& text, Farbe farbe) {
+    QPainterPath buchstaben;
+    buchstaben.addText(ort, maler.font(), text);
+    const QPen stift(qfarbe(farbe), 2 * hofbreite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.strokePath(buchstaben, stift);
+    maler.setRenderHint(QPainter::Antialiasing, false);
+}
+
+/// The sector between two angles, counter-clockwise, about the origin with y downward.
+class Winkelraum {
+  public:
+    Winkelraum(double von, double bis)
+        : von_{std::cos(von), -std::sin(von)}, bis_{std::cos(bis), -std::sin(bis)} {
+        constexpr double voll = 2 * std::numbers::pi;
+        const double weite = bis - von;
+        weite_ = weite >= voll ? voll : weite - voll * std::floor(weite / voll);
+    }
+
+    /// True inside, and within half a pixel of the two radii.
+    [[nodiscard]] bool enthaelt(double x, double y) const {
+        if (weite_ >= 2 * std::numbers::pi || auf_radius(von_, x, y) || auf_radius(bis_, x, y)) return true;
+        const bool nach_von = kreuz(von_, x, y) >= 0;
+        const bool vor_bis = kreuz(bis_, x, y) <= 0;
+        return weite_ <= std::numbers::pi ? nach_von && vor_bis : nach_von || vor_bis;
+    }
+
+  private:
+    struct Richtung {
+        double x;
+        double y;
+    };
+
+    /// Distance of the point from the ray's line, positive on its counter-clockwise side.
+    [[nodiscard]] static double kreuz(Richtung r, double x, double y) { return r.y * x - r.x * y; }
+
+    [[nodiscard]] static bool auf_radius(Richtung r, double x, double y) {
+        return r.x * x + r.y * y >= 0 && std::abs(kreuz(r, x, y)) <= 0.5;
+    }
+
+    Richtung von_;
+    Richtung bis_;
+    double weite_ = 0;
+};
+
+}  // namespace
+
+QtFlaeche::QtFlaeche(QSize groesse, double verhaeltnis, Farbe hintergrund)
+    : groesse_(groesse),
+      verhaeltnis_(verhaeltnis),
+      hintergrund_(hintergrund),
+      bild_(kante(groesse.width()), kante(groesse.height()), QImage::Format_RGB32) {
+    bild_.setDevicePixelRatio(verhaeltnis);
+    schrift({});
+    Cls();
+}
+
+void QtFlaeche::hintergrundbild(const QImage& bild) {
+    hintergrundbild_ = bild;
+}
+
+const QImage& QtFlaeche::bild() {
+    striche_ablegen();
+    maler_.reset();
+    return bild_;
+}
+
+/// The device pixel at which a logical pixel begins.
+int QtFlaeche::kante(int logisch) const {
+    return static_cast<int>(std::lround(logisch * verhaeltnis_));
+}
+
+/// The device pixels of all logical pixels between two corners, both included, inside the image.
+QRect QtFlaeche::geraet(Punkt a, Punkt b) const {
+    const auto [links, rechts] = std::minmax(a.x, b.x);
+    const auto [oben, unten] = std::minmax(a.y, b.y);
+    const QPoint anfang(kante(links), kante(oben));
+    const QPoint ende(kante(rechts + 1) - 1, kante(unten + 1) - 1);
+    return QRect(anfang, ende) & bild_.rect();
+}
+
+void QtFlaeche::fuelle(Punkt a, Punkt b, Farbe farbe) {
+    striche_ablegen();
+    const QRect feld = geraet(a, b);
+    for (int y = feld.top(); y <= feld.bottom(); ++y) {
+        auto* zeile = reinterpret_cast<QRgb*>(bild_.scanLine(y));
+        std::fill_n(zeile + feld.left(), feld.width(), rgb(farbe));
+    }
+}
+
+/// Fills what `innen` accepts of the disc about the centre of pixel (cx, cy); it is given the offset of
+/// a device pixel's centre from there, in logical pixels.
+template <typename Innen>
+void QtFlaeche::fuelle_wo(double cx, double cy, double radius, Farbe farbe, Innen innen) {
+    striche_ablegen();
+    const Punkt mitte{pixel(cx), pixel(cy)};
+    const int r = pixel(std::ceil(radius));
+    const QRect feld = geraet({mitte.x - r, mitte.y - r}, {mitte.x + r, mitte.y + r});
+    const double aussen = (radius + 0.5) * (radius + 0.5);
+    for (int j = feld.top(); j <= feld.bottom(); ++j) {
+        auto* zeile = reinterpret_cast<QRgb*>(bild_.scanLine(j));
+        const double y = (j + 0.5) / verhaeltnis_ - mitte.y - 0.5;
+        for (int i = feld.left(); i <= feld.right(); ++i) {
+            const double x = (i + 0.5) / verhaeltnis_ - mitte.x - 0.5;
+            if (x * x + y * y <= aussen && innen(x, y)) zeile[i] = rgb(farbe);
+        }
+    }
+}
+
+void QtFlaeche::Cls() {
+    striche_.bereich = {};
+    std::fill(striche_.deckung.begin(), striche_.deckung.end(), std::uint8_t{0});
+    maler_.reset();
+    bild_.fill(rgb(hintergrund_));
+    if (!hintergrundbild_.isNull()) QPainter(&bild_).drawImage(QPointF(0, 0), hintergrundbild_);
+}
+
+void QtFlaeche::linie(double x1, double y1, double x2, double y2, Farbe farbe, int dicke) {
+    if (!zahlen(x1, y1, x2, y2)) return;
+    const Punkt a{pixel(x1), pixel(y1)};
+    const Punkt b{pixel(x2), pixel(y2)};
+    if (a.x == b.x || a.y == b.y) {
+        gerade(a, b, farbe, dicke);
+    } else {
+        schraege(a, b, farbe, dicke);
+    }
+}
+
+/// A horizontal or vertical line without its last pixel.
+void QtFlaeche::gerade(Punkt a, Punkt b, Farbe farbe, int dicke) {
+    if (a.x == b.x && a.y == b.y) return;
+    const int davor = (dicke - 1) / 2;
+    const int dahinter = dicke / 2;
+    const auto kuerzer = [](int anfang, int ende) { return ende > anfang ? ende - 1 : ende + 1; };
+    if (a.y == b.y) {
+        fuelle({a.x, a.y - davor}, {kuerzer(a.x, b.x), a.y + dahinter}, farbe);
+    } else {
+        fuelle({a.x - davor, a.y}, {a.x + dahinter, kuerzer(a.y, b.y)}, farbe);
+    }
+}
+
+/// A slanted line without its last pixel along its longer side. A thin one is one pixel thick across that
+/// side, so that neighbours at a distance of one pixel meet exactly.
+void QtFlaeche::schraege(Punkt a, Punkt b, Farbe farbe, int dicke) {
+    if (striche_.farbe != farbe) striche_ablegen();
+    striche_.farbe = farbe;
+    striche_.deckung.resize(static_cast<std::size_t>(bild_.width()) *
+                            static_cast<std::size_t>(bild_.height()));
+
+    const bool steil = std::abs(b.y - a.y) > std::abs(b.x - a.x);
+    const Punkt p = steil ? Punkt{a.y, a.x} : a;
+    const Punkt q = steil ? Punkt{b.y, b.x} : b;
+    const double steigung = static_cast<double>(q.y - p.y) / (q.x - p.x);
+    const double quer = (dicke == 1 ? 1.0 : dicke * std::hypot(1.0, steigung)) * verhaeltnis_;
+    const int von = q.x > p.x ? p.x : q.x + 1;
+    const int bis = q.x > p.x ? q.x : p.x + 1;
+    const int laenge = steil ? bild_.height() : bild_.width();
+    for (int u = std::max(0, kante(von)); u < std::min(laenge, kante(bis)); ++u) {
+        const double mitte = (p.y + 0.5) * verhaeltnis_ + steigung * (u + 0.5 - (p.x + 0.5) * verhaeltnis_);
+        const double unten = mitte - quer / 2;
+        const double oben = mitte + quer / 2;
+        for (double v = std::floor(unten); v < oben; ++v) {
+            const double anteil = std::min(v + 1, oben) - std::max(v, unten);
+            decke(steil ? static_cast<int>(v) : u, steil ? u : static_cast<int>(v), anteil);
+        }
+    }
+}
+
+/// Adds coverage to a device pixel of the pending lines.
+void QtFlaeche::decke(int x, int y, double anteil) {
+    if (!bild_.rect().contains(x, y)) return;
+    const auto stelle = static_cast<std::size_t>(y) * static_cast<std::size_t>(bild_.width());
+    std::uint8_t& deckung = striche_.deckung[stelle + static_cast<std::size_t>(x)];
+    deckung = static_cast<std::uint8_t>(std::min(255L, deckung + std::lround(anteil * 255)));
+    striche_.bereich |= QRect(x, y, 1, 1);
+}
+
+void QtFlaeche::striche_ablegen() const {
+    const QRect feld = striche_.bereich;
+    if (feld.isEmpty()) return;
+    for (int y = feld.top(); y <= feld.bottom(); ++y) {
+        auto* zeile = reinterpret_cast<QRgb*>(bild_.scanLine(y));
+        std::uint8_t* deckung =
+            striche_.deckung.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(bild_.width());
+        for (int x = feld.left(); x <= feld.right(); ++x) {
+            if (deckung[x] != 0) zeile[x] = gemischt(zeile[x], striche_.farbe, deckung[x]);
+            deckung[x] = 0;
+        }
+    }
+    striche_.bereich = {};
+}
+
+void QtFlaeche::kasten(double x1, double y1, double x2, double y2, Farbe farbe) {
+    if (!zahlen(x1, y1, x2, y2)) return;
+    const Punkt a{pixel(x1), pixel(y1)};
+    const Punkt b{pixel(x2), pixel(y2)};
+    fuelle(a, {b.x, a.y}, farbe);
+    fuelle({a.x, b.y}, b, farbe);
+    fuelle(a, {a.x, b.y}, farbe);
+    fuelle({b.x, a.y}, b, farbe);
+}
+
+void QtFlaeche::flaeche(double x1, double y1, double x2, double y2, Farbe farbe) {
+    if (zahlen(x1, y1, x2, y2)) fuelle({pixel(x1), pixel(y1)}, {pixel(x2), pixel(y2)}, farbe);
+}
+
+void QtFlaeche::kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) {
+    if (!zahlen(cx, cy, radius) || radius <= 0) return;
+    const double innen = (radius - 0.5) * (radius - 0.5);
+    const auto im_rand = [&](double x, double y) { return radius < 0.5 || x * x + y * y > innen; };
+    if (fuellung) fuelle_wo(cx, cy, radius, *fuellung, [](double, double) { return true; });
+    fuelle_wo(cx, cy, radius, rand, im_rand);
+}
+
+void QtFlaeche::sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) {
+    if (!zahlen(cx, cy, radius, von, bis) || radius <= 0) return;
+    const Winkelraum raum(von, bis);
+    fuelle_wo(cx, cy, radius, farbe, [&](double x, double y) { return raum.enthaelt(x, y); });
+}
+
+void QtFlaeche::punkt(double x, double y, Farbe farbe) {
+    flaeche(x, y, x, y, farbe);
+}
+
+void QtFlaeche::text(double x, double y, std::string_view text, Farbe farbe) {
+    if (!zahlen(x, y)) return;
+    striche_ablegen();
+    if (!maler_) {
+        maler_.emplace(&bild_);
+        schrift_des_malers_ = nullptr;
+    }
+    if (schrift_des_malers_ != schriftbild_) {
+        schrift_des_malers_ = schriftbild_;
+        maler_->setFont(schriftbild_->font);
+    }
+    const QPointF ort(pixel(x), pixel(y) + schriftbild_->masse.ascent());
+    if (schrift_ && schrift_->hof) hof_zeichnen(*maler_, ort, qtext(text), *schrift_->hof);
+    maler_->setPen(qfarbe(farbe));
+    maler_->drawText(ort, qtext(text));
+}
+
+double QtFlaeche::textbreite(std::string_view text) const {
+    return schriftbild_->breite(text);
+}
+
+double QtFlaeche::texthoehe(std::string_view) const {
+    return schriftbild_->masse.height();
+}
+
+void QtFlaeche::schrift(const Schrift& schrift) {
+    if (schrift_ == schrift) return;
+    schrift_ = schrift;
+    schriftbild_ = &schriftbild(schrift);
+}
+
+Farbe QtFlaeche::lies_punkt(double x, double y) const {
+    if (!zahlen(x, y)) return hintergrund_;
+    striche_ablegen();
+    const Punkt p{pixel(x), pixel(y)};
+    const bool darin = p.x >= 0 && p.y >= 0 && p.x < groesse_.width() && p.y < groesse_.height();
+    return darin ? farbe_von(bild_.pixel(kante(p.x), kante(p.y))) : hintergrund_;
+}
+
+}  // namespace velmaris

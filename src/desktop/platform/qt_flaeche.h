@@ -1,0 +1,86 @@
+#pragma once
+
+#include "desktop/platform/qt_schrift.h"
+#include "toolkit/zeichenflaeche.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QRect>
+#include <QSize>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace velmaris {
+
+/// The chart surface over an image of the screen's resolution. Its pixels are logical ones: at a device pixel
+/// ratio of 2 each is a square of four, and round and slanted shapes use the finer grid. Shapes are solid,
+/// with no half-tones at their edges, but for slanted lines: these are smooth, and parallel ones of one
+/// colour that lie beside each other close to a solid area. A coordinate that is not a number draws nothing.
+class QtFlaeche final : public Zeichenflaeche {
+  public:
+    /// `groesse` in logical pixels; `verhaeltnis` is the device pixel ratio. The surface starts cleared.
+    QtFlaeche(QSize groesse, double verhaeltnis, Farbe hintergrund);
+
+    /// An image at the top left, one image pixel to a logical one, that `Cls` shows on the background colour.
+    void hintergrundbild(const QImage& bild);
+
+    /// All that has been drawn, with the device pixel ratio set.
+    [[nodiscard]] const QImage& bild();
+
+    [[nodiscard]] double breite() const override { return groesse_.width(); }
+    [[nodiscard]] double hoehe() const override { return groesse_.height(); }
+    [[nodiscard]] Farbe hintergrund() const override { return hintergrund_; }
+    void Cls() override;
+    void linie(double x1, double y1, double x2, double y2, Farbe farbe, int dicke = 1) override;
+    void kasten(double x1, double y1, double x2, double y2, Farbe farbe) override;
+    void flaeche(double x1, double y1, double x2, double y2, Farbe farbe) override;
+
+    /// A circle that reaches `radius` pixels beyond its centre pixel; nothing if the radius is not positive.
+    void kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) override;
+    void sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) override;
+    void punkt(double x, double y, Farbe farbe) override;
+    void text(double x, double y, std::string_view text, Farbe farbe = farben::schwarz) override;
+    [[nodiscard]] double textbreite(std::string_view text) const override;
+    [[nodiscard]] double texthoehe(std::string_view text) const override;
+    void schrift(const Schrift& schrift) override;
+    [[nodiscard]] Farbe lies_punkt(double x, double y) const override;
+
+  private:
+    /// A logical pixel.
+    struct Punkt {
+        int x;
+        int y;
+    };
+
+    /// Slanted lines of one colour that are not in the image yet, as coverage per device pixel.
+    struct Strichlage {
+        Farbe farbe;
+        QRect bereich;  ///< device pixels touched, empty for none
+        std::vector<std::uint8_t> deckung;
+    };
+
+    [[nodiscard]] int kante(int logisch) const;
+    [[nodiscard]] QRect geraet(Punkt a, Punkt b) const;
+    void fuelle(Punkt a, Punkt b, Farbe farbe);
+    template <typename Innen>
+    void fuelle_wo(double cx, double cy, double radius, Farbe farbe, Innen innen);
+    void gerade(Punkt a, Punkt b, Farbe farbe, int dicke);
+    void schraege(Punkt a, Punkt b, Farbe farbe, int dicke);
+    void decke(int x, int y, double anteil);
+    void striche_ablegen() const;
+
+    QSize groesse_;
+    double verhaeltnis_;
+    Farbe hintergrund_;
+    QImage hintergrundbild_;
+    // Pending lines belong to what is seen, so reading a pixel settles them.
+    mutable QImage bild_;
+    mutable Strichlage striche_;
+    std::optional<QPainter> maler_;
+    std::optional<Schrift> schrift_;
+    const Schriftbild* schriftbild_ = nullptr;
+    const Schriftbild* schrift_des_malers_ = nullptr;
+};
+
+}  // namespace velmaris

@@ -1,0 +1,296 @@
+#include "desktop/platform/qt_plattform.h"
+
+#include "desktop/platform/dateifilter.h"
+#include "desktop/platform/dateisymbole.h"
+#include "desktop/platform/meldungstext.h"
+#include "desktop/platform/qt_text.h"
+#include "toolkit/text.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCursor>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTreeView>
+#include <algorithm>
+#include <array>
+
+namespace velmaris {
+namespace {
+
+/// A button of a message box: what it stands for, and its caption.
+struct Knopfzeile {
+    Antwort antwort;
+    QMessageBox::StandardButton knopf;
+    const char* de;
+    const char* en;
+};
+
+constexpr std::array knopftafel{
+    Knopfzeile{Antwort::ok, QMessageBox::Ok, "OK", "OK"},
+    Knopfzeile{Antwort::ja, QMessageBox::Yes, "&Ja", "&Yes"},
+    Knopfzeile{Antwort::nein, QMessageBox::No, "&Nein", "&No"},
+    Knopfzeile{Antwort::abbrechen, QMessageBox::Cancel, "Abbrechen", "Cancel"},
+};
+
+/// The answers that a set of buttons has, in their order; the last one stands for closing the box.
+std::vector<Antwort> antworten(Knoepfe knoepfe) {
+    switch (knoepfe) {
+        case Knoepfe::ja_nein:
+            return {Antwort::ja, Antwort::nein};
+        case Knoepfe::ja_nein_abbrechen:
+            return {Antwort::ja, Antwort::nein, Antwort::abbrechen};
+        case Knoepfe::ok:
+            break;
+    }
+    return {Antwort::ok};
+}
+
+const Knopfzeile& knopfzeile(Antwort antwort) {
+    return knopftafel.at(static_cast<std::size_t>(antwort));
+}
+
+QMessageBox::Icon symbolbild(Symbol symbol) {
+    switch (symbol) {
+        case Symbol::information:
+            return QMessageBox::Information;
+        case Symbol::ausrufezeichen:
+            return QMessageBox::Warning;
+        case Symbol::kein:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// The normal cursor as long as it lives.
+class Zeigerpause {
+  public:
+    explicit Zeigerpause(bool sanduhr) : sanduhr_(sanduhr) {
+        if (sanduhr_) QApplication::restoreOverrideCursor();
+    }
+    Zeigerpause(const Zeigerpause&) = delete;
+    Zeigerpause& operator=(const Zeigerpause&) = delete;
+    ~Zeigerpause() {
+        if (sanduhr_) QApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+
+  private:
+    bool sanduhr_;
+};
+
+/// The columns beside the name show their texts whole.
+void spalten_weiten(const QFileDialog& fenster) {
+    const auto* tafel = fenster.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (tafel == nullptr) return;
+    tafel->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    tafel->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+/// Puts a name into the field of a file dialog. An existing file would be selected in the list as well, and
+/// that counts for more than a path pasted over the name.
+void vorschlagen(QFileDialog& fenster, const std::string& name) {
+    fenster.selectFile(qtext(name));
+    if (auto* liste = fenster.findChild<QAbstractItemView*>(QStringLiteral("listView")))
+        liste->clearSelection();
+}
+
+}  // namespace
+
+QtPlattform::QtPlattform(const Fehlerwache& wache, std::function<std::string()> sprache)
+    : wache_(wache), sprache_(std::move(sprache)), zufall_(QRandomGenerator::securelySeeded()) {}
+
+void QtPlattform::hauptfenster(QWidget* fenster) {
+    hauptfenster_ = fenster;
+    if (fenster != nullptr && !titel_.isEmpty()) fenster->setWindowTitle(titel_);
+}
+
+QWidget* QtPlattform::besitzer() const {
+    QWidget* offen = QApplication::activeModalWidget();
+    return offen != nullptr ? offen : hauptfenster_.data();
+}
+
+QString QtPlattform::wort(const char* de, const char* en) const {
+    return qtext(sprache_() == "e" ? en : de);
+}
+
+Antwort QtPlattform::melde(const Meldung& meldung) {
+    const Zeigerpause pause(sanduhr_);
+    QMessageBox fenster(symbolbild(meldung.symbol), zeilentext(meldung.titel), zeilentext(meldung.text),
+                        QMessageBox::NoButton, besitzer());
+    if (!meldung.hinweis.empty()) fenster.setInformativeText(zeilentext(meldung.hinweis));
+    meldungstexte_einrichten(fenster);
+    const std::vector<Antwort> moeglich = antworten(meldung.knoepfe);
+    for (const Antwort antwort : moeglich) {
+        const Knopfzeile& zeile = knopfzeile(antwort);
+        fenster.addButton(zeile.knopf)->setText(wort(zeile.de, zeile.en));
+    }
+    fenster.setEscapeButton(knopfzeile(moeglich.back()).knopf);
+    fenster.setDefaultButton(knopfzeile(meldung.vorgabe.value_or(moeglich.front())).knopf);
+    const int gedrueckt = fenster.exec();
+    const auto* zeile = std::find_if(knopftafel.begin(), knopftafel.end(),
+                                     [gedrueckt](const Knopfzeile& z) { return z.knopf == gedrueckt; });
+    return zeile == knopftafel.end() ? moeglich.back() : zeile->antwort;
+}
+
+std::optional<std::string> QtPlattform::eingabe(const std::string& text, const std::string& titel,
+                                                const std::string& vorgabe) {
+    const Zeigerpause pause(sanduhr_);
+    QInputDialog fenster(besitzer());
+    fenster.setWindowTitle(zeilentext(titel));
+    // The label is bound to its field, and so would take an ampersand for the mark of an access key.
+    fenster.setLabelText(zeilentext(text).replace(u'&', QLatin1String("&&")));
+    fenster.setTextValue(qtext(vorgabe));
+    fenster.setOkButtonText(QStringLiteral("OK"));
+    fenster.setCancelButtonText(wort("Abbrechen", "Cancel"));
+    if (auto* schild = fenster.findChild<QLabel*>()) {
+        schild->setTextFormat(Qt::PlainText);
+        schild->setWordWrap(true);
+    }
+    if (auto* zeile = fenster.findChild<QLineEdit*>()) zeile->setMinimumWidth(400);
+    if (fenster.exec() != QDialog::Accepted) return std::nullopt;
+    return utf8(fenster.textValue());
+}
+
+std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog& dialog) {
+    const Zeigerpause pause(sanduhr_);
+    Dateidialog naechster = dialog;
+    while (true) {
+        std::optional<std::filesystem::path> datei = datei_waehlen(naechster);
+        if (datei && !datei->has_extension()) *datei += dialog.endung;
+        if (!datei || !dialog.ueberschreiben_fragen || ersetzen_erlaubt(*datei)) return datei;
+        naechster.ordner = datei->parent_path();
+        naechster.dateiname = pfadtext(datei->filename());
+    }
+}
+
+std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialog& dialog) {
+    Dateisymbole symbole;
+    QFileDialog fenster(besitzer());
+    fenster.setIconProvider(&symbole);
+    // A name that does not exist is the caller's to judge, and so is one that does.
+    fenster.setFileMode(QFileDialog::AnyFile);
+    fenster.setAcceptMode(dialog.art == Dateidialog::Art::oeffnen ? QFileDialog::AcceptOpen
+                                                                  : QFileDialog::AcceptSave);
+    fenster.setOptions(QFileDialog::DontConfirmOverwrite | QFileDialog::HideNameFilterDetails);
+    beschriften(fenster, dialog.art);
+    const QStringList filter = dateifilter(dialog.filter);
+    fenster.setNameFilters(filter);
+    if (dialog.filterindex >= 1 && dialog.filterindex <= filter.size())
+        fenster.selectNameFilter(filter[dialog.filterindex - 1]);
+    const QFileInfo ordner(dialog.ordner);
+    fenster.setDirectory(ordner.isDir() ? ordner.absoluteFilePath() : QDir::homePath());
+    if (!dialog.dateiname.empty()) vorschlagen(fenster, dialog.dateiname);
+    spalten_weiten(fenster);
+    if (fenster.exec() != QDialog::Accepted || fenster.selectedFiles().isEmpty()) return std::nullopt;
+    return QFileInfo(fenster.selectedFiles().constFirst()).filesystemFilePath();
+}
+
+void QtPlattform::beschriften(QFileDialog& fenster, Dateidialog::Art art) const {
+    // A dialog of the desktop has no widgets of ours, and shows the mark of an access key as it stands.
+    const bool eigener = fenster.findChild<QLineEdit*>() != nullptr;
+    const auto beschrifte = [&](QFileDialog::DialogLabel stelle, const char* de, const char* en) {
+        QString text = wort(de, en);
+        if (!eigener) text.remove(u'&');
+        fenster.setLabelText(stelle, text);
+    };
+    const bool oeffnen = art == Dateidialog::Art::oeffnen;
+    fenster.setWindowTitle(oeffnen ? wort("Öffnen", "Open") : wort("Speichern unter", "Save as"));
+    beschrifte(QFileDialog::Accept, oeffnen ? "Ö&ffnen" : "&Speichern", oeffnen ? "&Open" : "&Save");
+    beschrifte(QFileDialog::Reject, "Abbrechen", "Cancel");
+    beschrifte(QFileDialog::LookIn, "Suchen in:", "Look in:");
+    beschrifte(QFileDialog::FileName, "Datei&name:", "File &name:");
+    beschrifte(QFileDialog::FileType, "Dateityp:", "Files of type:");
+}
+
+bool QtPlattform::ersetzen_erlaubt(const std::filesystem::path& datei) {
+    std::error_code fehler;
+    if (!std::filesystem::exists(datei, fehler)) return true;
+    const Zweisprachig frage{"Diese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?",
+                             "This file already exists.\n\n      Overwrite it?"};
+    return melde({.text = pfadtext(datei) + "\n" + frage.in(sprache_()),
+                  .titel = "Velmaris",
+                  .symbol = Symbol::ausrufezeichen,
+                  .knoepfe = Knoepfe::ja_nein,
+                  .vorgabe = Antwort::nein}) == Antwort::ja;
+}
+
+void QtPlattform::sanduhr(bool an) {
+    if (an == sanduhr_) return;
+    sanduhr_ = an;
+    if (an) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+void QtPlattform::fenstertitel(const std::string& titel) {
+    titel_ = qtext(titel);
+    if (hauptfenster_) hauptfenster_->setWindowTitle(titel_);
+}
+
+Bildschirmpunkt QtPlattform::zeiger() const {
+    const QPoint ort = QCursor::pos();
+    return {ort.x(), ort.y()};
+}
+
+void QtPlattform::zeitgeber_starten(const std::string& name, int millisekunden,
+                                    std::function<void()> ablauf) {
+    const auto [ort, neu] = zeitgeber_.try_emplace(name);
+    Zeitgeber& zeitgeber = ort->second;
+    if (neu) {
+        zeitgeber.uhr.setSingleShot(true);
+        QObject::connect(&zeitgeber.uhr, &QTimer::timeout, [this, &zeitgeber] {
+            // The routine may start its own timer anew.
+            const std::function<void()> faellig = std::move(zeitgeber.ablauf);
+            wache_.fuehre_aus(faellig);
+        });
+    }
+    zeitgeber.ablauf = std::move(ablauf);
+    zeitgeber.uhr.start(millisekunden);
+}
+
+void QtPlattform::zeitgeber_stoppen(const std::string& name) {
+    if (const auto ort = zeitgeber_.find(name); ort != zeitgeber_.end()) ort->second.uhr.stop();
+}
+
+void QtPlattform::hilfe(const std::filesystem::path& datei, const std::string& seite) {
+    if (hilfe_zeigen) hilfe_zeigen(datei, seite);
+}
+
+std::vector<std::string> QtPlattform::druckerliste() const {
+    std::vector<std::string> namen;
+    for (const QString& name : QPrinterInfo::availablePrinterNames())
+        namen.push_back(utf8(name));
+    return namen;
+}
+
+std::string QtPlattform::aktueller_drucker() const {
+    return drucker_ ? *drucker_ : utf8(QPrinterInfo::defaultPrinterName());
+}
+
+void QtPlattform::drucker_waehlen(const std::string& name) {
+    drucker_ = name;
+}
+
+std::filesystem::path QtPlattform::benutzerordner() {
+    return QFileInfo(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filesystemFilePath();
+}
+
+void QtPlattform::beenden() {
+    // Queued, so that it also holds before the event loop runs; exit() asks no window whether it may close.
+    QMetaObject::invokeMethod(
+        qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+}
+
+}  // namespace velmaris

@@ -1,0 +1,109 @@
+#include "desktop/platform/qt_text.h"
+#include "desktop/platform/stil.h"
+#include "desktop/views/ansichten.h"
+#include "desktop/widgets/nebenfenster.h"
+#include "desktop/widgets/rtf_anzeige.h"
+#include "language/beschriftungen.h"
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextEdit>
+
+namespace velmaris {
+namespace {
+
+constexpr double punkte_je_zoll = 72;
+
+/// Width of a page between its margins, points: A4 with one inch on both sides.
+constexpr double seitenbreite = 451;
+constexpr int seitenrand = 20;
+
+/// The text of the report: a new one is shown from its top, while the same text keeps its place.
+QWidget* reportfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fenster) {
+    auto* feld = new QTextEdit(fenster);
+    const double pixel_je_punkt = feld->logicalDpiX() / punkte_je_zoll;
+    feld->setAccessibleName(fenster->windowTitle());
+    feld->setReadOnly(true);
+    feld->setUndoRedoEnabled(false);
+    feld->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    feld->setLineWrapMode(QTextEdit::FixedPixelWidth);
+    feld->setLineWrapColumnOrWidth(static_cast<int>(seitenbreite * pixel_je_punkt) + 2 * seitenrand);
+    feld->document()->setDocumentMargin(seitenrand);
+    mittel.binder.binde(static_cast<QWidget&>(*feld), anzeige);
+    anzeige.ansicht = [feld, &anzeige, pixel_je_punkt, gezeigt = std::string()]() mutable {
+        if (gezeigt != anzeige.text()) {
+            gezeigt = anzeige.text();
+            setze_absaetze(*feld->document(), rtf_lesen(gezeigt), pixel_je_punkt);
+            feld->moveCursor(QTextCursor::Start);
+            feld->horizontalScrollBar()->setValue(0);
+            feld->verticalScrollBar()->setValue(0);
+        }
+        grundzustand(*feld, anzeige);
+    };
+    anzeige.ansicht();
+    return feld;
+}
+
+QWidget* temperaturfeld(Anzeige& anzeige, const Ebenenbau& bau, const QWidget& fenster) {
+    QPlainTextEdit* feld = bau.textansicht(anzeige, mass::schrift, utf8(fenster.windowTitle()));
+    feld->document()->setDocumentMargin(seitenrand);
+    return feld;
+}
+
+/// What went wrong at the last save: a path of any length wraps in it and can be copied.
+void hinweisfeld(Anzeige& anzeige, const Ebenenbau& bau, const QWidget& fenster) {
+    QPlainTextEdit* feld = bau.textansicht(anzeige, mass::schrift, utf8(fenster.windowTitle()));
+    feld->setFont(fenster.font());
+    feld->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    feld->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+/// The number of the page shown, over the button of the page.
+void marke(Anzeige& anzeige, const Ebenenbau& bau) {
+    constexpr QSize groesse(24, 25);
+    QLabel* schild = bau.anzeige(anzeige);
+    schild->setAttribute(Qt::WA_TransparentForMouseEvents);
+    schild->setAutoFillBackground(true);
+    schild->setAlignment(Qt::AlignCenter);
+    schild->setFixedSize(groesse);
+    QPalette farben = schild->palette();
+    farben.setColor(QPalette::Window, farben.color(QPalette::Highlight));
+    farben.setColor(QPalette::WindowText, farben.color(QPalette::HighlightedText));
+    schild->setPalette(farben);
+}
+
+}  // namespace
+
+QWidget* report_ansicht(A_Report& a, const Ansichtsmittel& mittel, QWidget* eltern) {
+    constexpr QSize bevorzugt(724, 760);
+    constexpr int bildschirmrest = 80;  ///< for the frame of the window and the desktop's bars
+    auto* fenster = new Nebenfenster(
+        mittel.wache, [&a] { a.Command_Schliessen.druecke(); }, eltern);
+    fenster->setWindowModality(Qt::ApplicationModal);
+    fenster->setWindowTitle(qtext(beschriftung("A_Report", fenstertitel, mittel.sprache)));
+    fenster->setMinimumSize(static_cast<int>(A_Report::mindestbreite()), 300);
+    fenster->resize(bevorzugt.boundedTo(fenster->screen()->availableSize() - QSize(0, bildschirmrest)));
+    fenster->anordnen = [&a](QSize innen) { a.anordnen(innen.width(), innen.height()); };
+    const Ebenenbau bau(*fenster, "A_Report", mittel);
+    QWidget* report = reportfeld(a.Report1, mittel, fenster);
+    QWidget* temperaturen = temperaturfeld(a.Temperaturverlauf1, bau, *fenster);
+    hinweisfeld(a.Hinweis, bau, *fenster);
+    for (int i = 1; i <= A_Report::knoepfe; ++i)
+        bau.knopf(a.Seite(i));
+    bau.knopf(a.Command_Speichern);
+    bau.knopf(a.Command_Schliessen);
+    marke(a.AktSeite, bau);
+    mittel.binder.binde(static_cast<QWidget&>(*fenster), a.fenster);
+    a.fenster.ansicht = [&a, fenster, report, temperaturen] {
+        const bool kommt = fenster->isHidden();
+        grundzustand(*fenster, a.fenster);
+        // The keys scroll the text that is shown.
+        if (kommt) (a.Report1.sichtbar() ? report : temperaturen)->setFocus();
+    };
+    return fenster;
+}
+
+}  // namespace velmaris

@@ -1,0 +1,128 @@
+#include "desktop/widgets/bildflaeche.h"
+
+#include "desktop/platform/qt_text.h"
+#include "desktop/platform/stil.h"
+#include "desktop/widgets/binde.h"
+#include "desktop/widgets/taste.h"
+#include "toolkit/text.h"
+
+#include <QCursor>
+#include <QFileInfo>
+#include <QMouseEvent>
+#include <QPainter>
+#include <cmath>
+
+namespace velmaris {
+
+Bildflaeche::Bildflaeche(Bildfeld& feld, const Fehlerwache& wache, QWidget* eltern, Farbe hintergrund)
+    : QWidget(eltern), feld_(feld), wache_(wache), hintergrund_(hintergrund) {
+    setObjectName(qtext(feld.name));
+    setAccessibleName(qtext(feld.name));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    if (feld.gedrueckt) setFocusPolicy(Qt::StrongFocus);
+    feld.ansicht = [this] { feld_zeigen(); };
+    feld.lies_punkt = [this](double x, double y) { return flaeche().lies_punkt(x, y); };
+    feld_zeigen();
+}
+
+Bildflaeche::~Bildflaeche() {
+    feld_.ansicht = nullptr;
+    feld_.lies_punkt = nullptr;
+}
+
+QtFlaeche& Bildflaeche::flaeche() {
+    const QSizeF pixel = QSizeF(size()) * devicePixelRatioF();
+    if (!flaeche_ || flaeche_->bild().size() != pixel.toSize()) {
+        flaeche_.emplace(size(), devicePixelRatioF(), hintergrund_);
+        veraltet_ = true;
+    }
+    if (geladen_ != feld_.bild()) bild_laden();
+    if (veraltet_) {
+        veraltet_ = false;
+        flaeche_->hintergrundbild(bild_);
+        flaeche_->Cls();
+        wache_.fuehre_aus([this] {
+            if (feld_.zeichnen) feld_.zeichnen(*flaeche_);
+        });
+    }
+    return *flaeche_;
+}
+
+/// Brings the record's state to the widget; drawing waits for the next paint event.
+void Bildflaeche::feld_zeigen() {
+    veraltet_ = true;
+    grundzustand(*this, feld_);
+    update();
+}
+
+void Bildflaeche::bild_laden() {
+    geladen_ = feld_.bild();
+    bild_ = geladen_.empty() ? QImage() : QImage(QFileInfo(geladen_).filePath());
+    if (!geladen_.empty() && bild_.isNull()) {
+        // A message box must not come up in the middle of a paint event.
+        QMetaObject::invokeMethod(
+            this, [this] { melde_bildfehler(); }, Qt::QueuedConnection);
+    }
+}
+
+void Bildflaeche::melde_bildfehler() {
+    wache_.fuehre_aus([this] {
+        throw Dateifehler(pfadtext(geladen_), {"Das Bild fehlt oder ist nicht lesbar.",
+                                               "The picture is missing or cannot be read."});
+    });
+}
+
+void Bildflaeche::paintEvent(QPaintEvent*) {
+    constexpr qreal fokusrahmen = 2;
+    QPainter maler(this);
+    maler.drawImage(QPointF(0, 0), flaeche().bild());
+    if (!hasFocus()) return;
+    maler.setPen(
+        QPen(QColor(stilfarben::betonung), fokusrahmen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    maler.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+}
+
+void Bildflaeche::keyPressEvent(QKeyEvent* ereignis) {
+    if (!feld_.gedrueckt || !ist_drucktaste(*ereignis)) return QWidget::keyPressEvent(ereignis);
+    wache_.fuehre_aus(feld_.gedrueckt);
+}
+
+void Bildflaeche::mouseMoveEvent(QMouseEvent* ereignis) {
+    const QPointF ort = ereignis->position();
+    wache_.fuehre_aus([&] {
+        if (feld_.maus_bewegt) feld_.maus_bewegt(std::floor(ort.x()), std::floor(ort.y()));
+    });
+}
+
+/// Takes the press, so that the release comes to this widget.
+void Bildflaeche::mousePressEvent(QMouseEvent* ereignis) {
+    ereignis->setAccepted(static_cast<bool>(feld_.maus_geklickt));
+}
+
+void Bildflaeche::mouseReleaseEvent(QMouseEvent* ereignis) {
+    const QPointF ort = ereignis->position();
+    if (ereignis->button() != Qt::LeftButton || !rect().contains(ort.toPoint())) return;
+    wache_.fuehre_aus([&] {
+        if (feld_.maus_geklickt) feld_.maus_geklickt(std::floor(ort.x()), std::floor(ort.y()));
+    });
+}
+
+void Bildflaeche::enterEvent(QEnterEvent*) {
+    setCursor(feld_.maus_geklickt ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+/// A pointer that has left the surface is told as a move to a place outside of it. A panel that lies over
+/// the surface under the pointer, as the charts' tooltips do, is no leaving; its own leaving is its affair.
+/// The place of the pointer alone proves nothing: it may be the last one that the window was told.
+void Bildflaeche::leaveEvent(QEvent*) {
+    const QPoint zeiger = QCursor::pos();
+    const QWidget* dort = window()->childAt(window()->mapFromGlobal(zeiger));
+    const bool verdeckt = isVisible() && dort != nullptr && dort != this;
+    if (verdeckt && rect().contains(mapFromGlobal(zeiger))) return;
+    wache_.fuehre_aus([this] {
+        if (feld_.maus_bewegt) feld_.maus_bewegt(-1, -1);
+    });
+}
+
+}  // namespace velmaris

@@ -1,0 +1,184 @@
+#include "energy/planes/E_Energie.h"
+
+#include "charts/energiediagramm.h"
+#include "charts/traegerbild.h"
+#include "energy/energiebilanz.h"
+#include "language/beschriftungen.h"
+#include "toolkit/zahlen.h"
+
+#include <array>
+#include <vector>
+
+namespace velmaris {
+namespace {
+
+constexpr Tooltipart tooltipart{.platz = platz_neben_dem_zeiger, .hoehe = 72, .verbirgt_bei_druck = true};
+
+}  // namespace
+
+E_Energie::E_Energie(Sitzung& sitzung)
+    : tooltip(sitzung.plattform, ebene.name, tooltipart), sitzung_(sitzung) {
+    ebene.zeige(false);
+    for (Anzeige* verdeckt : {&anz_q_ce, &anz_q_d, &anz_q_s, &anz_q_d_he, &anz_q_s_he, &anz_q_g_he})
+        verdeckt->zeige(false);
+
+    Command1.gedrueckt = [this] { auswahl_oeffnen(Label_System); };
+    Command2.gedrueckt = [this] { auswahl_oeffnen(Label_Übergabe); };
+    Command3.gedrueckt = [this] { auswahl_oeffnen(Label_Energieträger); };
+
+    Picture2.zeichnen = [this](Zeichenflaeche& bild) { Energietraeger_zeichnen(bild, sitzung_.p); };
+    Picture3.zeichnen = [this](Zeichenflaeche& bild) { Hilfsstrom_zeichnen(bild, sitzung_.p); };
+    Monatsübersicht_Energieträger.zeichnen = [this](Zeichenflaeche& bild) {
+        Monatsverbrauch_zeichnen(bild, sitzung_.p);
+    };
+    tooltip.folge(Monatsübersicht_Energieträger, [this](double x, double y) -> std::optional<std::string> {
+        if (!auf_saeule(monatswerte(sitzung_.p), x, y)) return std::nullopt;
+        return tooltip_text(monat_bei(x));
+    });
+    laden();
+}
+
+void E_Energie::laden() {
+    Heizsysteme = katalog_laden(sitzung_.p.Sprache);
+    velmaris::beschriften<Anzeige>(
+        "E_Energie", sitzung_.p.Sprache,
+        {&Label1, &Label2, &Label3, &Label6, &Label11, &Label14, &Label16, &Label30, &Label33, &Label34,
+         &Frame1, &Frame8, &Monatsverbrauch, &Einheit_qhs_sum, &Einheit_q_verlust,
+         &Einheit_q_HE_Energieträger, &Einheit_q_HE_Strom, &Einheit_q_PE_Energieträger});
+}
+
+void E_Energie::aktiviert() {
+    tooltip.verlassen();
+    sitzung_.alles_berechnen();
+    // A load that failed leaves a record of which nothing may be calculated.
+    if (sitzung_.p.FormLoadGuard == 0) EnergRefresh();
+}
+
+void E_Energie::EnergRefresh() {
+    rechnen();
+    zeigen();
+}
+
+void E_Energie::rechnen() {
+    kennwerte_ = energ_refresh(sitzung_.p);
+}
+
+void E_Energie::zeigen() {
+    auswahl_zeigen();
+    felder_fuellen(kennwerte_);
+    beschriften(kennwerte_.name);
+    if (ebene.sichtbar()) bilder_erneuern();
+}
+
+/// The record's choice behind one of the three fields.
+std::int16_t& E_Energie::stelle(std::string_view feld) const {
+    Projekt& p = sitzung_.p;
+    if (feld == Label_System.name) return p.Heizsystem;
+    return feld == Label_Übergabe.name ? p.Uebergabe : p.Energietraeger;
+}
+
+/// What the list of a field offers as entry i: a text of the row of the record, empty for what is not there.
+const std::string& E_Energie::eintrag(std::string_view feld, int i) const {
+    static const std::string nichts;
+    const bool systeme = feld == Label_System.name;
+    const int zeile = systeme ? i : sitzung_.p.Heizsystem;
+    if (i < 1 || zeile < 1 || zeile > heizsysteme) return nichts;
+    if (systeme) return Heizsysteme(zeile).Bezeichnung;
+    if (feld == Label_Übergabe.name) return i <= uebergaben ? Heizsysteme(zeile).Uebergabe(i) : nichts;
+    return i <= energietraeger_je_zeile ? Heizsysteme(zeile).Energietraeger(i) : nichts;
+}
+
+void E_Energie::eingaben_anzeigen() {
+    Projekt& p = sitzung_.p;
+    Auswahl.schliesse();
+    kombination_pruefen(p.Heizsystem, p.Uebergabe, p.Energietraeger);
+    if (ohne_uebergabe(p.Heizsystem)) p.Uebergabe = 1;
+    auswahl_zeigen();
+}
+
+void E_Energie::auswahl_oeffnen(const Anzeige& feld) {
+    std::vector<std::string> texte;
+    for (int i = 1; i <= Auswahlrahmen::eintraege; ++i)
+        texte.push_back(eintrag(feld.name, i));
+    Auswahl.oeffne(feld, texte, stelle(feld.name));
+}
+
+/// A choice that has changed closes the list, which may not fit it any more.
+void E_Energie::auswahl_zeigen() {
+    for (Anzeige* feld : {&Label_System, &Label_Übergabe, &Label_Energieträger}) {
+        const std::string& text = eintrag(feld->name, stelle(feld->name));
+        if (feld->text() != text) Auswahl.schliesse();
+        feld->schreibe(text);
+    }
+}
+
+void E_Energie::felder_fuellen(const Kennwerte& k) {
+    const Projekt& p = sitzung_.p;
+    const double primaer = double{p.q_PE_Energietraeger} + (k.name.elektrisch() ? p.q_PE_Strom : 0.0F);
+    anz_qhs_sum.schreibe(muster(p.qhs_sum, 1));
+    anz_q_verlust.schreibe(muster(double{k.q_s} + k.q_ce + k.q_d, 1));
+    anz_e_g.schreibe(muster(k.e_g, 2));
+    anz_q_HE_Energieträger.schreibe(muster(p.q_HE_Energietraeger, 1));
+    anz_q_HE_Strom.schreibe(muster(p.q_HE_Strom, 1));
+    anz_q_PE_Energieträger.schreibe(muster(primaer, 1));
+    anz_q_PE_Strom.schreibe(muster(p.q_PE_Strom, 1));
+    anz_Primärenergiefaktor_Energieträger.schreibe(muster(k.f_p, 1));
+    anz_Primärenergiefaktor_Strom.schreibe(muster(f_p_Strom, 1));
+    anz_q_ce.schreibe(muster(k.q_ce, 1));
+    anz_q_d.schreibe(muster(k.q_d, 1));
+    anz_q_s.schreibe(muster(k.q_s, 1));
+    anz_q_d_he.schreibe(muster(k.q_d_he, 1));
+    anz_q_s_he.schreibe(muster(k.q_s_he, 1));
+    anz_q_g_he.schreibe(muster(k.q_g_he, 1));
+}
+
+void E_Energie::beschriften(const Kurzname& name) {
+    const bool englisch = sitzung_.p.Sprache == "e";
+    const std::string traeger(name.in(sitzung_.p.Sprache));
+    Label8.schreibe((englisch ? "heating energy demand (" : "Heizenergiebedarf (") + traeger + "):");
+    Label21.schreibe((englisch ? "primary energy demand (" : "Primärenergiebedarf (") + traeger + "):");
+    Label27.schreibe(traeger + ":");
+    for (Anzeige* nur_hilfsstrom :
+         {&Label14, &Label6, &anz_q_PE_Strom, &Label34, &anz_Primärenergiefaktor_Strom})
+        nur_hilfsstrom->zeige(!name.elektrisch());
+}
+
+void E_Energie::bilder_erneuern() const {
+    Picture2.neu_zeichnen();
+    Picture3.neu_zeichnen();
+    Monatsübersicht_Energieträger.neu_zeichnen();
+}
+
+void E_Energie::Label_Auswahl_Click(int i) {
+    const std::string feld = Auswahl.feld();
+    const std::string& text = Auswahl.Label_Auswahl(i).text();
+    const bool angeboten = Auswahl.offen() && !text.empty() && text == eintrag(feld, i);
+    Auswahl.schliesse();
+    if (!angeboten) return;
+    stelle(feld) = i16(i, feld);
+    if (feld == Label_System.name) {
+        sitzung_.p.Uebergabe = 1;
+        sitzung_.p.Energietraeger = 1;
+    }
+    auswahl_zeigen();
+    sitzung_.alles_berechnen();
+}
+
+void E_Energie::Frame_Auswahl_Click() {
+    Auswahl.schliesse();
+}
+
+std::string E_Energie::tooltip_text(int m) const {
+    const Projekt& p = sitzung_.p;
+    const Monatsenergie werte = monatswerte(p);
+    const auto zeile = [&](const Anzeige& feld, float wert) {
+        return tippzeile(feld, wert, kwh_je_monat(p));
+    };
+    const std::string kopf = tippmonat(p, m);
+    if (kurzname(p.Heizsystem, p.Energietraeger).elektrisch())
+        return kopf + zeile(Label8, werte.E(m)) + zeile(Label21, werte.P(m));
+    return kopf + zeile(Label8, werte.E(m)) + zeile(Label33, werte.H(m)) + zeile(Label21, werte.P(m)) +
+           zeile(Label14, werte.Q(m));
+}
+
+}  // namespace velmaris

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "calc/alles_berechnen.h"
+#include "charts/planes/A_Heizen.h"
+#include "charts/planes/A_Kuehlen.h"
+#include "charts/planes/A_Sankey.h"
+#include "charts/planes/A_Uebersicht.h"
+#include "charts/planes/A_Zoom.h"
+#include "climate/planes/A_Klima.h"
+#include "climate/planes/E_Klima.h"
+#include "climate/planes/E_Klimaimport.h"
+#include "documents/planes/A_Report.h"
+#include "documents/planes/Drucken.h"
+#include "energy/planes/E_Energie.h"
+#include "planes/E_Daemmung.h"
+#include "planes/E_Fenster.h"
+#include "planes/E_Gebaeude.h"
+#include "planes/E_Geometrie.h"
+#include "planes/ebenenleiste.h"
+#include "planes/hauptmenue.h"
+#include "project/FILEIO.h"
+#include "project/sitzung.h"
+
+#include <filesystem>
+#include <string>
+
+namespace velmaris {
+
+/// The composition root: the one record, all planes over it, the life of the project and the recalculation.
+/// Large; keep it on the heap.
+struct Haupt {
+    /// `sprache` is "d" or "e"; `programmordner` holds klima/ and Grafiken/.
+    Haupt(Plattform& plattform, const std::filesystem::path& programmordner, const std::string& sprache);
+    Haupt(const Haupt&) = delete;
+    Haupt& operator=(const Haupt&) = delete;
+    ~Haupt() = default;
+
+    Projekt p;
+    Sitzung sitzung;
+    E_Geometrie e_geometrie;
+    E_Fenster e_fenster;
+    E_Daemmung e_daemmung;
+    E_Gebaeude e_gebaeude;
+    E_Klima e_klima;
+    E_Energie e_energie;
+    A_Uebersicht a_uebersicht;
+    A_Klima a_klima;
+    A_Heizen a_heizen;
+    A_Kuehlen a_kuehlen;
+    A_Sankey a_sankey;
+    A_Zoom a_zoom;
+    E_Klimaimport e_klimaimport;
+    A_Report a_report;
+    Drucken drucken;
+    Rettung rettung;
+    FILEIO datei;
+    Ebenenleiste e_menue{"E_Menue"};
+    Ebenenleiste a_menue{"A_Menue"};
+    Hauptmenue menue;
+
+    /// Shows the about box; set by the desktop.
+    std::function<void()> info_zeigen;
+
+    /// What the main window does when it comes up: shows both bars and the first planes, notes the printer.
+    void laden();
+
+    /// Shows the first input and the first output plane; the user goes on at the input plane.
+    void erste_ebenen();
+
+    /// Sets all inputs, the controls that keep state and the title to those of a new project.
+    void neues_projekt();
+
+    /// Makes the station named by the record the current climate: reads it, recalculates and shows its
+    /// figures. A station file that cannot be read is a Dateifehler; the former climate stays.
+    void wetter_laden();
+
+    /// Moves all input planes to the record's state, in a fixed order, and clears `Geaendert`. Positions are
+    /// whole numbers, so values are rounded to them, and dependent values follow. A position out of range, a
+    /// list row or a combination of heating choices that does not exist is a Laufzeitfehler that names the
+    /// quantity.
+    void eingaben_anzeigen();
+
+    /// The same without the climate plane.
+    void bauteile_anzeigen();
+
+    /// Recalculates and refreshes what is visible; no more than the geometry while no station can be read.
+    void alles_berechnen();
+
+  private:
+    [[nodiscard]] Projektwege projektwege();
+    [[nodiscard]] Rechenplan rechenplan();
+    void verbinden();
+    void leisten_fuellen();
+
+    /// Notes which printer is the current one.
+    void drucker_merken();
+
+    /// Reads the station of the record and shows its figures.
+    void klimadatei_lesen();
+
+    /// Loads a station for a project; one that cannot be read is replaced, where that is allowed.
+    void oder_ersatzstation(const std::function<void()>& laden);
+
+    /// True if the station of a new project can be read; else the user is told.
+    bool neu_moeglich();
+
+    Rechenplan plan_;
+};
+
+}  // namespace velmaris

@@ -1,0 +1,43 @@
+#include "planes/befehlszeile.h"
+
+#include "toolkit/text.h"
+
+#include <string_view>
+#include <system_error>
+
+namespace velmaris {
+namespace {
+
+constexpr std::string_view endung = ".vel";
+
+bool vorhanden(const std::string& datei) {
+    std::error_code fehler;
+    return std::filesystem::exists(pfad(datei), fehler);
+}
+
+}  // namespace
+
+std::optional<std::string> Befehlszeile::sprache() const {
+    if (text_ == "d" || text_ == "e") return text_;
+    return std::nullopt;
+}
+
+std::optional<std::filesystem::path> Befehlszeile::ordner() const {
+    if (zeichenzahl(text_) <= 1) return std::nullopt;
+    const std::size_t strich = text_.rfind('|');
+    return pfad(strich == std::string::npos ? text_ : text_.substr(strich + 1));
+}
+
+std::optional<std::string> Befehlszeile::projekt() const {
+    if (zeichenzahl(text_) <= endung.size()) return std::nullopt;
+    std::string eigene = text_;
+    if (kleinschreiben(eigene).ends_with(std::string(endung) + "\"")) {
+        eigene = eigene.substr(1, eigene.size() - 2);
+    } else if (!kleinschreiben(eigene).ends_with(endung)) {
+        return std::nullopt;
+    }
+    const std::string klein = kleinschreiben(eigene);
+    return !vorhanden(klein) && vorhanden(eigene) ? eigene : klein;
+}
+
+}  // namespace velmaris

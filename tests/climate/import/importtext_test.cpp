@@ -1,0 +1,336 @@
+#include "climate/import/importkopf.h"
+#include "climate/import/importquelle.h"
+#include "climate/import/importschreiber.h"
+#include "climate/import/importspalten.h"
+#include "climate/import/importzahlen.h"
+#include "climate/import/importziel.h"
+#include "tests/climate/import/importprobe.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace velmaris {
+namespace {
+
+using test::Quellbau;
+using testing::ElementsAre;
+
+constexpr const char* nichts = "<nothing>";
+
+std::string oder_nichts(std::optional<std::string_view> feld) {
+    return std::string(feld.value_or(nichts));
+}
+
+TEST(Importzahlen, LesenNurGanzeZahlen) {
+    struct Fall {
+        std::string text;
+        bool komma;
+        std::optional<double> wert;
+    };
+    const std::optional<double> keine;
+    for (const Fall& fall : {Fall{"12.5", false, 12.5}, Fall{" \t\x01 -3", false, -3}, Fall{"7  ", false, 7},
+                             Fall{"+.5", false, 0.5}, Fall{"1.5E1", false, 15}, Fall{"12,5", true, 12.5},
+                             Fall{"12.5", true, 12.5}, Fall{"-0,4", true, -0.4}, Fall{"12,5", false, keine},
+                             Fall{"1,2,3", true, keine}, Fall{"", false, keine}, Fall{"   ", false, keine},
+                             Fall{"-", false, keine}, Fall{"5x", false, keine}, Fall{"x5", false, keine},
+                             Fall{"1 2", false, keine}, Fall{"nan", false, keine},
+                             Fall{"1e999", false, keine}, Fall{std::string("5\0", 2), false, keine}})
+        EXPECT_EQ(StringToReal(fall.text, fall.komma), fall.wert) << '"' << fall.text << '"';
+}
+
+TEST(Importzahlen, SchreibenDieNullVorDemPunkt) {
+    EXPECT_EQ(RealToString(0.5), " 0.5");
+    EXPECT_EQ(RealToString(-0.25), "-0.25");
+    EXPECT_EQ(RealToString(0), " 0");
+    EXPECT_EQ(RealToString(49.75), " 49.75");
+    EXPECT_EQ(RealToString(-7), "-7");
+}
+
+TEST(Importspalten, TabulatorenTrennenAuchLeereFelder) {
+    struct Fall {
+        std::string_view zeile;
+        int n;
+        std::string feld;
+    };
+    for (const Fall& fall : {Fall{"a\tb\tc", 1, "a"}, Fall{"a\tb\tc", 3, "c"}, Fall{"a\tb\tc", 4, nichts},
+                             Fall{"a\t\tc", 2, ""}, Fall{"a\t", 2, ""}, Fall{"a\t", 3, nichts},
+                             Fall{"ganz", 1, "ganz"}, Fall{"ganz", 2, nichts}, Fall{"", 1, ""}})
+        EXPECT_EQ(oder_nichts(StelleTab(fall.zeile, fall.n)), fall.feld) << fall.zeile << ' ' << fall.n;
+}
+
+TEST(Importspalten, LeerzeichenTrennenNachDerMusterzeile) {
+    // Places, counted from 1:    1234567890123456
+    const std::string muster = "  12   345  6";
+    const auto links = Spalten_Festlegen(muster, Trennung::linksbuendig);
+    EXPECT_EQ(links.Spaltenzahl, 3);
+    EXPECT_EQ(links.Spaltenanfang(1), 3);
+    EXPECT_EQ(links.Spaltenanfang(2), 8);
+    EXPECT_EQ(links.Spaltenanfang(3), 13);
+    EXPECT_EQ(links.Spaltenanfang(4), 0);
+    const auto rechts = Spalten_Festlegen(muster + "  ", Trennung::rechtsbuendig);
+    EXPECT_EQ(rechts.Spaltenzahl, 3);
+    EXPECT_EQ(rechts.Spaltenanfang(1), 5);
+    EXPECT_EQ(rechts.Spaltenanfang(2), 11);
+    EXPECT_EQ(rechts.Spaltenanfang(3), 14);
+    struct Fall {
+        Trennung trennung;
+        std::string_view zeile;
+        std::vector<std::string> felder;
+    };
+    for (const Fall& fall :
+         {Fall{Trennung::linksbuendig, "  1    34   56", {"1    ", "34   ", "56", nichts}},
+          // A line must reach beyond the first character of its field.
+          Fall{Trennung::linksbuendig, "  1    34   5", {"1    ", "34   ", nichts}},
+          Fall{Trennung::linksbuendig, "  1", {nichts, nichts}},
+          Fall{Trennung::rechtsbuendig, "1234  -345  6", {"1234", "  -345", "  6", nichts}},
+          Fall{Trennung::rechtsbuendig, "  12   3", {"  12", "   3", ""}}}) {
+        const auto& lage = fall.trennung == Trennung::linksbuendig ? links : rechts;
+        for (std::size_t i = 0; i < fall.felder.size(); ++i)
+            EXPECT_EQ(oder_nichts(StelleLeer(fall.zeile, static_cast<int>(i) + 1, lage, fall.trennung)),
+                      fall.felder[i])
+                << fall.zeile << ' ' << i;
+    }
+}
+
+TEST(Importspalten, AnfuehrungHaeltKommasZusammen) {
+    struct Fall {
+        std::string_view zeile;
+        std::vector<std::string> felder;
+    };
+    const std::string lang = "\"" + std::string(2000, 'x');
+    for (const Fall& fall :
+         {Fall{R"(a,"b, c",d)", {"a", "b, c", "d", nichts}}, Fall{R"("a","",c)", {"a", "", "c", nichts}},
+          Fall{R"(a , "b,c" ,"d")", {"a ", "b,c", "d", nichts}},
+          Fall{R"("a ""b"", c",d)", {R"(a ""b"", c)", "d", nichts}},
+          Fall{R"("""b""",d)", {R"(""b"")", "d", nichts}},
+          // A quote that no other closes, or within a field, is a character like others.
+          Fall{R"("a,b,c)", {"\"a", "b", "c", nichts}},
+          Fall{R"(a "b,c" d,e)", {"a \"b", "c\" d", "e", nichts}},
+          Fall{R"("a" b,c)", {"\"a\" b", "c", nichts}}, Fall{R"(a,")", {"a", "\"", nichts}},
+          Fall{lang, {lang, nichts}}}) {
+        const Spaltenteiler teiler(Trennung::komma, fall.zeile);
+        for (std::size_t i = 0; i < fall.felder.size(); ++i)
+            EXPECT_EQ(oder_nichts(teiler.stelle(fall.zeile, static_cast<int>(i) + 1)), fall.felder[i])
+                << fall.zeile << ' ' << i;
+        EXPECT_EQ(teiler.spaltenzahl(), static_cast<int>(fall.felder.size()) - 1) << fall.zeile;
+    }
+}
+
+TEST(Importspalten, SindHoechstensHundert) {
+    std::string blanks, tabs;
+    for (int i = 0; i < 150; ++i) {
+        blanks += "1 ";
+        tabs += "1\t";
+    }
+    for (const Trennung trennung : {Trennung::linksbuendig, Trennung::rechtsbuendig}) {
+        const Spaltenteiler teiler(trennung, blanks);
+        EXPECT_EQ(teiler.spaltenzahl(), 100);
+        EXPECT_TRUE(teiler.stelle(blanks, 100).has_value());
+        EXPECT_FALSE(teiler.stelle(blanks, 101).has_value());
+        EXPECT_EQ(Spaltenteiler(trennung, std::string(70000, ' ') + "1").spaltenzahl(), 0);
+    }
+    EXPECT_EQ(Spaltenteiler(Trennung::tabulator, tabs).spaltenzahl(), 100);
+    EXPECT_EQ(Spaltenteiler(Trennung::komma, "1,2,3").spaltenzahl(), 3);
+}
+
+TEST(Importquelle, KenntIhreZeilenUndIhreForm) {
+    const Importquelle gemischt(
+        "\xEF\xBB\xBF"
+        "eins\r\n\nzwei\rhalb\ndrei");
+    EXPECT_EQ(gemischt.zeilenzahl(), 4);
+    EXPECT_EQ(gemischt.zeile(1), "eins");
+    EXPECT_EQ(gemischt.zeile(2), "");
+    EXPECT_EQ(gemischt.zeile(3), "zwei\rhalb");
+    EXPECT_EQ(gemischt.zeile(4), "drei");
+    EXPECT_EQ(gemischt.zeile(5), "");
+    struct Fall {
+        std::string text;
+        Quellform form;
+    };
+    for (const Fall& fall :
+         {Fall{"", Quellform::frei}, Fall{"a\nb\nc\ndy\tTa\tG_Gh\n", Quellform::meteonorm},
+          Fall{"a\nb\nc\nTa G_Dh", Quellform::meteonorm}, Fall{"a\nb\nc\ndy\tTa\tG_Bh\n", Quellform::frei},
+          Fall{"a\nb\nc\nG_Gh\tG_Dh\n", Quellform::frei}, Fall{"a\nb\nTa\tG_Gh\n", Quellform::frei},
+          Fall{"LOCATION,Bern", Quellform::epw}, Fall{"\xEF\xBB\xBFLOCATION,Bern", Quellform::epw},
+          Fall{"\"LOCATION\",\"Bern\"", Quellform::epw}, Fall{"LOCATION;Bern", Quellform::frei},
+          Fall{"LOCATION", Quellform::frei}, Fall{"Location,Bern", Quellform::frei}})
+        EXPECT_EQ(quellform(Importquelle(fall.text)), fall.form) << fall.text;
+}
+
+TEST(Importquelle, ZeigtJedesByte) {
+    EXPECT_EQ(quelltext("Z\xFCrich"), "Zürich");
+    EXPECT_EQ(quelltext("Zürich"), "Zürich");
+    EXPECT_EQ(quelltext(std::string_view("a\0b\x1F"
+                                         "c\td\x7F",
+                                         8)),
+              "a b c\td ");
+    EXPECT_EQ(quelltext("1234567", 5), "12345...");
+    EXPECT_EQ(quelltext("abcdü", 5), "abcd...");
+}
+
+TEST(Importkopf, MeteonormNenntDenOrtOhneDasLand) {
+    struct Fall {
+        std::string kopf;
+        Ortsangaben ort;
+        std::vector<int> belegung;
+    };
+    const std::vector<Fall> faelle{
+        {"\"Bern\"\n46.95,7.43,565,-1\n\ndy\th\tTa\tG_Gh\tG_Dh\n",
+         {"Bern", "", "46.95", false, "7.43", false, "1", false},
+         {0, 0, 1, 2, 4, 0, 0}},
+        {"Lima\n-12.05,-77.05,150,5\n\nG_Bh\tTa\tG_Dh\tG_Gh\tTa2\tG_Gh\n",
+         {"Lima", "", "12.05", true, "77.05", true, "5", true},
+         {3, 0, 4, 0, 1, 2, 0}},
+        // The seventh column is out of reach, and the later of two columns of a name counts.
+        {"Ort\n50, 10, 0, -1 , 7\n\nTa\tG_Gh\tx\tx\tx\tG_Dh\tTa\n",
+         {"Ort", "", "50", false, "10", false, "1", false},
+         {0, 2, 0, 0, 0, 4, 0}},
+        {"unknown\n50,10,0,-1\n\nTa G_Gh\n", {"", "", "50", false, "10", false, "1", false}, {2}},
+        {"\"\n50\n\nTa G_Gh\n", {"", "", "50", false, "", false, "", true}, {2, 0, 0, 0, 0, 0, 0}}};
+    for (const Fall& fall : faelle) {
+        const Quellkopf kopf = Meteonorm_Lesen(Importquelle(fall.kopf));
+        EXPECT_EQ(kopf.ort, fall.ort) << fall.kopf;
+        EXPECT_EQ(kopf.kopfzeilen, 4);
+        EXPECT_EQ(kopf.trennung, Trennung::tabulator);
+        for (std::size_t i = 0; i < fall.belegung.size(); ++i)
+            EXPECT_EQ(kopf.spalten(static_cast<int>(i) + 1), fall.belegung[i]) << fall.kopf << i;
+    }
+}
+
+TEST(Importkopf, EnergyPlusNenntAllesInDerErstenZeile) {
+    struct Fall {
+        std::string kopf;
+        Ortsangaben ort;
+    };
+    for (const Fall& fall : {Fall{"LOCATION,Bern,BE,CHE,IWEC Data,066310,46.92,7.50,1.0,565.0",
+                                  {"Bern", "CHE", "46.92", false, "7.50", false, "1.0", false}},
+                             Fall{"LOCATION, S\xE3o Paulo ,SP,BRA,X,1,-23.62,-46.65,-3.0,803.0\r\n",
+                                  {"São Paulo", "BRA", "23.62", true, "46.65", true, "3.0", true}},
+                             Fall{R"(LOCATION,"Bern ""Zoo"", Ost","BE, x","CHE","IWEC, 2",066310,"46.92",)"
+                                  R"("-7.50",1.0,565.0)",
+                                  {"Bern \"Zoo\", Ost", "CHE", "46.92", false, "7.50", true, "1.0", false}},
+                             Fall{"LOCATION, - ,-,UNKNOWN,ECMWF,unknown,45,8,5.5,250",
+                                  {"", "", "45", false, "8", false, "5.5", false}},
+                             Fall{"LOCATION,Unknown Creek,-,\"-\",X,1,45,8,-3.5,250",
+                                  {"Unknown Creek", "", "45", false, "8", false, "3.5", true}},
+                             Fall{"LOCATION,Kurz", {"Kurz", "", "", false, "", false, "", false}}}) {
+        const Quellkopf kopf = Epw_Lesen(Importquelle(fall.kopf));
+        EXPECT_EQ(kopf.ort, fall.ort) << fall.kopf;
+        EXPECT_EQ(kopf.kopfzeilen, 8);
+        EXPECT_EQ(kopf.trennung, Trennung::komma);
+        std::vector<int> belegt;
+        for (int n = 1; n <= importspalten; ++n) {
+            if (kopf.spalten(n) != 0) belegt.push_back(n * 10 + kopf.spalten(n));
+        }
+        EXPECT_THAT(belegt, ElementsAre(71, 142, 153, 164));
+    }
+}
+
+TEST(Stationsdatei, ZeilenSindWieVorgeschrieben) {
+    struct Fall {
+        int i;
+        Stundenwerte stunde;
+        std::string zeile;
+    };
+    for (const Fall& fall :
+         {Fall{0, {-0.4, 0, 0}, "    1 -0.4    0    0"}, Fall{23, {5, 12, 3}, "    1  5.0   12    3"},
+          Fall{24, {0.5, 1000, 99.9}, "    2  0.5 1000 99.9"},
+          Fall{8759, {-12.3, 123.4, 123.4}, "  365-12.3  123 123.4"},
+          // Halves go to the even neighbour: 0.25 to 0.2, 0.35 to 0.4, 2.5 to 2, 3.5 to 4.
+          Fall{12, {0.25, 2.5, 0.25}, "    1  0.2    2   .2"},
+          Fall{12, {-0.35, 3.5, 0.35}, "    1 -0.4    4   .4"},
+          Fall{12, {-0.04, -0.4, -0.04}, "    1  0.0    0    0"},
+          Fall{12, {10.04, 9.6, 10}, "    1 10.0   10   10"}})
+        EXPECT_EQ(stationszeile(fall.i, fall.stunde), fall.zeile);
+}
+
+TEST(Stationsdatei, KopfTraegtDieVorzeichenDerStationsdateien) {
+    struct Fall {
+        Ortsangaben ort;
+        std::vector<std::string> kopf;
+    };
+    for (const Fall& fall :
+         {Fall{{"Null", "Meer", "0.5", false, "7", false, "1", false},
+               {"Null (Meer)", "Breitengrad:   0.5", "L\xE4ngengrad:   -7", "Zeitzone:     -1"}},
+          Fall{{"Süd", "West", "33,9", true, "70.75", true, "4", true},
+               {"S\xFC"
+                "d (West)",
+                "Breitengrad:  -33.9", "L\xE4ngengrad:    70.75", "Zeitzone:      4"}},
+          Fall{{"O", "N", "0", true, "0", false, "0", false},
+               {"O (N)", "Breitengrad:   0", "L\xE4ngengrad:    0", "Zeitzone:      0"}}}) {
+        const auto text = stationstext(stationsort(fall.ort), Messjahr{}, {});
+        auto zeilen = test::zeilen(text.value());
+        ASSERT_EQ(zeilen.size(), 6U);
+        EXPECT_EQ(zeilen[4], "");
+        EXPECT_EQ(zeilen[5], "   dy   Ta G_Gh G_Dh");
+        zeilen.resize(4);
+        EXPECT_EQ(zeilen, fall.kopf);
+    }
+}
+
+TEST(Stationsdatei, DerOrtLiegtAufDerErde) {
+    const Ortsangaben gut{"O", "L", "90", true, "180", false, "14", false};
+    EXPECT_EQ(stationsort(gut).breite, -90);
+    for (const char* schlecht : {"90.1", "-91", "", "x", "1e9"}) {
+        Ortsangaben ort = gut;
+        ort.Breitengrad = schlecht;
+        EXPECT_THROW(static_cast<void>(stationsort(ort)), Importfehler) << schlecht;
+    }
+    for (auto [feld, schlecht] :
+         {std::pair{&Ortsangaben::Laengengrad, "180.5"}, {&Ortsangaben::Zeitzone, "15"}}) {
+        Ortsangaben ort = gut;
+        ort.*feld = schlecht;
+        EXPECT_THROW(static_cast<void>(stationsort(ort)), Importfehler) << schlecht;
+    }
+    for (const char* schlecht : {"a\tb", "a\nb", "\x1B[1m", "a\x7F", "\xC2\x85"}) {
+        for (const auto feld : {&Ortsangaben::Standortname, &Ortsangaben::Land}) {
+            Ortsangaben ort = gut;
+            ort.*feld = schlecht;
+            EXPECT_THROW(static_cast<void>(stationsort(ort)), Importfehler) << schlecht;
+        }
+    }
+    EXPECT_EQ(namenshinweis("Zürich (Schweiz)").de, "");
+    EXPECT_NE(namenshinweis("Bern, Zoo (CH)").en.find("comma"), std::string::npos);
+    EXPECT_NE(namenshinweis("Łódź (PL)").en.find("character set"), std::string::npos);
+}
+
+TEST(Stationsdatei, EinFremderZeitzonenwertWirdBemerkt) {
+    struct Fall {
+        Ortsangaben ort;
+        const char* stunden;  ///< in the hint, empty for none
+    };
+    const auto ort = [](const char* laenge, bool west, const char* zone, bool minus) {
+        return Ortsangaben{"O", "L", "50", false, laenge, west, zone, minus};
+    };
+    for (const Fall& fall :
+         {Fall{ort("7.5", false, "1", false), ""}, Fall{ort("7.5", true, "9", false), "9.5"},
+          Fall{ort("7,5", true, "9,0", false), "9.5"}, Fall{ort("120", false, "8", true), "8.0"},
+          Fall{ort("45", false, "0", false), ""}, Fall{ort("45.3", false, "0", false), "3.0"},
+          // Kashgar, Samoa and Kiribati keep such times.
+          Fall{ort("76", false, "8", false), ""}, Fall{ort("171.8", true, "13", false), ""},
+          Fall{ort("157.4", true, "14", false), ""}, Fall{ort("", true, "9", false), ""},
+          Fall{ort("100", true, "", false), ""}}) {
+        const Zweisprachig hinweis = zonenhinweis(fall.ort);
+        EXPECT_EQ(hinweis.en.empty(), *fall.stunden == '\0') << fall.ort.Laengengrad;
+        EXPECT_NE(hinweis.en.find(fall.stunden), std::string::npos) << hinweis.en;
+        EXPECT_EQ(hinweis.de.empty(), hinweis.en.empty());
+    }
+}
+
+TEST(Importziel, NamenGeltenAufJedemSystem) {
+    for (const char* gut : {"bern", "Zürich 2020", "a.b", "konstanz", "comet", "klima2", "nulpunkt", "€uro"})
+        EXPECT_FALSE(namensfehler(gut).has_value()) << gut;
+    for (const char* schlecht :
+         {"",    "a/b",      "a\\b", "..",    ".",     "../x", ".versteckt", " x",   "c:x",
+          "a*",  "a?",       "a\"b", "<a",    "a>",    "a|b",  "a,b",        "a\nb", "nul",
+          "CON", "Com1.alt", "lpt9", "klima", "KLIMA", "Łódź", "日本"})
+        EXPECT_TRUE(namensfehler(schlecht).has_value()) << schlecht;
+    EXPECT_FALSE(namensfehler(std::string(251, 'a')).has_value());
+    EXPECT_TRUE(namensfehler(std::string(252, 'a')).has_value());
+    EXPECT_EQ(vorgabename("C:\\Daten\\Wetter\\bern.2020.epw"), "bern.2020");
+    EXPECT_EQ(vorgabename("/home/x.y/bern"), "bern");
+    EXPECT_EQ(vorgabename("bern.txt"), "bern");
+}
+
+}  // namespace
+}  // namespace velmaris

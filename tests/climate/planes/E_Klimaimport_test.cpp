@@ -1,0 +1,407 @@
+#include "climate/planes/E_Klimaimport.h"
+
+#include "tests/climate/import/importprobe.h"
+#include "tests/volle_festplatte.h"
+#include "toolkit/text.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace velmaris {
+namespace {
+
+using test::Importprobe;
+using test::Quellbau;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+/// Texts of a row of labels or lists.
+template <class Reihe>
+std::vector<std::string> texte(const Reihe& felder) {
+    std::vector<std::string> alle;
+    for (const auto& feld : felder)
+        alle.push_back(feld.text());
+    return alle;
+}
+
+TEST(Klimaimport, OeffnetLeerInBeidenSprachen) {
+    const Importprobe deutsch("d"), englisch("e");
+    const E_Klimaimport& d = *deutsch.e;
+    const E_Klimaimport& e = *englisch.e;
+    EXPECT_TRUE(d.ebene.sichtbar());
+    EXPECT_EQ(d.ebene.text(), "Klimadaten importieren");
+    EXPECT_EQ(e.Command2.text(), "Start climate import");
+    EXPECT_EQ(e.Label_Zeitzone.text(), "Time zone:");
+    EXPECT_THAT(d.Dezimalzeichen.eintraege(), ElementsAre("Punkt (.)", "Komma (,)"));
+    EXPECT_THAT(e.Dezimalzeichen.eintraege(), ElementsAre("Dot (.)", "Comma (,)"));
+    EXPECT_THAT(d.Breitezusatz.eintraege(), ElementsAre("Nord", "Süd"));
+    EXPECT_THAT(e.Breitezusatz.eintraege(), ElementsAre("North", "South"));
+    EXPECT_THAT(d.Laengezusatz.eintraege(), ElementsAre("Ost", "West"));
+    EXPECT_THAT(e.Laengezusatz.eintraege(), ElementsAre("East", "West"));
+    EXPECT_THAT(e.GMT.eintraege(), ElementsAre("GMT + ", "GMT - "));
+    EXPECT_THAT(d.Datenreihe[5].eintraege(),
+                ElementsAre("- unbenutzt -", "Außenlufttemperatur", "Gesamtstrahlung", "Direktstrahlung",
+                            "Diffusstrahlung"));
+    EXPECT_THAT(e.Datenreihe[0].eintraege(),
+                ElementsAre("- not used -", "Outdoor air temperature", "Total radiation", "Direct radiation",
+                            "Diffuse radiation"));
+    EXPECT_FALSE(d.Command2.aktiv());
+    EXPECT_FALSE(d.Frame4.sichtbar());
+    EXPECT_FALSE(d.VScroll1.sichtbar());
+}
+
+TEST(Klimaimport, EinAbgebrochenerDialogAendertNichts) {
+    Importprobe probe;
+    probe.p->Datei = "haus.vel";
+    probe.e->Command1.druecke();
+    EXPECT_EQ(probe.plattform.dialoge.at(0).filter, "Alle Dateien (*.*)|*.*");
+    probe.plattform.dateien = {probe.ordner / "fehlt.txt", probe.ordner / "klima"};
+    probe.e->Command1.druecke();
+    probe.e->Command1.druecke();
+    EXPECT_THAT(probe.plattform.meldungen.at(0).text, HasSubstr("fehlt.txt: Datei nicht gefunden"));
+    EXPECT_THAT(probe.plattform.meldungen.at(1).text, HasSubstr("ist ein Ordner"));
+    EXPECT_EQ(probe.p->Datei, "haus.vel");
+    EXPECT_EQ(probe.e->DateinameBox.text(), "");
+    EXPECT_FALSE(probe.e->Frame2.sichtbar());
+}
+
+TEST(Klimaimport, EineQuelleWirdGezeigtUndIhrPfadGemerkt) {
+    Importprobe probe;
+    probe.oeffne("Quelle.txt", "Z\xFCrich\n1\t2\t3");
+    EXPECT_EQ(probe.p->Datei, pfadtext(probe.ordner / "Quelle.txt"));
+    EXPECT_EQ(probe.e->DateinameBox.text(), probe.p->Datei);
+    EXPECT_EQ(probe.e->Dateiansicht.text(), "Zürich\r\n1\t2\t3\r\n");
+    EXPECT_TRUE(probe.e->Frame5.sichtbar());
+    EXPECT_TRUE(probe.e->HScroll1.sichtbar());
+    EXPECT_EQ(probe.e->Kopfzeilen.text(), "");
+    for (const auto& [zeilen, ganz] : {std::pair{249, true}, {250, false}, {300, false}}) {
+        std::string text;
+        for (int i = 0; i < zeilen; ++i)
+            text += "zeile\n";
+        probe.oeffne("Quelle.txt", text);
+        const std::string& ansicht = probe.e->Dateiansicht.text();
+        EXPECT_EQ(ansicht.size(), 7U * static_cast<unsigned>(std::min(zeilen, 250)) + (ganz ? 0 : 3))
+            << zeilen;
+        EXPECT_EQ(ansicht.ends_with("..."), !ganz) << zeilen;
+    }
+}
+
+TEST(Klimaimport, ErkannteDateienFuellenDieFelder) {
+    Importprobe probe;
+    probe.oeffne("bern.dat", Quellbau{}.meteonorm());
+    E_Klimaimport& e = *probe.e;
+    EXPECT_EQ(e.Erkannt.text(), "Die Datei wurde als Meteonorm-Datei erkannt.");
+    EXPECT_EQ(e.Kopfzeilen.text(), "4");
+    EXPECT_TRUE(e.Datentrennung.gesetzt(0));
+    EXPECT_EQ(e.Standortname.text(), "Bern");
+    EXPECT_EQ(e.Land.text(), "");
+    EXPECT_EQ(e.Laengengrad.text(), "7.43");
+    EXPECT_EQ(e.GMT.index(), 0);
+    EXPECT_THAT(texte(e.Spalte), ElementsAre("1", "2", "3", "4", "5", "6"));
+    EXPECT_THAT(texte(e.Datenreihe), ElementsAre("- unbenutzt -", "- unbenutzt -", "Außenlufttemperatur",
+                                                 "Gesamtstrahlung", "Diffusstrahlung", "Direktstrahlung"));
+    EXPECT_THAT(texte(e.Zeilenzaehler), ElementsAre("5", "6", "7", "8", "9", "10"));
+    EXPECT_THAT(texte(e.Zelle[0]), ElementsAre("1", "1", "-15.0", "0", "0", "0"));
+    EXPECT_FALSE(e.HScroll1.aktiv());
+
+    probe.oeffne("bern.epw", Quellbau{}.epw());
+    EXPECT_EQ(e.Erkannt.text(), "Die Datei wurde als EnergyPlus-Wetterdatei (.epw) erkannt.");
+    EXPECT_FALSE(e.Datentrennung.gesetzt().has_value());
+    EXPECT_EQ(e.Kopfzeilen.text(), "8");
+    EXPECT_EQ(e.Land.text(), "CHE");
+    EXPECT_EQ(e.HScroll1.maximum(), e.Spaltenzahl - 5);
+    EXPECT_EQ(e.HScroll1.position(), 7);
+    EXPECT_EQ(e.Datenreihe[0].text(), "Außenlufttemperatur");
+    EXPECT_EQ(e.Zelle[0][0].text(), "-15.0");
+    e.HScroll1.setze(11);
+    EXPECT_THAT(texte(e.Datenreihe), ElementsAre("- unbenutzt -", "- unbenutzt -", "- unbenutzt -",
+                                                 "Gesamtstrahlung", "Direktstrahlung", "Diffusstrahlung"));
+
+    probe.oeffne("breit.dat", "Bern\n46,7,5,-1\n\na\tb\tc\td\tTa\tG_Gh\tG_Dh\tx\n1\t2\t3\t4\t5\t6\t7\t8\n");
+    EXPECT_EQ(e.HScroll1.position(), 3) << "the last place that fills the grid";
+    EXPECT_EQ(e.Datenreihe[2].text(), "Außenlufttemperatur");
+    e.HScroll1.setze(1);
+    EXPECT_EQ(e.Zelle[0][0].text(), "1");
+
+    probe.oeffne("frei.txt", "1\t2\n");
+    EXPECT_EQ(e.Erkannt.text(), "");
+    EXPECT_TRUE(e.Datentrennung.gesetzt(0));
+    for (const Textfeld* feld : {&e.Kopfzeilen, &e.Land, &e.Standortname, &e.Breitengrad, &e.Zeitzone})
+        EXPECT_EQ(feld->text(), "") << feld->name;
+    EXPECT_EQ(e.HScroll1.position(), 1);
+    EXPECT_EQ(e.Zelle[0][2].text(), "");
+    EXPECT_EQ(e.Datenreihe[2].index(), 0);
+}
+
+TEST(Klimaimport, DieVorschauRolltUeberZeilenUndSpalten) {
+    Importprobe probe;
+    std::string text = "Kopf\n";
+    for (int i = 1; i <= 9; ++i) {
+        for (int j = 1; j <= 8; ++j)
+            text += std::to_string(i * 10 + j) + (j < 8 ? "\t" : "\n");
+    }
+    probe.oeffne("raster.txt", text);
+    E_Klimaimport& e = *probe.e;
+    e.Kopfzeilen.tippe("1x");
+    EXPECT_EQ(e.Kopfzeilen.text(), "1");
+    EXPECT_EQ(e.Spaltenzahl, 8);
+    EXPECT_TRUE(e.HScroll1.aktiv());
+    EXPECT_EQ(e.HScroll1.maximum(), 3);
+    EXPECT_EQ(e.VScroll1.maximum(), 4);
+    e.HScroll1.setze(3);
+    e.VScroll1.setze(4);
+    EXPECT_THAT(texte(e.Spalte), ElementsAre("3", "4", "5", "6", "7", "8"));
+    EXPECT_THAT(texte(e.Zeilenzaehler), ElementsAre("5", "6", "7", "8", "9", "10"));
+    EXPECT_THAT(texte(e.Zelle[0]), ElementsAre("43", "44", "45", "46", "47", "48"));
+    EXPECT_THAT(texte(e.Zelle[5]), ElementsAre("93", "94", "95", "96", "97", "98"));
+    e.Datenreihe[5].setze(1);
+    EXPECT_EQ(e.Spaltenbelegung(8), 1);
+    e.HScroll1.setze(1);
+    EXPECT_EQ(e.Datenreihe[5].index(), 0);
+
+    e.Kopfzeilen.tippe("7");
+    EXPECT_EQ(e.VScroll1.position(), 1);
+    EXPECT_THAT(texte(e.Zelle[2]), ElementsAre("91", "92", "93", "94", "95", "96"));
+    EXPECT_THAT(texte(e.Zelle[3]), ElementsAre("xxxxxxxxxx", "", "", "", "", ""));
+    EXPECT_EQ(e.Zeilenzaehler[3].text(), "11");
+    e.Kopfzeilen.tippe("99999999999999999999");
+    EXPECT_EQ(e.Zelle[0][0].text(), "xxxxxxxxxx");
+    EXPECT_EQ(e.HScroll1.maximum(), 1);
+    EXPECT_FALSE(e.HScroll1.aktiv());
+
+    e.Kopfzeilen.tippe("1");
+    e.Datentrennung.setze(1);
+    EXPECT_EQ(e.Spaltenzahl, 1);
+    EXPECT_EQ(e.Zelle[0][0].text(), "11\t12\t13\t14\t15\t16\t17\t18");
+}
+
+TEST(Klimaimport, DerImportWartetAufAlleFelder) {
+    Importprobe probe;
+    probe.oeffne("quelle.txt", "1\t2\t3\n");
+    E_Klimaimport& e = *probe.e;
+    probe.ort_eintippen();
+    e.Kopfzeilen.tippe("0");
+    EXPECT_TRUE(e.Command2.aktiv());
+    for (Textfeld* feld : {&e.DateinameBox, &e.Standortname, &e.Land, &e.Kopfzeilen, &e.Breitengrad,
+                           &e.Laengengrad, &e.Zeitzone}) {
+        const std::string vorher = feld->text();
+        feld->tippe("");
+        EXPECT_FALSE(e.Command2.aktiv()) << feld->name;
+        feld->tippe(vorher);
+        EXPECT_TRUE(e.Command2.aktiv()) << feld->name;
+    }
+    e.Breitengrad.tippe("4a9,7-5");
+    EXPECT_EQ(e.Breitengrad.text(), "49,75");
+    EXPECT_TRUE(e.Command2.aktiv());
+    e.Breitengrad.tippe("4.9.7");
+    EXPECT_FALSE(e.Command2.aktiv());
+    e.Standortname.tippe("Bern, Zoo");
+    EXPECT_THAT(e.Ortshinweis.text(), StartsWith("Ein Komma im Namen"));
+}
+
+TEST(Klimaimport, EineZeitzoneFernDesLaengengradsIstNurEinHinweis) {
+    Importprobe probe("e");
+    std::string text = Quellbau{}.epw();
+    text.replace(text.find("7.50,1.0"), 8, "-7.5,9.5");
+    probe.oeffne("bern.epw", text);
+    E_Klimaimport& e = *probe.e;
+    EXPECT_THAT(e.Ortshinweis.text(), StartsWith("Longitude and time zone are 10.0 hours apart."));
+    e.Laengengrad.tippe("140");
+    e.Laengezusatz.setze(0);
+    EXPECT_EQ(e.Ortshinweis.text(), "");
+    e.GMT.setze(1);
+    EXPECT_THAT(e.Ortshinweis.text(), HasSubstr("hours apart"));
+    probe.importiere("bern");
+    EXPECT_THAT(probe.dateien(), ElementsAre("bern.met"));
+}
+
+TEST(Klimaimport, UnbekannteOrteWerdenEingetippt) {
+    Importprobe probe;
+    std::string text = Quellbau{}.epw();
+    text.replace(text.find("Bern,BE,CHE"), 11, "unknown,-,-");
+    probe.oeffne("pvgis.epw", text);
+    E_Klimaimport& e = *probe.e;
+    for (Textfeld* feld : {&e.Standortname, &e.Land}) {
+        EXPECT_EQ(feld->text(), "");
+        EXPECT_FALSE(e.Command2.aktiv());
+        feld->tippe("Bern");
+    }
+    EXPECT_TRUE(e.Command2.aktiv());
+}
+
+TEST(Klimaimport, FehlendeSpaltenWerdenDerReiheNachGemeldet) {
+    struct Fall {
+        std::vector<int> groessen;
+        const char* de;
+        const char* en;
+    };
+    for (const Fall& fall :
+         {Fall{{0, 0, 4},
+               "Benötigt werden entweder Daten zur Gestamt- oder zur Direktstrahlung",
+               "Data for total or direct radiation are necessary"},
+          Fall{{3, 0, 0}, "Keine Temperaturdaten vorhanden!", "No temperature values found!"},
+          Fall{{2, 1, 0}, "Keine Daten zur Diffusstrahlung vorhanden!", "No data for diffuse rediation!"}}) {
+        for (const char* sprache : {"d", "e"}) {
+            Importprobe probe(sprache);
+            probe.oeffne("quelle.txt", "1\t2\t3\n");
+            probe.ort_eintippen();
+            probe.e->Kopfzeilen.tippe("0");
+            for (std::size_t j = 0; j < fall.groessen.size(); ++j)
+                probe.e->Datenreihe.at(j).setze(fall.groessen[j]);
+            const Meldung meldung = probe.importiere("x");
+            EXPECT_EQ(meldung.text, sprache == std::string("d") ? fall.de : fall.en);
+            EXPECT_EQ(meldung.titel, sprache == std::string("d") ? "Fehler" : "Error");
+        }
+    }
+    Importprobe probe;
+    probe.oeffne("bern.epw", Quellbau{}.epw());
+    probe.e->HScroll1.setze(14);
+    probe.e->Datenreihe[0].setze(0);
+    EXPECT_THAT(probe.importiere("x").text, HasSubstr("senkrecht zur Sonne"));
+    EXPECT_THAT(probe.dateien(), IsEmpty());
+}
+
+TEST(Klimaimport, EinOrtAusserhalbDerErdeWirdAbgelehnt) {
+    Importprobe probe;
+    std::string text = Quellbau{}.epw();
+    text.replace(text.find("46.92"), 5, "-97.5");
+    probe.oeffne("bern.epw", text);
+    EXPECT_EQ(probe.e->Breitezusatz.text(), "Süd");
+    EXPECT_EQ(probe.importiere("bern").text, "Breitengrad: \"97.5\" liegt nicht zwischen 0 und 90.");
+    EXPECT_THAT(probe.dateien(), IsEmpty());
+}
+
+TEST(Klimaimport, DerNameWirdErfragtBisErGut) {
+    Importprobe probe("e");
+    probe.oeffne("bern.epw", Quellbau{}.epw());
+    probe.plattform.eingaben = {"../bern", "..", "con", "Łódź", "a\\b", "  bärn  "};
+    probe.e->Command2.druecke();
+    EXPECT_THAT(probe.plattform.vorgaben, ElementsAre("bern", "../bern", "..", "con", "Łódź", "a\\b"));
+    EXPECT_EQ(probe.plattform.fragen.at(0),
+              "Please input a filename for the new set 'Bern (CHE)' of climatic data:");
+    EXPECT_EQ(probe.plattform.titel_der_fragen.at(0), "Save climatic data as ...");
+    EXPECT_EQ(probe.plattform.meldungen.size(), 6U);
+    EXPECT_THAT(probe.plattform.meldungen.at(3).text, HasSubstr("project file cannot hold"));
+    EXPECT_THAT(probe.dateien(), ElementsAre("bärn.met"));
+}
+
+TEST(Klimaimport, OhneNamenGeschiehtNichts) {
+    Importprobe probe;
+    probe.oeffne("bern.epw", Quellbau{}.epw());
+    for (const char* name : {"", "   "})
+        EXPECT_EQ(probe.importiere(name).text, "");
+    EXPECT_EQ(
+        probe.plattform.fragen.at(0),
+        "Bitte geben Sie einen (beliebigen) Dateinamen ein, unter dem der neue Klimadatensatz 'Bern (CHE)' "
+        "gespeichert werden soll:");
+    EXPECT_EQ(probe.plattform.titel_der_fragen.at(0), "Klimadatensatz speichern unter ...");
+    EXPECT_TRUE(probe.e->ebene.sichtbar());
+    EXPECT_THAT(probe.dateien(), IsEmpty());
+}
+
+TEST(Klimaimport, EineVorhandeneStationWirdNurAufWunschErsetzt) {
+    struct Fall {
+        const char* sprache;
+        Antwort antwort;
+        const char* frage;
+    };
+    for (const Fall& fall : {Fall{"d", Antwort::nein,
+                                  "Der angegebene Dateiname wird bereits verwendet. Soll der unter diesem "
+                                  "Namen vorhandene Datensatz "
+                                  "überschrieben werden?"},
+                             Fall{"e", Antwort::ja,
+                                  "This filename already exists. Should the data set, saved under this "
+                                  "filename, be overwritten?"}}) {
+        Importprobe probe(fall.sprache);
+        probe.ordner.schreibe("klima/bern.met", "alt");
+        probe.oeffne("bern.epw", Quellbau{}.epw());
+        probe.plattform.antworten = {fall.antwort};
+        probe.importiere("bern");
+        EXPECT_EQ(probe.plattform.meldungen.at(0).text, fall.frage);
+        EXPECT_EQ(probe.plattform.meldungen.at(0).knoepfe, Knoepfe::ja_nein);
+        EXPECT_EQ(probe.station("bern") == "alt", fall.antwort == Antwort::nein);
+        EXPECT_EQ(probe.plattform.meldungen.size(), fall.antwort == Antwort::nein ? 1U : 2U);
+        EXPECT_THAT(probe.dateien(), ElementsAre("bern.met"));
+    }
+}
+
+TEST(Klimaimport, EinSchreibfehlerLaesstNichtsZurueck) {
+    Importprobe probe;
+    probe.oeffne("bern.epw", Quellbau{}.epw());
+    {
+        const test::VolleFestplatte voll(100000);
+        EXPECT_THAT(probe.importiere("bern").text,
+                    HasSubstr("bern.met: Datei kann nicht geschrieben werden"));
+    }
+    EXPECT_THAT(probe.dateien(), IsEmpty());
+    std::filesystem::remove_all(probe.ordner / "klima");
+    EXPECT_THAT(probe.importiere("bern").text, HasSubstr("bern.met: Datei kann nicht geschrieben werden"));
+    EXPECT_FALSE(std::filesystem::exists(probe.ordner / "klima"));
+    EXPECT_TRUE(probe.e->ebene.sichtbar());
+    EXPECT_TRUE(probe.e->Command2.aktiv());
+}
+
+TEST(Klimaimport, EineVeraenderteQuelleWirdNeuGezeigt) {
+    Importprobe probe;
+    probe.oeffne("bern.txt", Quellbau{}.meteonorm());
+    probe.e->Land.tippe("Schweiz");
+    Quellbau kurz;
+    kurz.zeilen = 100;
+    probe.ordner.schreibe("bern.txt", kurz.meteonorm());
+    const Meldung meldung = probe.importiere("bern");
+    EXPECT_THAT(meldung.text, StartsWith("Die Quelldatei hat sich seit der Vorschau geändert."));
+    EXPECT_EQ(meldung.hinweis, "bern.txt: Zeilen vorher: 8764, jetzt: 104");
+    EXPECT_EQ(probe.e->VScroll1.maximum(), 95);
+    EXPECT_THAT(probe.importiere("bern").text, StartsWith("Fehler! - Zu wenig Daten."));
+    std::filesystem::remove(probe.ordner / "bern.txt");
+    EXPECT_THAT(probe.importiere("bern").text, HasSubstr("bern.txt: Datei nicht gefunden"));
+    EXPECT_THAT(probe.dateien(), IsEmpty());
+}
+
+TEST(Klimaimport, ZeigtDenFortschrittUndLaesstSichAbbrechen) {
+    Importprobe probe;
+    probe.oeffne("bern.epw", Quellbau{}.epw());
+    E_Klimaimport& e = *probe.e;
+    std::vector<double> anteile;
+    e.fortschritt = [&](double anteil) {
+        anteile.push_back(anteil);
+        EXPECT_TRUE(e.Fortschritt.sichtbar());
+        EXPECT_FALSE(e.Command1.aktiv());
+        e.Command2.druecke();
+        return true;
+    };
+    probe.importiere("");
+    EXPECT_FALSE(e.Fortschritt.sichtbar());
+    EXPECT_TRUE(e.Command2.aktiv());
+    anteile.clear();
+    for (const double grenze : {0.0, 0.3, 0.5, 0.8, 1.0}) {
+        // By the callback's answer, and by the button meanwhile.
+        for (const bool knopf : {false, true}) {
+            e.fortschritt = [&](double anteil) {
+                if (anteil >= grenze && knopf) e.Command3.druecke();
+                return anteil < grenze || knopf;
+            };
+            EXPECT_EQ(probe.importiere("bern").text, "") << grenze;
+            EXPECT_THAT(probe.dateien(), IsEmpty()) << grenze;
+            EXPECT_TRUE(e.ebene.sichtbar());
+        }
+    }
+    e.fortschritt = [&](double anteil) {
+        anteile.push_back(anteil);
+        return true;
+    };
+    probe.importiere("bern");
+    EXPECT_TRUE(std::is_sorted(anteile.begin(), anteile.end()));
+    EXPECT_GT(anteile.size(), 50U);
+    EXPECT_EQ(anteile.front(), 0);
+    EXPECT_EQ(anteile.back(), 1);
+    EXPECT_THAT(probe.dateien(), ElementsAre("bern.met"));
+    e.oeffnen();
+    e.Command3.druecke();
+    EXPECT_FALSE(e.ebene.sichtbar());
+}
+
+}  // namespace
+}  // namespace velmaris

@@ -1,0 +1,78 @@
+#include "climate/planes/E_Zoom_Klima.h"
+
+#include "tests/climate/planes/klimaprobe.h"
+
+#include <gtest/gtest.h>
+
+namespace velmaris {
+namespace {
+
+using test::Klimaprobe;
+
+TEST(EZoomKlima, NimmtDieWahlNurMitDerBestaetigungMit) {
+    Klimaprobe probe;
+    probe.oeffne(3, "paris.met");
+    E_Klima& e = *probe.e;
+    EXPECT_FALSE(e.zoom.ebene.sichtbar());
+    e.Image1.druecke();
+    EXPECT_TRUE(e.zoom.ebene.sichtbar());
+    EXPECT_EQ(e.zoom.Klimaregionwahl2.eintraege(), e.Klimaregionwahl2.eintraege());
+    EXPECT_EQ(e.zoom.Klimaregionwahl2.index(), 2);
+
+    e.zoom.Klimaregionwahl2.setze(4);
+    EXPECT_TRUE(probe.geladen.empty());
+    e.zoom.Command2.druecke();
+    EXPECT_FALSE(e.zoom.ebene.sichtbar());
+    EXPECT_EQ(e.Klimaregionwahl2.index(), 2);
+    EXPECT_TRUE(probe.geladen.empty());
+
+    e.Image1.druecke();
+    e.zoom.Klimaregionwahl2.setze(4);
+    e.zoom.Command1.druecke();
+    EXPECT_FALSE(e.zoom.ebene.sichtbar());
+    EXPECT_EQ(e.Klimaregionwahl2.index(), 4);
+    EXPECT_EQ(probe.geladen, std::vector<std::string>{"tokyo.met"});
+    EXPECT_EQ(probe.p->Klimadatei, "tokyo.met");
+    EXPECT_EQ(probe.p->Geaendert, 1);
+}
+
+TEST(EZoomKlima, FindetStationenAufDerVergroessertenKarte) {
+    Klimaprobe probe;
+    probe.oeffne(3, "paris.met");
+    probe.karten_sehen();
+    E_Klima& e = *probe.e;
+    e.Image1.druecke();
+    probe.plattform.lose = {4 / 6.0 + 0.01};
+    e.zoom.Picture1.maus_bewegt(839, 95);  // 1.5 x (559.55, 63.10)
+    EXPECT_EQ(e.zoom.MausRegion.text(), "Tokyo (Japan)");
+    EXPECT_EQ(e.MausRegion.text(), "");
+    e.zoom.Picture1.maus_geklickt(839, 95);
+    EXPECT_EQ(e.zoom.Klimaregionwahl2.text(), "Tokyo (Japan)");
+    EXPECT_EQ(Klimaprobe::farbe(e.zoom.Picture1, 839, 95), farben::rot);
+    EXPECT_EQ(Klimaprobe::farbe(e.zoom.Picture1, 493, 61), farben::gelb);  // Paris no longer
+}
+
+TEST(EZoomKlima, OhneWahlBestaetigenSchliesstNur) {
+    Klimaprobe probe;
+    probe.oeffne(3, "tokyo.met");
+    E_Klima& e = *probe.e;
+    e.Klimaregionwahl2.schreibe("Atlantis");
+    e.Image1.druecke();
+    EXPECT_EQ(e.zoom.Klimaregionwahl2.index(), -1);
+    e.zoom.Command1.druecke();
+    EXPECT_FALSE(e.zoom.ebene.sichtbar());
+    EXPECT_EQ(e.Klimaregionwahl2.text(), "Atlantis");
+    EXPECT_TRUE(probe.geladen.empty());
+}
+
+TEST(EZoomKlima, SprichtBeideSprachen) {
+    const Klimaprobe deutsch("d");
+    const Klimaprobe englisch("e");
+    EXPECT_EQ(deutsch.e->zoom.ebene.text(), "Klimastationen - Welt");
+    EXPECT_EQ(englisch.e->zoom.ebene.text(), "Climate stations - World");
+    EXPECT_EQ(englisch.e->zoom.Command2.text(), "Cancel");
+    EXPECT_EQ(englisch.e->zoom.Picture1.bild(), englisch.p->AppPfad / "Grafiken" / "welt_gross.bmp");
+}
+
+}  // namespace
+}  // namespace velmaris

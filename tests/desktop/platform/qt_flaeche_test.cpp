@@ -1,0 +1,264 @@
+#include "desktop/platform/qt_flaeche.h"
+
+#include "desktop/platform/qt_schrift.h"
+#include "desktop/platform/qt_text.h"
+
+#include <QFontDatabase>
+#include <cmath>
+#include <functional>
+#include <gtest/gtest.h>
+#include <limits>
+#include <numbers>
+#include <string>
+#include <vector>
+
+namespace velmaris {
+namespace {
+
+constexpr double pi = std::numbers::pi;
+
+/// The device pixels of a surface as rows of characters: "#" black, "o" red, "." background, "?" other.
+std::vector<std::string> bild_als_text(QtFlaeche& flaeche) {
+    const QImage bild = flaeche.bild();
+    std::vector<std::string> zeilen;
+    for (int y = 0; y < bild.height(); ++y) {
+        std::string zeile;
+        for (int x = 0; x < bild.width(); ++x) {
+            const QRgb farbe = bild.pixel(x, y);
+            zeile += farbe == qRgb(0, 0, 0)         ? '#'
+                     : farbe == qRgb(255, 0, 0)     ? 'o'
+                     : farbe == qRgb(255, 255, 255) ? '.'
+                                                    : '?';
+        }
+        zeilen.push_back(zeile);
+    }
+    return zeilen;
+}
+
+struct Bildfall {
+    const char* name;
+    std::function<void(Zeichenflaeche&)> zeichne;
+    std::vector<std::string> erwartet;
+};
+
+const Farbe s = farben::schwarz;
+const Farbe r = farben::rot;
+
+TEST(QtFlaeche, ZeichnetJedenPixelGenau) {
+    const std::vector<Bildfall> faelle{
+        {"lines leave out their last pixel, in each direction",
+         [](Zeichenflaeche& f) {
+             f.linie(0, 0, 3, 0, s);
+             f.linie(6, 2, 3, 2, s);
+             f.linie(0, 2, 0, 5, s);
+             f.linie(2, 5, 2, 2, s);
+             f.linie(5, 5, 5, 5, s);
+         },
+         {"###....", ".......", "#...###", "#.#....", "#.#....", "..#...."}},
+        {"slanted at 45 degrees is solid and leaves out its last pixel",
+         [](Zeichenflaeche& f) {
+             f.linie(0, 0, 3, 3, s);
+             f.linie(6, 5, 4, 3, r);
+         },
+         {"#......", ".#.....", "..#....", ".......", ".....o.", "......o"}},
+        {"parallel slanted lines close to a solid band with smooth edges",
+         [](Zeichenflaeche& f) {
+             for (int k = 0; k < 3; ++k)
+                 f.linie(0, 5 - k, 7, 3 - k, r);
+         },
+         {".......", "....???", ".???ooo", "ooooooo", "oooo???", "o???..."}},
+        {"thick lines are even about their middle",
+         [](Zeichenflaeche& f) {
+             f.linie(0, 1, 4, 1, s, 3);
+             f.linie(5, 2, 5, 5, r, 2);
+         },
+         {"####...", "####...", "####.oo", ".....oo", ".....oo", "......."}},
+        {"boxes have all their edges, from whichever corner",
+         [](Zeichenflaeche& f) {
+             f.kasten(0, 0, 3, 2, s);
+             f.flaeche(6, 5, 5, 3, r);
+             f.flaeche(1, 4, 1, 4, s);
+         },
+         {"####...", "#..#...", "####...", ".....oo", ".#...oo", ".....oo"}},
+        {"halves go to the even pixel, also below zero",
+         [](Zeichenflaeche& f) {
+             f.punkt(0.5, 0, s);
+             f.punkt(1.5, 1, s);
+             f.punkt(2.5, 2, s);
+             f.punkt(5.51, 3, s);
+             f.flaeche(-0.5, 4, 0.5, 4, s);
+         },
+         {"#......", "..#....", "..#....", "......#", "#......", "......."}},
+        {"a circle reaches its radius on each side",
+         [](Zeichenflaeche& f) {
+             f.kreis(2, 2, 2, s, r);
+             f.kreis(5, 4, 1, r, std::nullopt);
+             f.kreis(6, 0, 0, s, s);
+             f.kreis(6, 0, -1, s, s);
+         },
+         {".###...", "#ooo#..", "#ooo#..", "#oooooo", ".###o.o", "....ooo"}},
+        {"a quarter to the upper right, with its two radii",
+         [](Zeichenflaeche& f) { f.sektor(1, 4, 4, 0, pi / 2, r); },
+         {".ooo...", ".oooo..", ".ooooo.", ".ooooo.", ".ooooo.", "......."}},
+        {"a quarter with its inside cut out by a white disc",
+         [](Zeichenflaeche& f) {
+             f.sektor(1, 4, 4, 0, static_cast<float>(pi / 2), r);
+             f.kreis(1, 4, 2, farben::weiss, farben::weiss);
+         },
+         {".ooo...", ".oooo..", "...ooo.", "....oo.", "....oo.", "......."}},
+        {"a quarter to the lower left",
+         [](Zeichenflaeche& f) { f.sektor(5, 1, 3, pi, 1.5 * pi, r); },
+         {".......", "..oooo.", "..oooo.", "...ooo.", "....oo.", "......."}},
+        {"three quarters",
+         [](Zeichenflaeche& f) { f.sektor(3, 2, 2, pi / 2, 2 * pi, r); },
+         {"..oo...", ".ooo...", ".ooooo.", ".ooooo.", "..ooo..", "......."}},
+        {"a whole turn, and nothing without a radius",
+         [](Zeichenflaeche& f) {
+             f.sektor(3, 2, 2, 0, 2 * pi, r);
+             f.sektor(3, 2, 0, 0, 2 * pi, s);
+         },
+         {"..ooo..", ".ooooo.", ".ooooo.", ".ooooo.", "..ooo..", "......."}},
+        {"outside of the surface nothing is drawn",
+         [](Zeichenflaeche& f) {
+             f.flaeche(-10, -10, -1, 100, s);
+             f.flaeche(7, 0, 1e12, 5, s);
+             f.linie(-50, 5, 1e9, 5, r);
+             f.linie(-3, -3, 2, 2, s);
+             f.kreis(-10, -10, 2, s, s);
+         },
+         {"#......", ".#.....", ".......", ".......", ".......", "ooooooo"}},
+        {"what is not a number is not drawn",
+         [](Zeichenflaeche& f) {
+             const double nan = std::numeric_limits<double>::quiet_NaN();
+             f.linie(0, 0, nan, 0, s);
+             f.flaeche(0, nan, 5, 5, s);
+             f.kasten(nan, 0, 5, 5, s);
+             f.kreis(3, 3, nan, s, s);
+             f.sektor(3, 3, 2, nan, 1, s);
+             f.text(nan, 0, "M", s);
+         },
+         {".......", ".......", ".......", ".......", ".......", "......."}},
+    };
+    for (const Bildfall& fall : faelle) {
+        QtFlaeche flaeche(QSize(7, 6), 1, farben::weiss);
+        fall.zeichne(flaeche);
+        EXPECT_EQ(bild_als_text(flaeche), fall.erwartet) << fall.name;
+    }
+}
+
+TEST(QtFlaeche, LiestLogischePixel) {
+    for (const double verhaeltnis : {1.0, 1.5, 2.0}) {
+        QtFlaeche f(QSize(6, 4), verhaeltnis, Farbe{240, 240, 240});
+        f.flaeche(1, 1, 2, 2, r);
+        f.linie(3, 0, 5, 2, farben::blau);
+        EXPECT_EQ(f.lies_punkt(1, 1), r) << verhaeltnis;
+        EXPECT_EQ(f.lies_punkt(2.4, 1.6), r) << verhaeltnis;
+        EXPECT_EQ(f.lies_punkt(0, 1), f.hintergrund()) << verhaeltnis;
+        EXPECT_EQ(f.lies_punkt(3, 2), f.hintergrund()) << verhaeltnis;
+        EXPECT_NE(f.lies_punkt(4, 1), f.hintergrund()) << "a pending line is read, at " << verhaeltnis;
+        for (const QPoint aussen : {QPoint(-1, 0), QPoint(0, -1), QPoint(6, 0), QPoint(0, 4)})
+            EXPECT_EQ(f.lies_punkt(aussen.x(), aussen.y()), f.hintergrund()) << verhaeltnis;
+        f.Cls();
+        EXPECT_EQ(f.lies_punkt(1, 1), f.hintergrund()) << verhaeltnis;
+    }
+}
+
+TEST(QtFlaeche, ClsZeigtDasBildDahinter) {
+    QImage karte(3, 2, QImage::Format_RGB32);
+    karte.fill(qRgb(1, 2, 3));
+    karte.setPixel(2, 1, qRgb(9, 8, 7));
+    for (const double verhaeltnis : {1.0, 2.0}) {
+        QtFlaeche f(QSize(5, 4), verhaeltnis, farben::weiss);
+        f.hintergrundbild(karte);
+        f.flaeche(0, 0, 4, 3, r);
+        f.Cls();
+        EXPECT_EQ(f.lies_punkt(0, 0), (Farbe{1, 2, 3})) << verhaeltnis;
+        EXPECT_EQ(f.lies_punkt(2, 1), (Farbe{9, 8, 7})) << verhaeltnis;
+        EXPECT_EQ(f.lies_punkt(3, 0), farben::weiss) << verhaeltnis;
+    }
+}
+
+/// How many pixels of an image have another colour than white.
+int gezeichnet(const QImage& bild) {
+    int zahl = 0;
+    for (int y = 0; y < bild.height(); ++y) {
+        for (int x = 0; x < bild.width(); ++x)
+            zahl += bild.pixel(x, y) != qRgb(255, 255, 255) ? 1 : 0;
+    }
+    return zahl;
+}
+
+TEST(QtFlaeche, IstAufFeinemSchirmGleichGrossUndFeiner) {
+    struct Fall {
+        const char* name;
+        std::function<void(Zeichenflaeche&)> zeichne;
+        bool nur_groesser;  ///< each pixel becomes a square of four, and no more
+    };
+    const std::vector<Fall> faelle{
+        {"line", [](Zeichenflaeche& f) { f.linie(2, 3, 20, 3, s); }, true},
+        {"thick line", [](Zeichenflaeche& f) { f.linie(9, 3, 9, 20, s, 3); }, true},
+        {"boxes", [](Zeichenflaeche& f) { f.kasten(1.5, 1, 9, 9, s), f.flaeche(11, 11, 19, 15, r); }, true},
+        {"circle", [](Zeichenflaeche& f) { f.kreis(15, 10, 6, s, r); }, false},
+        {"pie", [](Zeichenflaeche& f) { f.sektor(4, 16, 14, 0, pi / 2, r); }, false},
+        {"slanted line", [](Zeichenflaeche& f) { f.linie(2, 2, 25, 12, s); }, false},
+        {"text", [](Zeichenflaeche& f) { f.text(2, 2, "Okt", s); }, false},
+    };
+    for (const Fall& fall : faelle) {
+        QtFlaeche grob(QSize(30, 20), 1, farben::weiss);
+        QtFlaeche fein(QSize(30, 20), 2, farben::weiss);
+        fall.zeichne(grob);
+        fall.zeichne(fein);
+        const QImage doppelt = grob.bild().scaled(60, 40);
+        ASSERT_EQ(fein.bild().size(), doppelt.size());
+        EXPECT_EQ(fein.bild().devicePixelRatio(), 2.0);
+        QImage vergleich = fein.bild();
+        vergleich.setDevicePixelRatio(1);
+        EXPECT_EQ(vergleich == doppelt, fall.nur_groesser) << fall.name;
+        EXPECT_NEAR(gezeichnet(vergleich), gezeichnet(doppelt), 0.35 * gezeichnet(doppelt)) << fall.name;
+    }
+}
+
+TEST(QtFlaeche, TextStehtInSeinemKasten) {
+    QtFlaeche grob(QSize(80, 30), 1, farben::weiss);
+    QtFlaeche fein(QSize(80, 30), 2, farben::weiss);
+    const double breite = grob.textbreite("Jahresbilanz");
+    EXPECT_EQ(fein.textbreite("Jahresbilanz"), breite);
+    EXPECT_EQ(fein.texthoehe("T"), grob.texthoehe("T"));
+    EXPECT_NEAR(grob.textbreite(" 5"), grob.textbreite(" ") + grob.textbreite("5"), 0.6) << "blanks count";
+
+    grob.text(5, 6, "Jahresbilanz", s);
+    const QImage bild = grob.bild();
+    EXPECT_GT(gezeichnet(bild), 100);
+    const QRect kasten(5, 6, static_cast<int>(std::ceil(breite)), static_cast<int>(grob.texthoehe("J")));
+    EXPECT_EQ(gezeichnet(bild.copy(kasten)), gezeichnet(bild)) << "nothing beyond width and height";
+}
+
+TEST(QtFlaeche, DerHofHebtTextVonSeinemGrundAb) {
+    QtFlaeche bild(QSize(60, 30), 1, farben::schwarz);
+    bild.text(10, 8, "III", farben::schwarz);
+    EXPECT_EQ(gezeichnet(bild.bild()), 60 * 30) << "black on black";
+    bild.schrift({.hof = farben::weiss});
+    bild.text(10, 8, "III", farben::schwarz);
+    EXPECT_LT(gezeichnet(bild.bild()), 60 * 30 - 30);
+    const QRect drumherum(8, 6, static_cast<int>(std::ceil(bild.textbreite("III"))) + 4,
+                          static_cast<int>(bild.texthoehe("I")) + 4);
+    EXPECT_EQ(gezeichnet(bild.bild().copy(drumherum)) - drumherum.width() * drumherum.height(),
+              gezeichnet(bild.bild()) - 60 * 30)
+        << "nothing beyond the edge";
+}
+
+TEST(Schrift, GroessenSindGanzePixelUndFamilienVorhanden) {
+    const std::vector<std::pair<double, int>> groessen{{8.25, 11}, {8, 11}, {10, 13}, {7.875, 10}, {0.1, 1}};
+    for (const auto& [punkte, pixel] : groessen)
+        EXPECT_EQ(qschrift({.name = "Arial", .groesse = punkte}).pixelSize(), pixel) << punkte;
+    for (const char* name : {"MS Sans Serif", "Arial", "no such family"}) {
+        const QFont font = qschrift({.name = name, .fett = true});
+        EXPECT_EQ(font.family(), QFontDatabase::hasFamily(qtext(name)) ? qtext(name) : sans_familie())
+            << name;
+        EXPECT_TRUE(QFontDatabase::hasFamily(font.family())) << name;
+        EXPECT_TRUE(font.bold());
+    }
+}
+
+}  // namespace
+}  // namespace velmaris

@@ -1,0 +1,155 @@
+#include "desktop/widgets/bildflaeche.h"
+
+#include "desktop/platform/qt_text.h"
+#include "tests/desktop/bedienung.h"
+#include "tests/hilfen.h"
+#include "toolkit/text.h"
+
+#include <QMouseEvent>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace velmaris {
+namespace {
+
+using test::Testfenster;
+using test::Testordner;
+
+/// A picture field on a shown window.
+class BildflaecheTest : public testing::Test {
+  protected:
+    BildflaecheTest() {
+        wache.fehler_behandeln = [this](const Laufzeitfehler& fehler) {
+            fehlertexte.push_back(fehler.text("e"));
+        };
+        feld.zeichnen = [this](Zeichenflaeche& flaeche) {
+            ++gezeichnet;
+            flaeche.flaeche(10, 10, 19, 19, farbe);
+        };
+        bild.resize(60, 40);
+    }
+
+    /// Lets paint and posted events run.
+    static void abwarten() { QTest::qWait(1), QApplication::processEvents(); }
+
+    std::vector<std::string> fehlertexte;
+    Fehlerwache wache;
+    Farbe farbe = farben::rot;
+    int gezeichnet = 0;
+    Testfenster fenster;
+    Bildfeld feld{"AV_Picture"};
+    Bildflaeche bild{feld, wache, &fenster};
+};
+
+TEST_F(BildflaecheTest, ZeichnetNurWasGesehenWird) {
+    abwarten();
+    EXPECT_EQ(bild.objectName(), "AV_Picture");
+    EXPECT_EQ(gezeichnet, 1);
+    bild.repaint();
+    EXPECT_EQ(gezeichnet, 1) << "what was drawn is kept";
+    feld.neu_zeichnen();
+    feld.neu_zeichnen();
+    abwarten();
+    EXPECT_EQ(gezeichnet, 2) << "several wishes are one drawing";
+
+    feld.zeige(false);
+    feld.neu_zeichnen();
+    abwarten();
+    EXPECT_EQ(gezeichnet, 2) << "hidden";
+    farbe = farben::blau;
+    feld.zeige(true);
+    abwarten();
+    EXPECT_EQ(gezeichnet, 3);
+    EXPECT_EQ(feld.lies_punkt(15, 15), farben::blau);
+    EXPECT_EQ(feld.lies_punkt(2, 2), farben::weiss);
+
+    bild.resize(80, 50);
+    abwarten();
+    EXPECT_EQ(gezeichnet, 4);
+    EXPECT_EQ(bild.flaeche().breite(), 80);
+    feld.lege({.links = 20, .oben = 10, .breite = 330, .hoehe = 140});
+    EXPECT_EQ(bild.geometry(), QRect(20, 10, 330, 140));
+}
+
+TEST_F(BildflaecheTest, KommtUnveraendertAufDenSchirm) {
+    abwarten();
+    const double verhaeltnis = bild.devicePixelRatioF();
+    EXPECT_EQ(bild.flaeche().bild().size(), QSize(60, 40) * verhaeltnis);
+    const QImage schirm = bild.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(schirm, bild.flaeche().bild());
+    EXPECT_EQ(schirm.pixel(QPoint(10, 10) * verhaeltnis), qRgb(255, 0, 0));
+    EXPECT_EQ(schirm.pixel(QPoint(10, 10) * verhaeltnis - QPoint(1, 0)), qRgb(255, 255, 255));
+    EXPECT_EQ(schirm.pixel(QPoint(20, 20) * verhaeltnis - QPoint(1, 1)), qRgb(255, 0, 0));
+}
+
+TEST_F(BildflaecheTest, ReichtZeigerInBildpixelnWeiter) {
+    std::vector<std::string> ereignisse;
+    feld.maus_bewegt = [&](double x, double y) {
+        ereignisse.push_back("move " + std::to_string(std::lround(x)) + " " + std::to_string(std::lround(y)));
+    };
+    feld.maus_geklickt = [&](double x, double y) {
+        ereignisse.push_back("click " + std::to_string(std::lround(x)) + " " +
+                             std::to_string(std::lround(y)));
+    };
+    abwarten();
+    const QPointF zwischen(7.75, 9.5);  // a screen of higher resolution knows places between the pixels
+    QMouseEvent zug(QEvent::MouseMove, zwischen, bild.mapToGlobal(zwischen), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&bild, &zug);
+    QTest::mouseClick(&bild, Qt::LeftButton, {}, QPoint(8, 9));
+    QTest::mouseClick(&bild, Qt::RightButton, {}, QPoint(8, 9));
+    QTest::mousePress(&bild, Qt::LeftButton, {}, QPoint(8, 9));
+    QTest::mouseRelease(&bild, Qt::LeftButton, {}, QPoint(200, 9));
+    EXPECT_EQ(ereignisse, (std::vector<std::string>{"move 7 9", "click 8 9"}));
+
+    ereignisse.clear();
+    QEvent verlassen(QEvent::Leave);
+    QWidget tafel(&fenster);
+    tafel.setGeometry(bild.geometry().adjusted(5, 5, -5, -5));
+    tafel.show();
+    QCursor::setPos(bild.mapToGlobal(QPoint(7, 9)));
+    QApplication::sendEvent(&bild, &verlassen);
+    EXPECT_TRUE(ereignisse.empty()) << "covered by a panel, but the pointer is still here";
+    tafel.hide();
+    for (const QPoint& ort : {QPoint(7, 9), QPoint(-30, -30)}) {  // the last place told may be an old one
+        QCursor::setPos(bild.mapToGlobal(ort));
+        QApplication::sendEvent(&bild, &verlassen);
+    }
+    EXPECT_EQ(ereignisse, (std::vector<std::string>{"move -1 -1", "move -1 -1"}));
+}
+
+TEST_F(BildflaecheTest, LegtDasBildHinterDieZeichnung) {
+    const Testordner ordner;
+    QImage karte(60, 40, QImage::Format_RGB32);
+    karte.fill(qRgb(3, 60, 200));
+    const std::filesystem::path datei = ordner / "häuser.bmp";
+    ASSERT_TRUE(karte.save(qtext(pfadtext(datei)), "BMP"));
+    feld.lade(datei);
+    abwarten();
+    EXPECT_EQ(bild.flaeche().lies_punkt(0, 0), (Farbe{3, 60, 200}));
+    EXPECT_EQ(bild.flaeche().lies_punkt(15, 15), farben::rot);
+    feld.lade({});
+    EXPECT_EQ(bild.flaeche().lies_punkt(0, 0), farben::weiss);
+    EXPECT_TRUE(fehlertexte.empty());
+}
+
+TEST_F(BildflaecheTest, FehlendesBildUndFehlerBeimZeichnenWerdenEinmalGemeldet) {
+    const Testordner ordner;
+    feld.lade(ordner / "haus9.bmp");
+    for (int i = 0; i < 3; ++i) {
+        bild.repaint();
+        abwarten();
+    }
+    ASSERT_EQ(fehlertexte.size(), 1U);
+    EXPECT_NE(fehlertexte[0].find("haus9.bmp"), std::string::npos);
+    EXPECT_EQ(bild.flaeche().lies_punkt(15, 15), farben::rot) << "the drawing goes on without the picture";
+
+    feld.zeichnen = [](Zeichenflaeche&) { throw Laufzeitfehler({"Teilung durch null", "division by zero"}); };
+    feld.neu_zeichnen();
+    for (int i = 0; i < 3; ++i)
+        bild.repaint();
+    ASSERT_EQ(fehlertexte.size(), 2U);
+    EXPECT_EQ(fehlertexte[1], "division by zero");
+}
+
+}  // namespace
+}  // namespace velmaris

@@ -1,0 +1,72 @@
+#include "documents/report/rtf_lesen.h"
+
+#include <array>
+#include <gtest/gtest.h>
+
+namespace velmaris {
+namespace {
+
+std::string text(const Absatz& absatz) {
+    std::string alles;
+    for (const Textstueck& stueck : absatz.stuecke)
+        alles += stueck.text;
+    return alles;
+}
+
+TEST(RtfLesen, StileGeltenBisSieEnden) {
+    const auto absaetze = rtf_lesen(
+        R"({\rtf1\ansi{\fonttbl{\f0\froman Times New Roman;}}\qc\plain\b\i\fs60 VELM\plain\b\fs60 aris \plain \par )"
+        R"(\pard\tx4300\tx900      a\tab {\sub b}\ul c\ul0 d\par })");
+    ASSERT_EQ(absaetze.size(), 2U);
+    ASSERT_EQ(absaetze[0].stuecke.size(), 2U);
+    EXPECT_TRUE(absaetze[0].zentriert);
+    EXPECT_EQ(
+        absaetze[0].stuecke[0],
+        (Textstueck{
+            .text = "VELM", .schrift = "Times New Roman", .groesse = 30, .fett = true, .kursiv = true}));
+    EXPECT_EQ(absaetze[0].stuecke[1],
+              (Textstueck{.text = "aris ", .schrift = "Times New Roman", .groesse = 30, .fett = true}));
+    EXPECT_EQ(absaetze[0].groesse, 12);
+    const auto& zweiter = absaetze[1];
+    EXPECT_FALSE(zweiter.zentriert);
+    EXPECT_EQ(zweiter.tabstopps, (std::vector<double>{215, 45}));
+    ASSERT_EQ(zweiter.stuecke.size(), 4U);
+    EXPECT_EQ(zweiter.stuecke[0].text, "     a\t");
+    EXPECT_TRUE(zweiter.stuecke[1].tiefgestellt);
+    EXPECT_TRUE(zweiter.stuecke[2].unterstrichen);
+    EXPECT_EQ(zweiter.stuecke[3].text, "d");
+    EXPECT_FALSE(zweiter.stuecke[3].unterstrichen);
+}
+
+TEST(RtfLesen, SeitenUndZeichen) {
+    const auto absaetze = rtf_lesen("{\\rtf1 a\\par \\page\\qc b\\{\\'e4\\}\\\\ö\r\n\\par c}");
+    ASSERT_EQ(absaetze.size(), 3U);
+    EXPECT_FALSE(absaetze[0].neue_seite);
+    EXPECT_TRUE(absaetze[1].neue_seite);
+    EXPECT_EQ(text(absaetze[1]), "b{ä}\\ö");
+    EXPECT_FALSE(absaetze[2].neue_seite);
+    EXPECT_EQ(text(absaetze[2]), "c");
+}
+
+TEST(RtfLesen, UnbekanntesFaelltWeg) {
+    const auto absaetze = rtf_lesen(
+        R"({\rtf1{\colortbl;\red1\green2;}{\*\generator x;}{\info{\title y}}\kerning0\lang1031 z\par})");
+    ASSERT_EQ(absaetze.size(), 1U);
+    EXPECT_EQ(text(absaetze[0]), "z");
+}
+
+TEST(RtfLesen, KaputtesIstKeinFehler) {
+    const std::string ganz = R"({\rtf1\ansi{\fonttbl{\f0 A;}}\fs20\tx99 \'e4{\sub x}\par \page\ul y\par })";
+    for (std::size_t i = 0; i <= ganz.size(); ++i) {
+        EXPECT_LE(rtf_lesen(ganz.substr(0, i)).size(), 2U);
+        EXPECT_LE(rtf_lesen(ganz.substr(i)).size(), 2U);
+    }
+    for (const char* text : {"", "\\", "\\'", "\\'e", "\\'zz", "}}}}", "{{{{", "\\fs99999999999999",
+                             "\\fs-3 a", "\\tx", "\\f99 a\\par"})
+        EXPECT_LE(rtf_lesen(text).size(), 1U) << text;
+    EXPECT_EQ(text(rtf_lesen("}} a").at(0)), " a");
+    EXPECT_EQ(rtf_lesen("\\fs-3 a").at(0).stuecke.at(0).groesse, 12);
+}
+
+}  // namespace
+}  // namespace velmaris

@@ -1,0 +1,262 @@
+#include "tools/climate/klarheit.h"
+#include "tools/climate/sonnenjahr.h"
+#include "tools/climate/temperatur.h"
+#include "tools/climate/witterung.h"
+#include "tools/climate/zufall.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace velmaris::klimasatz {
+namespace {
+
+TEST(Jahresgang, HaeltDieMittelUndSchliesstSich) {
+    Monatswerte bremen;
+    int m = 0;
+    for (const double wert : {2.2, 2.6, 5.2, 9.4, 13.2, 16.2, 18.4, 18.0, 14.3, 10.0, 5.8, 3.1})
+        bremen(++m) = wert;
+    const Tageswerte tage = jahresgang(bremen);
+    int n = 0;
+    for (m = 1; m <= 12; ++m) {
+        const int laenge = m == 2 ? 28 : (m == 4 || m == 6 || m == 9 || m == 11 ? 30 : 31);
+        double mittel = 0;
+        for (int d = 0; d < laenge; ++d)
+            mittel += tage(++n) / laenge;
+        EXPECT_NEAR(mittel, bremen(m), 1e-8) << m;
+    }
+    EXPECT_EQ(n, 365);
+    for (n = 1; n <= 365; ++n) {
+        const double heute = tage(n);
+        const double morgen = tage(n % 365 + 1);
+        const double uebermorgen = tage((n + 1) % 365 + 1);
+        EXPECT_LT(std::fabs(morgen - heute), 0.25) << n;
+        EXPECT_LT(std::fabs(uebermorgen - 2 * morgen + heute), 0.02) << n;
+    }
+    const auto waermster = std::max_element(tage.begin(), tage.end()) - tage.begin() + 1;
+    EXPECT_GE(waermster, 196) << "the middle of July";
+    EXPECT_LE(waermster, 227) << "the middle of August";
+}
+
+TEST(Zufall, HatDieBekanntenPruefsummen) {
+    EXPECT_EQ(fnv1a(""), 0xcbf29ce484222325U);
+    EXPECT_EQ(fnv1a("a"), 0xaf63dc4c8601ec8cU);
+    EXPECT_EQ(fnv1a("foobar"), 0x85944171f73967e8U);
+}
+
+TEST(Zufall, IstNormalVerteilt) {
+    Normalzufall zufall("probe");
+    std::vector<double> zahlen(100000);
+    double mittel = 0;
+    double quadrate = 0;
+    for (double& zahl : zahlen) {
+        zahl = zufall.naechste();
+        mittel += zahl / 1e5;
+        quadrate += zahl * zahl / 1e5;
+    }
+    EXPECT_NEAR(mittel, 0, 0.013);
+    EXPECT_NEAR(quadrate, 1, 0.018);
+    // Shares below z, from the table of the normal distribution; four standard errors.
+    for (const auto& [z, anteil] :
+         {std::pair{-2.0, 0.02275}, {-1.0, 0.15866}, {0.5, 0.69146}, {1.96, 0.97500}}) {
+        const auto unter = std::count_if(zahlen.begin(), zahlen.end(), [z = z](double x) { return x < z; });
+        EXPECT_NEAR(static_cast<double>(unter) / 1e5, anteil, 4 * std::sqrt(anteil * (1 - anteil) / 1e5))
+            << z;
+    }
+    EXPECT_EQ(Normalzufall("x").naechste(), Normalzufall("x").naechste());
+    EXPECT_NE(Normalzufall("x").naechste(), Normalzufall("y").naechste());
+}
+
+TEST(Zufall, DasAutoregressiveJahrSchliesstSich) {
+    for (const double phi : {0.0, 0.3, 0.8}) {
+        Normalzufall zufall("jahr");
+        double produkte = 0;
+        double quadrate = 0;
+        double groesste_zum_jahreswechsel = 0;
+        for (int i = 0; i < 200; ++i) {
+            const Tageswerte jahr = autoregressives_jahr(zufall, phi);
+            for (int n = 1; n <= 365; ++n) {
+                quadrate += jahr(n) * jahr(n) / 365 / 200;
+                produkte += jahr(n) * jahr(n % 365 + 1) / 365 / 200;
+            }
+            groesste_zum_jahreswechsel =
+                std::max(groesste_zum_jahreswechsel, std::fabs(jahr(1) - phi * jahr(365)));
+        }
+        EXPECT_NEAR(quadrate, 1, 0.05) << phi;
+        EXPECT_NEAR(produkte, phi, 0.05) << phi;
+        EXPECT_LT(groesste_zum_jahreswechsel, 4.5 * std::sqrt(1 - phi * phi)) << phi;
+    }
+}
+
+TEST(Sonnenjahr, TrifftVeroeffentlichteWerte) {
+    // Largest and smallest distance factor: 1.033 at the turn of the year, 0.967 at midyear.
+    EXPECT_NEAR(abstandsfaktor(365), 1.033, 1e-9);
+    EXPECT_NEAR(abstandsfaktor(182), 0.967, 1e-4);
+    // Air mass 1 leaves seven tenths of 1353 W/m²; at 30 degrees of height, air mass 1.994, it is 0.5654.
+    EXPECT_NEAR(klarer_strahl(1, 0), 947, 1);
+    EXPECT_NEAR(klarer_strahl(0.5, 0), 765, 2);
+    // 2000 m up there are 0.7889 of the air: 1353 * 0.7^0.8515.
+    EXPECT_NEAR(klarer_strahl(1, 2000), 998.6, 1);
+    EXPECT_LT(klarer_strahl(0.09, 3650), 420);
+    EXPECT_LT(klarer_strahl(0.001, 0), 50);
+    for (const double cos_z : {1e-5, 0.01, 0.1, 0.5, 1.0}) {
+        EXPECT_LE(klarheitsgrenze(cos_z, 5000), 0.85);
+        EXPECT_GE(klarheitsgrenze(cos_z, 0), 0.3);
+    }
+}
+
+TEST(Sonnenjahr, DieStundeHatDenMittlerenSonnenstand) {
+    // 8.5 degrees east in the zone of 15, 50 north; and a polar place, and one where the hour angle passes
+    // midnight.
+    for (const Standort& ort : {Standort{0.8725F, 6.5F}, {1.3F, 0}, {-0.58F, -25}}) {
+        const Sonnenstand stand = sonnenstand(ort);
+        for (const int n : {1, 80, 172, 265, 300}) {
+            for (int h = 1; h <= 24; ++h) {
+                double mittel = 0;
+                int sonnig = 0;
+                for (int i = 0; i < 600; ++i) {
+                    const float faktor = direktfaktor_horizontal(ort, n, h - 1 + (i + 0.5) / 600);
+                    if (faktor <= 0) continue;
+                    mittel += 1 / static_cast<double>(faktor) / 600;
+                    ++sonnig;
+                }
+                // The second declination may take up to one degree off.
+                EXPECT_LE(stand.stunde(n)(h), mittel + 1e-4) << n << " " << h;
+                EXPECT_GE(stand.stunde(n)(h), mittel - 0.018) << n << " " << h;
+                if (sonnig > 0 && stand.stunde(n)(h) > 0.02) {
+                    EXPECT_NEAR(stand.sonnig(n)(h), mittel * 600 / sonnig, 0.018) << n << " " << h;
+                }
+            }
+        }
+    }
+}
+
+TEST(Klarheit, DieTageStreuenUmDenMonat) {
+    for (const double mittel : {0.3, 0.4, 0.5, 0.6, 0.7}) {
+        double summe = 0;
+        double davor = 0;
+        constexpr int stufen = 20001;
+        for (int i = 0; i < stufen; ++i) {
+            const double z = -5 + 10.0 * i / (stufen - 1);
+            const double k = tagesklarheit(mittel, z);
+            EXPECT_GE(k, davor);
+            davor = k;
+            summe += k * std::exp(-z * z / 2) / std::sqrt(2 * 3.14159265358979) * 10 / (stufen - 1);
+        }
+        // The closed form of the exponent misses the mean by up to 0.01.
+        EXPECT_NEAR(summe, mittel, 0.015) << mittel;
+        EXPECT_NEAR(tagesklarheit(mittel, -8), 0.05, 1e-6);
+        EXPECT_LT(davor, 0.85);
+    }
+    // The clearest day of a month of clearness 0.5 is 0.6313 + 0.1335 - 0.0002.
+    EXPECT_NEAR(tagesklarheit(0.5, 8), 0.7646, 1e-4);
+}
+
+TEST(Klarheit, DerDiffusanteilIstDerVeroeffentlichte) {
+    EXPECT_NEAR(diffusanteil(0), 1, 1e-9);
+    EXPECT_NEAR(diffusanteil(0.2), 0.982, 1e-9);
+    EXPECT_NEAR(diffusanteil(0.5), 0.6592, 1e-4);
+    EXPECT_NEAR(diffusanteil(0.7), 0.2440, 1e-4);
+    EXPECT_EQ(diffusanteil(0.84), 0.165);
+    for (const double naht : {0.22, 0.8})
+        EXPECT_NEAR(diffusanteil(naht - 1e-9), diffusanteil(naht + 1e-9), 5e-4);
+}
+
+TEST(Temperatur, DieTageswelleLaeuftVonSonnenaufgangZumNachmittag) {
+    // Day length, and the sunrise for which the wave is drawn: at the poles it is kept between 9 and 2
+    // o'clock.
+    for (const auto& [laenge, aufgang] :
+         {std::pair{12.0, 6.0}, {8.0, 8.0}, {16.0, 4.0}, {0.0, 9.0}, {24.0, 2.0}}) {
+        std::pair<double, double> kleinster{1, 0};
+        std::pair<double, double> groesster{-1, 0};
+        double davor = tageswelle(24 - 1e-9, laenge);
+        for (int i = 0; i < 2400; ++i) {
+            const std::pair<double, double> punkt{tageswelle(i / 100.0, laenge), i / 100.0};
+            EXPECT_LT(std::fabs(punkt.first - davor), 0.01) << laenge << " " << i;
+            davor = punkt.first;
+            kleinster = std::min(kleinster, punkt);
+            groesster = std::max(groesster, punkt);
+        }
+        EXPECT_NEAR(kleinster.first, 0, 0.002);
+        EXPECT_NEAR(groesster.first, 1, 1e-4);
+        EXPECT_NEAR(groesster.second, 13.86, 0.02);
+        EXPECT_NEAR(kleinster.second, aufgang - 0.17, 0.02);
+    }
+}
+
+TEST(Temperatur, DieSpanneWaechstMitDerKlarheit) {
+    double davor = 0;
+    for (const double klarheit : {0.1, 0.2, 0.4, 0.6}) {
+        EXPECT_GT(spannenfaktor(klarheit), davor);
+        davor = spannenfaktor(klarheit);
+    }
+    // Back through 0.7 (1 - exp(-x^2.4)).
+    EXPECT_NEAR(0.7 * (1 - std::exp(-std::pow(spannenfaktor(0.45), 2.4))), 0.45, 1e-9);
+    EXPECT_GT(spannenfaktor(0), 0);
+    EXPECT_TRUE(std::isfinite(spannenfaktor(1)));
+}
+
+TEST(Temperatur, DieTageStreuenWieDieMonatsmittelEsVerlangen) {
+    Monatswerte ta;
+    for (double& wert : ta)
+        wert = 20;
+    EXPECT_NEAR(tagesstreuung(ta)(1), 0.72, 1e-9) << "no seasons";
+    for (int m = 1; m <= 6; ++m)
+        ta(m) = 8;
+    // The months spread by 6 K: at 8 degrees 1.45 - 0.232 + 0.3984 = 1.6164 K of the monthly means; times
+    // sqrt(31 * 0.3 / 1.7) = 2.3389. February has 28 days: 2.2229.
+    EXPECT_NEAR(tagesstreuung(ta)(1), 3.781, 0.001);
+    EXPECT_NEAR(tagesstreuung(ta)(2), 3.593, 0.001);
+    for (int m = 1; m <= 6; ++m)
+        ta(m) = 14.1;
+    // They spread by 2.95 K, half the way from 1.2 to 4.7: 1.45 - 0.4089 + 0.19588 = 1.23698 K, 2.8932 K a
+    // day.
+    EXPECT_NEAR(tagesstreuung(ta)(1), (0.72 + 2.8932) / 2, 0.001);
+    for (int m = 1; m <= 6; ++m)
+        ta(m) = -20;
+    // Counted as -15 degrees and 8 K: 1.45 + 0.435 + 0.5312 = 2.4162 K.
+    EXPECT_NEAR(tagesstreuung(ta)(1), 5.651, 0.001);
+}
+
+TEST(Witterung, SonneUndWaermeSindDurchDasJahrVerbunden) {
+    // Extraterrestrial sums at 50 degrees north: 11.6 kWh/m² in June, 2.2 in December, 6 and 7.5 at the
+    // equinoxes.
+    EXPECT_NEAR(sonnenwaerme(11.6, 50), 0.58, 1e-9);
+    EXPECT_NEAR(sonnenwaerme(11.6, -50), 0.58, 1e-9);
+    EXPECT_NEAR(sonnenwaerme(2.2, 50), -0.45, 1e-9);
+    EXPECT_NEAR(sonnenwaerme(7.25, 50), 0.065, 1e-9);
+    EXPECT_GT(sonnenwaerme(10, 0), 0.1);
+    EXPECT_LT(sonnenwaerme(10, 0), 0.3);
+    EXPECT_GT(waermeschiefe(0.58, 17), 0.8);
+    EXPECT_EQ(waermeschiefe(-0.4, 5), 0);
+    EXPECT_EQ(waermeschiefe(0.58, 24), 0);
+
+    Jahreszeiten zeiten;
+    for (int n = 1; n <= 365; ++n) {
+        const double sommer = -std::cos(2 * 3.14159265358979 * n / 365);
+        zeiten.kopplung(n) = 0.1 + 0.45 * sommer;
+        zeiten.schiefe(n) = std::max(0.0, sommer);
+        zeiten.stand(n) = 3 * sommer;
+    }
+    double gedaechtnis = 0;
+    for (const char* schluessel : {"a", "b", "c", "d"}) {
+        const Witterung jahr = witterung_erzeugen(schluessel, zeiten);
+        double juli = 0;
+        double januar = 0;
+        for (int n = 1; n <= 365; ++n) {
+            gedaechtnis += jahr.waerme(n) * jahr.waerme(n % 365 + 1) / 365 / 4;
+            if (n > 151 && n <= 243) juli += jahr.waerme(n) * jahr.helle(n) / 92;
+            if (n <= 59 || n > 334) januar += jahr.waerme(n) * jahr.helle(n) / 90;
+        }
+        // The means of the courses over the seasons are 0.1 + 0.45 * 0.9 and 0.1 - 0.45 * 0.9.
+        EXPECT_NEAR(juli, 0.505, 0.1) << schluessel;
+        EXPECT_NEAR(januar, -0.305, 0.1) << schluessel;
+        EXPECT_LT(*std::max_element(jahr.waerme.begin(), jahr.waerme.end()), 3.6) << schluessel;
+    }
+    // The months' means are taken off a series of 0.7.
+    EXPECT_NEAR(gedaechtnis, 0.63, 0.06);
+}
+
+}  // namespace
+}  // namespace velmaris::klimasatz

@@ -1,0 +1,80 @@
+#include "tests/tools/pictures/kartenprobe.h"
+
+#include "tests/hilfen.h"
+#include "toolkit/text.h"
+
+#include <cstdint>
+#include <sstream>
+#include <stdexcept>
+
+namespace velmaris::test {
+namespace {
+
+std::vector<std::string> zerlegt(const std::string& zeile) {
+    std::istringstream strom(zeile + ",");
+    std::vector<std::string> felder;
+    for (std::string feld; std::getline(strom, feld, ',');)
+        felder.push_back(feld);
+    return felder;
+}
+
+std::uint32_t zahl(const std::string& bytes, std::size_t ab, std::size_t anzahl) {
+    std::uint32_t wert = 0;
+    for (std::size_t i = anzahl; i-- > 0;)
+        wert = wert * 256 + static_cast<unsigned char>(bytes.at(ab + i));
+    return wert;
+}
+
+}  // namespace
+
+std::filesystem::path datenordner() {
+    return pfad(VELMARIS_DATEN);
+}
+
+std::filesystem::path programmordner() {
+    return pfad(VELMARIS_PROGRAMMORDNER);
+}
+
+Farbe Bitmap::bei(int x, int y) const {
+    if (x < 0 || y < 0 || x >= breite || y >= hoehe) throw std::out_of_range("pixel outside the picture");
+    return pixel[static_cast<std::size_t>(y) * static_cast<std::size_t>(breite) +
+                 static_cast<std::size_t>(x)];
+}
+
+Bitmap grafik(const std::string& name) {
+    const std::string bytes = inhalt(programmordner() / "Grafiken" / name);
+    const bool passt = bytes.substr(0, 2) == "BM" && zahl(bytes, 2, 4) == bytes.size() &&
+                       zahl(bytes, 14, 4) == 40 && zahl(bytes, 26, 2) == 1 && zahl(bytes, 28, 2) == 24 &&
+                       zahl(bytes, 30, 4) == 0;
+    if (!passt) throw std::runtime_error(name + ": no plain bitmap of 24 bits");
+    const std::size_t beginn = zahl(bytes, 10, 4), breite = zahl(bytes, 18, 4), hoehe = zahl(bytes, 22, 4);
+    const std::size_t zeile = (breite * 24 + 31) / 32 * 4;
+    if (beginn + zeile * hoehe != bytes.size()) throw std::runtime_error(name + ": wrong length");
+    Bitmap bild{static_cast<int>(breite), static_cast<int>(hoehe), {}};
+    for (std::size_t y = 0; y < hoehe; ++y) {
+        for (std::size_t x = 0; x < breite; ++x) {
+            const std::uint32_t rgb = zahl(bytes, beginn + (hoehe - 1 - y) * zeile + 3 * x, 3);
+            bild.pixel.push_back({static_cast<std::uint8_t>(rgb >> 16),
+                                  static_cast<std::uint8_t>(rgb >> 8 & 255),
+                                  static_cast<std::uint8_t>(rgb & 255)});
+        }
+    }
+    return bild;
+}
+
+std::vector<std::map<std::string, std::string>> fakten(const std::string& name) {
+    std::istringstream strom(inhalt(datenordner() / name));
+    std::string zeile;
+    std::getline(strom, zeile);
+    const std::vector<std::string> kopf = zerlegt(zeile);
+    std::vector<std::map<std::string, std::string>> zeilen;
+    while (std::getline(strom, zeile)) {
+        const std::vector<std::string> felder = zerlegt(zeile);
+        auto& neue = zeilen.emplace_back();
+        for (std::size_t i = 0; i < kopf.size(); ++i)
+            neue[kopf[i]] = felder.at(i);
+    }
+    return zeilen;
+}
+
+}  // namespace velmaris::test

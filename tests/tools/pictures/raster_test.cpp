@@ -1,0 +1,97 @@
+#include "tools/pictures/raster.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace velmaris::bilder {
+namespace {
+
+double summe(const Deckung& deckung) {
+    double ergebnis = 0;
+    for (int y = 0; y < deckung.hoehe(); ++y) {
+        for (int x = 0; x < deckung.breite(); ++x)
+            ergebnis += deckung.anteil(x, y);
+    }
+    return ergebnis;
+}
+
+Ring quadrat(double von, double bis) {
+    return {{von, von}, {bis, von}, {bis, bis}, {von, bis}, {von, von}};
+}
+
+TEST(Fuellung, DecktDenFlaecheninhalt) {
+    const struct {
+        std::string name;
+        Flaeche flaeche;
+        double inhalt;
+    } faelle[] = {
+        {"rectangle between pixels", {{{2.25, 3.5}, {7.75, 3.5}, {7.75, 6}, {2.25, 6}, {2.25, 3.5}}}, 13.75},
+        {"triangle", {{{1, 1}, {9, 1}, {1, 9}, {1, 1}}}, 32},
+        {"sliver", {{{1, 1}, {9, 9}, {9, 9.5}, {1, 1}}}, 2},
+        {"hole", {quadrat(1, 9), quadrat(3, 7)}, 48},
+        {"island in a hole", {quadrat(1, 9), quadrat(3, 7), quadrat(4, 5)}, 49},
+        {"beyond the picture", {quadrat(-5, 5)}, 25},
+        {"right of the picture", {{{12, 2}, {14, 2}, {14, 5}, {12, 2}}}, 0},
+    };
+    for (const auto& fall : faelle) {
+        EXPECT_NEAR(summe(fuellung(10, 10, fall.flaeche)), fall.inhalt, 0.01) << fall.name;
+    }
+    const Deckung rechteck = fuellung(10, 10, faelle[0].flaeche);
+    EXPECT_NEAR(rechteck.anteil(2, 3), 0.375, 1e-12);
+    EXPECT_NEAR(rechteck.anteil(2, 4), 0.75, 1e-12);
+    EXPECT_NEAR(rechteck.anteil(5, 5), 1, 1e-12);
+    EXPECT_EQ(rechteck.anteil(5, 6), 0);
+}
+
+TEST(Kernfuellung, NachbarnTeilenSichJedenPixel) {
+    const Ring links{{0, 0}, {4.5, 0}, {7.3, 5.5}, {2.5, 10}, {0, 10}, {0, 0}};
+    const Ring rechts{{10, 0}, {4.5, 0}, {7.3, 5.5}, {2.5, 10}, {10, 10}, {10, 0}};
+    const Deckung a = kernfuellung(10, 10, {links}), b = kernfuellung(10, 10, {rechts});
+    for (int y = 0; y < 10; ++y) {
+        for (int x = 0; x < 10; ++x)
+            EXPECT_EQ(a.anteil(x, y) + b.anteil(x, y), 1) << x << ", " << y;
+    }
+    EXPECT_EQ(a.anteil(6, 5), 1);
+    EXPECT_EQ(b.anteil(7, 5), 1);
+}
+
+TEST(Linien, SindSoDickWieVerlangt) {
+    for (const double dicke : {0.7, 1.0, 3.0, 4.5}) {
+        const Deckung waagrecht = linien(40, 20, {{{-5, 9.5}, {50, 9.5}}}, dicke);
+        EXPECT_NEAR(summe(waagrecht), 40 * dicke, 40 * 0.16) << dicke;
+        const Deckung schraeg = linien(40, 20, {{{5, 3}, {33, 16}}}, dicke);
+        EXPECT_NEAR(summe(schraeg), std::hypot(28, 13) * dicke, dicke * dicke + 2) << dicke;
+    }
+    const Deckung linie = linien(10, 10, {{{2.5, 5.5}, {8.5, 5.5}}}, 1);
+    EXPECT_EQ(linie.anteil(5, 5), 1);
+    EXPECT_EQ(linie.anteil(5, 4), 0);
+    EXPECT_EQ(linie.anteil(1, 5), 0);
+}
+
+TEST(Auftragen, MischtNachDeckungUndDeckkraft) {
+    Bild bild(3, 1, {100, 200, 0});
+    Deckung deckung(3, 1);
+    deckung.anteil(1, 0) = 0.5;
+    deckung.anteil(2, 0) = 1;
+    auftragen(bild, deckung, {200, 100, 10});
+    EXPECT_EQ(bild.pixel(0, 0), (Farbe{100, 200, 0}));
+    EXPECT_EQ(bild.pixel(1, 0), (Farbe{150, 150, 5}));
+    EXPECT_EQ(bild.pixel(2, 0), (Farbe{200, 100, 10}));
+    auftragen(bild, deckung, {0, 0, 0}, 0.5);
+    EXPECT_EQ(bild.pixel(2, 0), (Farbe{100, 50, 5}));
+}
+
+TEST(Bmp, SchreibtKopfUndZeilenVonUnten) {
+    Bild bild(1, 2, {1, 2, 3});
+    bild.pixel(0, 1) = {250, 128, 7};
+    const std::vector<unsigned char> erwartet{
+        'B',  'M',  62, 0, 0, 0, 0, 0,  0, 0, 54, 0, 0, 0,   40,  0, 0, 0,    1,    0, 0,
+        0,    2,    0,  0, 0, 1, 0, 24, 0, 0, 0,  0, 0, 8,   0,   0, 0, 0xC4, 0x0E, 0, 0,
+        0xC4, 0x0E, 0,  0, 0, 0, 0, 0,  0, 0, 0,  0, 7, 128, 250, 0, 3, 2,    1,    0};
+    EXPECT_EQ(bild.bmp(), std::string(erwartet.begin(), erwartet.end()));
+}
+
+}  // namespace
+}  // namespace velmaris::bilder

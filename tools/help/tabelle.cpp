@@ -1,0 +1,45 @@
+#include "tools/help/tabelle.h"
+
+namespace velmaris::hilfe {
+
+std::string html(std::string_view text) {
+    std::string ergebnis;
+    for (const char c : text) {
+        switch (c) {
+            case '&':
+                ergebnis += "&amp;";
+                break;
+            case '<':
+                ergebnis += "&lt;";
+                break;
+            case '>':
+                ergebnis += "&gt;";
+                break;
+            case '"':
+                ergebnis += "&quot;";
+                break;
+            default:
+                ergebnis += c;
+        }
+    }
+    return ergebnis;
+}
+
+Tabelle::Tabelle(const std::vector<std::string>& kopf)
+    : text_("<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\">\n") {
+    reihe("th", kopf);
+}
+
+void Tabelle::zeile(const std::vector<std::string>& zellen) {
+    reihe("td", zellen);
+}
+
+void Tabelle::reihe(std::string_view marke, const std::vector<std::string>& zellen) {
+    text_ += "<tr>";
+    for (const std::string& zelle : zellen) {
+        text_.append("<").append(marke).append(">").append(zelle).append("</").append(marke).append(">");
+    }
+    text_ += "</tr>\n";
+}
+
+}  // namespace velmaris::hilfe
