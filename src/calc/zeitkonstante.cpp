@@ -10,8 +10,6 @@ namespace velmaris {
 namespace {
 
 constexpr double luftkapazitaet = 1290;  // J/(m3 K)
-constexpr double grundlinie = 1500;
-constexpr double ueberlappung = 10;
 
 /// Surface of the inner walls: the walls of all whole rooms less the four sides of the house, m2. Negative
 /// for a small building.
@@ -56,10 +54,6 @@ float baukapazitaet(const Projekt& p) {
          "values and the air change."});
 }
 
-double kapazitaet_je_volumen(const Projekt& p) {
-    return static_cast<double>(p.Cwirk) / p.v_geb / 3600;
-}
-
 }  // namespace
 
 double waermekapazitaet(int zeile, double sonst) {
@@ -85,15 +79,8 @@ void zeitkonstante_berechnen(Projekt& p) {
     p.tau = f32(p.Cwirk / (ht + hv));
 }
 
-SpeicherTexte speicher_texte(const Projekt& p) {
-    return {muster(kapazitaet_je_volumen(p), 1), muster(static_cast<double>(p.Cwirk) / 3600 / 1000, 1)};
-}
-
-Gewichte gewichte(const Projekt& p) {
-    const double wurzel = std::sqrt(kapazitaet_je_volumen(p));
-    const double unten = wurzel * 100;
-    const double darauf = wurzel * 400 / 9;
-    return {{unten, grundlinie - unten}, {darauf, grundlinie - unten - darauf + ueberlappung}};
+double kapazitaet_je_volumen(const Projekt& p) {
+    return static_cast<double>(p.Cwirk) / p.v_geb / 3600;
 }
 
 }  // namespace velmaris

@@ -1,6 +1,6 @@
 #include "planes/E_Fenster.h"
 
-#include "calc/geometrietexte.h"
+#include "planes/geometrietexte.h"
 #include "toolkit/zahlen.h"
 
 namespace velmaris {

@@ -1,6 +1,7 @@
 #include "planes/E_Gebaeude.h"
 
 #include "calc/zeitkonstante.h"
+#include "charts/gewichtbild.h"
 #include "toolkit/zahlen.h"
 
 #include <string>
@@ -12,27 +13,6 @@ namespace {
 std::vector<std::string> bauarten(const std::string& sprache) {
     if (sprache == "e") return {"heavy construction", "medium construction", "light construction"};
     return {"Schwere Bauweise", "Mittelschwere Bauweise", "Leichte Bauweise"};
-}
-
-/// The stacked weight on a base line near the lower edge; what is too high for the surface goes beyond it.
-void gewicht_zeichnen(const Projekt& p, Zeichenflaeche& flaeche) {
-    constexpr double twips = 15;
-    constexpr double grundlinie = 1500;
-    constexpr double halbe_breite_unten = 30, halbe_breite_oben = 14;
-    constexpr Farbe eisen{112, 118, 126};
-    const double boden = flaeche.hoehe() - 3;
-    const double mitte = flaeche.breite() / 2;
-    const auto stueck = [&](const Gewicht& gewicht, double halbe_breite) {
-        const double oben = boden - (grundlinie - gewicht.oben) / twips;
-        const double unten = oben + gewicht.hoehe / twips;
-        flaeche.flaeche(mitte - halbe_breite, oben, mitte + halbe_breite, unten, eisen);
-        flaeche.kasten(mitte - halbe_breite, oben, mitte + halbe_breite, unten, farben::schwarz);
-    };
-    flaeche.Cls();
-    const Gewichte g = gewichte(p);
-    stueck(g.Gewicht2, halbe_breite_oben);
-    stueck(g.Gewicht1, halbe_breite_unten);
-    flaeche.linie(0, boden, flaeche.breite(), boden, farben::schwarz);
 }
 
 }  // namespace
@@ -113,9 +93,8 @@ void E_Gebaeude::bauart_gewaehlt(std::int16_t Projekt::*ziel, const Auswahlliste
 }
 
 void E_Gebaeude::gebaeude_zeigen() {
-    const SpeicherTexte texte = speicher_texte(s_.p);
-    Cwirk_anz.schreibe(texte.Cwirk_anz);
-    cges_anz.schreibe(texte.cges_anz);
+    Cwirk_anz.schreibe(muster(kapazitaet_je_volumen(s_.p), 1));
+    cges_anz.schreibe(muster(double{s_.p.Cwirk} / 3600 / 1000, 1));
     Traegheit.neu_zeichnen();
 }
 

@@ -1,8 +1,8 @@
 #include "planes/E_Geometrie.h"
 
-#include "calc/geometrietexte.h"
 #include "charts/geometriebilder.h"
 #include "climate/strahlung.h"
+#include "planes/geometrietexte.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 

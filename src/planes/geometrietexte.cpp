@@ -1,4 +1,4 @@
-#include "calc/geometrietexte.h"
+#include "planes/geometrietexte.h"
 
 #include "calc/fassaden.h"
 #include "calc/waermestroeme.h"
