@@ -1,6 +1,7 @@
 #include "climate/stationslisten.h"
 
 #include "climate/klimadatei.h"
+#include "project/klimaname.h"
 #include "project/klimaordner.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "project/c_glob.h"
-#include "toolkit/fehler.h"
 
 #include <filesystem>
-#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -41,9 +39,5 @@ class Klimaordner {
 /// platform's place for it, empty if there is none.
 [[nodiscard]] std::filesystem::path datenordner_bestimmen(const std::filesystem::path& programmordner,
                                                           const std::filesystem::path& benutzerordner);
-
-/// Why a name cannot be that of a station file: it is a plain file name that ends in ".met", without a
-/// folder, a drive or control characters. Nothing if it can.
-[[nodiscard]] std::optional<Zweisprachig> klimanamensfehler(std::string_view name);
 
 }  // namespace velmaris

@@ -1,7 +1,7 @@
 #include "project/projektdatei.h"
 
 #include "project/feldtabelle.h"
-#include "project/klimaordner.h"
+#include "project/klimaname.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
