@@ -15,6 +15,7 @@
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
+#include <functional>
 #include <ostream>
 
 namespace velmaris {
@@ -43,52 +44,79 @@ void dateien_schreiben(const Auftrag& auftrag, Haupt& haupt) {
     if (auftrag.bericht) report_exportieren(reportquelle(haupt), pfad(*auftrag.bericht));
 }
 
+/// The steps of an order. Each returns whether all went well; what did not stands among the faults.
+class Ausfuehrung {
+  public:
+    Ausfuehrung(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler)
+        : a_(auftrag), aus_(aus), fehler_(fehler) {}
+
+    bool klima_importieren(const Importauftrag& klimaimport) {
+        return versuche(klimaimport.quelle, [&] {
+            const Klimaordner ordner(a_.programmordner,
+                                     datenordner_bestimmen(a_.programmordner, plattform_.datenordner()));
+            const Importbericht bericht = importieren(klimaimport, ordner, a_.sprache);
+            if (!a_.json) aus_ << in_einer_zeile(bericht.geschrieben) << '\n';
+            if (!bericht.warnung.empty()) fehler_ << in_einer_zeile(bericht.warnung) << '\n';
+        });
+    }
+
+    bool neues_schreiben(const std::string& datei) {
+        return versuche(
+            datei, [&] { sichern(*programm_vorbereiten(plattform_, a_.programmordner, a_.sprache), datei); });
+    }
+
+    bool rechnen(const std::string& datei) {
+        return versuche(datei, [&] {
+            const auto haupt = projekt_rechnen(plattform_, a_.programmordner, a_.sprache, datei);
+            dateien_schreiben(a_, *haupt);
+            if (a_.json) {
+                ergebnisse_.push_back(als_json(*haupt));
+            } else if (a_.berichtsseite) {
+                aus_ << seitentext(report_in_sprache(reportquelle(*haupt), *a_.berichtsseite));
+            } else {
+                aus_ << zusammenfassung(*haupt) << '\n';
+            }
+        });
+    }
+
+    /// A single project stands as an object, several as an array of those that could be calculated.
+    bool json_schreiben() {
+        return versuche(a_.projekte.back(), [&] {
+            if (a_.projekte.size() > 1) aus_ << json_text(ergebnisse_) << '\n';
+            if (a_.projekte.size() == 1 && !ergebnisse_.empty()) aus_ << json_text(ergebnisse_[0]) << '\n';
+        });
+    }
+
+    bool abschliessen() {
+        if (aus_.flush()) return true;
+        const Zweisprachig voll{"die Ausgabe kann nicht geschrieben werden", "the output cannot be written"};
+        fehler_ << voll.in(a_.sprache) << '\n';
+        return false;
+    }
+
+  private:
+    bool versuche(const std::string& datei, const std::function<void()>& stueck) {
+        return versuchen(fehler_, a_.sprache, datei, stueck);
+    }
+
+    const Auftrag& a_;
+    std::ostream& aus_;
+    std::ostream& fehler_;
+    Konsolenplattform plattform_;
+    Json ergebnisse_ = Json::array();
+};
+
 }  // namespace
 
 int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) {
-    Konsolenplattform plattform;
+    Ausfuehrung ausfuehrung(auftrag, aus, fehler);
     bool gut = true;
-    if (auftrag.klimaimport) {
-        gut = versuchen(fehler, auftrag.sprache, auftrag.klimaimport->quelle, [&] {
-            const Klimaordner ordner(auftrag.programmordner,
-                                     datenordner_bestimmen(auftrag.programmordner, plattform.datenordner()));
-            const Importbericht bericht = importieren(*auftrag.klimaimport, ordner, auftrag.sprache);
-            if (!auftrag.json) aus << in_einer_zeile(bericht.geschrieben) << '\n';
-            if (!bericht.warnung.empty()) fehler << in_einer_zeile(bericht.warnung) << '\n';
-        });
-    }
-    if (auftrag.neu) {
-        gut &= versuchen(fehler, auftrag.sprache, *auftrag.neu, [&] {
-            const auto haupt = programm_vorbereiten(plattform, auftrag.programmordner, auftrag.sprache);
-            sichern(*haupt, *auftrag.neu);
-        });
-    }
-    Json ergebnisse = Json::array();
-    for (const std::string& datei : auftrag.projekte) {
-        const bool gelungen = versuchen(fehler, auftrag.sprache, datei, [&] {
-            const auto haupt = projekt_rechnen(plattform, auftrag.programmordner, auftrag.sprache, datei);
-            dateien_schreiben(auftrag, *haupt);
-            if (auftrag.json) {
-                ergebnisse.push_back(als_json(*haupt));
-            } else if (auftrag.berichtsseite) {
-                aus << seitentext(report_in_sprache(reportquelle(*haupt), *auftrag.berichtsseite));
-            } else {
-                aus << zusammenfassung(*haupt) << '\n';
-            }
-        });
-        gut = gut && gelungen;
-    }
-    if (auftrag.json && !auftrag.projekte.empty()) {
-        gut &= versuchen(fehler, auftrag.sprache, auftrag.projekte.back(), [&] {
-            if (auftrag.projekte.size() > 1) aus << json_text(ergebnisse) << '\n';
-            if (auftrag.projekte.size() == 1 && !ergebnisse.empty()) aus << json_text(ergebnisse[0]) << '\n';
-        });
-    }
-    if (!aus.flush()) {
-        const Zweisprachig voll{"die Ausgabe kann nicht geschrieben werden", "the output cannot be written"};
-        fehler << voll.in(auftrag.sprache) << '\n';
-        gut = false;
-    }
+    if (auftrag.klimaimport) gut &= ausfuehrung.klima_importieren(*auftrag.klimaimport);
+    if (auftrag.neu) gut &= ausfuehrung.neues_schreiben(*auftrag.neu);
+    for (const std::string& datei : auftrag.projekte)
+        gut &= ausfuehrung.rechnen(datei);
+    if (auftrag.json && !auftrag.projekte.empty()) gut &= ausfuehrung.json_schreiben();
+    gut &= ausfuehrung.abschliessen();
     return gut ? alles_gut : projekt_fehlerhaft;
 }
 

@@ -1,116 +1,18 @@
+#include "console/aufruf.h"
 #include "console/auftrag.h"
-#include "documents/report/report.h"
-#include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <exception>
 #include <iostream>
 #include <new>
 
-namespace {
-
-void import_beschreiben(CLI::App& app, velmaris::Importauftrag& auftrag) {
-    CLI::Option* quelle = app.add_option(
-        "--import", auftrag.quelle,
-        "liest Klimadaten (Meteonorm, EnergyPlus) in den Programmordner ein / imports climate data");
-    CLI::Option* name = app.add_option("--name", auftrag.name,
-                                       "Name der neuen Klimadatei ohne Endung / name of the new climate file")
-                            ->needs(quelle);
-    quelle->needs(name);
-    app.add_option("--land", auftrag.land, "Land des Standorts / country of the location")->needs(quelle);
-    app.add_option("--ort", auftrag.ort, "Name des Standorts / name of the location")->needs(quelle);
-    app.add_flag("--ersetzen", auftrag.ersetzen,
-                 "überschreibt eine vorhandene Klimadatei / overwrites a climate file of that name")
-        ->needs(quelle);
-}
-
-void beschreiben(CLI::App& app, velmaris::Auftrag& auftrag, std::string& ordner) {
-    app.add_option("PROJEKT", auftrag.projekte, "Projektdateien (.vel) / project files");
-    app.add_option("--sprache", auftrag.sprache, "Sprache der Ausgabe: d oder e / language of the output")
-        ->check(CLI::IsMember({"d", "e"}));
-    CLI::Option* json = app.add_flag("--json", auftrag.json, "alle Werte als JSON / all values as JSON");
-    app.add_option("--temperaturen", auftrag.temperaturen,
-                   "Stundentemperaturen als Text / hourly temperatures as text");
-    app.add_option("--neu", auftrag.neu, "schreibt das neue Projekt / writes the new project");
-    app.add_option("--speichern", auftrag.speichern,
-                   "schreibt das geöffnete Projekt / writes the opened project");
-    app.add_option("--diagramme", auftrag.diagramme,
-                   "alle Diagramme als SVG in einen Ordner / all charts as SVG");
-    app.add_option("--bericht", auftrag.bericht, "schreibt den Report als RTF / writes the report as RTF");
-    app.add_option("--bericht-seite", auftrag.berichtsseite,
-                   "gibt eine Seite (1 bis 7) des Reports als Text aus / prints a page of the report as text")
-        ->check(CLI::Range(1, velmaris::reportseiten))
-        ->excludes(json);
-    app.add_option("--ordner", ordner, "Programmordner mit klima/ / program folder with klima/");
-}
-
-/// No option is taken for the value of the option before it.
-void werte_verlangen(CLI::App& app) {
-    const CLI::Validator wert(
-        [](const std::string& text) {
-            return text.starts_with("--") ? "der Wert fehlt / the value is missing: " + text : std::string();
-        },
-        "");
-    for (CLI::Option* option : app.get_options([](const CLI::Option* o) { return o->nonpositional(); })) {
-        if (option->get_type_size() > 0) option->check(wert);
-    }
-}
-
-/// True for an order whose output takes a single project.
-bool nur_eines(const velmaris::Auftrag& auftrag) {
-    return auftrag.temperaturen || auftrag.speichern || auftrag.diagramme || auftrag.bericht ||
-           auftrag.berichtsseite;
-}
-
-void pruefen(const velmaris::Auftrag& auftrag) {
-    const bool anderes = auftrag.neu || auftrag.klimaimport;
-    if (auftrag.projekte.empty() && (!anderes || auftrag.json || nur_eines(auftrag))) {
-        throw CLI::ValidationError("PROJEKT", "kein Projekt angegeben / no project given");
-    }
-    if (auftrag.projekte.size() > 1 && nur_eines(auftrag)) {
-        throw CLI::ValidationError(
-            "PROJEKT",
-            "--temperaturen, --speichern, --diagramme, --bericht und --bericht-seite gelten einem einzigen "
-            "Projekt / take one project");
-    }
-}
-
-std::filesystem::path ordner_des_programms(const char* aufruf) {
-    std::error_code fehler;
-    const std::filesystem::path selbst = std::filesystem::read_symlink("/proc/self/exe", fehler);
-    return (fehler ? std::filesystem::absolute(aufruf) : selbst).parent_path();
-}
-
-int lauf(int argc, char** argv) {
-    velmaris::dateigrenze_melden();
-    velmaris::dezimalzeichen_setzen(velmaris::dezimalzeichen_der_umgebung());
-    CLI::App app(
-        "velmaris_rechnen - Heiz- und Kühlenergie eines Gebäudes / heating and cooling energy of a building");
-    velmaris::Auftrag auftrag;
-    velmaris::Importauftrag klimaimport;
-    std::string ordner;
-    beschreiben(app, auftrag, ordner);
-    import_beschreiben(app, klimaimport);
-    werte_verlangen(app);
-    try {
-        app.parse(argc, argv);
-        if (app.count("--import") > 0) auftrag.klimaimport = klimaimport;
-        pruefen(auftrag);
-    } catch (const CLI::ParseError& fehler) {
-        return app.exit(fehler) == 0 ? velmaris::alles_gut : velmaris::falscher_aufruf;
-    }
-    auftrag.programmordner = ordner.empty() ? ordner_des_programms(argv[0]) : velmaris::pfad(ordner);
-    return velmaris::ausfuehren(auftrag, std::cout, std::cerr);
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
     try {
-        return lauf(argc, argv);
+        velmaris::dateigrenze_melden();
+        velmaris::dezimalzeichen_setzen(velmaris::dezimalzeichen_der_umgebung());
+        return velmaris::aufrufen(argc, argv, std::cout, std::cerr);
     } catch (const std::bad_alloc&) {
         std::fputs("nicht genug Speicher / not enough memory\n", stderr);
     } catch (const std::exception& fehler) {
