@@ -26,6 +26,7 @@ from pathlib import Path
 
 # Folders whose test program has another name than the room below src/ that they belong to.
 TESTS = {
+    "tools/csv.cpp": ["karten_test", "werkzeuge_test"],
     "tools/pictures": ["karten_test"],
     "tools/climate": ["werkzeuge_test"],
     "tools/help": ["hilfe_test"],

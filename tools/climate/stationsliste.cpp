@@ -1,160 +1,82 @@
 #include "tools/climate/stationsliste.h"
 
-#include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
+#include "tools/csv.h"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
-#include <functional>
 #include <map>
-#include <optional>
 
 namespace velmaris::klimasatz {
 namespace {
 
-using Felder = std::vector<std::string_view>;
+constexpr Grenzen breitenbereich{-90, 90};
+constexpr Grenzen laengenbereich{-180, 180};
+constexpr Grenzen hoehenbereich{-430, 6000};
+constexpr Grenzen zonenbereich{-12, 14};
+constexpr Grenzen temperaturbereich{-60, 50};
+constexpr Grenzen spannenbereich{0.5, 30};
+constexpr Grenzen strahlungsbereich{0, 400};
 
-struct Bereich {
-    double von;
-    double bis;
-};
-
-constexpr Bereich breitenbereich{-90, 90};
-constexpr Bereich laengenbereich{-180, 180};
-constexpr Bereich hoehenbereich{-430, 6000};
-constexpr Bereich zonenbereich{-12, 14};
-constexpr Bereich temperaturbereich{-60, 50};
-constexpr Bereich spannenbereich{0.5, 30};
-constexpr Bereich strahlungsbereich{0, 400};
-
-Felder zerlegen(std::string_view zeile) {
-    Felder felder;
-    while (true) {
-        const std::size_t komma = zeile.find(',');
-        felder.push_back(zeile.substr(0, komma));
-        if (komma == std::string_view::npos) return felder;
-        zeile.remove_prefix(komma + 1);
+std::vector<std::string> verlangte_spalten() {
+    std::vector<std::string> spalten{"name", "land", "datei", "breite_n", "laenge_o", "hoehe_m", "utc_h"};
+    for (const char* gruppe : {"ta", "dtr", "ghi"}) {
+        for (int m = 1; m <= monate; ++m)
+            spalten.push_back(monatsspalte(gruppe, m));
     }
+    return spalten;
 }
 
-/// The head line: which column holds which figure.
-class Kopfzeile {
-  public:
-    Kopfzeile(std::string_view zeile, const std::string& datei) : datei_(datei) {
-        for (const std::string_view name : zerlegen(zeile)) {
-            if (!spalten_.emplace(name, spalten_.size()).second)
-                throw Dateifehler(datei, {"die Spalte steht doppelt da", "the column stands there twice"}, 1,
-                                  std::string(name));
-        }
-    }
+/// A text that the station file can hold.
+const std::string& text(const Csvzeile& zeile, std::string_view spalte) {
+    const std::string& wert = zeile.text(spalte);
+    if (aus_windows1252(nach_windows1252(wert)) != wert)
+        zeile.ablehnen(spalte, {"Zeichen außerhalb von windows-1252", "character outside windows-1252"});
+    return wert;
+}
 
-    [[nodiscard]] std::size_t zahl() const { return spalten_.size(); }
-
-    [[nodiscard]] std::size_t stelle(const std::string& name) const {
-        const auto spalte = spalten_.find(name);
-        if (spalte == spalten_.end())
-            throw Dateifehler(datei_, {"die Spalte fehlt", "the column is missing"}, 1, name);
-        return spalte->second;
-    }
-
-    [[nodiscard]] const std::string& datei() const { return datei_; }
-
-  private:
-    std::string datei_;
-    std::map<std::string, std::size_t, std::less<>> spalten_;
-};
-
-/// One row of the list, its fields by column name.
-class Zeile {
-  public:
-    Zeile(const Kopfzeile& kopf, std::string_view text, int nummer)
-        : kopf_(kopf), felder_(zerlegen(text)), nummer_(nummer) {
-        if (felder_.size() == kopf.zahl()) return;
-        const std::string ist = std::to_string(felder_.size());
-        const std::string soll = std::to_string(kopf.zahl());
-        throw Dateifehler(kopf.datei(), {ist + " Spalten statt " + soll, ist + " columns instead of " + soll},
-                          nummer);
-    }
-
-    [[noreturn]] void scheitern(const std::string& feld, const Zweisprachig& text) const {
-        throw Dateifehler(kopf_.datei(), text, nummer_, feld);
-    }
-
-    [[nodiscard]] const std::string& liste() const { return kopf_.datei(); }
-    [[nodiscard]] int nummer() const { return nummer_; }
-
-    [[nodiscard]] std::string text(const std::string& feld) const {
-        std::string wert(felder_[kopf_.stelle(feld)]);
-        if (wert.empty()) scheitern(feld, {"die Angabe fehlt", "the entry is missing"});
-        if (wert.front() == ' ' || wert.back() == ' ')
-            scheitern(feld, {"Leerzeichen am Rand", "blank at the edge"});
-        if (wert.find('"') != std::string::npos) scheitern(feld, {"Anführungszeichen", "quotation mark"});
-        if (aus_windows1252(nach_windows1252(wert)) != wert)
-            scheitern(feld, {"Zeichen außerhalb von windows-1252", "character outside windows-1252"});
-        return wert;
-    }
-
-    [[nodiscard]] double zahl(const std::string& feld, Bereich bereich) const {
-        const std::string wert = text(feld);
-        const std::optional<double> zahl = zahl_pruefen(wert);
-        if (!zahl) scheitern(feld, {"\"" + wert + "\" ist keine Zahl", "\"" + wert + "\" is no number"});
-        if (*zahl < bereich.von || *zahl > bereich.bis) {
-            const std::string grenzen = muster(bereich.von, 1) + " .. " + muster(bereich.bis, 1);
-            scheitern(feld, {wert + " liegt nicht in " + grenzen, wert + " is not within " + grenzen});
-        }
-        return *zahl;
-    }
-
-    [[nodiscard]] Monatswerte monatszahlen(const std::string& gruppe, Bereich bereich) const {
-        Monatswerte werte;
-        for (int m = 1; m <= monate; ++m)
-            werte(m) = zahl(monatsspalte(gruppe, m), bereich);
-        return werte;
-    }
-
-  private:
-    const Kopfzeile& kopf_;
-    Felder felder_;
-    int nummer_;
-};
+Monatswerte monatszahlen(const Csvzeile& zeile, const std::string& gruppe, Grenzen grenzen) {
+    Monatswerte werte;
+    for (int m = 1; m <= monate; ++m)
+        werte(m) = zeile.zahl(monatsspalte(gruppe, m), grenzen);
+    return werte;
+}
 
 /// The file name: lower case, in no folder, and not the name that the program passes over.
-std::string dateiname(const Zeile& zeile) {
+std::string dateiname(const Csvzeile& zeile) {
     const std::string feld = "datei";
     const std::string endung = ".met";
-    std::string name = zeile.text(feld);
+    const std::string& name = text(zeile, feld);
     const bool endet = name.size() > endung.size() && name.ends_with(endung);
     if (!endet || name.find_first_of("/\\:*?<>|") != std::string::npos || name == "klima.met")
-        zeile.scheitern(feld, {"kein Name einer Stationsdatei", "no name of a station file"});
+        zeile.ablehnen(feld, {"kein Name einer Stationsdatei", "no name of a station file"});
     if (kleinschreiben(name) != name)
-        zeile.scheitern(feld, {"Großbuchstaben im Dateinamen", "capitals in the file name"});
+        zeile.ablehnen(feld, {"Großbuchstaben im Dateinamen", "capitals in the file name"});
     return name;
 }
 
-double zeitzone(const Zeile& zeile) {
+double zeitzone(const Csvzeile& zeile) {
     const std::string feld = "utc_h";
     const double zone = zeile.zahl(feld, zonenbereich);
     if (zone * 4 != std::floor(zone * 4))
-        zeile.scheitern(feld, {"keine vollen Viertelstunden", "no whole quarters of an hour"});
+        zeile.ablehnen(feld, {"keine vollen Viertelstunden", "no whole quarters of an hour"});
     return zone;
 }
 
-Stationsfakten station(const Zeile& zeile) {
+Stationsfakten station(const Csvzeile& zeile) {
     Stationsfakten s;
-    s.name = zeile.text("name");
-    s.land = zeile.text("land");
+    s.name = text(zeile, "name");
+    s.land = text(zeile, "land");
     s.datei = dateiname(zeile);
     s.breite_n = zeile.zahl("breite_n", breitenbereich);
     s.laenge_o = zeile.zahl("laenge_o", laengenbereich);
     s.hoehe_m = zeile.zahl("hoehe_m", hoehenbereich);
     s.utc_h = zeitzone(zeile);
-    s.ta = zeile.monatszahlen("ta", temperaturbereich);
-    s.dtr = zeile.monatszahlen("dtr", spannenbereich);
-    s.ghi = zeile.monatszahlen("ghi", strahlungsbereich);
-    s.liste = zeile.liste();
+    s.ta = monatszahlen(zeile, "ta", temperaturbereich);
+    s.dtr = monatszahlen(zeile, "dtr", spannenbereich);
+    s.ghi = monatszahlen(zeile, "ghi", strahlungsbereich);
+    s.liste = zeile.datei();
     s.zeile = zeile.nummer();
     return s;
 }
@@ -179,22 +101,16 @@ std::string monatsspalte(const std::string& gruppe, int m) {
 }
 
 std::vector<Stationsfakten> stationsliste(std::string_view text, const std::string& datei) {
-    Zeilenleser leser(text);
-    const Kopfzeile kopf(leser.naechste().value_or(""), datei);
     std::vector<Stationsfakten> stationen;
     std::map<std::string, int> zeile_der_datei;
-    while (const auto zeilentext = leser.naechste()) {
-        const Zeile zeile(kopf, *zeilentext, leser.zeile());
+    for (const Csvzeile& zeile : csv_lesen(text, datei, verlangte_spalten())) {
         stationen.push_back(station(zeile));
-        const auto [erste, neu] = zeile_der_datei.emplace(stationen.back().datei, leser.zeile());
-        if (!neu) {
-            const std::string wo = std::to_string(erste->second);
-            zeile.scheitern("datei", {erste->first + " steht schon in Zeile " + wo,
-                                      erste->first + " stands in line " + wo + " already"});
-        }
+        const auto [erste, neu] = zeile_der_datei.emplace(stationen.back().datei, zeile.nummer());
+        if (neu) continue;
+        const std::string wo = std::to_string(erste->second);
+        zeile.ablehnen("datei", {erste->first + " steht schon in Zeile " + wo,
+                                 erste->first + " stands in line " + wo + " already"});
     }
-    if (stationen.empty())
-        throw Dateifehler(datei, {"die Liste ist leer", "the list is empty"}, leser.zeile());
     return stationen;
 }
 

@@ -41,10 +41,9 @@ struct Kopfzahlen {
 /// Name of the column that holds month m of a group ("ta", "dtr", "ghi").
 [[nodiscard]] std::string monatsspalte(const std::string& gruppe, int m);
 
-/// Reads the list of stations strictly: comma-separated UTF-8 with one head line that names the columns. Any
-/// doubt (a column missing or told twice, a row of another number of columns, a figure missing, broken or out
-/// of range, a name that windows-1252 lacks, a file name that is told twice or is none) is a Dateifehler with
-/// `datei`, line and column.
+/// Reads the list of stations by `csv_lesen`. Any doubt (a figure missing, broken or out of range, a name
+/// that windows-1252 lacks, a file name that is told twice or is none) is a Dateifehler with `datei`, line
+/// and column.
 [[nodiscard]] std::vector<Stationsfakten> stationsliste(std::string_view text, const std::string& datei);
 
 /// The same for a file.

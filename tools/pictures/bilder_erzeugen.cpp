@@ -33,8 +33,8 @@ void karten_schreiben(const fs::path& daten, const Bilderordner& ordner) {
     for (int region = 0; region <= regionen_anzahl; ++region) {
         ordner.schreiben("klima" + std::to_string(region), deutschland_bild(regionen, deutschland, region));
     }
-    ordner.schreiben("europa", europa_bild(umriss_lesen(daten / "europa_land.csv", {"land", "loch"})));
-    const Flaeche land = umriss_lesen(daten / "welt_land.csv", {"loch"});
+    ordner.schreiben("europa", europa_bild(umriss_lesen(daten / "europa_land.csv")));
+    const Flaeche land = umriss_lesen(daten / "welt_land.csv");
     const std::vector<Strecke> grenzen = linien_lesen(daten / "welt_grenzen.csv");
     ordner.schreiben("welt", welt_bild(land, grenzen, 1));
     ordner.schreiben("welt_gross", welt_bild(land, grenzen, 1.5));

@@ -1,8 +1,8 @@
 #include "tools/pictures/postleitzahlen.h"
 
-#include "toolkit/fehler.h"
 #include "toolkit/text.h"
-#include "tools/pictures/csv.h"
+#include "toolkit/textdatei.h"
+#include "tools/csv.h"
 #include "tools/pictures/umrisse.h"
 
 namespace velmaris::bilder {
@@ -17,17 +17,17 @@ std::string dreistellig(std::size_t zahl) {
 
 std::string postleitzahlen_text(const std::filesystem::path& datei) {
     constexpr std::size_t anzahl = 1000;
-    const Tabelle tabelle(datei, {"prefix", "region"});
-    if (tabelle.zeilen() != anzahl) {
+    const auto zeilen =
+        csv_lesen(bytes_lesen(datei, hoechste_quellgroesse), pfadtext(datei), {"prefix", "region"});
+    if (zeilen.size() != anzahl)
         throw Dateifehler(pfadtext(datei), {"nicht 1000 Anfänge von Postleitzahlen", "not 1000 prefixes"});
-    }
     std::string ergebnis;
-    for (std::size_t zeile = 0; zeile < anzahl; ++zeile) {
-        const std::string& anfang = tabelle.text(zeile, 0);
-        if (anfang != dreistellig(zeile)) {
-            tabelle.ablehnen(zeile, 0, "nicht der Reihe nach", "not in order");
-        }
-        const int region = tabelle.ganzzahl(zeile, 1, 0, regionen_anzahl);
+    for (std::size_t i = 0; i < anzahl; ++i) {
+        const std::string& anfang = zeilen[i].text("prefix");
+        if (anfang != dreistellig(i))
+            zeilen[i].ablehnen("prefix",
+                               {anfang + " steht nicht der Reihe nach", anfang + " is not in order"});
+        const int region = zeilen[i].ganzzahl("region", {0, regionen_anzahl});
         ergebnis += anfang + ";" + rechtsbuendig(std::to_string(region), 2) + "\r\n";
     }
     return ergebnis;

@@ -1,69 +1,73 @@
 #include "tools/pictures/umrisse.h"
 
-#include "tools/pictures/csv.h"
+#include "toolkit/text.h"
+#include "toolkit/textdatei.h"
+#include "tools/csv.h"
 
-#include <utility>
+#include <algorithm>
 
 namespace velmaris::bilder {
 namespace {
 
-Punkt ort(const Tabelle& tabelle, std::size_t zeile, std::size_t spalte) {
-    return {tabelle.zahl(zeile, spalte, -180, 180), tabelle.zahl(zeile, spalte + 1, -90, 90)};
-}
+using Zeilen = std::vector<Csvzeile>;
+using Spalten = std::vector<std::string>;
 
-bool gleich(const Tabelle& tabelle, std::size_t a, std::size_t b, std::size_t spalten) {
-    for (std::size_t s = 0; s < spalten; ++s) {
-        if (tabelle.text(a, s) != tabelle.text(b, s)) return false;
+/// Reads a table of points in degrees whose lines or rings are told apart by the columns `schluessel`, and
+/// calls `tu` with the first row of each, the last one and the points.
+template <class Tu>
+void punktfolgen_lesen(const std::filesystem::path& datei, const Spalten& schluessel, Tu&& tu) {
+    Spalten spalten = schluessel;
+    spalten.insert(spalten.end(), {"lon", "lat"});
+    const Zeilen zeilen = csv_lesen(bytes_lesen(datei, hoechste_quellgroesse), pfadtext(datei), spalten);
+    for (auto beginn = zeilen.begin(); beginn != zeilen.end();) {
+        const auto anders = [&](const Csvzeile& zeile) {
+            return std::ranges::any_of(
+                schluessel, [&](const std::string& s) { return zeile.text(s) != beginn->text(s); });
+        };
+        const auto ende = std::find_if(beginn, zeilen.end(), anders);
+        Ring punkte;
+        for (auto zeile = beginn; zeile != ende; ++zeile)
+            punkte.push_back({zeile->zahl("lon", {-180, 180}), zeile->zahl("lat", {-90, 90})});
+        tu(*beginn, *(ende - 1), punkte);
+        beginn = ende;
     }
-    return true;
 }
 
-/// The ring that begins at row `zeile` and goes on while the first `schluessel` columns stay the same;
-/// `zeile` moves behind it. The position stands in the columns `spalte` and `spalte` + 1.
-Ring ring_lesen(const Tabelle& tabelle, std::size_t& zeile, std::size_t schluessel, std::size_t spalte) {
-    const std::size_t beginn = zeile;
-    Ring ring;
-    for (; zeile < tabelle.zeilen() && gleich(tabelle, beginn, zeile, schluessel); ++zeile)
-        ring.push_back(ort(tabelle, zeile, spalte));
+void geschlossen_verlangen(const Csvzeile& letzte, const Ring& ring) {
     if (ring.size() < 4 || ring.front() != ring.back())
-        tabelle.ablehnen(zeile - 1, spalte, "Ring ist nicht geschlossen", "the ring is not closed");
-    return ring;
+        letzte.ablehnen("lon", {"der Ring ist nicht geschlossen", "the ring is not closed"});
 }
 
 }  // namespace
 
 std::array<Flaeche, regionen_anzahl> regionen_lesen(const std::filesystem::path& datei) {
-    const Tabelle tabelle(datei, {"region", "teil", "ring", "punkt", "lon", "lat"});
     std::array<Flaeche, regionen_anzahl> regionen;
-    for (std::size_t zeile = 0; zeile < tabelle.zeilen();) {
-        const int region = tabelle.ganzzahl(zeile, 0, 1, regionen_anzahl);
-        regionen.at(static_cast<std::size_t>(region - 1)).push_back(ring_lesen(tabelle, zeile, 3, 4));
-    }
+    punktfolgen_lesen(datei, {"region", "teil", "ring"},
+                      [&](const Csvzeile& erste, const Csvzeile& letzte, const Ring& ring) {
+                          const int region = erste.ganzzahl("region", {1, regionen_anzahl});
+                          geschlossen_verlangen(letzte, ring);
+                          regionen.at(static_cast<std::size_t>(region - 1)).push_back(ring);
+                      });
     return regionen;
 }
 
-Flaeche umriss_lesen(const std::filesystem::path& datei, const std::vector<std::string>& merkmale) {
-    std::vector<std::string> spalten{"ring"};
-    spalten.insert(spalten.end(), merkmale.begin(), merkmale.end());
-    spalten.insert(spalten.end(), {"lon", "lat"});
-    const Tabelle tabelle(datei, std::move(spalten));
+Flaeche umriss_lesen(const std::filesystem::path& datei) {
     Flaeche flaeche;
-    for (std::size_t zeile = 0; zeile < tabelle.zeilen();)
-        flaeche.push_back(ring_lesen(tabelle, zeile, 1, 1 + merkmale.size()));
+    punktfolgen_lesen(datei, {"ring"}, [&](const Csvzeile&, const Csvzeile& letzte, const Ring& ring) {
+        geschlossen_verlangen(letzte, ring);
+        flaeche.push_back(ring);
+    });
     return flaeche;
 }
 
 std::vector<Strecke> linien_lesen(const std::filesystem::path& datei) {
-    const Tabelle tabelle(datei, {"linie", "lon", "lat"});
-    std::vector<Strecke> strecken;
-    for (std::size_t zeile = 0; zeile < tabelle.zeilen();) {
-        const std::size_t beginn = zeile;
-        for (++zeile; zeile < tabelle.zeilen() && gleich(tabelle, beginn, zeile, 1); ++zeile)
-            strecken.push_back({ort(tabelle, zeile - 1, 1), ort(tabelle, zeile, 1)});
-        if (zeile - beginn < 2)
-            tabelle.ablehnen(beginn, 0, "Linie hat nur einen Punkt", "the line has one point only");
-    }
-    return strecken;
+    Flaeche linien;
+    punktfolgen_lesen(datei, {"linie"}, [&](const Csvzeile& erste, const Csvzeile&, const Ring& punkte) {
+        if (punkte.size() < 2)
+            erste.ablehnen("linie", {"die Linie hat nur einen Punkt", "the line has one point only"});
+        linien.push_back(punkte);
+    });
+    return strecken(linien);
 }
 
 }  // namespace velmaris::bilder

@@ -46,14 +46,6 @@ TEST(Stationsliste, LiestDieFakten) {
     EXPECT_NEAR(standort(s).Breite, 0.0821197, 1e-7);
 }
 
-TEST(Stationsliste, NimmtDieSpaltenNachIhremNamen) {
-    const std::string umgestellt = ersetzt(kopf, "name,land", "land,hinweis,name");
-    const auto stationen =
-        stationsliste(umgestellt + ersetzt(zeile, "Bogotá,Kolumbien", "Kolumbien,,Bogotá"), "liste.csv");
-    EXPECT_EQ(stationen.at(0).name, "Bogotá");
-    EXPECT_EQ(stationen.at(0).land, "Kolumbien");
-}
-
 /// Each broken list with the message that it must give.
 TEST(Stationsliste, NenntDateiZeileUndFeldDesFehlers) {
     struct Fall {
@@ -62,19 +54,9 @@ TEST(Stationsliste, NenntDateiZeileUndFeldDesFehlers) {
     };
     const std::string zweite = ersetzt(zeile, "bogota.met", "lima.met");
     const std::vector<Fall> faelle{
-        {"", "l.csv: the list is empty"},
-        {kopf, "l.csv, line 1: the list is empty"},
         {ersetzt(kopf, ",ta_07", ",ta_7") + zeile, "l.csv, line 1 (ta_07): the column is missing"},
-        {ersetzt(kopf, ",ghi_03", ",ghi_02") + zeile,
-         "l.csv, line 1 (ghi_02): the column stands there twice"},
-        {kopf + zeile + ersetzt(zweite, ",2547", ""), "l.csv, line 3: 42 columns instead of 43"},
-        {kopf + ersetzt(zeile, "\n", ",\n"), "l.csv, line 2: 44 columns instead of 43"},
-        {kopf + zeile + "\n", "l.csv, line 3: 1 columns instead of 43"},
         {kopf + ersetzt(zeile, ",12.5,", ",,"), "l.csv, line 2 (ta_12): the entry is missing"},
         {kopf + ersetzt(zeile, "Kolumbien", ""), "l.csv, line 2 (land): the entry is missing"},
-        {kopf + ersetzt(zeile, ",146,", ",14x,"), "l.csv, line 2 (ghi_07): \"14x\" is no number"},
-        {kopf + ersetzt(zeile, ",146,", ",nan,"), "l.csv, line 2 (ghi_07): \"nan\" is no number"},
-        {kopf + ersetzt(zeile, ",146,", ", 146,"), "l.csv, line 2 (ghi_07): blank at the edge"},
         {kopf + ersetzt(zeile, ",146,", ",-1,"), "l.csv, line 2 (ghi_07): -1 is not within 0.0 .. 400.0"},
         {kopf + ersetzt(zeile, ",12.5,", ",61,"), "l.csv, line 2 (ta_12): 61 is not within"},
         {kopf + ersetzt(zeile, ",5.5,", ",0,"), "l.csv, line 2 (dtr_12): 0 is not within"},
@@ -86,7 +68,6 @@ TEST(Stationsliste, NenntDateiZeileUndFeldDesFehlers) {
         {kopf + ersetzt(zeile, "Bogotá", "Łódź"), "l.csv, line 2 (name): character outside windows-1252"},
         {kopf + ersetzt(zeile, "Bogotá", "Bogot\xE1"),
          "l.csv, line 2 (name): character outside windows-1252"},
-        {kopf + ersetzt(zeile, "Bogotá", "\"Bogotá\""), "l.csv, line 2 (name): quotation mark"},
         {kopf + ersetzt(zeile, "bogota.met", "Bogota.met"), "l.csv, line 2 (datei): capitals"},
         {kopf + ersetzt(zeile, "bogota.met", "bogota.txt"),
          "l.csv, line 2 (datei): no name of a station file"},
