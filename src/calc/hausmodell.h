@@ -20,6 +20,13 @@ struct Sonnenseite {
 
 /// The house of the hourly simulation with all that depends on the inputs folded into coefficients. It refers
 /// to the incidence factors of the record it was made from, which must outlive it unchanged.
+///
+/// The driving power of an hour: P = (HT + HV) Ta + sum U A s I + sum AW I (1 - fS) (1 - fF) g + Pi
+/// P power and Pi internal gains, W; HT transmission, HV ventilation, W/K; Ta outdoor air, degC; U with its
+/// surcharge for heat bridges, W/(m2 K); A opaque area, flat ceilings times the roof space factor, AW
+/// windows, m2; I radiation on the plane, W/m2; s = `absfaktor` / 20, m2 K/W; fS shading, fF frame share, g
+/// value, 0..1. Source: U A s I is the sol-air temperature of the ASHRAE Handbook, Fundamentals, without its
+/// long-wave term; the sign of the west wall and the shares of the sky are this model's own.
 struct Hausmodell {
     double transmission = 0;            ///< W/K
     double lueftung = 0;                ///< W/K

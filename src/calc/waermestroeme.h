@@ -6,6 +6,13 @@ namespace velmaris {
 
 /// Heat flows of the building per kelvin (W/K) and its constant power (W), as the month balance, the hourly
 /// simulation and the figures of the climate plane share them. Nothing here is rounded to 32 bits.
+///
+///   HT = sum F (U + dU) A + sum UW AW + UD AD    HV = ((1 - eta) n + ni) 1290 V / 3600    Pi = q AN / 8.76
+/// HT, HV transmission and ventilation, W/K; U, UW, UD of opaque parts, windows and door, W/(m2 K), dU the
+/// surcharge for heat bridges; A, AW, AD their areas, AN usable floor, m2; F temperature correction, 0..1;
+/// eta heat recovery, 0..1; n, ni air change by plant and leaks, 1/h; V air, m3, of 1290 J/(m3 K); Pi
+/// internal power, W; q internal gains, kWh/(m2 a). Source: EN 832:1998 and EN ISO 13790; F in the manner of
+/// DIN V 4108-6.
 
 /// Air change that counts for the heat demand: the plant's without what is recovered, and the leaks', 1/h.
 [[nodiscard]] double luftwechsel(const Projekt& p);
