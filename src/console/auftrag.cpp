@@ -7,8 +7,8 @@
 #include "documents/report/report.h"
 #include "documents/report/rtf_lesen.h"
 #include "documents/report/temperaturverlauf.h"
+#include "planes/dokumentquelle.h"
 #include "planes/projekt_rechnen.h"
-#include "planes/reportquelle.h"
 #include "project/projektdatei.h"
 #include "toolkit/fehler.h"
 #include "toolkit/konsolenplattform.h"
@@ -41,7 +41,7 @@ void dateien_schreiben(const Auftrag& auftrag, Haupt& haupt) {
     if (auftrag.speichern) sichern(haupt, *auftrag.speichern);
     if (auftrag.diagramme) diagramme_schreiben(haupt, pfad(*auftrag.diagramme));
     if (auftrag.temperaturen) temperaturverlauf_exportieren(haupt.p, pfad(*auftrag.temperaturen));
-    if (auftrag.bericht) report_exportieren(reportquelle(haupt), pfad(*auftrag.bericht));
+    if (auftrag.bericht) report_exportieren(dokumentquelle(haupt), pfad(*auftrag.bericht));
 }
 
 /// The steps of an order. Each returns whether all went well; what did not stands among the faults.
@@ -72,7 +72,7 @@ class Ausfuehrung {
             if (a_.json) {
                 ergebnisse_.push_back(als_json(*haupt));
             } else if (a_.berichtsseite) {
-                aus_ << seitentext(report_in_sprache(reportquelle(*haupt), *a_.berichtsseite));
+                aus_ << seitentext(report_in_sprache(dokumentquelle(*haupt), *a_.berichtsseite));
             } else {
                 aus_ << zusammenfassung(*haupt) << '\n';
             }

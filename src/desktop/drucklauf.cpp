@@ -4,8 +4,8 @@
 #include "desktop/platform/qt_text.h"
 #include "documents/print/Ausdrucken.h"
 #include "planes/Start.h"
+#include "planes/dokumentquelle.h"
 #include "planes/projekt_rechnen.h"
-#include "planes/reportquelle.h"
 #include "toolkit/fehler.h"
 #include "toolkit/konsolenplattform.h"
 #include "toolkit/text.h"
@@ -57,7 +57,7 @@ void drucken(const Druckauftrag& auftrag, const std::filesystem::path& programmo
     const auto haupt = projekt_rechnen(plattform, programmordner, auftrag.sprache, auftrag.projekt);
     const auto drucker = qt_drucker(
         {.titel = pfadtext(pfad(auftrag.projekt).filename()), .drucker = {}, .pdf = pfad(auftrag.pdf)});
-    Ausdrucken(*drucker, reportquelle(*haupt), alles_drucken, heutiges_datum());
+    Ausdrucken(*drucker, dokumentquelle(*haupt), alles_drucken, heutiges_datum());
 }
 
 }  // namespace

@@ -3,9 +3,9 @@
 #include "climate/klimadatei.h"
 #include "language/beschriftungen.h"
 #include "language/c_Sprache.h"
+#include "planes/dokumentquelle.h"
 #include "planes/menueverbindung.h"
 #include "planes/neues_projekt.h"
-#include "planes/reportquelle.h"
 #include "project/klimaordner.h"
 #include "toolkit/fehler.h"
 #include "toolkit/sanduhr.h"
@@ -43,8 +43,8 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       a_sankey(sitzung),
       a_zoom(sitzung, a_uebersicht.monatswahl),
       e_klimaimport(sitzung),
-      a_report(sitzung, [this] { return reportquelle(*this); }),
-      drucken(sitzung, [this] { return reportquelle(*this); }),
+      a_report(sitzung, [this] { return dokumentquelle(*this); }),
+      drucken(sitzung, [this] { return dokumentquelle(*this); }),
       rettung(sitzung),
       datei(sitzung, rettung, projektwege()),
       menue(sprache),

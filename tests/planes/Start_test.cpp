@@ -2,7 +2,7 @@
 
 #include "documents/print/Ausdrucken.h"
 #include "documents/report/report.h"
-#include "planes/reportquelle.h"
+#include "planes/dokumentquelle.h"
 #include "project/projektdatei.h"
 #include "tests/testdrucker.h"
 #include "tests/testprogramm.h"
@@ -148,9 +148,9 @@ TEST(Startfehler, OhneVorgabestationKommtDasProgrammMitEinerAnderenHoch) {
                 eintrag.knopf->druecke();
         }
         for (int seite = 1; seite <= reportseiten; ++seite)
-            EXPECT_FALSE(report_in_sprache(reportquelle(*haupt), seite).empty());
+            EXPECT_FALSE(report_in_sprache(dokumentquelle(*haupt), seite).empty());
         test::Testdrucker drucker;
-        Ausdrucken(drucker, reportquelle(*haupt), alles_drucken, {});
+        Ausdrucken(drucker, dokumentquelle(*haupt), alles_drucken, {});
         EXPECT_EQ(drucker.seiten, 8);
         for (const test::Druckzeichen& z : drucker.zeichen)
             EXPECT_EQ(z.text.find("NaN"), std::string::npos) << z.text;

@@ -50,7 +50,7 @@ std::array<Knopf, A_Report::knoepfe> seitenknoepfe() {
 
 }  // namespace
 
-A_Report::A_Report(Sitzung& sitzung, std::function<Reportquelle()> quelle)
+A_Report::A_Report(Sitzung& sitzung, std::function<Dokumentquelle()> quelle)
     : sitzung_(sitzung), quelle_(std::move(quelle)), seiten_(seitenknoepfe()) {
     fenster.zeige(false);
     Temperaturverlauf1.zeige(false);

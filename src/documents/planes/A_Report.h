@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/reportquelle.h"
+#include "documents/dokumentquelle.h"
 #include "project/sitzung.h"
 #include "toolkit/felder.h"
 
@@ -17,7 +17,7 @@ struct A_Report {
     static constexpr int knoepfe = 12;
 
     /// `quelle` is asked anew for each page of the report.
-    A_Report(Sitzung& sitzung, std::function<Reportquelle()> quelle);
+    A_Report(Sitzung& sitzung, std::function<Dokumentquelle()> quelle);
 
     Feld fenster{"A_Report"};  ///< the window itself, hidden at first
 
@@ -59,7 +59,7 @@ struct A_Report {
     void hinweisen(std::string text);
 
     Sitzung& sitzung_;
-    std::function<Reportquelle()> quelle_;
+    std::function<Dokumentquelle()> quelle_;
     std::array<Knopf, knoepfe> seiten_;
     int seite_ = 1;
     double breite_ = 0;  ///< inner size of the window, pixels

@@ -23,7 +23,7 @@ std::array<Pruefeld, druckausgaben> prueffelder() {
 
 }  // namespace
 
-Drucken::Drucken(Sitzung& sitzung, std::function<Reportquelle()> quelle)
+Drucken::Drucken(Sitzung& sitzung, std::function<Dokumentquelle()> quelle)
     : wahl(sitzung, [this] { drucker_zeigen(); }),
       sitzung_(sitzung),
       quelle_(std::move(quelle)),

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "documents/dokumentquelle.h"
 #include "documents/planes/druckerwahl.h"
 #include "documents/print/Ausdrucken.h"
-#include "documents/reportquelle.h"
 #include "project/sitzung.h"
 #include "toolkit/drucker.h"
 #include "toolkit/felder.h"
@@ -25,7 +25,7 @@ struct Druckziel {
 
 /// The print dialog: which outputs are to be printed, and on which printer.
 struct Drucken {
-    Drucken(Sitzung& sitzung, std::function<Reportquelle()> quelle);
+    Drucken(Sitzung& sitzung, std::function<Dokumentquelle()> quelle);
 
     Feld fenster{"Drucken"};  ///< the dialog itself, hidden at first
 
@@ -59,7 +59,7 @@ struct Drucken {
     [[nodiscard]] std::optional<Druckziel> ziel() const;
 
     Sitzung& sitzung_;
-    std::function<Reportquelle()> quelle_;
+    std::function<Dokumentquelle()> quelle_;
     std::string drucker_;  ///< the one that the dialog shows, empty for a PDF file
     std::array<Pruefeld, druckausgaben> ausgaben_;
 };

@@ -13,7 +13,7 @@ namespace {
 struct Druckseite {
     int ausgabe;  ///< 1..7
     Wort titel;
-    void (*drucken)(Blatt&, const Reportquelle&);
+    void (*drucken)(Blatt&, const Dokumentquelle&);
 };
 
 constexpr std::array<Druckseite, 8> seiten{{
@@ -50,7 +50,7 @@ std::string heutiges_datum() {
            std::to_string(heute.tm_year + 1900);
 }
 
-void Ausdrucken(Drucker& drucker, const Reportquelle& quelle, const Druckauswahl& auswahl,
+void Ausdrucken(Drucker& drucker, const Dokumentquelle& quelle, const Druckauswahl& auswahl,
                 const std::string& datum) {
     Blatt blatt(drucker, quelle.p.Sprache);
     Seitenfuss fuss{.datei = pfadtext(pfad(quelle.p.Datei).filename()),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/reportquelle.h"
+#include "documents/dokumentquelle.h"
 #include "documents/wort.h"
 #include "toolkit/drucker.h"
 
@@ -25,7 +25,7 @@ inline constexpr Druckauswahl alles_drucken{true, true, true, true, true, true, 
 
 /// Prints all pages that are ticked as one document, each in its frame, with this date. Nothing ticked prints
 /// nothing and ends no document. A failure of the device is a Laufzeitfehler.
-void Ausdrucken(Drucker& drucker, const Reportquelle& quelle, const Druckauswahl& auswahl,
+void Ausdrucken(Drucker& drucker, const Dokumentquelle& quelle, const Druckauswahl& auswahl,
                 const std::string& datum);
 
 }  // namespace velmaris

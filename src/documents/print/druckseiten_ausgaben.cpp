@@ -160,7 +160,7 @@ void fensterbilanz(Blatt& blatt, double y, const Projekt& p) {
 
 }  // namespace
 
-void seite_stunden(Blatt& blatt, const Reportquelle& quelle) {
+void seite_stunden(Blatt& blatt, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     std::vector<Tabellenzeile> zeilen;
     stundenzeilen(zeilen, p, blatt.sprache(), {"Heizstunden", "Heating hours"}, &Monatswerte::Stunden_kalt);
@@ -171,14 +171,14 @@ void seite_stunden(Blatt& blatt, const Reportquelle& quelle) {
     Diagramm_Stunden(blatt, p);
 }
 
-void seite_waermebilanz(Blatt& blatt, const Reportquelle& quelle) {
+void seite_waermebilanz(Blatt& blatt, const Dokumentquelle& quelle) {
     bilanztabelle(blatt, 52, quelle.p);
     Diagramm_Monatbilanz(blatt, quelle.p);
     Diagramm_Jahresbilanz(blatt, quelle.p);
     Legende_Bilanz(blatt);
 }
 
-void seite_kuehlbilanz(Blatt& blatt, const Reportquelle& quelle) {
+void seite_kuehlbilanz(Blatt& blatt, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     const double bedarf = summe_der_monate(p, &Monatswerte::Kuehlbedarf);
     const double heiss = summe_der_monate(p, &Monatswerte::Stunden_heiss);
@@ -201,7 +201,7 @@ void seite_kuehlbilanz(Blatt& blatt, const Reportquelle& quelle) {
     Diagramm_Kuehlen(blatt, p);
 }
 
-void seite_fensterbilanz(Blatt& blatt, const Reportquelle& quelle) {
+void seite_fensterbilanz(Blatt& blatt, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     blatt.schrift({});
     blatt.text(30, 73, Wort{"Südabweichung:", "Deviation from south:"});

@@ -48,7 +48,7 @@ void geometrie(Formular& f, const Projekt& p, std::string_view sprache) {
     f.zeile({"A/V - Verhältnis", "Surface-to-volume value"}, mit_einheit(p.AV, 2, " 1/m"));
 }
 
-void daemmung(Formular& f, const Reportquelle& quelle, std::string_view sprache) {
+void daemmung(Formular& f, const Dokumentquelle& quelle, std::string_view sprache) {
     const Projekt& p = quelle.p;
     f.abschnitt({"Dämmung:", "Insulation:"});
     f.zeile({"U-Wert der Nordwand", "U value of the north wall"}, u_wert_text(p.kwn));
@@ -69,7 +69,7 @@ void daemmung(Formular& f, const Reportquelle& quelle, std::string_view sprache)
     f.zeile({"Wärmebrücken", "Heat bridges"}, quelle.auswahl.Waermebruecken);
 }
 
-void gebaeude(Formular& f, const Reportquelle& quelle, std::string_view sprache) {
+void gebaeude(Formular& f, const Dokumentquelle& quelle, std::string_view sprache) {
     const Projekt& p = quelle.p;
     const std::string nachbarn = nachbarwaende(p, sprache);
     f.abschnitt({"Gebäude:", "Building:"});
@@ -156,7 +156,7 @@ double zahlenzeilen(Blatt& blatt, double y, std::initializer_list<Fensterzeile> 
     return y;
 }
 
-double fenstertabelle(Blatt& blatt, double y, const Reportquelle& quelle) {
+double fenstertabelle(Blatt& blatt, double y, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     constexpr std::array<Wort, 4> namen{
         {{"Nord", "North"}, {"Süd", "South"}, {"Ost", "East"}, {"West", "West"}}};
@@ -192,7 +192,7 @@ double fenstertabelle(Blatt& blatt, double y, const Reportquelle& quelle) {
 
 }  // namespace
 
-void seite_datenblatt_1(Blatt& blatt, const Reportquelle& quelle) {
+void seite_datenblatt_1(Blatt& blatt, const Dokumentquelle& quelle) {
     Formular f(blatt, seitenanfang, zeilenhoehe);
     geometrie(f, quelle.p, blatt.sprache());
     daemmung(f, quelle, blatt.sprache());
@@ -201,18 +201,17 @@ void seite_datenblatt_1(Blatt& blatt, const Reportquelle& quelle) {
     Zeichnung_Haus(blatt, quelle.p);
 }
 
-void seite_datenblatt_2(Blatt& blatt, const Reportquelle& quelle) {
-    const E_Energie& e = quelle.e_energie;
+void seite_datenblatt_2(Blatt& blatt, const Dokumentquelle& quelle) {
+    const Energietexte& e = quelle.energie;
     Formular kopf(blatt, seitenanfang, zeilenhoehe);
     kopf.abschnitt({"Fenster:", "Windows:"});
     blatt.schrift({.groesse = 8});
     const double unten = fenstertabelle(blatt, kopf.y() + 1, quelle);
     Formular f(blatt, unten + 8, zeilenhoehe);
     f.abschnitt({"Energie:", "Energy:"});
-    f.zeile({"Heizungssystem", "Heating system"}, e.Label_System.text());
-    f.zeile({"Wärmeübergabe / Systemtemperatur", "Heat transfer / system temperature"},
-            e.Label_Übergabe.text());
-    f.zeile({"Energieträger", "Source of energy"}, e.Label_Energieträger.text());
+    f.zeile({"Heizungssystem", "Heating system"}, e.System);
+    f.zeile({"Wärmeübergabe / Systemtemperatur", "Heat transfer / system temperature"}, e.Uebergabe);
+    f.zeile({"Energieträger", "Source of energy"}, e.Energietraeger);
 }
 
 }  // namespace velmaris

@@ -49,48 +49,46 @@ std::string mit_traeger(const Wort& wort, const Kurzname& traeger, std::string_v
     return std::string(wort.in(sprache)) + " " + std::string(traeger.in(sprache));
 }
 
-double heizwerte(Blatt& blatt, const E_Energie& e) {
-    const Kurzname& traeger = e.kennwerte().name;
+double heizwerte(Blatt& blatt, const Energietexte& e) {
+    const Kurzname& traeger = e.name;
     const std::string_view sprache = blatt.sprache();
     Werteliste liste(blatt, seitenanfang);
-    liste.zeile({"Heizwärmebedarf", "Heat energy demand"}, e.anz_qhs_sum.text(), je_jahr);
-    liste.zeile({"Verluste bei der Wärmespeicherung", "Losses of the heat storage"}, e.anz_q_s.text(),
+    liste.zeile({"Heizwärmebedarf", "Heat energy demand"}, e.qhs_sum, je_jahr);
+    liste.zeile({"Verluste bei der Wärmespeicherung", "Losses of the heat storage"}, e.q_s, je_jahr);
+    liste.zeile({"Wärmeverluste bei der Verteilung", "Heat losses from the distribution"}, e.q_d, je_jahr);
+    liste.zeile({"Verluste bei der Übergabe an die Räume", "Losses at the transmission to the rooms"}, e.q_ce,
                 je_jahr);
-    liste.zeile({"Wärmeverluste bei der Verteilung", "Heat losses from the distribution"}, e.anz_q_d.text(),
-                je_jahr);
-    liste.zeile({"Verluste bei der Übergabe an die Räume", "Losses at the transmission to the rooms"},
-                e.anz_q_ce.text(), je_jahr);
-    liste.zeile({"Aufwandszahl der Wärmeerzeugung", "Expense number of heat generation"}, e.anz_e_g.text());
+    liste.zeile({"Aufwandszahl der Wärmeerzeugung", "Expense number of heat generation"}, e.e_g);
     liste.abstand();
     liste.namenszeile(mit_traeger({"Endenergiebedarf", "End energy demand"}, traeger, sprache),
-                      e.anz_q_HE_Energieträger.text(), je_jahr);
+                      e.q_HE_Energietraeger, je_jahr);
     if (!traeger.elektrisch()) {
         liste.namenszeile(mit_traeger({"Primärenergiefaktor", "Primary energy factor"}, traeger, sprache),
-                          e.anz_Primärenergiefaktor_Energieträger.text());
+                          e.Primaerenergiefaktor_Energietraeger);
         liste.namenszeile(mit_traeger({"Primärenergiebedarf", "Primary energy demand"}, traeger, sprache),
-                          e.anz_q_PE_Energieträger.text(), je_jahr);
+                          e.q_PE_Energietraeger, je_jahr);
     }
     liste.abstand();
     liste.zeile(
         {"Hilfsenergie (Strom) zur Wärmeerzeugung", "Auxiliary energy (electricity) for heat generation"},
-        e.anz_q_g_he.text(), je_jahr);
+        e.q_g_he, je_jahr);
     liste.zeile(
         {"Hilfsenergie (Strom) zur Wärmespeicherung", "Auxiliary energy (electricity) for heat storage"},
-        e.anz_q_s_he.text(), je_jahr);
+        e.q_s_he, je_jahr);
     liste.zeile(
         {"Hilfsenergie (Strom) zur Wärmeverteilung", "Auxiliary energy (electricity) for heat distribution"},
-        e.anz_q_d_he.text(), je_jahr);
+        e.q_d_he, je_jahr);
     liste.zeile({"Endenergiebedarf Hilfsenergie (Strom)", "End energy demand auxiliary energy (electricity)"},
-                e.anz_q_HE_Strom.text(), je_jahr);
+                e.q_HE_Strom, je_jahr);
     liste.zeile({"Primärenergiefaktor Strom", "Primary energy factor electricity"},
-                e.anz_Primärenergiefaktor_Strom.text());
+                e.Primaerenergiefaktor_Strom);
     if (traeger.elektrisch()) {
-        liste.zeile({"Primärenergiebedarf Strom", "Primary energy demand electricity"},
-                    e.anz_q_PE_Energieträger.text(), je_jahr);
+        liste.zeile({"Primärenergiebedarf Strom", "Primary energy demand electricity"}, e.q_PE_Energietraeger,
+                    je_jahr);
     } else {
         liste.zeile({"Primärenergiebedarf Hilfsenergie (Strom)",
                      "Primary energy demand auxiliary energy (electricity)"},
-                    e.anz_q_PE_Strom.text(), je_jahr);
+                    e.q_PE_Strom, je_jahr);
     }
     return liste.y();
 }
@@ -116,16 +114,16 @@ std::vector<Tabellenzeile> heizzeilen(const Projekt& p, const Kurzname& traeger,
 
 }  // namespace
 
-void seite_heizenergie(Blatt& blatt, const Reportquelle& quelle) {
+void seite_heizenergie(Blatt& blatt, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
-    const double unten = heizwerte(blatt, quelle.e_energie);
+    const double unten = heizwerte(blatt, quelle.energie);
     monatstabelle_drucken(blatt, unten + 3,
                           {.einheit = im_monat, .jahr = jahr, .zeilenhoehe = 4.4, .schrift = 8.5},
-                          heizzeilen(p, quelle.e_energie.kennwerte().name, blatt.sprache()));
+                          heizzeilen(p, quelle.energie.name, blatt.sprache()));
     Diagramm_Heizenergie(blatt, p);
 }
 
-void seite_kuehlenergie(Blatt& blatt, const Reportquelle& quelle) {
+void seite_kuehlenergie(Blatt& blatt, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     const double bedarf = summe_der_monate(p, &Monatswerte::Kuehlbedarf) / p.f_nutz;
     const double strom = bedarf / p.Klimaeffizienz;

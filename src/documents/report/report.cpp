@@ -10,13 +10,13 @@
 namespace velmaris {
 namespace {
 
-using Seitenschreiber = void (*)(Reporttext&, const Reportquelle&);
+using Seitenschreiber = void (*)(Reporttext&, const Dokumentquelle&);
 
 constexpr std::array<Seitenschreiber, reportseiten> schreiber{
     report_datenblatt,  report_uebersicht,  report_klima,       report_waermebilanz,
     report_kuehlbilanz, report_heizenergie, report_kuehlenergie};
 
-std::string schreiben(const Reportquelle& quelle, int seite, std::string_view sprache) {
+std::string schreiben(const Dokumentquelle& quelle, int seite, std::string_view sprache) {
     Reporttext text(sprache);
     for (int s = 1; s <= reportseiten; ++s) {
         if (seite != 0 && seite != s) continue;
@@ -28,20 +28,20 @@ std::string schreiben(const Reportquelle& quelle, int seite, std::string_view sp
 
 }  // namespace
 
-std::string report_schreiben(const Reportquelle& quelle, int seite) {
+std::string report_schreiben(const Dokumentquelle& quelle, int seite) {
     return schreiben(quelle, seite, "d");
 }
 
-std::string report_schreiben_englisch(const Reportquelle& quelle, int seite) {
+std::string report_schreiben_englisch(const Dokumentquelle& quelle, int seite) {
     return schreiben(quelle, seite, "e");
 }
 
-std::string report_in_sprache(const Reportquelle& quelle, int seite) {
+std::string report_in_sprache(const Dokumentquelle& quelle, int seite) {
     return quelle.p.Sprache == "e" ? report_schreiben_englisch(quelle, seite)
                                    : report_schreiben(quelle, seite);
 }
 
-std::string report_exportieren(const Reportquelle& quelle, const std::filesystem::path& datei) {
+std::string report_exportieren(const Dokumentquelle& quelle, const std::filesystem::path& datei) {
     std::string text = report_in_sprache(quelle, 0);
     datei_ersetzen(datei, nach_windows1252(text) + "\r\n");
     return text;

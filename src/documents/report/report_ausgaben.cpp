@@ -81,36 +81,34 @@ void klimadaten(Reporttext& text, const Projekt& p) {
     text.jahreszeile({"Jahresmittel ", "Yearly mean "}, {muster(jahresmittel, 1)});
 }
 
-void gebaeudedaten(Reporttext& text, const A_Klima& k) {
+void gebaeudedaten(Reporttext& text, const Gebaeudetexte& k) {
     struct Zeile {
         Wort name;
-        const Anzeige& anzeige;
+        const std::string& wert;
         Wort einheit;
     };
     const std::array<Zeile, 11> zeilen{{
-        {{"Mittlerer U-Wert", "Mean U value"}, k.anz_Umittel, {" W/(m² K)", " W/(m² K)"}},
-        {{"Spezifische Transmissionsverluste", "Specific transmission losses"},
-         k.anz_Tspez,
-         {" W/K", " W/K"}},
-        {{"Spezifische Lüftungsverluste", "Specific ventilation losses"}, k.anz_Vspez, {" W/K", " W/K"}},
-        {{"Summe spezifische Verluste", "Sum specific losses"}, k.anz_TVspez, {" W/K", " W/K"}},
-        {{"Thermische Trägheit", "Thermal inertia"}, k.anz_tau, {" Stunden", " hours"}},
-        {{"Maximale Heizlast", "Maximum heating load"}, k.anz_Heizlast, {" kW", " kW"}},
+        {{"Mittlerer U-Wert", "Mean U value"}, k.Umittel, {" W/(m² K)", " W/(m² K)"}},
+        {{"Spezifische Transmissionsverluste", "Specific transmission losses"}, k.Tspez, {" W/K", " W/K"}},
+        {{"Spezifische Lüftungsverluste", "Specific ventilation losses"}, k.Vspez, {" W/K", " W/K"}},
+        {{"Summe spezifische Verluste", "Sum specific losses"}, k.TVspez, {" W/K", " W/K"}},
+        {{"Thermische Trägheit", "Thermal inertia"}, k.tau, {" Stunden", " hours"}},
+        {{"Maximale Heizlast", "Maximum heating load"}, k.Heizlast, {" kW", " kW"}},
         {{"Maximale spezifische Heizlast", "Maximum specific heating load"},
-         k.anz_heizlast_spez,
+         k.heizlast_spez,
          {" W/m²", " W/m²"}},
-        {{"Maximale Kühllast", "Maximum cooling load"}, k.anz_kuehllast, {" kW", " kW"}},
+        {{"Maximale Kühllast", "Maximum cooling load"}, k.kuehllast, {" kW", " kW"}},
         {{"Maximale spezifische Kühllast", "Maximum specific cooling load"},
-         k.anz_kuehllast_spez,
+         k.kuehllast_spez,
          {" W/m²", " W/m²"}},
-        {{"Heizgrenztemperatur", "Limit temperature for heating"}, k.anz_Heizgrenztemp, {"°C", "°C"}},
+        {{"Heizgrenztemperatur", "Limit temperature for heating"}, k.Heizgrenztemp, {"°C", "°C"}},
         // The unit has no English form.
-        {{"Effektive Heiztage", "Effective heating days"}, k.anz_Heiztage, {" Tage", " Tage"}},
+        {{"Effektive Heiztage", "Effective heating days"}, k.Heiztage, {" Tage", " Tage"}},
     }};
     text.abschnitt({"Gebäudedaten", "Building data"});
     text.block(tabstopps::werte);
     for (const Zeile& zeile : zeilen)
-        text.reihe(zeile.name, zeile.anzeige.text(), zeile.einheit.in(text.sprache()));
+        text.reihe(zeile.name, zeile.wert, zeile.einheit.in(text.sprache()));
 }
 
 /// The two head lines that the tables of the heat balance share; "Tramsmis-" is spelled as ever.
@@ -163,19 +161,19 @@ void kuehlbilanz(Reporttext& text, const Projekt& p) {
 
 }  // namespace
 
-void report_uebersicht(Reporttext& text, const Reportquelle& quelle) {
+void report_uebersicht(Reporttext& text, const Dokumentquelle& quelle) {
     text.seitenkopf({"Ausgabe: Übersicht", "Output: Overview"});
     bedarf(text, quelle.p);
     betriebsstunden(text, quelle.p);
 }
 
-void report_klima(Reporttext& text, const Reportquelle& quelle) {
+void report_klima(Reporttext& text, const Dokumentquelle& quelle) {
     text.seitenkopf({"Ausgabe: Klima- und Gebäudedaten", "Output: Climate and building data"});
     klimadaten(text, quelle.p);
-    gebaeudedaten(text, quelle.a_klima);
+    gebaeudedaten(text, quelle.gebaeude);
 }
 
-void report_waermebilanz(Reporttext& text, const Reportquelle& quelle) {
+void report_waermebilanz(Reporttext& text, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     constexpr std::string_view je_flaeche =
         R"( \tab in kWh/m² \tab in kWh/m² \tab in kWh/m² \tab in kWh/m² \tab \tab in kWh/m²)";
@@ -191,7 +189,7 @@ void report_waermebilanz(Reporttext& text, const Reportquelle& quelle) {
     bilanzsumme(text, 0, p.qtr, p.qinf, p.qi, p.qsol, p.qh);
 }
 
-void report_kuehlbilanz(Reporttext& text, const Reportquelle& quelle) {
+void report_kuehlbilanz(Reporttext& text, const Dokumentquelle& quelle) {
     text.seitenkopf({"Ausgabe: Kühlbilanz", "Output: Cooling balance"});
     kuehlbilanz(text, quelle.p);
 }

@@ -51,7 +51,7 @@ void geometrie(Reporttext& text, const Projekt& p) {
     text.reihe({"A/V - Verhältnis", "Surface-to-volume value"}, muster(p.AV, 1), " 1/m");
 }
 
-void daemmung(Reporttext& text, const Reportquelle& quelle) {
+void daemmung(Reporttext& text, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     constexpr Wort u{"U-Wert", "U value"};
     constexpr Wort gegen{"Gegen", "Towards"};
@@ -97,7 +97,7 @@ void bauarten(Reporttext& text, const Auswahltexte& auswahl) {
     }
 }
 
-void gebaeude(Reporttext& text, const Reportquelle& quelle) {
+void gebaeude(Reporttext& text, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     text.abschnitt({"Gebäude", "Building"});
     text.block(tabstopps::werte);
@@ -149,7 +149,7 @@ constexpr std::array<Fensterreihe, 4> fensterreihen{{
     {{"West", "West"}, {"Fensterfläche", "Window area"}, &Projekt::fw, &Projekt::kfgw, &Projekt::kfrw},
 }};
 
-void fenster(Reporttext& text, const Reportquelle& quelle) {
+void fenster(Reporttext& text, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     const auto seiten = fassaden(p);
     text.abschnitt({"Fenster", "Windows"});
@@ -170,25 +170,24 @@ void fenster(Reporttext& text, const Reportquelle& quelle) {
     }
 }
 
-void energie(Reporttext& text, const E_Energie& e_energie) {
+void energie(Reporttext& text, const Energietexte& e) {
     text.abschnitt({"Energie", "Energy"});
     text.block(tabstopps::werte);
-    text.textreihe({"Heizungssystem", "Heating system"}, e_energie.Label_System.text());
-    text.textreihe({"Wärmeübergabe / Systemtemperatur", "Heat transfer / system temperature"},
-                   e_energie.Label_Übergabe.text());
-    text.textreihe({"Energieträger", "Source of energy"}, e_energie.Label_Energieträger.text());
+    text.textreihe({"Heizungssystem", "Heating system"}, e.System);
+    text.textreihe({"Wärmeübergabe / Systemtemperatur", "Heat transfer / system temperature"}, e.Uebergabe);
+    text.textreihe({"Energieträger", "Source of energy"}, e.Energietraeger);
 }
 
 }  // namespace
 
-void report_datenblatt(Reporttext& text, const Reportquelle& quelle) {
+void report_datenblatt(Reporttext& text, const Dokumentquelle& quelle) {
     text.seitenkopf({"Datenblatt", "Data sheet"});
     geometrie(text, quelle.p);
     daemmung(text, quelle);
     gebaeude(text, quelle);
     klima(text, quelle.p);
     fenster(text, quelle);
-    energie(text, quelle.e_energie);
+    energie(text, quelle.energie);
 }
 
 }  // namespace velmaris

@@ -25,60 +25,58 @@ struct Traegerwort {
     [[nodiscard]] Wort wort() const { return {de, en}; }
 };
 
-void waerme(Reporttext& text, const E_Energie& e, std::string_view traeger) {
+void waerme(Reporttext& text, const Energietexte& e, std::string_view traeger) {
     text.gruppe({"Wärme", "Heat"});
-    text.unterreihe({"Heizwärmebedarf", "Heat energy demand"}, e.anz_qhs_sum.text(), einheit);
-    text.unterreihe({"Verluste bei der Wärmespeicherung", "Losses of the heat storage"}, e.anz_q_s.text(),
+    text.unterreihe({"Heizwärmebedarf", "Heat energy demand"}, e.qhs_sum, einheit);
+    text.unterreihe({"Verluste bei der Wärmespeicherung", "Losses of the heat storage"}, e.q_s, einheit);
+    text.unterreihe({"Wärmeverluste bei der Verteilung", "Heat losses from the distribution"}, e.q_d,
                     einheit);
-    text.unterreihe({"Wärmeverluste bei der Verteilung", "Heat losses from the distribution"},
-                    e.anz_q_d.text(), einheit);
     text.unterreihe({"Verluste bei der Übergabe an die Räume", "Looses at the transmission to the rooms"},
-                    e.anz_q_ce.text(), einheit);
-    text.unterreihe({"Aufwandszahl der Wärmeerzeugung", "Expense number of heat generation"},
-                    e.anz_e_g.text());
+                    e.q_ce, einheit);
+    text.unterreihe({"Aufwandszahl der Wärmeerzeugung", "Expense number of heat generation"}, e.e_g);
     text.zeile_anhaengen("");
     text.unterreihe(Traegerwort({"Endenergiebedarf ", "End energy demand "}, traeger).wort(),
-                    e.anz_q_HE_Energieträger.text(), einheit);
+                    e.q_HE_Energietraeger, einheit);
 }
 
-void hilfsenergie(Reporttext& text, const E_Energie& e) {
+void hilfsenergie(Reporttext& text, const Energietexte& e) {
     text.gruppe({"Hilfsenergie (Strom)", "Auxiliary energy (electricity)"});
     text.unterreihe({"Hilfsenergiebedarf zur Wärmeerzeugung", "Auxiliary energy for heat generation"},
-                    e.anz_q_g_he.text(), einheit);
+                    e.q_g_he, einheit);
     text.unterreihe({"Hilfsenergiebedarf zur Wärmespeicherung", "Auxiliary energy for heat storage"},
-                    e.anz_q_s_he.text(), einheit);
+                    e.q_s_he, einheit);
     text.unterreihe({"Hilfsenergiebedarf zur Wärmeverteilung", "Auxiliary energy for heat distribution"},
-                    e.anz_q_d_he.text(), einheit);
+                    e.q_d_he, einheit);
     text.zeile_anhaengen("");
     text.unterreihe(
         {"Endenergiebedarf Hilfsenergie (Strom)", "End energy demand auxiliary energy (electricity)"},
-        e.anz_q_HE_Strom.text(), einheit);
+        e.q_HE_Strom, einheit);
 }
 
 constexpr Wort faktor_strom{"Primärenergiefaktor Strom", "Primary energy factor electricity"};
 
 /// Carrier and auxiliary electricity apart.
-void energien_getrennt(Reporttext& text, const E_Energie& e, std::string_view traeger) {
+void energien_getrennt(Reporttext& text, const Energietexte& e, std::string_view traeger) {
     waerme(text, e, traeger);
     text.unterreihe(Traegerwort({"Primärenergiefaktor ", "Primary energy factor "}, traeger).wort(),
-                    e.anz_Primärenergiefaktor_Energieträger.text());
+                    e.Primaerenergiefaktor_Energietraeger);
     text.unterreihe(Traegerwort({"Primärenergiebedarf ", "Primary energy demand "}, traeger).wort(),
-                    e.anz_q_PE_Energieträger.text(), einheit);
+                    e.q_PE_Energietraeger, einheit);
     hilfsenergie(text, e);
-    text.unterreihe(faktor_strom, e.anz_Primärenergiefaktor_Strom.text());
+    text.unterreihe(faktor_strom, e.Primaerenergiefaktor_Strom);
     text.unterreihe(
         {"Primärenergiebedarf Hilfsenergie (Strom)", "Primary energy demand auxiliary energy (electricity)"},
-        e.anz_q_PE_Strom.text(), einheit);
+        e.q_PE_Strom, einheit);
 }
 
 /// With an electric carrier all primary energy is that of electricity.
-void energien_elektrisch(Reporttext& text, const E_Energie& e, std::string_view traeger) {
+void energien_elektrisch(Reporttext& text, const Energietexte& e, std::string_view traeger) {
     waerme(text, e, traeger);
     hilfsenergie(text, e);
     text.zeile_anhaengen("");
-    text.reihe(faktor_strom, e.anz_Primärenergiefaktor_Strom.text());
-    text.reihe({"Primärenergiebedarf Strom", "Primary energy demand electricity"},
-               e.anz_q_PE_Energieträger.text(), einheit);
+    text.reihe(faktor_strom, e.Primaerenergiefaktor_Strom);
+    text.reihe({"Primärenergiebedarf Strom", "Primary energy demand electricity"}, e.q_PE_Energietraeger,
+               einheit);
 }
 
 /// End and primary energy of the year times a share.
@@ -130,18 +128,18 @@ void monate_getrennt(Reporttext& text, const Projekt& p, std::string_view traege
 
 }  // namespace
 
-void report_heizenergie(Reporttext& text, const Reportquelle& quelle) {
+void report_heizenergie(Reporttext& text, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
-    const Kurzname& name = quelle.e_energie.kennwerte().name;
+    const Kurzname& name = quelle.energie.name;
     const std::string_view traeger = name.in(text.sprache());
     text.seitenkopf({"Ausgabe: Primär- und Endenergiebedarf Heizung",
                      "Output: Primary and end energy demand for heating"});
     text.abschnitt({"Energiebedarf der Heizungsanlage", "Energy demand of the heating system"});
     text.block(tabstopps::werte);
     if (name.elektrisch()) {
-        energien_elektrisch(text, quelle.e_energie, traeger);
+        energien_elektrisch(text, quelle.energie, traeger);
     } else {
-        energien_getrennt(text, quelle.e_energie, traeger);
+        energien_getrennt(text, quelle.energie, traeger);
     }
     text.zeile_anhaengen("");
     if (name.elektrisch()) {
@@ -152,7 +150,7 @@ void report_heizenergie(Reporttext& text, const Reportquelle& quelle) {
     text.jahreszeile(jahressumme, energiezellen(p, 1, name.elektrisch()));
 }
 
-void report_kuehlenergie(Reporttext& text, const Reportquelle& quelle) {
+void report_kuehlenergie(Reporttext& text, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     constexpr std::array<Wort, 2> kopf{{
         {R"( \tab Kühlbedarf \tab Kühlenergiebedarf \tab Primärenergiebedarf)",

@@ -1,6 +1,6 @@
 #include "documents/planes/A_Report.h"
 
-#include "planes/reportquelle.h"
+#include "planes/dokumentquelle.h"
 #include "tests/documents/report/reporthilfen.h"
 
 #include <array>
@@ -14,7 +14,7 @@ struct Fenster {
     explicit Fenster(const std::string& sprache = "d") : programm(test::dokumentprogramm(sprache)) {}
 
     std::unique_ptr<test::Testprogramm> programm;
-    A_Report report{programm->haupt->sitzung, [this] { return reportquelle(*programm->haupt); }};
+    A_Report report{programm->haupt->sitzung, [this] { return dokumentquelle(*programm->haupt); }};
 };
 
 TEST(AReport, OeffnetAufSeiteEins) {

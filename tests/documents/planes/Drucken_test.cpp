@@ -1,6 +1,6 @@
 #include "documents/planes/Drucken.h"
 
-#include "planes/reportquelle.h"
+#include "planes/dokumentquelle.h"
 #include "tests/documents/report/reporthilfen.h"
 #include "tests/testdrucker.h"
 #include "toolkit/fehler.h"
@@ -37,7 +37,7 @@ struct Dialog {
     }
 
     std::unique_ptr<test::Testprogramm> programm;
-    Drucken drucken{programm->haupt->sitzung, [this] { return reportquelle(*programm->haupt); }};
+    Drucken drucken{programm->haupt->sitzung, [this] { return dokumentquelle(*programm->haupt); }};
     std::vector<Druckziel> ziele;  ///< of the documents begun
     bool stoerung = false;
     int gedruckt = 0;

@@ -3,7 +3,7 @@
 #include "documents/print/blatt.h"
 #include "documents/print/drucktabelle.h"
 #include "documents/print/zeichnung_haus.h"
-#include "planes/reportquelle.h"
+#include "planes/dokumentquelle.h"
 #include "tests/documents/report/reporthilfen.h"
 #include "tests/testdrucker.h"
 #include "toolkit/zahlen.h"
@@ -92,7 +92,7 @@ struct Ausdruck {
     Ausdruck(const Fall& fall, const std::string& sprache) : programm(test::dokumentprogramm(sprache)) {
         fall.einrichten(*programm->haupt);
         programm->haupt->alles_berechnen();
-        Ausdrucken(drucker, reportquelle(*programm->haupt), alles_drucken, "1.2.2003");
+        Ausdrucken(drucker, dokumentquelle(*programm->haupt), alles_drucken, "1.2.2003");
     }
 
     [[nodiscard]] std::vector<std::string> texte(int seite) const {
@@ -243,7 +243,7 @@ TEST(Ausdrucken, DruckeNurWasGewaehltIst) {
     for (const Wahl& wahl : wahlen) {
         Testdrucker drucker;
         EXPECT_EQ(druckseitenzahl(wahl.auswahl), wahl.seiten);
-        Ausdrucken(drucker, reportquelle(*programm->haupt), wahl.auswahl, "");
+        Ausdrucken(drucker, dokumentquelle(*programm->haupt), wahl.auswahl, "");
         EXPECT_EQ(drucker.seiten, std::max(wahl.seiten, 1));
         EXPECT_EQ(drucker.dokumente, wahl.dokumente);
         EXPECT_EQ(drucker.zeichen.empty(), wahl.seiten == 0);

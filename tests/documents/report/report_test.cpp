@@ -3,7 +3,7 @@
 #include "climate/regionen.h"
 #include "documents/print/Ausdrucken.h"
 #include "energy/energiebilanz.h"
-#include "planes/reportquelle.h"
+#include "planes/dokumentquelle.h"
 #include "tests/documents/report/reporthilfen.h"
 #include "tests/testdrucker.h"
 #include "toolkit/zahlen.h"
@@ -32,7 +32,7 @@ using Zeilen = std::vector<std::string>;
 constexpr double rundung = 0.051;
 
 std::string rtf(const test::Testprogramm& programm, int seite) {
-    return report_in_sprache(reportquelle(*programm.haupt), seite);
+    return report_in_sprache(dokumentquelle(*programm.haupt), seite);
 }
 
 /// Title and section heads of a page: rows without a tab that end in ": ", and the title in front.
@@ -205,7 +205,7 @@ TEST(Report, KlimaregionenStehenInZweiZeilen) {
             EXPECT_EQ(zellen(*ort), (Zeilen{name, text[0]}));
             EXPECT_EQ(zellen(*(ort + 1)), (Zeilen{"", text[1]}));
             Testdrucker drucker;
-            Ausdrucken(drucker, reportquelle(*programm->haupt), {true}, "");
+            Ausdrucken(drucker, dokumentquelle(*programm->haupt), {true}, "");
             Zeilen gedruckt;
             for (const auto& z : drucker.auf_seite(1, test::Druckzeichen::Art::text))
                 gedruckt.push_back(z.text);
@@ -367,7 +367,7 @@ TEST(Report, OhneHeizwaermebedarfStehtNull) {
     for (const auto& zeile : zahlentabelle(reportzeilen(*programm, 6), 0, p))
         EXPECT_THAT(zeile, testing::Each(0.0));
     Testdrucker drucker;
-    Ausdrucken(drucker, reportquelle(*programm->haupt), {false, false, false, false, false, true}, "");
+    Ausdrucken(drucker, dokumentquelle(*programm->haupt), {false, false, false, false, false, true}, "");
     std::size_t monatszahlen = 0;
     for (const auto& z : drucker.auf_seite(1, test::Druckzeichen::Art::text)) {
         if (z.y1 < 124 || z.y2 > 208 || !zahl_pruefen(z.text)) continue;

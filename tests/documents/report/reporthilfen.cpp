@@ -2,7 +2,7 @@
 
 #include "documents/report/report.h"
 #include "documents/report/rtf_lesen.h"
-#include "planes/reportquelle.h"
+#include "planes/dokumentquelle.h"
 #include "toolkit/zahlen.h"
 
 #include <limits>
@@ -38,7 +38,7 @@ std::unique_ptr<Testprogramm> dokumentprogramm(const std::string& sprache) {
 
 std::vector<std::string> reportzeilen(const Testprogramm& programm, int seite) {
     std::vector<std::string> zeilen;
-    for (const Absatz& absatz : rtf_lesen(report_in_sprache(reportquelle(*programm.haupt), seite))) {
+    for (const Absatz& absatz : rtf_lesen(report_in_sprache(dokumentquelle(*programm.haupt), seite))) {
         std::string text;
         for (const Textstueck& stueck : absatz.stuecke)
             text += stueck.text;

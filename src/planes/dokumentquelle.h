@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/reportquelle.h"
+#include "documents/dokumentquelle.h"
 
 namespace velmaris {
 
@@ -8,6 +8,6 @@ struct Haupt;
 
 /// What the documents show of the program: its record, labels and the present choices of its lists. Labels
 /// that are kept only while their plane is on the screen are written anew. The program must outlive it.
-[[nodiscard]] Reportquelle reportquelle(Haupt& haupt);
+[[nodiscard]] Dokumentquelle dokumentquelle(Haupt& haupt);
 
 }  // namespace velmaris
