@@ -1,6 +1,7 @@
 #include "charts/bilanzdiagramme.h"
 
 #include "charts/schema.h"
+#include "charts/stufen.h"
 
 #include <algorithm>
 

@@ -1,7 +1,8 @@
 #include "charts/energiediagramm.h"
 
-#include "language/c_Sprache.h"
-#include "toolkit/diagrammtext.h"
+#include "charts/diagrammtext.h"
+#include "charts/schema.h"
+#include "charts/stufen.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -39,41 +40,21 @@ void achsen(Zeichenflaeche& bild) {
     bild.linie(links, boden, 325, boden, farben::schwarz);
 }
 
-void skala(Zeichenflaeche& bild, int schritt) {
+void skala(Zeichenflaeche& bild, double schritt) {
     for (int i = 0; i <= schritte; ++i)
         bild.linie(27, teilung(i), links, teilung(i), farben::schwarz);
     bild.flaeche(0, 0, 25, 100, bild.hintergrund());
     std::array<Achsenzahl, schritte + 1> zahlen{};
     for (int i = 0; i <= schritte; ++i)
-        zahlen[static_cast<std::size_t>(i)] = {static_cast<double>(i * schritt), teilung(i)};
+        zahlen[static_cast<std::size_t>(i)] = {i * schritt, teilung(i)};
     const bool lang = schritte * schritt >= 10000;
     achsenzahlen_zeichnen(bild, zahlen, lang ? Schrift{.name = "Arial", .groesse = 6.75} : Schrift{});
 }
 
 }  // namespace
 
-int skalenschritt(double groesster) {
-    struct Stufe {
-        double grenze;
-        int schritt;
-    };
-    static constexpr std::array<Stufe, 10> stufen{{{30, 10},
-                                                   {60, 20},
-                                                   {150, 50},
-                                                   {300, 100},
-                                                   {600, 200},
-                                                   {1500, 500},
-                                                   {3000, 1000},
-                                                   {6000, 2000},
-                                                   {15000, 5000},
-                                                   {30000, 10000}}};
-    const auto* const stufe =
-        std::find_if(stufen.begin(), stufen.end(), [&](const Stufe& s) { return groesster < s.grenze; });
-    return stufe != stufen.end() ? stufe->schritt : 50000;
-}
-
 std::vector<Saeule> saeulen(const Monatsenergie& werte) {
-    const double schritt = skalenschritt(groesster(werte));
+    const double schritt = stufen_energiemonat.schritt(groesster(werte));
     const auto y = [&](double wert) { return boden - wert / schritt * saeulenhoehe / schritte; };
     std::vector<Saeule> ergebnis;
     const auto stapel = [&](double x, double traeger, double hilfe, Farbe farbe, Farbe farbe_hilfe) {
@@ -81,7 +62,7 @@ std::vector<Saeule> saeulen(const Monatsenergie& werte) {
         if (hilfe > 0) ergebnis.push_back({x, y(traeger), x + 8, y(traeger + hilfe), farbe_hilfe});
     };
     for (int m = 1; m <= monate; ++m) {
-        const double x = 35 + spaltenbreite * (m - 1);
+        const double x = monatsspalte(m);
         stapel(x, werte.E(m), werte.H(m), end_traeger, end_strom);
         stapel(x + 10, werte.P(m), werte.Q(m), primaer_traeger, primaer_strom);
     }
@@ -97,18 +78,13 @@ bool auf_saeule(const Monatsenergie& werte, double x, double y) {
     });
 }
 
-int monat_bei(double x) {
-    const double m = runden((x - links - 3) / spaltenbreite + 0.5);
-    return m >= 1 && m <= monate ? static_cast<int>(m) : 1;
-}
-
 void Monatsverbrauch_zeichnen(Zeichenflaeche& bild, const Projekt& p) {
     const Monatsenergie werte = monatswerte(p);
     bild.Cls();
     bild.schrift({});
     achsen(bild);
-    spaltennamen_zeichnen(bild, monatskuerzel(p), 98);
-    skala(bild, skalenschritt(groesster(werte)));
+    monatsnamen_zeichnen(bild, p, 98);
+    skala(bild, stufen_energiemonat.schritt(groesster(werte)));
     for (const Saeule& s : saeulen(werte))
         bild.flaeche(s.x1, s.unten, s.x2, s.oben, s.farbe);
 }

@@ -7,10 +7,6 @@
 
 namespace velmaris {
 
-/// One step of the monthly chart's scale (three of them make the axis) for the largest column, kWh/(m2
-/// month).
-[[nodiscard]] int skalenschritt(double groesster);
-
 /// A filled part of a column of the monthly chart, corners in pixels of the surface.
 struct Saeule {
     double x1 = 0;
@@ -26,9 +22,6 @@ struct Saeule {
 
 /// True if a pixel of the monthly chart belongs to a column.
 [[nodiscard]] bool auf_saeule(const Monatsenergie& werte, double x, double y);
-
-/// The month 1..12 under the pixel column x of the monthly chart; 1 beside the columns.
-[[nodiscard]] int monat_bei(double x);
 
 /// Draws end and primary energy by month on the surface `Monatsübersicht_Energieträger`.
 void Monatsverbrauch_zeichnen(Zeichenflaeche& bild, const Projekt& p);

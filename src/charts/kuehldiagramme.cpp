@@ -2,6 +2,7 @@
 
 #include "charts/bilanzdiagramme.h"
 #include "charts/schema.h"
+#include "charts/stufen.h"
 
 #include <algorithm>
 #include <string>

@@ -1,6 +1,7 @@
 #include "charts/nutzungsgrad.h"
 
 #include "charts/schema.h"
+#include "charts/stufen.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "charts/schema.h"
 
+#include "charts/diagrammtext.h"
 #include "language/c_Sprache.h"
-#include "toolkit/diagrammtext.h"
 #include "toolkit/zahlen.h"
 
 #include <vector>

@@ -4,8 +4,6 @@
 #include "toolkit/fehler.h"
 #include "toolkit/zeichenflaeche.h"
 
-#include <array>
-#include <cstddef>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -45,83 +43,6 @@ inline constexpr double jahresachse = 85;
 inline constexpr double monatsflaeche_breite = 330;
 inline constexpr double jahresflaeche_breite = 96;
 inline constexpr double chart_hoehe = 140;
-
-/// One row of a step table: the step of the scale while the largest value is below the limit.
-struct Stufe {
-    double unter;
-    double schritt;
-};
-
-/// The step of a scale by the largest value; `sonst` is for values that no row takes.
-template <std::size_t n>
-struct Stufentabelle {
-    std::array<Stufe, n> stufen;
-    double sonst;
-
-    [[nodiscard]] double schritt(double groesster) const {
-        for (const Stufe& stufe : stufen) {
-            if (groesster < stufe.unter) return stufe.schritt;
-        }
-        return sonst;
-    }
-};
-
-inline constexpr std::array<Stufe, 8> stufen_bis_500{
-    {{5, 1}, {10, 2}, {25, 5}, {50, 10}, {75, 15}, {100, 20}, {250, 50}, {500, 100}}};
-
-/// Year balance of the heating plane.
-inline constexpr Stufentabelle<13> stufen_heizjahr{{{{10, 2},
-                                                     {25, 5},
-                                                     {50, 10},
-                                                     {75, 15},
-                                                     {100, 20},
-                                                     {250, 50},
-                                                     {500, 100},
-                                                     {750, 150},
-                                                     {1000, 200},
-                                                     {2500, 500},
-                                                     {5000, 1000},
-                                                     {7500, 1500},
-                                                     {10000, 2000}}},
-                                                   10000};
-
-/// Monthly heat balance and monthly gains.
-inline constexpr Stufentabelle<8> stufen_heizmonat{stufen_bis_500, 1000};
-
-/// Monthly heat and cooling demand.
-inline constexpr Stufentabelle<8> stufen_bedarfsmonat{stufen_bis_500, 500};
-
-/// Yearly heat and cooling demand and yearly gains.
-inline constexpr Stufentabelle<11> stufen_bedarfsjahr{{{{5, 1},
-                                                        {10, 2},
-                                                        {25, 5},
-                                                        {50, 10},
-                                                        {75, 15},
-                                                        {100, 20},
-                                                        {250, 50},
-                                                        {500, 100},
-                                                        {750, 150},
-                                                        {1000, 200},
-                                                        {2500, 500}}},
-                                                      2500};
-
-/// Hours of overheating per day.
-inline constexpr Stufentabelle<5> stufen_tagesstunden{{{{4, 1}, {8, 2}, {12, 3}, {16, 4}, {20, 5}}}, 6};
-
-/// Cooling degree hours of the month; of the year, where the step goes from 500 straight to 5000.
-inline constexpr Stufentabelle<10> stufen_gradstunden_monat{{{{5, 1},
-                                                              {10, 2},
-                                                              {25, 5},
-                                                              {50, 10},
-                                                              {100, 20},
-                                                              {250, 50},
-                                                              {500, 100},
-                                                              {1000, 200},
-                                                              {2500, 500},
-                                                              {5000, 1000}}},
-                                                            2000};
-inline constexpr Stufentabelle<9> stufen_gradstunden_jahr{
-    {{{5, 1}, {10, 2}, {25, 5}, {50, 10}, {100, 20}, {250, 50}, {500, 100}, {1000, 200}, {2500, 500}}}, 5000};
 
 /// A chart with its scale: `teile` steps of `schritt` up to the top.
 struct Balkendiagramm {

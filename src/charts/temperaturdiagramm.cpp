@@ -1,6 +1,6 @@
 #include "charts/temperaturdiagramm.h"
 
-#include "toolkit/diagrammtext.h"
+#include "charts/diagrammtext.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "charts/traegerbild.h"
 
+#include "charts/diagrammtext.h"
 #include "energy/katalog_werte.h"
-#include "toolkit/diagrammtext.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>

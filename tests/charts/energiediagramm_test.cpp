@@ -1,5 +1,7 @@
 #include "charts/energiediagramm.h"
 
+#include "charts/schema.h"
+#include "charts/stufen.h"
 #include "language/c_Sprache.h"
 #include "tests/testflaeche.h"
 #include "tests/textlage.h"
@@ -22,10 +24,10 @@ TEST(Skalenschritt, WechseltGenauAnDenGrenzen) {
                                                      {15000, 5000}, {30000, 10000}};
     for (std::size_t i = 0; i < stufen.size(); ++i) {
         const double grenze = stufen[i].first;
-        EXPECT_EQ(skalenschritt(std::nextafter(grenze, 0.0)), stufen[i].second);
-        EXPECT_EQ(skalenschritt(grenze), i + 1 < stufen.size() ? stufen[i + 1].second : 50000);
+        EXPECT_EQ(stufen_energiemonat.schritt(std::nextafter(grenze, 0.0)), stufen[i].second);
+        EXPECT_EQ(stufen_energiemonat.schritt(grenze), i + 1 < stufen.size() ? stufen[i + 1].second : 50000);
     }
-    EXPECT_EQ(skalenschritt(0), 10);
+    EXPECT_EQ(stufen_energiemonat.schritt(0), 10);
 }
 
 TEST(Monat, AusDerStelleDesZeigers) {
@@ -48,7 +50,7 @@ TEST(Monat, AusDerStelleDesZeigers) {
                                               // a half goes to the even month: 1.5 and 2.5 to 2
                                               {57, 2},
                                               {81, 2}})
-        EXPECT_EQ(monat_bei(fall.x), fall.monat) << fall.x;
+        EXPECT_EQ(spaltenmonat(fall.x).value_or(1), fall.monat) << fall.x;
 }
 
 Monatsenergie drei_monate() {

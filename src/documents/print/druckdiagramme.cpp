@@ -1,8 +1,7 @@
 #include "documents/print/druckdiagramme.h"
 
 #include "charts/bilanzdiagramme.h"
-#include "charts/energiediagramm.h"
-#include "charts/schema.h"
+#include "charts/stufen.h"
 #include "documents/kuehlstrom.h"
 #include "documents/print/druckachsen.h"
 #include "energy/energiebilanz.h"
@@ -86,7 +85,8 @@ void energiediagramm(Blatt& blatt, const Projekt& p, const std::function<Energie
             return std::max(s.ende.wert + s.ende_strom.wert, s.primaer.wert + s.primaer_strom.wert);
         },
         0);
-    const Druckdiagramm diagramm(blatt, energie, skalenschritt(hoechster), drei, einheit_im_monat(p));
+    const Druckdiagramm diagramm(blatt, energie, stufen_energiemonat.schritt(hoechster), drei,
+                                 einheit_im_monat(p));
     for (int m = 1; m <= monate; ++m) {
         const Energiesaeulen s = saeulen(m);
         const double x = monatsbalken(m) + 0.5;

@@ -1,6 +1,7 @@
 #include "energy/planes/E_Energie.h"
 
 #include "charts/energiediagramm.h"
+#include "charts/schema.h"
 #include "charts/traegerbild.h"
 #include "energy/energiebilanz.h"
 #include "language/beschriftungen.h"
@@ -32,8 +33,9 @@ E_Energie::E_Energie(Sitzung& sitzung)
         Monatsverbrauch_zeichnen(bild, sitzung_.p);
     };
     tooltip.folge(Monatsübersicht_Energieträger, [this](double x, double y) -> std::optional<std::string> {
-        if (!auf_saeule(monatswerte(sitzung_.p), x, y)) return std::nullopt;
-        return tooltip_text(monat_bei(x));
+        const std::optional<int> monat = spaltenmonat(x);
+        if (!monat || !auf_saeule(monatswerte(sitzung_.p), x, y)) return std::nullopt;
+        return tooltip_text(*monat);
     });
     laden();
 }

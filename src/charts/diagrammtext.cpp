@@ -1,4 +1,4 @@
-#include "toolkit/diagrammtext.h"
+#include "charts/diagrammtext.h"
 
 #include "toolkit/zahlen.h"
 
