@@ -1,5 +1,6 @@
 #include "charts/bilanzdiagramme.h"
 
+#include "charts/balkenfarben.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
 

@@ -1,5 +1,6 @@
 #include "charts/energiediagramm.h"
 
+#include "charts/balkenfarben.h"
 #include "charts/diagrammtext.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
@@ -15,11 +16,6 @@ constexpr double links = 30;  ///< vertical axis
 constexpr double boden = 95;  ///< horizontal axis
 constexpr int schritte = 3;   ///< scale steps on the axis
 constexpr double saeulenhoehe = 90;
-
-constexpr Farbe end_traeger{255, 0, 0};
-constexpr Farbe end_strom{255, 128, 0};
-constexpr Farbe primaer_traeger{128, 0, 0};
-constexpr Farbe primaer_strom{192, 64, 0};
 
 double groesster(const Monatsenergie& werte) {
     double M = 0;
@@ -63,8 +59,9 @@ std::vector<Saeule> saeulen(const Monatsenergie& werte) {
     };
     for (int m = 1; m <= monate; ++m) {
         const double x = monatsspalte(m);
-        stapel(x, werte.E(m), werte.H(m), end_traeger, end_strom);
-        stapel(x + 10, werte.P(m), werte.Q(m), primaer_traeger, primaer_strom);
+        stapel(x, werte.E(m), werte.H(m), balkenfarben::endenergie, balkenfarben::endenergie_strom);
+        stapel(x + 10, werte.P(m), werte.Q(m), balkenfarben::primaerenergie,
+               balkenfarben::primaerenergie_strom);
     }
     return ergebnis;
 }

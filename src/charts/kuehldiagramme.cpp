@@ -1,5 +1,6 @@
 #include "charts/kuehldiagramme.h"
 
+#include "charts/balkenfarben.h"
 #include "charts/bilanzdiagramme.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
@@ -13,8 +14,6 @@ namespace {
 
 constexpr int stundenteile = 4;
 constexpr int bilanzteile = 5;
-constexpr Farbe farbe_stunden{128, 0, 0};
-constexpr Farbe farbe_gradstunden{64, 64, 0};
 
 double kuehlgradstunden(const Projekt& p, int m) {
     return p.Monat(m).Kuehlgradstunden;
@@ -54,7 +53,7 @@ void jahr_zeichnen(Zeichenflaeche& bild, const Art& art, double wert, const Stuf
 }
 
 Art art_tagesstunden(const Projekt& p) {
-    return {stundenteile, farbe_stunden, beschriftung(p, {"Std. / Tag", "h / d"})};
+    return {stundenteile, balkenfarben::ueberwaermung, beschriftung(p, {"Std. / Tag", "h / d"})};
 }
 
 Art art_bedarf(std::string einheit) {
@@ -62,7 +61,7 @@ Art art_bedarf(std::string einheit) {
 }
 
 Art art_gradstunden(const Projekt& p) {
-    return {bilanzteile, farbe_gradstunden, beschriftung(p, {"Kh", "Kh"})};
+    return {bilanzteile, balkenfarben::gradstunden, beschriftung(p, {"Kh", "Kh"})};
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "charts/nutzungsgrad.h"
 
+#include "charts/balkenfarben.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
 

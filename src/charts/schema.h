@@ -10,19 +10,6 @@
 
 namespace velmaris {
 
-/// Colours of the bars by what they stand for.
-namespace balkenfarben {
-inline constexpr Farbe transmission{0, 0, 136};
-inline constexpr Farbe lueftung{102, 102, 255};
-inline constexpr Farbe heizen{255, 0, 0};
-inline constexpr Farbe intern{255, 128, 0};
-inline constexpr Farbe solar{255, 255, 0};
-inline constexpr Farbe komfort{255, 255, 0};
-inline constexpr Farbe kuehlen{0, 0, 255};
-inline constexpr Farbe solar_ungenutzt{192, 192, 0};
-inline constexpr Farbe intern_ungenutzt{200, 99, 0};
-}  // namespace balkenfarben
-
 /// The frame that a family of bar charts shares, y coordinates and heights in pixels. The ticks count from
 /// the horizontal axis, the bars from their own foot, which need not stand on it.
 struct Achsenrahmen {

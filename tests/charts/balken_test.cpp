@@ -1,3 +1,4 @@
+#include "charts/balkenfarben.h"
 #include "charts/bilanzdiagramme.h"
 #include "charts/kuehldiagramme.h"
 #include "charts/nutzungsgrad.h"

@@ -1,4 +1,4 @@
-#include "charts/schema.h"
+#include "charts/balkenfarben.h"
 #include "desktop/platform/stil.h"
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/bildflaeche.h"

@@ -1,4 +1,4 @@
-#include "charts/schema.h"
+#include "charts/balkenfarben.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/bildflaeche.h"

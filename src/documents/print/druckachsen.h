@@ -1,5 +1,6 @@
 #pragma once
 
+#include "charts/balkenfarben.h"
 #include "documents/print/blatt.h"
 
 #include <initializer_list>
@@ -7,20 +8,15 @@
 
 namespace velmaris {
 
-/// Colours of the printed bars by what they stand for.
+/// Colours of the printed bars by what they stand for: those of the screen, and those that paper has of its
+/// own.
 namespace druckfarben {
+using balkenfarben::endenergie, balkenfarben::endenergie_strom, balkenfarben::heizen, balkenfarben::komfort,
+    balkenfarben::kuehlen, balkenfarben::primaerenergie, balkenfarben::primaerenergie_strom,
+    balkenfarben::solar, balkenfarben::ueberwaermung;
 inline constexpr Farbe transmission{0, 255, 255};
 inline constexpr Farbe lueftung{255, 0, 255};
 inline constexpr Farbe intern{0, 0, 255};
-inline constexpr Farbe solar{255, 255, 0};
-inline constexpr Farbe heizen{255, 0, 0};
-inline constexpr Farbe komfort{255, 255, 0};
-inline constexpr Farbe kuehlen{0, 0, 255};
-inline constexpr Farbe ueberwaermung{128, 0, 0};
-inline constexpr Farbe endenergie{255, 0, 0};
-inline constexpr Farbe endenergie_strom{255, 128, 0};
-inline constexpr Farbe primaerenergie{128, 0, 0};
-inline constexpr Farbe primaerenergie_strom{192, 64, 0};
 inline constexpr Farbe kuehlenergie{0, 0, 255};
 inline constexpr Farbe kuehlprimaerenergie{0, 0, 128};
 }  // namespace druckfarben
