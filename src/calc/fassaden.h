@@ -1,9 +1,7 @@
 #pragma once
 
 #include "project/c_glob.h"
-
-#include <array>
-#include <cstddef>
+#include "project/wandseite.h"
 
 namespace velmaris {
 
@@ -23,13 +21,7 @@ struct Fassade {
     [[nodiscard]] double sonnenflaeche() const { return f_glas() * (1 - verschattung) * g; }
 };
 
-/// Places of the facades in `fassaden`.
-inline constexpr std::size_t nord = 0;
-inline constexpr std::size_t sued = 1;
-inline constexpr std::size_t ost = 2;
-inline constexpr std::size_t west = 3;
-
-/// The four facades of the record in the order north, south, east, west.
-[[nodiscard]] std::array<Fassade, 4> fassaden(const Projekt& p);
+/// The four facades of the record.
+[[nodiscard]] JeWandseite<Fassade> fassaden(const Projekt& p);
 
 }  // namespace velmaris

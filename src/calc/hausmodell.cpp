@@ -28,11 +28,12 @@ void seite_dazu(Hausmodell& haus, const Sonnenseite& seite) {
 
 /// The west wall loses by the sun what the others gain; this stands.
 void waende_dazu(Hausmodell& haus, const Projekt& p, double aufnahme) {
-    const std::array<Fassade, 4> f = fassaden(p);
-    const auto wand = [&](std::size_t i, const Ebenentabelle& ebene, double vorzeichen) {
+    const JeWandseite<Fassade> f = fassaden(p);
+    const auto wand = [&](Wandseite i, const Ebenentabelle& ebene, double vorzeichen) {
         const double huelle = vorzeichen * aufnahme * f[i].k_wand * (f[i].f_giebel + f[i].f_wand);
         seite_dazu(haus, {Umgebung::wand, &ebene.faktor, huelle, f[i].sonnenflaeche()});
     };
+    using enum Wandseite;
     wand(nord, p.Strahlung.wand_n, 1);
     wand(sued, p.Strahlung.wand_s, 1);
     wand(ost, p.Strahlung.wand_o, 1);

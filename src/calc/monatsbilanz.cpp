@@ -7,11 +7,12 @@
 #include "toolkit/fehler.h"
 #include "toolkit/zahlen.h"
 
-#include <array>
 #include <cmath>
 
 namespace velmaris {
 namespace {
+
+using enum Wandseite;
 
 constexpr double kwh_je_wattkelvintag = 0.024;
 constexpr double kwh_je_kubikmeterkelvintag = 0.0086;
@@ -20,7 +21,7 @@ constexpr double bezugszeit = 16;  // h
 
 /// What the inputs say of a month, whatever its climate. Losses in W/K.
 struct Koeffizienten {
-    std::array<Fassade, 4> fassade;
+    JeWandseite<Fassade> fassade;
     double waende, fenster, tuer;
     double dach, boden;  ///< with their temperature corrections
     double luft;         ///< exchanged air, m3/h
@@ -49,7 +50,7 @@ void verluste(Projekt& p, Monatswerte& monat, const Koeffizienten& k, float grad
     monat.Qt = f32(kwh(k.dach + k.boden + k.tuer + k.fenster + k.waende));
     monat.Qv = f32(k.luft * gradtage * kwh_je_kubikmeterkelvintag);
 
-    const auto fenster = [&](std::size_t f) { return kwh(k.fassade[f].k_fenster * k.fassade[f].f_fenster); };
+    const auto fenster = [&](Wandseite f) { return kwh(k.fassade[f].k_fenster * k.fassade[f].f_fenster); };
     dazu(p.Fensterverlust_N, fenster(nord));
     dazu(p.Fensterverlust_W, fenster(west));
     dazu(p.Fensterverlust_S, fenster(sued));
@@ -61,13 +62,13 @@ void verluste(Projekt& p, Monatswerte& monat, const Koeffizienten& k, float grad
     dazu(p.qtr_Fenster, kwh(k.fenster));
 }
 
-/// Solar gains of the facades in the order of `fassaden`, kWh.
-std::array<float, 4> sonnengewinne(const Monatswerte& monat, const Koeffizienten& k) {
-    const auto gewinn = [&](std::size_t f, int strahlung) {
+/// Solar gains of the facades, kWh.
+JeWandseite<float> sonnengewinne(const Monatswerte& monat, const Koeffizienten& k) {
+    const auto gewinn = [&](Wandseite f, int strahlung) {
         return f32(k.fassade[f].sonnenflaeche() * strahlung / mj_je_kwh);
     };
-    return {gewinn(nord, monat.Strahlung_N), gewinn(sued, monat.Strahlung_S), gewinn(ost, monat.Strahlung_O),
-            gewinn(west, monat.Strahlung_W)};
+    return {{{gewinn(nord, monat.Strahlung_N), gewinn(sued, monat.Strahlung_S),
+              gewinn(ost, monat.Strahlung_O), gewinn(west, monat.Strahlung_W)}}};
 }
 
 float nutzungsgrad_des_monats(const Projekt& p, const Monatswerte& monat) {
@@ -81,7 +82,7 @@ void monat_berechnen(Projekt& p, Monatswerte& monat, const Koeffizienten& k) {
     const float gradtage = f32((static_cast<double>(p.Troom) - monat.Tmittel) * monat.Tage);
     verluste(p, monat, k, gradtage < 0 ? 0 : gradtage);
 
-    const std::array<float, 4> sonne = sonnengewinne(monat, k);
+    const JeWandseite<float> sonne = sonnengewinne(monat, k);
     monat.Qs_brutto = f32(static_cast<double>(sonne[nord]) + sonne[west] + sonne[ost] + sonne[sued]);
     monat.Nutzgrad = nutzungsgrad_des_monats(p, monat);
     const double genutzt = monat.Nutzgrad;

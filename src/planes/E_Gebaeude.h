@@ -1,8 +1,8 @@
 #pragma once
 
-#include "planes/fensterseite.h"
 #include "planes/scrolltabelle.h"
 #include "project/sitzung.h"
+#include "project/wandseite.h"
 #include "toolkit/felder.h"
 
 #include <array>

@@ -22,7 +22,6 @@ constexpr std::array<Fenstertyp, 7> typen{{
 
 /// What differs between the facades beside the letter.
 struct Seitenzeile {
-    char buchstabe;
     std::string_view rahmen;
     std::int16_t Projekt::*typ;
     float Projekt::*gf;
@@ -32,19 +31,19 @@ struct Seitenzeile {
     float Projekt::*ra;
 };
 
-constexpr std::array<Seitenzeile, 4> seitenzeilen{{
-    {'n', "Frame_Nord", &Projekt::fenstern_typ, &Projekt::gfn, &Projekt::kfgn, &Projekt::kfrn, &Projekt::kfn,
+constexpr JeWandseite<Seitenzeile> seitenzeilen{{{
+    {"Frame_Nord", &Projekt::fenstern_typ, &Projekt::gfn, &Projekt::kfgn, &Projekt::kfrn, &Projekt::kfn,
      &Projekt::ran},
-    {'s', "Frame_Sued", &Projekt::fensters_typ, &Projekt::gfs, &Projekt::kfgs, &Projekt::kfrs, &Projekt::kfs,
+    {"Frame_Sued", &Projekt::fensters_typ, &Projekt::gfs, &Projekt::kfgs, &Projekt::kfrs, &Projekt::kfs,
      &Projekt::ras},
-    {'o', "Frame_Ost", &Projekt::fenstero_typ, &Projekt::gfo, &Projekt::kfgo, &Projekt::kfro, &Projekt::kfo,
+    {"Frame_Ost", &Projekt::fenstero_typ, &Projekt::gfo, &Projekt::kfgo, &Projekt::kfro, &Projekt::kfo,
      &Projekt::rao},
-    {'w', "Frame_West", &Projekt::fensterw_typ, &Projekt::gfw, &Projekt::kfgw, &Projekt::kfrw, &Projekt::kfw,
+    {"Frame_West", &Projekt::fensterw_typ, &Projekt::gfw, &Projekt::kfgw, &Projekt::kfrw, &Projekt::kfw,
      &Projekt::raw},
-}};
+}}};
 
 const Seitenzeile& zeile(Wandseite fassade) {
-    return seitenzeilen[static_cast<std::size_t>(fassade)];
+    return seitenzeilen[fassade];
 }
 
 std::string name(std::string_view vorn, Wandseite fassade, std::string_view hinten) {
@@ -52,10 +51,6 @@ std::string name(std::string_view vorn, Wandseite fassade, std::string_view hint
 }
 
 }  // namespace
-
-char buchstabe(Wandseite fassade) {
-    return zeile(fassade).buchstabe;
-}
 
 std::span<const Fenstertyp> fenstertypen() {
     return typen;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "planes/scrolltabelle.h"
+#include "project/wandseite.h"
 #include "toolkit/felder.h"
 
 #include <span>
@@ -8,11 +9,6 @@
 #include <string_view>
 
 namespace velmaris {
-
-enum class Wandseite { nord, sued, ost, west };
-
-/// The letter of a facade in the names of the record: n, s, o, w.
-[[nodiscard]] char buchstabe(Wandseite fassade);
 
 /// A row of the window type table.
 struct Fenstertyp {

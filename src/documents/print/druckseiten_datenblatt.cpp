@@ -125,6 +125,7 @@ struct Fensterzeile {
 
 std::array<double, 4> je_fassade(const Projekt& p, const std::function<double(const Fassade&)>& wert) {
     const auto seiten = fassaden(p);
+    using enum Wandseite;
     return {wert(seiten[nord]), wert(seiten[sued]), wert(seiten[ost]), wert(seiten[west])};
 }
 
