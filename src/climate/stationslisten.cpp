@@ -17,12 +17,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Right and lower edge of the map of Europe, pixels.
-constexpr Kartenpunkt europaecke{233, 200};
-
 bool auf_der_europakarte(const Station& station) {
     const Kartenpunkt ort = station.ort;
-    return ort.x >= 0 && ort.x <= europaecke.x && ort.y >= 0 && ort.y <= europaecke.y;
+    return ort.x >= 0 && ort.x <= europagroesse.breite - 1 && ort.y >= 0 && ort.y <= europagroesse.hoehe - 1;
 }
 
 bool ist_stationsdatei(const std::string& name) {

@@ -1,32 +1,13 @@
 #pragma once
 
+#include "climate/karten.h"
+
 #include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace velmaris {
-
-/// A place on a map picture in pixels from its top left.
-struct Kartenpunkt {
-    double x = 0;
-    double y = 0;
-
-    friend constexpr bool operator==(const Kartenpunkt&, const Kartenpunkt&) = default;
-};
-
-/// The place on the map of Europe of a latitude (north positive) and a longitude (east positive) in degrees.
-/// The meridians lean outward towards the south, as on the picture.
-[[nodiscard]] constexpr Kartenpunkt europapunkt(double breite, double laenge) {
-    const double y = (132.0 / 30) * (74.104 - breite);
-    const double gerade = (laenge + 25.203) * (92.0 / 30);
-    return {gerade + (y / 240) * (gerade * (12.0 / 31) - 1193.0 / 31), y};
-}
-
-/// The same on the map of the world, whose meridians and parallels are straight.
-[[nodiscard]] constexpr Kartenpunkt weltpunkt(double breite, double laenge) {
-    return {laenge * 1.677777778 + 325, 123 - 1.677777778 * breite};
-}
 
 /// A climate station of the lists.
 struct Station {

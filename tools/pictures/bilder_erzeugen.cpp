@@ -1,3 +1,4 @@
+#include "climate/karten.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
@@ -37,7 +38,7 @@ void karten_schreiben(const fs::path& daten, const Bilderordner& ordner) {
     const Flaeche land = umriss_lesen(daten / "welt_land.csv");
     const std::vector<Strecke> grenzen = linien_lesen(daten / "welt_grenzen.csv");
     ordner.schreiben("welt", welt_bild(land, grenzen, 1));
-    ordner.schreiben("welt_gross", welt_bild(land, grenzen, 1.5));
+    ordner.schreiben("welt_gross", welt_bild(land, grenzen, weltvergroesserung));
 }
 
 void haeuser_und_sinnbilder_schreiben(const Bilderordner& ordner) {

@@ -9,8 +9,8 @@ namespace {
 
 using Regionsfarben = std::array<Farbe, regionen_anzahl>;
 
-constexpr int breite = 230;
-constexpr int hoehe = 308;
+constexpr int breite = deutschlandgroesse.breite;
+constexpr int hoehe = deutschlandgroesse.hoehe;
 constexpr double strichdicke = 0.7;
 
 constexpr Farbe grund{240, 240, 240};

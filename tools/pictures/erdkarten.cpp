@@ -105,7 +105,7 @@ Bild europa_bild(const Flaeche& laender) {
     inhalt.kuesten = abbilden(inhalt.kuesten, projektion);
     inhalt.netz = abbilden(gradnetz_strecken(10), projektion);
     inhalt.land = abbilden(laender, projektion);
-    return karte_malen(234, 201, inhalt, 1);
+    return karte_malen(europagroesse.breite, europagroesse.hoehe, inhalt, 1);
 }
 
 Bild welt_bild(const Flaeche& land, const std::vector<Strecke>& grenzen, double massstab) {
@@ -121,8 +121,9 @@ Bild welt_bild(const Flaeche& land, const std::vector<Strecke>& grenzen, double 
     inhalt.grenzen = abbilden(grenzen, projektion);
     inhalt.netz = abbilden(gradnetz_strecken(30), projektion);
     inhalt.land = abbilden(ringe, projektion);
-    return karte_malen(static_cast<int>(std::lround(650 * massstab)),
-                       static_cast<int>(std::lround(246 * massstab)), inhalt, std::sqrt(massstab));
+    return karte_malen(static_cast<int>(std::lround(weltgroesse.breite * massstab)),
+                       static_cast<int>(std::lround(weltgroesse.hoehe * massstab)), inhalt,
+                       std::sqrt(massstab));
 }
 
 }  // namespace velmaris::bilder

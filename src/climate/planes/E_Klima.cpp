@@ -1,6 +1,7 @@
 #include "climate/planes/E_Klima.h"
 
 #include "climate/jahreswerte.h"
+#include "climate/karten.h"
 #include "climate/klimadatei.h"
 #include "climate/postleitzahlen.h"
 #include "climate/regionen.h"
@@ -10,15 +11,12 @@
 #include "toolkit/text.h"
 #include "toolkit/zahlen.h"
 
-#include <array>
 #include <utility>
 
 namespace velmaris {
 namespace {
 
 constexpr int twips = 15;  ///< in a pixel
-constexpr int weltbreite = 650;
-constexpr int welthoehe = 246;
 constexpr int kleiner_schritt = 10 * twips;
 constexpr int grosser_schritt = 100 * twips;
 
@@ -33,20 +31,6 @@ constexpr const char* Timer2 = "E_Klima.Timer2";
 constexpr int hinweis_nach_millisekunden = 1000;
 constexpr int hinweis_fuer_millisekunden = 4000;
 constexpr double hinweis_unter_dem_zeiger = 20;
-
-/// Pixels of the German map that carry the colours of the regions 1 to 12.
-constexpr std::array<Kartenpunkt, klimaregionen> bezugspunkte{{{110, 20},
-                                                               {140, 90},
-                                                               {35, 135},
-                                                               {90, 140},
-                                                               {90, 220},
-                                                               {70, 200},
-                                                               {45, 260},
-                                                               {90, 270},
-                                                               {60, 250},
-                                                               {70, 270},
-                                                               {25, 175},
-                                                               {75, 285}}};
 
 std::filesystem::path kartenbild(const Projekt& p, const std::string& name) {
     return p.AppPfad / "Grafiken" / (name + ".bmp");
@@ -92,7 +76,7 @@ Zweisprachig plz_ohne_eintrag(const std::string& plz) {
 
 E_Klima::E_Klima(Sitzung& sitzung, std::function<void()> wetter_laden)
     : stationen(stationslisten_lesen(Klimaordner(sitzung.p).alle())),
-      HScroll1("HScroll1", 0, (weltbreite - rahmenbreite) * twips, kleiner_schritt, grosser_schritt),
+      HScroll1("HScroll1", 0, (weltgroesse.breite - rahmenbreite) * twips, kleiner_schritt, grosser_schritt),
       zoom(sitzung, stationen.Welt, Klimaregionwahl2),
       s_(sitzung),
       wetter_laden_(std::move(wetter_laden)),
@@ -291,7 +275,8 @@ void E_Klima::station_gewaehlt() {
 
 /// The scroll field's value is the map's left edge with the sign turned.
 void E_Klima::weltkarte_legen() {
-    Picture3.lege({-HScroll1.position() / static_cast<double>(twips), 0, weltbreite, welthoehe});
+    Picture3.lege(
+        {-HScroll1.position() / static_cast<double>(twips), 0, weltgroesse.breite, weltgroesse.hoehe});
 }
 
 void E_Klima::station_in_sicht(const Station& station) {

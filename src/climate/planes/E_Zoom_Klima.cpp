@@ -1,11 +1,11 @@
 #include "climate/planes/E_Zoom_Klima.h"
 
+#include "climate/karten.h"
 #include "language/beschriftungen.h"
 
 namespace velmaris {
 namespace {
 
-constexpr double vergroesserung = 1.5;
 constexpr double toleranz = 2;
 
 }  // namespace
@@ -14,7 +14,7 @@ E_Zoom_Klima::E_Zoom_Klima(Sitzung& sitzung, const std::vector<Station>& station
     : ziel_(ziel),
       karte_{.plattform = sitzung.plattform,
              .stationen = stationen,
-             .massstab = vergroesserung,
+             .massstab = weltvergroesserung,
              .toleranz = toleranz,
              .karte = Picture1,
              .liste = Klimaregionwahl2,

@@ -1,3 +1,4 @@
+#include "climate/karten.h"
 #include "desktop/platform/stil.h"
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/bildflaeche.h"
@@ -36,7 +37,8 @@ void rahmen_mit_liste(Anzeige& titel, Auswahlliste& liste, const Ebenenbau& bau,
 }
 
 void deutschland(E_Klima& e, const Ebenenbau& bau, QGroupBox* karte) {
-    Bildflaeche* bild = setze(bau.bild(e.Picture1), karte, kartenrand, karten_oben, 230, 308);
+    Bildflaeche* bild = setze(bau.bild(e.Picture1), karte, kartenrand, karten_oben, deutschlandgroesse.breite,
+                              deutschlandgroesse.hoehe);
     auto* hinweis = new Schwebeschild(bild);
     bau.mittel().binder.binde(*hinweis, e.Label2);
     QGroupBox* rahmen = setze(bau.rahmen(e.Frame_plz), karte, 240, karten_oben, 95, 78);
@@ -47,9 +49,9 @@ void deutschland(E_Klima& e, const Ebenenbau& bau, QGroupBox* karte) {
 
 void europa_und_welt(E_Klima& e, const Ebenenbau& bau, QGroupBox* karte) {
     constexpr int europa_links = 53;
-    setze(bau.bild(e.Picture2), karte, europa_links, karten_oben, 234, 201);
+    setze(bau.bild(e.Picture2), karte, europa_links, karten_oben, europagroesse.breite, europagroesse.hoehe);
     auto* ausschnitt = new QWidget(karte);
-    ausschnitt->setGeometry(kartenrand, karten_oben, E_Klima::rahmenbreite, 246);
+    ausschnitt->setGeometry(kartenrand, karten_oben, E_Klima::rahmenbreite, weltgroesse.hoehe);
     bau.mittel().binder.binde(*ausschnitt, e.picture3f);
     bau.bild(e.Picture3)->setParent(ausschnitt);
     e.Picture3.ansicht();
@@ -115,7 +117,7 @@ QWidget* zoom_klima_ansicht(E_Zoom_Klima& e, const Ansichtsmittel& mittel, QWidg
     e.kartenfarbe = kartenfarbe;
     auto* spalte = new QVBoxLayout(fenster);
     Bildflaeche* karte = bau.bild(e.Picture1);
-    karte->setFixedSize(975, 369);
+    karte->setFixedSize(QSize(weltgroesse.breite, weltgroesse.hoehe) * weltvergroesserung);
     spalte->addWidget(karte);
     auto* reihe = new QHBoxLayout;
     reihe->addWidget(bau.liste(e.Klimaregionwahl2, e.ebene.text()), 1);

@@ -1,5 +1,4 @@
 #include "climate/planes/E_Klima.h"
-#include "tests/bezugspixel.h"
 #include "tests/climate/planes/klimaprobe.h"
 #include "tests/climate/stationsdatei.h"
 #include "tests/testprogramm.h"
@@ -18,15 +17,20 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-/// A picture of Germany of which only single pixels are coloured: those by which the regions are known,
-/// region r in (r, 0, 0), and places to point at.
+/// The pixels by which the regions 1 to 12 are known.
+const std::vector<std::pair<int, int>> bezugspixel{{110, 20}, {140, 90}, {35, 135}, {90, 140},
+                                                   {90, 220}, {70, 200}, {45, 260}, {90, 270},
+                                                   {60, 250}, {70, 270}, {25, 175}, {75, 285}};
+
+/// A picture of Germany of which only single pixels are coloured: the former, region r in (r, 0, 0), and
+/// places to point at.
 class Deutschlandkarte : public testing::Test {
   protected:
     Deutschlandkarte() {
         probe.oeffne(E_Klima::deutschland, "trier.met");
         std::uint8_t region = 1;
-        for (const auto& [x, y] : test::bezugspixel)
-            pixel[{x, y}] = {region++, 0, 0};
+        for (const auto& ort : bezugspixel)
+            pixel[ort] = {region++, 0, 0};
         probe.e->kartenfarbe = [this](const Bildfeld&, double x, double y) -> std::optional<Farbe> {
             if (ohne_bild) return std::nullopt;
             const auto ort = pixel.find({static_cast<int>(x), static_cast<int>(y)});

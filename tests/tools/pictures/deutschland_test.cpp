@@ -1,4 +1,4 @@
-#include "tests/bezugspixel.h"
+#include "climate/karten.h"
 #include "tests/tools/pictures/kartenprobe.h"
 #include "toolkit/zahlen.h"
 
@@ -12,10 +12,14 @@
 namespace velmaris {
 namespace {
 
-using test::bezugspixel;
 using test::Bitmap;
 
-constexpr int regionen = 12;
+constexpr int regionen = klimaregionen;
+
+Farbe bei_bezug(const Bitmap& karte, std::size_t i, int dx = 0, int dy = 0) {
+    const Kartenpunkt bezug = bezugspunkte.at(i);
+    return karte.bei(static_cast<int>(bezug.x) + dx, static_cast<int>(bezug.y) + dy);
+}
 
 struct Ort {
     double lon = 0;
@@ -85,9 +89,7 @@ class Deutschlandkarte : public ::testing::TestWithParam<int> {
   protected:
     Bitmap karte_ = test::grafik("klima" + std::to_string(GetParam()) + ".bmp");
 
-    [[nodiscard]] Farbe regionsfarbe(std::size_t i) const {
-        return karte_.bei(bezugspixel.at(i)[0], bezugspixel.at(i)[1]);
-    }
+    [[nodiscard]] Farbe regionsfarbe(std::size_t i) const { return bei_bezug(karte_, i); }
 
     [[nodiscard]] std::optional<std::size_t> region_der_farbe(Farbe farbe) const {
         for (std::size_t i = 0; i < regionen; ++i) {
@@ -104,7 +106,7 @@ TEST_P(Deutschlandkarte, BezugspixelTrennenDieRegionen) {
         EXPECT_EQ(region_der_farbe(regionsfarbe(i)), i) << "colour of region " << i + 1 << " is not its own";
         for (int dy = -1; dy <= 1; ++dy) {
             for (int dx = -1; dx <= 1; ++dx) {
-                EXPECT_EQ(karte_.bei(bezugspixel.at(i)[0] + dx, bezugspixel.at(i)[1] + dy), regionsfarbe(i))
+                EXPECT_EQ(bei_bezug(karte_, i, dx, dy), regionsfarbe(i))
                     << "beside the reference pixel of region " << i + 1;
             }
         }
@@ -135,7 +137,7 @@ TEST_P(Deutschlandkarte, NurDieGewaehlteRegionBehaeltIhreFarbe) {
     const Bitmap schlicht = test::grafik("klima0.bmp");
     const auto helligkeit = [](Farbe f) { return f.r + f.g + f.b; };
     for (std::size_t i = 0; i < regionen; ++i) {
-        const Farbe vorher = schlicht.bei(bezugspixel.at(i)[0], bezugspixel.at(i)[1]);
+        const Farbe vorher = bei_bezug(schlicht, i);
         const bool voll = GetParam() == 0 || GetParam() == static_cast<int>(i) + 1;
         if (voll)
             EXPECT_EQ(regionsfarbe(i), vorher) << "region " << i + 1;
