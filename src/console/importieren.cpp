@@ -1,9 +1,6 @@
 #include "console/importieren.h"
 
-#include "climate/import/importkopf.h"
-#include "climate/import/importquelle.h"
-#include "climate/import/importschreiber.h"
-#include "climate/import/importzeilen.h"
+#include "climate/import/importablauf.h"
 #include "climate/import/importziel.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
@@ -54,25 +51,12 @@ std::string freies_ziel(const Importauftrag& auftrag, const Klimaordner& ordner)
     return ziel;
 }
 
-Messjahr jahr_lesen(const Importquelle& quelle, const Quellkopf& kopf) {
-    const Leseplan plan{.form = kopf.form,
-                        .trennung = kopf.trennung,
-                        .kopfzeilen = kopf.kopfzeilen,
-                        .dezimalkomma = false,
-                        .spalten = spalten_waehlen(kopf.spalten, kopf.form)};
-    return *zeilen_lesen(quelle, plan, {});
-}
-
-/// What is written, and the year that is told of.
-struct Station {
-    Stationsort ort;
-    Messjahr jahr;
-};
-
-/// Reads a source whole; its faults name it.
-Station station_lesen(const Importauftrag& auftrag, const Importquelle& quelle, const Quellkopf& kopf) {
+/// Imports a source; its faults name it.
+Importergebnis station_schreiben(const Importauftrag& auftrag, const Importquelle& quelle,
+                                 const Quellkopf& kopf, const Klimaordner& ordner, const std::string& ziel) {
+    const auto am_ziel = [&ziel](const Stationsort&) { return ziel; };
     try {
-        return {stationsort(kopf.ort), jahr_lesen(quelle, kopf)};
+        return *station_importieren(quelle, importplan(kopf), ordner, am_ziel, {});
     } catch (const Importfehler& fehler) {
         const Zweisprachig& hinweis = fehler.hinweis();
         const std::string trennung = hinweis.de.empty() ? "" : " ";
@@ -98,14 +82,13 @@ Importbericht importieren(const Importauftrag& auftrag, const Klimaordner& ordne
     const std::string ziel = freies_ziel(auftrag, ordner);
     const Importquelle quelle = quelle_lesen(pfad(auftrag.quelle));
     const Quellkopf kopf = kopf_der_quelle(auftrag, quelle);
-    const Station station = station_lesen(auftrag, quelle, kopf);
-    const std::filesystem::path datei = ordner.schreiben(ziel, *stationstext(station.ort, station.jahr, {}));
-    const std::string name = station.ort.name + ".";
-    return {ueber_datei(sprache, pfadtext(datei),
-                        {{name, name},
+    const Importergebnis station = station_schreiben(auftrag, quelle, kopf, ordner, ziel);
+    const std::string ort = stationsname(kopf.ort);
+    return {ueber_datei(sprache, pfadtext(station.datei),
+                        {{ort + ".", ort + "."},
                          erkannt_als(kopf.form),
                          jahreshinweis(station.jahr),
-                         namenshinweis(station.ort.name)}),
+                         namenshinweis(ort)}),
             ueber_datei(sprache, auftrag.quelle, {zonenhinweis(kopf.ort)})};
 }
 

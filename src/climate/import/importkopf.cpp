@@ -136,6 +136,7 @@ Quellkopf Meteonorm_Lesen(const Importquelle& quelle) {
     Quellkopf kopf{.form = Quellform::meteonorm,
                    .trennung = Trennung::tabulator,
                    .kopfzeilen = kopfzeilen_meteonorm,
+                   .dezimalkomma = false,
                    .ort = {},
                    .spalten = belegung_nach_namen(quelle.zeile(zeile_der_spaltennamen))};
     kopf.ort.Standortname = ortsname(quelle.zeile(1));
@@ -154,6 +155,7 @@ Quellkopf Epw_Lesen(const Importquelle& quelle) {
     Quellkopf kopf{.form = Quellform::epw,
                    .trennung = Trennung::komma,
                    .kopfzeilen = kopfzeilen_der_epw(quelle),
+                   .dezimalkomma = false,
                    .ort = {},
                    .spalten = {}};
     const auto angabe = [&](int n) { return epw_angabe(quelle.zeile(1), n); };

@@ -37,11 +37,12 @@ struct Ortsangaben {
     friend bool operator==(const Ortsangaben&, const Ortsangaben&) = default;
 };
 
-/// What a recognised source says about itself.
+/// What a recognised source says about itself, or the user about any other.
 struct Quellkopf {
     Quellform form = Quellform::frei;
     Trennung trennung = Trennung::tabulator;
     int kopfzeilen = 0;
+    bool dezimalkomma = false;
     Ortsangaben ort;
     Spaltenbelegungen spalten;
 };

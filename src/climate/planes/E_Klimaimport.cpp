@@ -317,12 +317,13 @@ Ortsangaben E_Klimaimport::ortsangaben() const {
             .gmt_minus = GMT.index() != 0};
 }
 
-Leseplan E_Klimaimport::leseplan(const Spaltenwahl& spalten) const {
+Quellkopf E_Klimaimport::angaben() const {
     return {.form = form_,
             .trennung = trennung(),
             .kopfzeilen = kopfzeilen(),
             .dezimalkomma = Dezimalzeichen.index() == 1,
-            .spalten = spalten};
+            .ort = ortsangaben(),
+            .spalten = Spaltenbelegung};
 }
 
 /// The path in `DateinameBox`; the path of the dialog itself while the text is still its own.
@@ -358,21 +359,18 @@ bool E_Klimaimport::weiter(double anteil) const {
 }
 
 void E_Klimaimport::importieren() {
-    const Leseplan plan = leseplan(spalten_waehlen(Spaltenbelegung, form_));
-    const Stationsort ort = stationsort(ortsangaben());
+    const Importplan plan = importplan(angaben());
     quelle_vergleichen();
     {
         const Importsperre sperre(*this);
-        const auto jahr = zeilen_lesen(quelle_, plan, [this](double anteil) { return weiter(anteil / 2); });
-        if (!jahr) return;
         const Klimaordner ordner(s_.p);
-        const auto ziel =
-            ziel_erfragen(s_.plattform, s_.p.Sprache, ordner, ort.name, vorgabename(DateinameBox.text()));
-        if (!ziel) return;
-        const auto text =
-            stationstext(ort, *jahr, [this](double anteil) { return weiter(0.5 + anteil / 2); });
-        if (!text || !weiter(1)) return;
-        ordner.schreiben(*ziel, *text);
+        const auto ziel = [&](const Stationsort& ort) {
+            return ziel_erfragen(s_.plattform, s_.p.Sprache, ordner, ort.name,
+                                 vorgabename(DateinameBox.text()));
+        };
+        const auto station = station_importieren(quelle_, plan, ordner, ziel,
+                                                 [this](double anteil) { return weiter(anteil); });
+        if (!station) return;
         s_.plattform.melde(
             {.text = in_sprache({"Klimadatenimport beendet! Biite starten Sie Velmaris neu, um "
                                  "die gerade importierten Daten verwenden zu können.",
@@ -380,7 +378,7 @@ void E_Klimaimport::importieren() {
                                  "imported data."}),
              .titel = "Velmaris",
              .symbol = Symbol::information,
-             .hinweis = in_sprache(jahreshinweis(*jahr))});
+             .hinweis = in_sprache(jahreshinweis(station->jahr))});
     }
     ebene.zeige(false);
 }

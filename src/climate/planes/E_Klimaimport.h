@@ -1,10 +1,7 @@
 #pragma once
 
-#include "climate/import/importkopf.h"
-#include "climate/import/importquelle.h"
-#include "climate/import/importschreiber.h"
+#include "climate/import/importablauf.h"
 #include "climate/import/importspalten.h"
-#include "climate/import/importzeilen.h"
 #include "project/sitzung.h"
 #include "toolkit/felder.h"
 #include "toolkit/textfeld.h"
@@ -129,7 +126,7 @@ struct E_Klimaimport {
     [[nodiscard]] Trennung trennung() const;
     [[nodiscard]] int kopfzeilen() const;
     [[nodiscard]] Ortsangaben ortsangaben() const;
-    [[nodiscard]] Leseplan leseplan(const Spaltenwahl& spalten) const;
+    [[nodiscard]] Quellkopf angaben() const;
     [[nodiscard]] std::filesystem::path quellpfad() const;
 
     void importieren();
