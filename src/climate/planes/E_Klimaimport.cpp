@@ -16,8 +16,6 @@ namespace velmaris {
 namespace {
 
 constexpr int zeilen_der_ansicht = 250;
-constexpr std::size_t zeichen_der_zelle = 40;
-constexpr std::string_view hinter_dem_ende = "xxxxxxxxxx";
 constexpr double hoechste_kopfzeilen = 1e7;
 
 using Texte = std::vector<std::string>;
@@ -55,7 +53,7 @@ class E_Klimaimport::Importsperre {
         fenster_.Fortschritt.zeige(an);
         for (Feld* feld : std::initializer_list<Feld*>{&fenster_.Frame1, &fenster_.Frame2, &fenster_.Frame3,
                                                        &fenster_.Frame4, &fenster_.Command1,
-                                                       &fenster_.Command2, &fenster_.VScroll1})
+                                                       &fenster_.Command2, &fenster_.vorschau.VScroll1})
             feld->aktiviere(!an);
     }
 
@@ -67,11 +65,6 @@ E_Klimaimport::E_Klimaimport(Sitzung& sitzung) : s_(sitzung) {
     verbinden();
     felder_leeren();
     ebene.zeige(false);
-}
-
-std::array<std::array<Anzeige, E_Klimaimport::reihen>, E_Klimaimport::reihen> E_Klimaimport::zellen() {
-    return {{reihe<Anzeige>("Zelle1_"), reihe<Anzeige>("Zelle2_"), reihe<Anzeige>("Zelle3_"),
-             reihe<Anzeige>("Zelle4_"), reihe<Anzeige>("Zelle5_"), reihe<Anzeige>("Zelle6_")}};
 }
 
 void E_Klimaimport::beschriften() {
@@ -87,13 +80,7 @@ void E_Klimaimport::beschriften() {
     Breitezusatz.fuelle(waehle(englisch, {"Nord", "Süd"}, {"North", "South"}));
     Laengezusatz.fuelle(waehle(englisch, {"Ost", "West"}, {"East", "West"}));
     GMT.fuelle({"GMT + ", "GMT - "});
-    for (Auswahlliste& liste : Datenreihe) {
-        liste.fuelle(waehle(
-            englisch,
-            {"- unbenutzt -", "Außenlufttemperatur", "Gesamtstrahlung", "Direktstrahlung", "Diffusstrahlung"},
-            {"- not used -", "Outdoor air temperature", "Total radiation", "Direct radiation",
-             "Diffuse radiation"}));
-    }
+    vorschau.beschriften(sprache);
 }
 
 void E_Klimaimport::verbinden() {
@@ -112,10 +99,8 @@ void E_Klimaimport::verbinden() {
     for (Auswahlliste* liste : {&Laengezusatz, &GMT})
         liste->gewaehlt = [this] { AlleEingabenTesten(); };
     Datentrennung.geklickt = [this](int) { Datentrennung_Click(); };
-    for (Scrollfeld* feld : {&HScroll1, &VScroll1})
+    for (Scrollfeld* feld : {&vorschau.HScroll1, &vorschau.VScroll1})
         feld->geaendert = [this] { vorschau_fuellen(); };
-    for (std::size_t j = 0; j < reihen; ++j)
-        Datenreihe.at(j).gewaehlt = [this, j] { Datenreihe_Click(j); };
 }
 
 void E_Klimaimport::oeffnen() {
@@ -128,19 +113,19 @@ void E_Klimaimport::felder_leeren() {
     quelle_ = {};
     DateinameBox.schreibe({});
     Dateiansicht.schreibe({});
-    Spaltenbelegung = {};
     Datentrennung.markiere(0);
     for (Auswahlliste* liste : {&Breitezusatz, &Laengezusatz, &GMT})
         liste->markiere(0);
     kopf_leeren();
-    vorschau_leeren();
+    vorschau.leeren();
     weitere_schritte(false);
     Fortschritt.zeige(false);
     AlleEingabenTesten();
 }
 
 void E_Klimaimport::weitere_schritte(bool sichtbar) {
-    for (Feld* feld : std::initializer_list<Feld*>{&Frame2, &Frame3, &Frame4, &Frame5, &HScroll1, &VScroll1})
+    for (Feld* feld : std::initializer_list<Feld*>{&Frame2, &Frame3, &Frame4, &Frame5, &vorschau.HScroll1,
+                                                   &vorschau.VScroll1})
         feld->zeige(sichtbar);
 }
 
@@ -161,15 +146,14 @@ void E_Klimaimport::quelle_oeffnen(const std::filesystem::path& datei) {
     s_.p.Datei = pfadtext(datei);
     DateinameBox.schreibe(pfadtext(datei));
     quelle_zeigen();
-    Spaltenbelegung = {};
-    vorschau_leeren();
+    vorschau.leeren();
     if (const auto kopf = kopf_erkennen(quelle_)) {
         kopf_uebernehmen(*kopf);
     } else {
         kopf_leeren();
     }
     vorschau_fuellen();
-    bis_zur_ersten_benutzten_rollen();
+    vorschau.bis_zur_ersten_benutzten_rollen();
     weitere_schritte(true);
     AlleEingabenTesten();
 }
@@ -196,7 +180,7 @@ void E_Klimaimport::kopf_uebernehmen(const Quellkopf& kopf) {
     Laengezusatz.setze(kopf.ort.west ? 1 : 0);
     Zeitzone.schreibe(kopf.ort.Zeitzone);
     GMT.setze(kopf.ort.gmt_minus ? 1 : 0);
-    Spaltenbelegung = kopf.spalten;
+    vorschau.Spaltenbelegung = kopf.spalten;
     Erkannt.schreibe(in_sprache(erkannt_als(kopf.form)));
     Laden_aktiv_ = false;
 }
@@ -220,12 +204,6 @@ void E_Klimaimport::Datentrennung_Click() {
     vorschau_fuellen();
 }
 
-void E_Klimaimport::Datenreihe_Click(std::size_t j) {
-    if (Laden_aktiv_ || Vorschau_aktiv_) return;
-    const int spalte = HScroll1.position() + static_cast<int>(j);
-    Spaltenbelegung(spalte) = static_cast<std::int16_t>(Datenreihe.at(j).index());
-}
-
 void E_Klimaimport::AlleEingabenTesten() {
     const auto gefuellt = [](const Textfeld* feld) { return !feld->text().empty(); };
     const auto ist_zahl = [](const Textfeld* feld) { return StringToReal(feld->text(), true).has_value(); };
@@ -240,61 +218,7 @@ void E_Klimaimport::AlleEingabenTesten() {
 }
 
 void E_Klimaimport::vorschau_fuellen() {
-    if (Laden_aktiv_ || Vorschau_aktiv_ || Kopfzeilen.text().empty()) return;
-    Vorschau_aktiv_ = true;
-    teiler_.emplace(trennung(), quelle_.zeile(kopfzeilen() + 1));
-    Spaltenzahl = teiler_->spaltenzahl();
-    const int sichtbar = static_cast<int>(reihen);
-    HScroll1.bereich(1, std::max(1, Spaltenzahl - sichtbar + 1));
-    HScroll1.aktiviere(Spaltenzahl > sichtbar);
-    VScroll1.bereich(1, std::max(1, quelle_.zeilenzahl() - kopfzeilen() - sichtbar + 1));
-    spalten_zeigen(HScroll1.position());
-    for (std::size_t i = 0; i < reihen; ++i)
-        zeile_zeigen(i, kopfzeilen() + VScroll1.position() + static_cast<int>(i), HScroll1.position());
-    Vorschau_aktiv_ = false;
-}
-
-/// The columns of a recognised source are assigned already: the grid begins at the first of them.
-void E_Klimaimport::bis_zur_ersten_benutzten_rollen() {
-    int spalte = 1;
-    while (spalte < importspalten && Spaltenbelegung(spalte) == belegung::unbenutzt)
-        ++spalte;
-    if (Spaltenbelegung(spalte) != belegung::unbenutzt) HScroll1.bewege(spalte);
-}
-
-void E_Klimaimport::spalten_zeigen(int erste) {
-    for (std::size_t j = 0; j < reihen; ++j) {
-        const int spalte = erste + static_cast<int>(j);
-        Spalte.at(j).schreibe(std::to_string(spalte));
-        Datenreihe.at(j).setze(Spaltenbelegung(spalte));
-    }
-}
-
-void E_Klimaimport::zeile_zeigen(std::size_t i, int zeile, int erste_spalte) {
-    Zeilenzaehler.at(i).schreibe(std::to_string(zeile));
-    const std::string_view text = zeile <= quelle_.zeilenzahl() ? quelle_.zeile(zeile) : hinter_dem_ende;
-    for (std::size_t j = 0; j < reihen; ++j)
-        Zelle.at(i).at(j).schreibe(zellentext(text, erste_spalte + static_cast<int>(j)));
-}
-
-std::string E_Klimaimport::zellentext(std::string_view zeile, int spalte) const {
-    return quelltext(teiler_->stelle(zeile, spalte).value_or(""), zeichen_der_zelle);
-}
-
-/// The grid without a source, at its beginning.
-void E_Klimaimport::vorschau_leeren() {
-    Vorschau_aktiv_ = true;
-    Spaltenzahl = 0;
-    for (Scrollfeld* feld : {&HScroll1, &VScroll1})
-        feld->bereich(1, 1);
-    HScroll1.aktiviere(false);
-    spalten_zeigen(1);
-    for (std::size_t i = 0; i < reihen; ++i) {
-        Zeilenzaehler.at(i).schreibe({});
-        for (Anzeige& zelle : Zelle.at(i))
-            zelle.schreibe({});
-    }
-    Vorschau_aktiv_ = false;
+    if (!Laden_aktiv_ && !Kopfzeilen.text().empty()) vorschau.fuellen(quelle_, trennung(), kopfzeilen());
 }
 
 Trennung E_Klimaimport::trennung() const {
@@ -323,7 +247,7 @@ Quellkopf E_Klimaimport::angaben() const {
             .kopfzeilen = kopfzeilen(),
             .dezimalkomma = Dezimalzeichen.index() == 1,
             .ort = ortsangaben(),
-            .spalten = Spaltenbelegung};
+            .spalten = vorschau.Spaltenbelegung};
 }
 
 /// The path in `DateinameBox`; the path of the dialog itself while the text is still its own.

@@ -1,17 +1,13 @@
 #pragma once
 
 #include "climate/import/importablauf.h"
-#include "climate/import/importspalten.h"
+#include "climate/planes/importvorschau.h"
 #include "project/sitzung.h"
 #include "toolkit/felder.h"
 #include "toolkit/textfeld.h"
 
-#include <array>
-#include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <string>
-#include <utility>
 
 namespace velmaris {
 
@@ -19,8 +15,6 @@ namespace velmaris {
 /// "klima". A station is written whole or not at all, and is listed from the next start on.
 struct E_Klimaimport {
     explicit E_Klimaimport(Sitzung& sitzung);
-
-    static constexpr std::size_t reihen = 6;  ///< rows and columns of the preview grid
 
     Anzeige ebene{"E_Klimaimport"};  ///< the window with its title; shown while it is open, modal
 
@@ -57,12 +51,7 @@ struct E_Klimaimport {
 
     // --- Columns ---
     Anzeige Frame4{"Frame4"};
-    std::array<Anzeige, reihen> Spalte = reihe<Anzeige>("Spalte");                    ///< column numbers
-    std::array<Auswahlliste, reihen> Datenreihe = reihe<Auswahlliste>("Datenreihe");  ///< their quantities
-    std::array<Anzeige, reihen> Zeilenzaehler = reihe<Anzeige>("Zeilenzaehler");      ///< line numbers
-    std::array<std::array<Anzeige, reihen>, reihen> Zelle = zellen();  ///< preview by row and column
-    Scrollfeld HScroll1{"HScroll1", 1, 1, 1, reihen};                  ///< first column shown
-    Scrollfeld VScroll1{"VScroll1", 1, 1, 1, reihen};  ///< first row shown, from 1 behind the head lines
+    Importvorschau vorschau;
 
     // --- Work ---
     Feld Fortschritt{"Fortschritt"};  ///< the progress bar, shown while an import runs
@@ -72,9 +61,6 @@ struct E_Klimaimport {
     /// Set by the view: shows how much of an import is done (0..1), lets the user's events through, and
     /// returns false to cancel it.
     Fortschrittsmelder fortschritt;
-
-    Spaltenbelegungen Spaltenbelegung;  ///< quantities of the source's columns
-    std::int16_t Spaltenzahl = 0;       ///< columns of the first data line
 
     /// Opens the window without a source.
     void oeffnen();
@@ -87,20 +73,10 @@ struct E_Klimaimport {
     /// Allows the import exactly when all fields of the window are filled.
     void AlleEingabenTesten();
 
-    /// Shows six rows and six columns of the source from the positions of the scroll fields on.
+    /// Fills the preview, once the number of head lines is told.
     void vorschau_fuellen();
 
   private:
-    template <class Feldart, std::size_t... i>
-    static std::array<Feldart, reihen> reihe(const std::string& name, std::index_sequence<i...>) {
-        return {{Feldart(name + std::to_string(i + 1))...}};
-    }
-    template <class Feldart>
-    static std::array<Feldart, reihen> reihe(const std::string& name) {
-        return reihe<Feldart>(name, std::make_index_sequence<reihen>());
-    }
-    static std::array<std::array<Anzeige, reihen>, reihen> zellen();
-
     /// Keeps everything but the cancel button still while an import runs.
     class Importsperre;
 
@@ -111,17 +87,11 @@ struct E_Klimaimport {
     void quelle_zeigen();
     void kopf_uebernehmen(const Quellkopf& kopf);
     void kopf_leeren();
-    void vorschau_leeren();
-    void bis_zur_ersten_benutzten_rollen();
-    void spalten_zeigen(int erste);
-    void zeile_zeigen(std::size_t i, int zeile, int erste_spalte);
-    [[nodiscard]] std::string zellentext(std::string_view zeile, int spalte) const;
 
     void Command1_Click();
     void Command2_Click();
     void Command3_Click();
     void Datentrennung_Click();
-    void Datenreihe_Click(std::size_t j);
 
     [[nodiscard]] Trennung trennung() const;
     [[nodiscard]] int kopfzeilen() const;
@@ -139,9 +109,7 @@ struct E_Klimaimport {
     std::filesystem::path datei_;  ///< the source of the preview
     Importquelle quelle_;
     Quellform form_ = Quellform::frei;
-    std::optional<Spaltenteiler> teiler_;
     bool Laden_aktiv_ = false;
-    bool Vorschau_aktiv_ = false;
     bool import_aktiv_ = false;
     bool abbruch_ = false;
 };

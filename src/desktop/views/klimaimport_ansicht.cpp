@@ -25,7 +25,7 @@ namespace {
 /// What the window takes once all its steps are shown; it has the width of them from the beginning.
 constexpr QSize ganze_groesse(1010, 670);
 
-constexpr int spalten_der_tabelle = static_cast<int>(E_Klimaimport::reihen);
+constexpr int spalten_der_tabelle = static_cast<int>(Importvorschau::reihen);
 
 QGridLayout* raster(QGroupBox& rahmen) {
     auto* neu = new QGridLayout(&rahmen);
@@ -129,28 +129,29 @@ Gitterzelle* zelle(Anzeige& anzeige, bool kopf, const Ebenenbau& bau, QGroupBox*
 }
 
 QGroupBox* datenzuordnung(E_Klimaimport& e, const Ebenenbau& bau) {
+    Importvorschau& v = e.vorschau;
     QGroupBox* rahmen = bau.rahmen(e.Frame4);
     QGridLayout& tabelle = *raster(*rahmen);
     tabelle.setSpacing(0);
     tabelle.setColumnMinimumWidth(0, 48);
     for (int j = 0; j < spalten_der_tabelle; ++j) {
         const auto spalte = static_cast<std::size_t>(j);
-        tabelle.addWidget(zelle(e.Spalte.at(spalte), true, bau, rahmen), 0, j + 1);
-        QComboBox* liste = bau.liste(e.Datenreihe.at(spalte), e.Frame4.text() + " " + std::to_string(j + 1));
+        tabelle.addWidget(zelle(v.Spalte.at(spalte), true, bau, rahmen), 0, j + 1);
+        QComboBox* liste = bau.liste(v.Datenreihe.at(spalte), e.Frame4.text() + " " + std::to_string(j + 1));
         liste->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         tabelle.addWidget(liste, 1, j + 1);
         tabelle.setColumnStretch(j + 1, 1);
     }
     for (int i = 0; i < spalten_der_tabelle; ++i) {
         const auto zeile = static_cast<std::size_t>(i);
-        tabelle.addWidget(zelle(e.Zeilenzaehler.at(zeile), true, bau, rahmen), i + 2, 0);
+        tabelle.addWidget(zelle(v.Zeilenzaehler.at(zeile), true, bau, rahmen), i + 2, 0);
         for (int j = 0; j < spalten_der_tabelle; ++j)
-            tabelle.addWidget(zelle(e.Zelle.at(zeile).at(static_cast<std::size_t>(j)), false, bau, rahmen),
+            tabelle.addWidget(zelle(v.Zelle.at(zeile).at(static_cast<std::size_t>(j)), false, bau, rahmen),
                               i + 2, j + 1);
     }
-    tabelle.addWidget(bau.leiste(e.VScroll1, bau.text("VScroll1"), Qt::Vertical), 2, spalten_der_tabelle + 1,
+    tabelle.addWidget(bau.leiste(v.VScroll1, bau.text("VScroll1"), Qt::Vertical), 2, spalten_der_tabelle + 1,
                       spalten_der_tabelle, 1);
-    tabelle.addWidget(bau.leiste(e.HScroll1, bau.text("HScroll1")), spalten_der_tabelle + 2, 1, 1,
+    tabelle.addWidget(bau.leiste(v.HScroll1, bau.text("HScroll1")), spalten_der_tabelle + 2, 1, 1,
                       spalten_der_tabelle);
     return rahmen;
 }

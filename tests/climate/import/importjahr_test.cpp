@@ -18,7 +18,7 @@ using testing::ElementsAre;
 /// Assigns the columns of the preview through its lists: the quantity of column j + 1.
 void belege(E_Klimaimport& e, const std::vector<int>& groessen) {
     for (std::size_t j = 0; j < groessen.size(); ++j)
-        e.Datenreihe.at(j).setze(groessen[j]);
+        e.vorschau.Datenreihe.at(j).setze(groessen[j]);
 }
 
 /// Row i (from 0) of the written file must hold the source's hour `quelle(i)`; the sums of the year too.

@@ -59,9 +59,9 @@ void durchspielen(Importprobe& probe, const std::string& text, Zufall& zufall) {
     if (e.Land.text().empty()) e.Land.tippe("Land");
     if (e.Kopfzeilen.text().empty()) e.Kopfzeilen.tippe(std::to_string(los(zufall, 12)));
     if (los(zufall, 3) == 0) e.Datentrennung.setze(static_cast<int>(los(zufall, 3)));
-    e.HScroll1.bewege(static_cast<int>(los(zufall, 200)));
-    e.VScroll1.bewege(static_cast<int>(los(zufall, 20000)));
-    if (los(zufall, 3) == 0) e.Datenreihe.at(los(zufall, 6)).setze(static_cast<int>(los(zufall, 5)));
+    e.vorschau.HScroll1.bewege(static_cast<int>(los(zufall, 200)));
+    e.vorschau.VScroll1.bewege(static_cast<int>(los(zufall, 20000)));
+    if (los(zufall, 3) == 0) e.vorschau.Datenreihe.at(los(zufall, 6)).setze(static_cast<int>(los(zufall, 5)));
     const bool bereit = e.Command2.aktiv();
     const Meldung meldung = probe.importiere("neu");
     const std::string station = probe.station("neu");

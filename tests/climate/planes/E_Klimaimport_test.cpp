@@ -41,15 +41,15 @@ TEST(Klimaimport, OeffnetLeerInBeidenSprachen) {
     EXPECT_THAT(d.Laengezusatz.eintraege(), ElementsAre("Ost", "West"));
     EXPECT_THAT(e.Laengezusatz.eintraege(), ElementsAre("East", "West"));
     EXPECT_THAT(e.GMT.eintraege(), ElementsAre("GMT + ", "GMT - "));
-    EXPECT_THAT(d.Datenreihe[5].eintraege(),
+    EXPECT_THAT(d.vorschau.Datenreihe[5].eintraege(),
                 ElementsAre("- unbenutzt -", "Außenlufttemperatur", "Gesamtstrahlung", "Direktstrahlung",
                             "Diffusstrahlung"));
-    EXPECT_THAT(e.Datenreihe[0].eintraege(),
+    EXPECT_THAT(e.vorschau.Datenreihe[0].eintraege(),
                 ElementsAre("- not used -", "Outdoor air temperature", "Total radiation", "Direct radiation",
                             "Diffuse radiation"));
     EXPECT_FALSE(d.Command2.aktiv());
     EXPECT_FALSE(d.Frame4.sichtbar());
-    EXPECT_FALSE(d.VScroll1.sichtbar());
+    EXPECT_FALSE(d.vorschau.VScroll1.sichtbar());
 }
 
 TEST(Klimaimport, EinAbgebrochenerDialogAendertNichts) {
@@ -74,7 +74,7 @@ TEST(Klimaimport, EineQuelleWirdGezeigtUndIhrPfadGemerkt) {
     EXPECT_EQ(probe.e->DateinameBox.text(), probe.p->Datei);
     EXPECT_EQ(probe.e->Dateiansicht.text(), "Zürich\r\n1\t2\t3\r\n");
     EXPECT_TRUE(probe.e->Frame5.sichtbar());
-    EXPECT_TRUE(probe.e->HScroll1.sichtbar());
+    EXPECT_TRUE(probe.e->vorschau.HScroll1.sichtbar());
     EXPECT_EQ(probe.e->Kopfzeilen.text(), "");
     for (const auto& [zeilen, ganz] : {std::pair{249, true}, {250, false}, {300, false}}) {
         std::string text;
@@ -99,40 +99,42 @@ TEST(Klimaimport, ErkannteDateienFuellenDieFelder) {
     EXPECT_EQ(e.Land.text(), "");
     EXPECT_EQ(e.Laengengrad.text(), "7.43");
     EXPECT_EQ(e.GMT.index(), 0);
-    EXPECT_THAT(texte(e.Spalte), ElementsAre("1", "2", "3", "4", "5", "6"));
-    EXPECT_THAT(texte(e.Datenreihe), ElementsAre("- unbenutzt -", "- unbenutzt -", "Außenlufttemperatur",
-                                                 "Gesamtstrahlung", "Diffusstrahlung", "Direktstrahlung"));
-    EXPECT_THAT(texte(e.Zeilenzaehler), ElementsAre("5", "6", "7", "8", "9", "10"));
-    EXPECT_THAT(texte(e.Zelle[0]), ElementsAre("1", "1", "-15.0", "0", "0", "0"));
-    EXPECT_FALSE(e.HScroll1.aktiv());
+    EXPECT_THAT(texte(e.vorschau.Spalte), ElementsAre("1", "2", "3", "4", "5", "6"));
+    EXPECT_THAT(texte(e.vorschau.Datenreihe),
+                ElementsAre("- unbenutzt -", "- unbenutzt -", "Außenlufttemperatur", "Gesamtstrahlung",
+                            "Diffusstrahlung", "Direktstrahlung"));
+    EXPECT_THAT(texte(e.vorschau.Zeilenzaehler), ElementsAre("5", "6", "7", "8", "9", "10"));
+    EXPECT_THAT(texte(e.vorschau.Zelle[0]), ElementsAre("1", "1", "-15.0", "0", "0", "0"));
+    EXPECT_FALSE(e.vorschau.HScroll1.aktiv());
 
     probe.oeffne("bern.epw", Quellbau{}.epw());
     EXPECT_EQ(e.Erkannt.text(), "Die Datei wurde als EnergyPlus-Wetterdatei (.epw) erkannt.");
     EXPECT_FALSE(e.Datentrennung.gesetzt().has_value());
     EXPECT_EQ(e.Kopfzeilen.text(), "8");
     EXPECT_EQ(e.Land.text(), "CHE");
-    EXPECT_EQ(e.HScroll1.maximum(), e.Spaltenzahl - 5);
-    EXPECT_EQ(e.HScroll1.position(), 7);
-    EXPECT_EQ(e.Datenreihe[0].text(), "Außenlufttemperatur");
-    EXPECT_EQ(e.Zelle[0][0].text(), "-15.0");
-    e.HScroll1.setze(11);
-    EXPECT_THAT(texte(e.Datenreihe), ElementsAre("- unbenutzt -", "- unbenutzt -", "- unbenutzt -",
-                                                 "Gesamtstrahlung", "Direktstrahlung", "Diffusstrahlung"));
+    EXPECT_EQ(e.vorschau.HScroll1.maximum(), e.vorschau.Spaltenzahl - 5);
+    EXPECT_EQ(e.vorschau.HScroll1.position(), 7);
+    EXPECT_EQ(e.vorschau.Datenreihe[0].text(), "Außenlufttemperatur");
+    EXPECT_EQ(e.vorschau.Zelle[0][0].text(), "-15.0");
+    e.vorschau.HScroll1.setze(11);
+    EXPECT_THAT(texte(e.vorschau.Datenreihe),
+                ElementsAre("- unbenutzt -", "- unbenutzt -", "- unbenutzt -", "Gesamtstrahlung",
+                            "Direktstrahlung", "Diffusstrahlung"));
 
     probe.oeffne("breit.dat", "Bern\n46,7,5,-1\n\na\tb\tc\td\tTa\tG_Gh\tG_Dh\tx\n1\t2\t3\t4\t5\t6\t7\t8\n");
-    EXPECT_EQ(e.HScroll1.position(), 3) << "the last place that fills the grid";
-    EXPECT_EQ(e.Datenreihe[2].text(), "Außenlufttemperatur");
-    e.HScroll1.setze(1);
-    EXPECT_EQ(e.Zelle[0][0].text(), "1");
+    EXPECT_EQ(e.vorschau.HScroll1.position(), 3) << "the last place that fills the grid";
+    EXPECT_EQ(e.vorschau.Datenreihe[2].text(), "Außenlufttemperatur");
+    e.vorschau.HScroll1.setze(1);
+    EXPECT_EQ(e.vorschau.Zelle[0][0].text(), "1");
 
     probe.oeffne("frei.txt", "1\t2\n");
     EXPECT_EQ(e.Erkannt.text(), "");
     EXPECT_TRUE(e.Datentrennung.gesetzt(0));
     for (const Textfeld* feld : {&e.Kopfzeilen, &e.Land, &e.Standortname, &e.Breitengrad, &e.Zeitzone})
         EXPECT_EQ(feld->text(), "") << feld->name;
-    EXPECT_EQ(e.HScroll1.position(), 1);
-    EXPECT_EQ(e.Zelle[0][2].text(), "");
-    EXPECT_EQ(e.Datenreihe[2].index(), 0);
+    EXPECT_EQ(e.vorschau.HScroll1.position(), 1);
+    EXPECT_EQ(e.vorschau.Zelle[0][2].text(), "");
+    EXPECT_EQ(e.vorschau.Datenreihe[2].index(), 0);
 }
 
 TEST(Klimaimport, DieVorschauRolltUeberZeilenUndSpalten) {
@@ -146,35 +148,35 @@ TEST(Klimaimport, DieVorschauRolltUeberZeilenUndSpalten) {
     E_Klimaimport& e = *probe.e;
     e.Kopfzeilen.tippe("1x");
     EXPECT_EQ(e.Kopfzeilen.text(), "1");
-    EXPECT_EQ(e.Spaltenzahl, 8);
-    EXPECT_TRUE(e.HScroll1.aktiv());
-    EXPECT_EQ(e.HScroll1.maximum(), 3);
-    EXPECT_EQ(e.VScroll1.maximum(), 4);
-    e.HScroll1.setze(3);
-    e.VScroll1.setze(4);
-    EXPECT_THAT(texte(e.Spalte), ElementsAre("3", "4", "5", "6", "7", "8"));
-    EXPECT_THAT(texte(e.Zeilenzaehler), ElementsAre("5", "6", "7", "8", "9", "10"));
-    EXPECT_THAT(texte(e.Zelle[0]), ElementsAre("43", "44", "45", "46", "47", "48"));
-    EXPECT_THAT(texte(e.Zelle[5]), ElementsAre("93", "94", "95", "96", "97", "98"));
-    e.Datenreihe[5].setze(1);
-    EXPECT_EQ(e.Spaltenbelegung(8), 1);
-    e.HScroll1.setze(1);
-    EXPECT_EQ(e.Datenreihe[5].index(), 0);
+    EXPECT_EQ(e.vorschau.Spaltenzahl, 8);
+    EXPECT_TRUE(e.vorschau.HScroll1.aktiv());
+    EXPECT_EQ(e.vorschau.HScroll1.maximum(), 3);
+    EXPECT_EQ(e.vorschau.VScroll1.maximum(), 4);
+    e.vorschau.HScroll1.setze(3);
+    e.vorschau.VScroll1.setze(4);
+    EXPECT_THAT(texte(e.vorschau.Spalte), ElementsAre("3", "4", "5", "6", "7", "8"));
+    EXPECT_THAT(texte(e.vorschau.Zeilenzaehler), ElementsAre("5", "6", "7", "8", "9", "10"));
+    EXPECT_THAT(texte(e.vorschau.Zelle[0]), ElementsAre("43", "44", "45", "46", "47", "48"));
+    EXPECT_THAT(texte(e.vorschau.Zelle[5]), ElementsAre("93", "94", "95", "96", "97", "98"));
+    e.vorschau.Datenreihe[5].setze(1);
+    EXPECT_EQ(e.vorschau.Spaltenbelegung(8), 1);
+    e.vorschau.HScroll1.setze(1);
+    EXPECT_EQ(e.vorschau.Datenreihe[5].index(), 0);
 
     e.Kopfzeilen.tippe("7");
-    EXPECT_EQ(e.VScroll1.position(), 1);
-    EXPECT_THAT(texte(e.Zelle[2]), ElementsAre("91", "92", "93", "94", "95", "96"));
-    EXPECT_THAT(texte(e.Zelle[3]), ElementsAre("xxxxxxxxxx", "", "", "", "", ""));
-    EXPECT_EQ(e.Zeilenzaehler[3].text(), "11");
+    EXPECT_EQ(e.vorschau.VScroll1.position(), 1);
+    EXPECT_THAT(texte(e.vorschau.Zelle[2]), ElementsAre("91", "92", "93", "94", "95", "96"));
+    EXPECT_THAT(texte(e.vorschau.Zelle[3]), ElementsAre("xxxxxxxxxx", "", "", "", "", ""));
+    EXPECT_EQ(e.vorschau.Zeilenzaehler[3].text(), "11");
     e.Kopfzeilen.tippe("99999999999999999999");
-    EXPECT_EQ(e.Zelle[0][0].text(), "xxxxxxxxxx");
-    EXPECT_EQ(e.HScroll1.maximum(), 1);
-    EXPECT_FALSE(e.HScroll1.aktiv());
+    EXPECT_EQ(e.vorschau.Zelle[0][0].text(), "xxxxxxxxxx");
+    EXPECT_EQ(e.vorschau.HScroll1.maximum(), 1);
+    EXPECT_FALSE(e.vorschau.HScroll1.aktiv());
 
     e.Kopfzeilen.tippe("1");
     e.Datentrennung.setze(1);
-    EXPECT_EQ(e.Spaltenzahl, 1);
-    EXPECT_EQ(e.Zelle[0][0].text(), "11\t12\t13\t14\t15\t16\t17\t18");
+    EXPECT_EQ(e.vorschau.Spaltenzahl, 1);
+    EXPECT_EQ(e.vorschau.Zelle[0][0].text(), "11\t12\t13\t14\t15\t16\t17\t18");
 }
 
 TEST(Klimaimport, DerImportWartetAufAlleFelder) {
@@ -249,7 +251,7 @@ TEST(Klimaimport, FehlendeSpaltenWerdenDerReiheNachGemeldet) {
             probe.ort_eintippen();
             probe.e->Kopfzeilen.tippe("0");
             for (std::size_t j = 0; j < fall.groessen.size(); ++j)
-                probe.e->Datenreihe.at(j).setze(fall.groessen[j]);
+                probe.e->vorschau.Datenreihe.at(j).setze(fall.groessen[j]);
             const Meldung meldung = probe.importiere("x");
             EXPECT_EQ(meldung.text, sprache == std::string("d") ? fall.de : fall.en);
             EXPECT_EQ(meldung.titel, sprache == std::string("d") ? "Fehler" : "Error");
@@ -257,8 +259,8 @@ TEST(Klimaimport, FehlendeSpaltenWerdenDerReiheNachGemeldet) {
     }
     Importprobe probe;
     probe.oeffne("bern.epw", Quellbau{}.epw());
-    probe.e->HScroll1.setze(14);
-    probe.e->Datenreihe[0].setze(0);
+    probe.e->vorschau.HScroll1.setze(14);
+    probe.e->vorschau.Datenreihe[0].setze(0);
     EXPECT_THAT(probe.importiere("x").text, HasSubstr("senkrecht zur Sonne"));
     EXPECT_THAT(probe.dateien(), IsEmpty());
 }
@@ -353,7 +355,7 @@ TEST(Klimaimport, EineVeraenderteQuelleWirdNeuGezeigt) {
     const Meldung meldung = probe.importiere("bern");
     EXPECT_THAT(meldung.text, StartsWith("Die Quelldatei hat sich seit der Vorschau geändert."));
     EXPECT_EQ(meldung.hinweis, "bern.txt: Zeilen vorher: 8764, jetzt: 104");
-    EXPECT_EQ(probe.e->VScroll1.maximum(), 95);
+    EXPECT_EQ(probe.e->vorschau.VScroll1.maximum(), 95);
     EXPECT_THAT(probe.importiere("bern").text, StartsWith("Fehler! - Zu wenig Daten."));
     std::filesystem::remove(probe.ordner / "bern.txt");
     EXPECT_THAT(probe.importiere("bern").text, HasSubstr("bern.txt: Datei nicht gefunden"));

@@ -123,7 +123,7 @@ TEST_F(KlimaimportTest, NichtsIstAbgeschnitten) {
             if (e().Kopfzeilen.text().empty()) e().Kopfzeilen.tippe("1");
             if (*fall.ort != '\0') e().Standortname.schreibe(fall.ort);
             e().AlleEingabenTesten();
-            e().HScroll1.bewege(fall.spalte);
+            e().vorschau.HScroll1.bewege(fall.spalte);
             e().Fortschritt.zeige(fall.spalte > 1);
             QTest::qWait(50);
             EXPECT_LE(fenster.width(), 1024) << fall.bild;
@@ -176,7 +176,7 @@ TEST_F(KlimaimportTest, JedesBedienelementWirkt) {
     EXPECT_EQ(such<QLabel>(ebene, "Spalte1").text(), "2");
     EXPECT_EQ(such<QLabel>(ebene, "Zelle1_2").text(), "42");
     waehle("Datenreihe6", 4);
-    EXPECT_EQ(e().Spaltenbelegung(7), 4);
+    EXPECT_EQ(e().vorschau.Spaltenbelegung(7), 4);
     QTest::keyClick(&such(ebene, "HScroll1"), Qt::Key_Left);
     EXPECT_EQ(such<QComboBox>(ebene, "Datenreihe6").currentIndex(), 0);
 
@@ -184,7 +184,7 @@ TEST_F(KlimaimportTest, JedesBedienelementWirkt) {
         auto& knopf = such<QRadioButton>(ebene, ("Datentrennung" + std::to_string(option)).c_str());
         QTest::mouseClick(&knopf, Qt::LeftButton, {}, QPoint(8, knopf.height() / 2));
         EXPECT_EQ(e().Datentrennung.gesetzt(), option);
-        EXPECT_EQ(e().Spaltenzahl, option == 0 ? 8 : 1);
+        EXPECT_EQ(e().vorschau.Spaltenzahl, option == 0 ? 8 : 1);
     }
     for (const char* liste : {"Dezimalzeichen", "Breitezusatz", "Laengezusatz", "GMT"})
         waehle(liste, 1);
