@@ -1,8 +1,7 @@
-#include "project/FILEIO.h"
-#include "tests/testprogramm.h"
-#include "toolkit/text.h"
+#include "tests/project/projektlauf.h"
 
 #include <functional>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
 
@@ -11,37 +10,19 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::inhalt;
-using test::projekttext;
-using test::projektzeilen;
-using test::Testprogramm;
+using testing::HasSubstr;
 
-/// A program that has opened "haus.vel", a house 12 m long, and changed it.
-class Sichern : public testing::Test {
+/// A program that has opened "haus.vel" and made it 13 m long.
+class Sichern : public testing::Test, public test::Projektlauf {
   protected:
     Sichern() {
-        auto zeilen = projektzeilen(p());
-        zeilen[1] = " 12";
-        haus = programm.ordner.schreibe("projekte/haus.vel", projekttext(zeilen));
-        zeilen.resize(20);
-        kurz = programm.ordner.schreibe("kurz.vel", projekttext(zeilen));
-        fremd = programm.ordner.schreibe("fremd/wetter.epw", "LOCATION\r\n");
-        datei().datei_oeffnen(pfadtext(haus));
+        oeffne(haus);
         laenge(13);
     }
-
-    FILEIO& datei() { return programm.haupt->datei; }
-    Projekt& p() { return programm.p(); }
-    test::Testplattform& plattform() { return programm.plattform; }
-    void laenge(int meter) { programm.haupt->e_geometrie.l_sb.setze(10 * meter); }
 
     void quelle_waehlen() {
         plattform().dateien = {fremd};
         programm.haupt->e_klimaimport.Command1.druecke();
-    }
-
-    void oeffnen_ohne_sichern(const fs::path& pfad) {
-        plattform().antworten = {Antwort::nein};
-        datei().datei_oeffnen(pfadtext(pfad));
     }
 
     /// All files below the program's folder with their bytes.
@@ -52,63 +33,47 @@ class Sichern : public testing::Test {
         return dateien;
     }
 
-    Testprogramm programm;
-    fs::path haus, kurz, fremd;
+    fs::path kurz = programm.ordner.schreibe("kurz.vel", inhalt(haus).substr(0, 60));
+    fs::path fremd = programm.ordner.schreibe("fremd/wetter.epw", "LOCATION\r\n");
 };
 
 TEST_F(Sichern, NurDieEigeneDateiWirdOhneFrageGeschrieben) {
-    struct Fall {
-        const char* was;
-        std::function<void()> tu;
-    };
-    const std::vector<Fall> faelle{
+    const std::vector<std::pair<const char*, std::function<void()>>> faelle{
         {"import source", [&] { quelle_waehlen(); }},
-        {"import source, then a cancelled dialog",
-         [&] {
-             quelle_waehlen();
-             datei().datei_speichern_unter();
-         }},
-        {"file cut off", [&] { oeffnen_ohne_sichern(kurz); }},
-        {"file not there", [&] { oeffnen_ohne_sichern(programm.ordner / "nirgends.vel"); }},
-        {"no project", [&] { oeffnen_ohne_sichern(fremd); }},
+        {"file cut off", [&] { oeffne(kurz); }},
+        {"no project", [&] { oeffne(fremd); }},
         {"a file not to be replaced after all",
          [&] {
-             plattform().dateien = {kurz};
              plattform().antworten = {Antwort::nein};
-             datei().datei_speichern_unter();
+             speichere_unter(kurz);
          }},
-        {"folder that is not there",
-         [&] {
-             plattform().dateien = {programm.ordner / "nirgends/haus.vel"};
-             datei().datei_speichern_unter();
-         }},
+        {"folder that is not there", [&] { speichere_unter(programm.ordner / "nirgends/haus.vel"); }},
         {"the own file, damaged meanwhile",
          [&] {
-             programm.ordner.schreibe("projekte/haus.vel", inhalt(kurz));
-             oeffnen_ohne_sichern(haus);
+             fs::copy_file(kurz, haus, fs::copy_options::overwrite_existing);
+             oeffne(haus);
          }},
     };
-    for (const Fall& fall : faelle) {
-        fall.tu();
+    for (const auto& [was, tu] : faelle) {
+        tu();
         p().Geaendert = 1;
         plattform().dialoge.clear();
         const auto vorher = stand();
         datei().datei_speichern();
-        ASSERT_EQ(plattform().dialoge.size(), 1U) << fall.was;
-        EXPECT_EQ(plattform().dialoge[0].ordner, haus.parent_path()) << fall.was;
-        EXPECT_EQ(plattform().dialoge[0].dateiname, "haus.vel") << fall.was;
-        EXPECT_EQ(stand(), vorher) << fall.was;
+        ASSERT_EQ(plattform().dialoge.size(), 1U) << was;
+        EXPECT_EQ(plattform().dialoge[0].ordner, haus.parent_path()) << was;
+        EXPECT_EQ(plattform().dialoge[0].dateiname, "haus.vel") << was;
+        EXPECT_EQ(stand(), vorher) << was;
         plattform().antworten = {Antwort::ja};
         datei().datei_neu();
-        EXPECT_EQ(plattform().dialoge.size(), 2U)
-            << fall.was << ": the Yes of the question asks for a name too";
-        oeffnen_ohne_sichern(haus);
+        EXPECT_EQ(plattform().dialoge.size(), 2U) << was << ": the Yes of the question asks for a name too";
+        oeffne(haus);
     }
 }
 
 TEST_F(Sichern, EinNeuesProjektHatKeinenNamen) {
     quelle_waehlen();
-    oeffnen_ohne_sichern(haus);
+    oeffne(haus);
     datei().datei_neu();
     datei().datei_speichern();
     EXPECT_EQ(plattform().dialoge.back().dateiname, "");
@@ -121,13 +86,9 @@ TEST_F(Sichern, DieEigeneDateiBleibtEsAufAllenWegen) {
     const auto zweites = programm.ordner / "zweites.vel";
     const std::vector<std::pair<fs::path, std::function<void()>>> faelle{
         {haus, [] {}},
-        {haus, [&] { oeffnen_ohne_sichern(verweis); }},
-        {haus, [&] { oeffnen_ohne_sichern(fs::relative(haus)); }},
-        {zweites,
-         [&] {
-             plattform().dateien = {zweites};
-             datei().datei_speichern_unter();
-         }},
+        {haus, [&] { oeffne(verweis); }},
+        {haus, [&] { oeffne(fs::relative(haus)); }},
+        {zweites, [&] { speichere_unter(zweites); }},
         {zweites, [&] { fs::remove(zweites); }},
     };
     int meter = 20;
@@ -138,7 +99,7 @@ TEST_F(Sichern, DieEigeneDateiBleibtEsAufAllenWegen) {
         laenge(++meter);
         datei().datei_speichern();
         EXPECT_TRUE(plattform().dialoge.empty() && plattform().meldungen.empty()) << meter;
-        EXPECT_NE(inhalt(ziel).find("3.2\r\n " + std::to_string(meter) + "\r\n"), std::string::npos) << meter;
+        EXPECT_EQ(laenge_in(ziel), meter);
         EXPECT_EQ(p().Geaendert, 0);
     }
     EXPECT_TRUE(fs::is_symlink(verweis));
@@ -155,11 +116,9 @@ TEST_F(Sichern, EineDateiDieEinAndererGeaendertHatWirdNurAufFrageErsetzt) {
     plattform().antworten = {Antwort::nein};
     datei().datei_speichern();
     ASSERT_EQ(plattform().meldungen.size(), 1U);
-    const Meldung& frage = plattform().meldungen[0];
-    EXPECT_EQ(frage.text, pfadtext(haus) + "\n" + p().texte.txt_Ersetzen);
-    EXPECT_EQ(frage.vorgabe, Antwort::nein);
-    EXPECT_NE(frage.hinweis.find("geändert, seit"), std::string::npos);
-    EXPECT_EQ(inhalt(haus), anderer);
+    EXPECT_EQ(meldung().text, pfadtext(haus) + "\n" + p().texte.txt_Ersetzen);
+    EXPECT_EQ(meldung().vorgabe, Antwort::nein);
+    EXPECT_THAT(meldung().hinweis, HasSubstr("geändert, seit"));
     EXPECT_EQ(p().Geaendert, 1);
 
     plattform().antworten = {Antwort::ja, Antwort::nein};
@@ -169,49 +128,53 @@ TEST_F(Sichern, EineDateiDieEinAndererGeaendertHatWirdNurAufFrageErsetzt) {
 
     plattform().antworten = {Antwort::ja};
     datei().datei_speichern();
-    EXPECT_NE(inhalt(haus).find("3.2\r\n 14\r\n"), std::string::npos);
+    EXPECT_EQ(laenge_in(haus), 14);
     laenge(15);
     plattform().meldungen.clear();
     datei().datei_speichern();
     EXPECT_TRUE(plattform().meldungen.empty());
 }
 
-TEST_F(Sichern, DieDialogeBeginnenWoDerLetzteWar) {
-    Testprogramm neu("e");
-    fs::create_directories(neu.ordner / "papier");
-    const auto haus2 = neu.ordner.schreibe("projekte/Haus 2.5.VEL", inhalt(haus));
-    Haupt& h = *neu.haupt;
-    auto& dialoge = neu.plattform.dialoge;
+TEST(Dateiwahl, DieDialogeBeginnenWoDerLetzteWar) {
+    test::Projektlauf neu("e");
+    Haupt& h = *neu.programm.haupt;
+    const fs::path ordner = neu.programm.ordner.pfad();
+    fs::create_directories(ordner / "papier");
+    const fs::path haus = ordner / "projekte/Haus 2.5.VEL";
+    fs::rename(neu.haus, haus);
     struct Fall {
         std::function<void()> tu;
         fs::path antwort, ordner;
         std::string name;
     };
     const std::vector<Fall> faelle{
-        {[&] { h.datei.datei_speichern_unter(); }, {}, neu.ordner.pfad(), ""},
-        {[&] { h.datei.datei_oeffnen({}); }, haus2, neu.ordner.pfad(), ""},
-        {[&] { h.a_report.report_zeigen(), h.a_report.speichern(); }, neu.ordner / "papier/x.rtf",
-         haus2.parent_path(), "Haus 2.5.rtf"},
+        {[&] { h.datei.datei_speichern_unter(); }, {}, ordner, ""},
+        {[&] { h.datei.datei_oeffnen({}); }, haus, ordner, ""},
+        {[&] { h.a_report.report_zeigen(), h.a_report.speichern(); }, ordner / "papier/x.rtf",
+         haus.parent_path(), "Haus 2.5.rtf"},
         {[&] { h.a_report.temperaturverlauf_zeigen(), h.a_report.speichern(); },
          {},
-         neu.ordner / "papier",
+         ordner / "papier",
          "Haus 2.5.txt"},
-        {[&] { h.e_klimaimport.Command1.druecke(); }, haus2, neu.ordner / "papier", ""},
-        {[&] { h.datei.datei_speichern_unter(); }, haus2, haus2.parent_path(), "Haus 2.5.VEL"},
-        {[&] { h.datei.datei_oeffnen({}); }, {}, haus2.parent_path(), ""},
+        {[&] { h.e_klimaimport.Command1.druecke(); }, haus, ordner / "papier", ""},
+        {[&] { h.datei.datei_speichern_unter(); }, haus.parent_path() / "anders.bau", haus.parent_path(),
+         "Haus 2.5.VEL"},
+        {[&] { h.a_report.report_zeigen(), h.a_report.speichern(); },
+         {},
+         haus.parent_path(),
+         "anders.bau.rtf"},
     };
-    for (std::size_t i = 0; i < faelle.size(); ++i) {
-        if (!faelle[i].antwort.empty()) neu.plattform.dateien = {faelle[i].antwort};
-        neu.plattform.antworten = {Antwort::ja};
-        faelle[i].tu();
-        ASSERT_EQ(dialoge.size(), i + 1);
-        EXPECT_EQ(dialoge.back().ordner, faelle[i].ordner) << i;
-        EXPECT_EQ(dialoge.back().dateiname, faelle[i].name) << i;
+    for (const Fall& fall : faelle) {
+        if (!fall.antwort.empty()) neu.plattform().dateien = {fall.antwort};
+        fall.tu();
+        EXPECT_EQ(neu.plattform().dialoge.back().ordner, fall.ordner) << fall.name;
+        EXPECT_EQ(neu.plattform().dialoge.back().dateiname, fall.name);
     }
-    fs::rename(neu.ordner / "projekte", neu.ordner / "weg");
-    h.p.InitDir = neu.ordner / "weg/Haus 2.5.VEL";
+    EXPECT_EQ(neu.plattform().dialoge.size(), faelle.size());
+    fs::rename(ordner / "projekte", ordner / "weg");
+    h.p.InitDir = ordner / "weg/Haus 2.5.VEL";
     h.datei.datei_oeffnen({});
-    EXPECT_EQ(dialoge.back().ordner, neu.ordner / "weg") << "the command line may name a project";
+    EXPECT_EQ(neu.plattform().dialoge.back().ordner, ordner / "weg") << "the command line may name a project";
 }
 
 }  // namespace
