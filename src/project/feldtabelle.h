@@ -13,11 +13,22 @@ namespace velmaris {
 /// Where a quantity of the record lives.
 using Feldzeiger = std::variant<float Projekt::*, std::int16_t Projekt::*, std::string Projekt::*>;
 
+/// What a quantity is to the program.
+enum class Feldart {
+    eingabe,      ///< input, stored in the project file unless its line is 0
+    geometrie,    ///< derived geometry
+    kennwert,     ///< parameter of building or station
+    jahressumme,  ///< year sum of the monthly balance
+    energie,      ///< end and primary energy
+    last          ///< largest load
+};
+
 /// One quantity of the record: its name, its place, its line in a project file (from 1, 0 = not stored).
 struct Feldzeile {
     std::string_view name;
     Feldzeiger zeiger;
-    int zeile = 0;
+    Feldart art;
+    int zeile;
 };
 
 /// All quantities of the record that are single values; the one table that drives the project file,
