@@ -58,16 +58,6 @@ TEST(Zeitkonstante, KapazitaetNachBauweiseUndNachbarn) {
     }
 }
 
-TEST(Zeitkonstante, DesNeuenProjekts) {
-    const auto p = test::musterprojekt();
-    geometrie_berechnen(*p);
-    zeitkonstante_berechnen(*p);
-    // 154.432 W/K through the envelope, 89.44 W/K by 0.6 changes of 416 m3 an hour.
-    EXPECT_NEAR(p->tau, 241441.556, 0.1);
-    EXPECT_FLOAT_EQ(p->tau, 241441.562F);
-    EXPECT_NEAR(kapazitaet_je_volumen(*p), 31.5, 0.05);
-}
-
 TEST(Zeitkonstante, FehlerNennenWasAmGebaeudeNichtStimmt) {
     struct Fall {
         void (*einrichten)(Projekt&);
