@@ -70,20 +70,5 @@ TEST(Hausbilder, ZeigenIhreDachform) {
     EXPECT_EQ(ost_west.bei(25, 75), ost_west.bei(30, 130)) << "gable over the west facade";
 }
 
-TEST(Bilder, HabenIhreGroesse) {
-    const struct {
-        std::string name;
-        int breite, hoehe;
-    } faelle[] = {
-        {"haus0.bmp", 190, 176},   {"haus1.bmp", 190, 176},   {"haus2.bmp", 190, 176},
-        {"sprache_d.bmp", 96, 64}, {"sprache_e.bmp", 96, 64}, {"velmaris.bmp", 256, 256},
-    };
-    for (const auto& fall : faelle) {
-        const Bitmap bild = test::grafik(fall.name);
-        EXPECT_EQ(bild.breite, fall.breite) << fall.name;
-        EXPECT_EQ(bild.hoehe, fall.hoehe) << fall.name;
-    }
-}
-
 }  // namespace
 }  // namespace velmaris
