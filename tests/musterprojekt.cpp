@@ -3,6 +3,7 @@
 #include "climate/dachraum.h"
 #include "climate/sonne.h"
 #include "climate/strahlung.h"
+#include "planes/neues_projekt.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
@@ -43,35 +44,6 @@ void station_fertigstellen(Projekt& p) {
     dachraum_fuellen(p);
     station_uebernehmen(p);
     monatsstrahlung_berechnen(p);
-}
-
-void neue_eingaben(Projekt& p) {
-    p.l = p.b = 10;
-    p.h = 5.2F;
-    p.hd = p.ag = 2;
-    p.kwn = p.kws = p.kwo = p.kww = p.kd = p.kk = 0.2F;
-    p.kt = 1.5F;
-    p.Waermebruecken = 0.1F;
-    p.absfaktor = 0.5F;
-    p.cbk_hDach = 1;
-    p.fn = p.fo = p.fw = 5;
-    p.fs = 40;
-    p.verschn = p.verschs = p.verscho = p.verschw = 0.2F;
-    p.ran = p.ras = p.rao = p.raw = 0.2F;
-    p.gfn = p.gfs = p.gfo = p.gfw = 0.58F;
-    p.kfgn = p.kfgs = p.kfgo = p.kfgw = 1.4F;
-    p.kfrn = p.kfrs = p.kfro = p.kfrw = 1.5F;
-    p.kfn = p.kfs = p.kfo = p.kfw = 1.42F;
-    p.awn = p.aws = p.awo = p.aww = 1;
-    p.infiltration = 0.6F;
-    p.intg = 25;
-    p.Troom = 20;
-    p.Tueber = 27;
-    p.Klimaeffizienz = 2.5F;
-    p.Aussenwandart = p.Innenwandart = 1;
-    p.Klimaauswahl = 2;
-    p.Heizsystem = p.Uebergabe = p.Energietraeger = 1;
-    p.Sprache = "d";
 }
 
 void glashaus(Projekt& p) {
@@ -130,6 +102,8 @@ const std::vector<Musterort>& musterorte() {
 std::unique_ptr<Projekt> musterprojekt(const Musterort& ort) {
     auto p = std::make_unique<Projekt>();
     neue_eingaben(*p);
+    p->Aussenwandart = p->Innenwandart = 1;
+    p->Sprache = "d";
     p->Breite = f32(ort.breite * grad_in_bogen);
     p->Laengenkorrektur = f32(ort.laengenkorrektur);
     const Standort standort{p->Breite, p->Laengenkorrektur};

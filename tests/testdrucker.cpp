@@ -37,33 +37,15 @@ void Testdrucker::text(double x, double y, std::string_view text) {
 }
 
 void Testdrucker::linie(double x1, double y1, double x2, double y2, Farbe farbe) {
-    zeichen.push_back({.art = Druckzeichen::Art::linie,
-                       .seite = seiten,
-                       .x1 = x1,
-                       .y1 = y1,
-                       .x2 = x2,
-                       .y2 = y2,
-                       .farbe = farbe});
+    zeichen.push_back({Druckzeichen::Art::linie, seiten, x1, y1, x2, y2, {}, {}, farbe});
 }
 
 void Testdrucker::kasten(double x1, double y1, double x2, double y2, Farbe farbe) {
-    zeichen.push_back({.art = Druckzeichen::Art::kasten,
-                       .seite = seiten,
-                       .x1 = x1,
-                       .y1 = y1,
-                       .x2 = x2,
-                       .y2 = y2,
-                       .farbe = farbe});
+    zeichen.push_back({Druckzeichen::Art::kasten, seiten, x1, y1, x2, y2, {}, {}, farbe});
 }
 
 void Testdrucker::flaeche(double x1, double y1, double x2, double y2, Farbe farbe) {
-    zeichen.push_back({.art = Druckzeichen::Art::flaeche,
-                       .seite = seiten,
-                       .x1 = x1,
-                       .y1 = y1,
-                       .x2 = x2,
-                       .y2 = y2,
-                       .farbe = farbe});
+    zeichen.push_back({Druckzeichen::Art::flaeche, seiten, x1, y1, x2, y2, {}, {}, farbe});
 }
 
 void Testdrucker::EndDoc() {

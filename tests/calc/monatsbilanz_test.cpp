@@ -36,6 +36,8 @@ TEST(Nutzungsgrad, UeberlaufDerPotenzIstEinFehler) {
     constexpr float monate_traege = 1e8F;
     EXPECT_THROW(static_cast<void>(nutzungsgrad(monate_traege, 2)), Laufzeitfehler);
     EXPECT_NO_THROW(static_cast<void>(nutzungsgrad(monate_traege, 0.5F)));
+    // 2 to the power of 1023.5 is a number, to that of 1024.5 it is none.
+    EXPECT_THROW(static_cast<void>(nutzungsgrad(1022.5F * 16 * 3600, 2)), Laufzeitfehler);
 }
 
 /// A year that is January alone: the other months are warmer than the room.
@@ -107,6 +109,9 @@ TEST(Monatsbilanz, EinMonatVonHand) {
     };
     for (const auto& w : werte)
         EXPECT_NEAR(w.gerechnet, w.von_hand, 1e-6 * w.von_hand) << w.name;
+    p->Monat(7).Tmittel = 19.99F;  // 0.31 Kd
+    monatsbilanz(*p);
+    EXPECT_NEAR(p->Monat(7).Qt, 164.84 * 0.024 * 0.31, 1e-3);
 }
 
 TEST(Monatsbilanz, DieJahressummenGehenAuf) {
