@@ -64,7 +64,7 @@ void jahresname_zeichnen(Zeichenflaeche& bild, const std::string& name) {
 }
 
 std::string beschriftung(const Projekt& p, const Zweisprachig& text) {
-    return p.Sprache == "d" || p.Sprache == "e" ? text.in(p.Sprache) : std::string();
+    return bekannte_sprache(p.Sprache) ? text.in(p.Sprache) : std::string();
 }
 
 std::string einheit_je_monat(const Projekt& p) {

@@ -16,32 +16,31 @@ constexpr std::size_t feldbreite = 5;
 /// A number of the head: its line, and how large it can be on either side of 0.
 struct Kopfzeile {
     int nummer;
-    const char* de;
-    const char* en;
+    Wort name;
     const char* einheit;
     double grenze;
 };
 
-constexpr std::array<Kopfzeile, 3> kopfzeilen{{{2, "Breitengrad", "latitude", " °", erdgrenzen::breite},
-                                               {3, "Längengrad", "longitude", " °", erdgrenzen::laenge},
-                                               {4, "Zeitzone", "time zone", " h", erdgrenzen::zeitzone}}};
+constexpr std::array<Kopfzeile, 3> kopfzeilen{{{2, {"Breitengrad", "latitude"}, " °", erdgrenzen::breite},
+                                               {3, {"Längengrad", "longitude"}, " °", erdgrenzen::laenge},
+                                               {4, {"Zeitzone", "time zone"}, " h", erdgrenzen::zeitzone}}};
 
 /// A column of the data: where it begins, and the bounds of its values.
 struct Spalte {
     std::size_t von;
-    const char* de;
-    const char* en;
+    Wort name;
     const char* einheit;
     double kleinster, groesster;
 };
 
+constexpr Wort temperatur{"Außenlufttemperatur", "outdoor air temperature"};
+constexpr Wort gesamt{"Gesamtstrahlung", "total radiation"};
+constexpr Wort diffus{"Diffusstrahlung", "diffuse radiation"};
+
 constexpr std::array<Spalte, 3> datenspalten{
-    {{6, "Außenlufttemperatur", "outdoor air temperature", " °C", erdgrenzen::kaelteste,
-      erdgrenzen::waermste},
-     {11, "Gesamtstrahlung", "total radiation", " W/m²", erdgrenzen::kleinste_strahlung,
-      erdgrenzen::staerkste_strahlung},
-     {16, "Diffusstrahlung", "diffuse radiation", " W/m²", erdgrenzen::kleinste_strahlung,
-      erdgrenzen::staerkste_strahlung}}};
+    {{6, temperatur, " °C", erdgrenzen::kaelteste, erdgrenzen::waermste},
+     {11, gesamt, " W/m²", erdgrenzen::kleinste_strahlung, erdgrenzen::staerkste_strahlung},
+     {16, diffus, " W/m²", erdgrenzen::kleinste_strahlung, erdgrenzen::staerkste_strahlung}}};
 
 bool ohne_ziffer_am_anfang(std::string_view feld) {
     const std::size_t erste = feld.find_first_not_of(" +-.");
@@ -57,14 +56,14 @@ std::string gezeigt(std::string_view feld) {
     return aus_windows1252(text);
 }
 
-Zweisprachig befund(const char* de, const char* en, std::string_view feld, const char* einheit) {
+Zweisprachig befund(const Wort& name, std::string_view feld, const char* einheit) {
     const std::string text = gezeigt(feld);
-    if (text.empty()) return {std::string(de) + " fehlt", std::string(en) + " is missing"};
+    if (text.empty()) return {std::string(name.de) + " fehlt", std::string(name.en) + " is missing"};
     if (ohne_ziffer_am_anfang(feld)) {
-        return {std::string(de) + " \"" + text + "\" ist keine Zahl",
-                std::string(en) + " \"" + text + "\" is not a number"};
+        return {std::string(name.de) + " \"" + text + "\" ist keine Zahl",
+                std::string(name.en) + " \"" + text + "\" is not a number"};
     }
-    return {std::string(de) + " " + text + einheit, std::string(en) + " " + text + einheit};
+    return {std::string(name.de) + " " + text + einheit, std::string(name.en) + " " + text + einheit};
 }
 
 }  // namespace
@@ -73,7 +72,7 @@ void Klimapruefung::kopfzeile(int nummer, std::string_view zeile) {
     const Kopfzeile& groesse = kopfzeilen.at(static_cast<std::size_t>(nummer - kopfzeilen[0].nummer));
     const std::string_view feld = spalten(zeile, 15, 24);
     if (std::fabs(zahl_lesen(feld)) > groesse.grenze || ohne_ziffer_am_anfang(feld))
-        merken(nummer, befund(groesse.de, groesse.en, feld, groesse.einheit));
+        merken(nummer, befund(groesse.name, feld, groesse.einheit));
 }
 
 void Klimapruefung::genauer(int nummer, std::string_view zeile) {
@@ -81,7 +80,7 @@ void Klimapruefung::genauer(int nummer, std::string_view zeile) {
         const std::string_view feld = spalten(zeile, spalte.von, spalte.von + feldbreite - 1);
         const double wert = zahl_lesen(feld);
         if (wert < spalte.kleinster || wert > spalte.groesster || ohne_ziffer_am_anfang(feld)) {
-            merken(nummer, befund(spalte.de, spalte.en, feld, spalte.einheit));
+            merken(nummer, befund(spalte.name, feld, spalte.einheit));
             return;
         }
     }

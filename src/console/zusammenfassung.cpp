@@ -1,6 +1,7 @@
 #include "console/zusammenfassung.h"
 
 #include "toolkit/text.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 #include <string_view>
@@ -14,7 +15,7 @@ constexpr std::size_t breite_zahl = 12;
 /// Lines of word, number and unit in one language.
 class Bogen {
   public:
-    explicit Bogen(std::string_view sprache) : englisch_(sprache == "e") {}
+    explicit Bogen(std::string_view sprache) : sprache_(sprache) {}
 
     void titel(std::string_view de, std::string_view en) {
         text_.append("\n").append(wahl(de, en)).append("\n");
@@ -33,12 +34,12 @@ class Bogen {
     }
 
     [[nodiscard]] std::string_view wahl(std::string_view de, std::string_view en) const {
-        return englisch_ ? en : de;
+        return Wort{de, en}.in(sprache_);
     }
     [[nodiscard]] const std::string& text() const { return text_; }
 
   private:
-    bool englisch_;
+    std::string_view sprache_;
     std::string text_;
 };
 

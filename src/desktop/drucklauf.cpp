@@ -9,6 +9,7 @@
 #include "toolkit/fehler.h"
 #include "toolkit/konsolenplattform.h"
 #include "toolkit/text.h"
+#include "toolkit/wort.h"
 
 #include <QCommandLineParser>
 #include <algorithm>
@@ -43,12 +44,12 @@ std::optional<Druckauftrag> druckauftrag(const QStringList& angaben,
     Druckauftrag auftrag{.projekt = utf8(leser.positionalArguments().constFirst()),
                          .pdf = utf8(leser.value(drucken)),
                          .sprache = utf8(leser.value(sprache))};
-    if (leser.isSet(sprache) && auftrag.sprache != "d" && auftrag.sprache != "e") return std::nullopt;
+    if (leser.isSet(sprache) && !bekannte_sprache(auftrag.sprache)) return std::nullopt;
     if (auftrag.pdf.empty() || auftrag.pdf.starts_with("--")) return std::nullopt;
     if (auftrag.sprache.empty())
         auftrag.sprache = sprache_bestimmen(Befehlszeile(""), programmordner,
                                             Konsolenplattform().datenordner(), [] { return std::nullopt; });
-    if (auftrag.sprache != "e") auftrag.sprache = "d";
+    if (!bekannte_sprache(auftrag.sprache)) auftrag.sprache = "d";
     return auftrag;
 }
 

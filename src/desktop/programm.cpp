@@ -3,6 +3,7 @@
 #include "desktop/platform/qt_text.h"
 #include "desktop/startfenster.h"
 #include "toolkit/text.h"
+#include "toolkit/wort.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -46,7 +47,7 @@ Programm::Programm(const std::filesystem::path& programmordner, const std::strin
       hilfetaste_(
           [this](const std::string& seite) { wache_.fuehre_aus([&] { haupt_->datei.hilfe_zeigen(seite); }); },
           [this] { return fenster_->ebene_in_gebrauch(); }) {
-    if (sprache != "e") qt_deutsch(qt_texte_);
+    if (!englisch(sprache)) qt_deutsch(qt_texte_);
     wache_.fehler_behandeln = [this](const Laufzeitfehler& f) { fehler(f); };
     plattform_.hauptfenster(fenster_.get());
     plattform_.hilfe_zeigen = [this](const std::filesystem::path& datei, const std::string& seite) {

@@ -1,6 +1,6 @@
 #include "documents/nachbarwaende.h"
 
-#include "documents/wort.h"
+#include "toolkit/wort.h"
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,7 @@
 #include "energy/Heizsysteme.h"
 
 #include "toolkit/fehler.h"
+#include "toolkit/wort.h"
 
 #include <array>
 #include <cstddef>
@@ -8,40 +9,30 @@
 namespace velmaris {
 namespace {
 
-/// A text of the catalogue in both languages; empty where there is no such choice.
-struct Katalogtext {
-    const char* de = "";
-    const char* en = "";
-
-    [[nodiscard]] constexpr const char* in(std::string_view sprache) const {
-        return sprache == "e" ? en : de;
-    }
-    [[nodiscard]] constexpr bool leer() const { return *de == '\0'; }
-};
-
+/// A row of the catalogue; a text is empty where there is no such choice.
 struct Katalogzeile {
-    Katalogtext bezeichnung;
-    std::array<Katalogtext, uebergaben> uebergabe;
-    std::array<Katalogtext, energietraeger_je_zeile> energietraeger;
+    Wort bezeichnung;
+    std::array<Wort, uebergaben> uebergabe;
+    std::array<Wort, energietraeger_je_zeile> energietraeger;
 };
 
-constexpr Katalogtext heizflaechen_70_55{
+constexpr Wort heizflaechen_70_55{
     "Heizflächen (Außenwand), Thermostatventile, Auslegungs- proportionalbereich: 1K, "
     "Systemtemperatur: 70/55°C",
     "radiators (outside walls), thermostatic valves (layout temperature: 1K), system temperature: 70/55°C"};
-constexpr Katalogtext heizflaechen_55_45{
+constexpr Wort heizflaechen_55_45{
     "Heizflächen (Außenwand), Thermostatventile, Auslegungs- proportionalbereich: 1K, "
     "Systemtemperatur: 55/45°C",
     "radiators (outside walls), thermostatic valves (layout temperature: 1K), system temperature: 55/45°C"};
-constexpr Katalogtext fussboden_35_28{
+constexpr Wort fussboden_35_28{
     "Integrierte Heizflächen (z.B. Fußbodenheizung), Schaltdifferenz: 1 K, Systemtemperatur: 35/28°C",
     "underfloor heating (switch difference : 1K), system temperature: 35/28°C"};
 
-constexpr Katalogtext heizoel{"Heizöl EL", "fuel oil"};
-constexpr Katalogtext erdgas{"Erdgas H", "natural gas"};
-constexpr Katalogtext holzpellets{"Holzpellets", "wool pellets"};
-constexpr Katalogtext stueckholz{"Stückholz", "firewood"};
-constexpr Katalogtext strom{"Strom", "electricity"};
+constexpr Wort heizoel{"Heizöl EL", "fuel oil"};
+constexpr Wort erdgas{"Erdgas H", "natural gas"};
+constexpr Wort holzpellets{"Holzpellets", "wool pellets"};
+constexpr Wort stueckholz{"Stückholz", "firewood"};
+constexpr Wort strom{"Strom", "electricity"};
 
 constexpr std::array<Katalogzeile, heizsysteme> katalog{{
     {{"Niedertemperaturkessel, Kessel und Verteilleitungen innerhalb der thermischen Hülle",
@@ -113,14 +104,14 @@ Heizsystemkatalog katalog_laden(std::string_view sprache) {
 }
 
 bool ohne_uebergabe(int system) {
-    return zeile(system).uebergabe.front().leer();
+    return zeile(system).uebergabe.front().de.empty();
 }
 
 void kombination_pruefen(int system, int uebergabe, int energietraeger) {
     index_pruefen("Heizsystem", system, heizsysteme);
     index_pruefen("Uebergabe", uebergabe, uebergaben);
     index_pruefen("Energietraeger", energietraeger, energietraeger_je_zeile);
-    if (!zeile(system).energietraeger.at(static_cast<std::size_t>(energietraeger - 1)).leer()) return;
+    if (!zeile(system).energietraeger.at(static_cast<std::size_t>(energietraeger - 1)).de.empty()) return;
     const std::string traeger = std::to_string(energietraeger);
     throw Laufzeitfehler(
         {"das Heizsystem " + std::to_string(system) + " bietet keinen Energieträger " + traeger,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/wort.h"
+
 #include <string_view>
 
 namespace velmaris {
@@ -14,7 +16,7 @@ struct Kurzname {
 
     /// English for "e", German for anything else.
     [[nodiscard]] std::string_view in(std::string_view sprache) const {
-        return sprache == "e" ? Traegername_e : Traegername;
+        return Wort{Traegername, Traegername_e}.in(sprache);
     }
     [[nodiscard]] bool elektrisch() const { return Traegername == "Strom"; }
 };

@@ -44,7 +44,7 @@ std::span<const Beschriftung> beschriftungen(std::string_view fenster) {
 
 std::string beschriftung(std::string_view fenster, std::string_view feld, std::string_view sprache) {
     for (const Beschriftung& zeile : beschriftungen(fenster)) {
-        if (zeile.feld == feld) return std::string(sprache == "e" ? zeile.en : zeile.de);
+        if (zeile.feld == feld) return std::string(zeile.text.in(sprache));
     }
     throw std::out_of_range("no caption for " + std::string(fenster) + "." + std::string(feld));
 }

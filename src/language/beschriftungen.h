@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/wort.h"
+
 #include <initializer_list>
 #include <span>
 #include <string>
@@ -11,9 +13,11 @@ namespace velmaris {
 /// its access key behind an "&". A unit with a blank inside a word pair ("kWh m² a") is drawn as a
 /// fraction, its first word over the rest.
 struct Beschriftung {
+    constexpr Beschriftung(std::string_view name, std::string_view de, std::string_view en)
+        : feld(name), text{de, en} {}
+
     std::string_view feld;  ///< name of the control; an option carries the number behind its group's name
-    std::string_view de;
-    std::string_view en;
+    Wort text;
 };
 
 /// The name that stands for a window's own title in its captions.

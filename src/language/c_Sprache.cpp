@@ -3,6 +3,7 @@
 #include "project/klimaordner.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+#include "toolkit/wort.h"
 
 #include <array>
 #include <system_error>
@@ -15,24 +16,26 @@ constexpr std::size_t hoechste_sprachzeile = 64;
 
 struct Textzeile {
     std::string Texte::*feld;
-    const char* de;
-    const char* en;
+    Wort text;
 };
 
 constexpr std::array<Textzeile, 10> gemeinsame_texte{{
-    {&Texte::txt_Aenderung, "          Ihr Projekt wurde geändert.\n\nMöchten Sie die Änderungen speichern?",
-     "        The project has been changed.\n\nDo you want to save the changes?"},
-    {&Texte::txt_Aenderung_Titel, "Änderungen speichern ?", "Save changes ?"},
-    {&Texte::txt_Ersetzen, "Diese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?",
-     "This file already exists.\n\n      Overwrite it?"},
-    {&Texte::txt_Klima_fehlt, "   Klimadatensatz nicht gefunden!\rDefault-Klimadatensatz wird geladen!",
-     "     Climatic data not found!\rDefault climatic data will be loaded!"},
-    {&Texte::txt_Klima_Titel, "Klimadatensatz nicht vorhanden", "Climatic data not found!"},
-    {&Texte::txt_Ueberwaermung, "Überwärmung", "overheating"},
-    {&Texte::txt_Monat, "Monat", "month"},
-    {&Texte::txt_Jahresbilanz, "Jahresbilanz", "yearly balance"},
-    {&Texte::txt_Raumluft, "Raumlufttemperatur", "room air temperature"},
-    {&Texte::txt_Aussenluft, "Außenlufttemperatur", "outdoor air temperature"},
+    {&Texte::txt_Aenderung,
+     {"          Ihr Projekt wurde geändert.\n\nMöchten Sie die Änderungen speichern?",
+      "        The project has been changed.\n\nDo you want to save the changes?"}},
+    {&Texte::txt_Aenderung_Titel, {"Änderungen speichern ?", "Save changes ?"}},
+    {&Texte::txt_Ersetzen,
+     {"Diese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?",
+      "This file already exists.\n\n      Overwrite it?"}},
+    {&Texte::txt_Klima_fehlt,
+     {"   Klimadatensatz nicht gefunden!\rDefault-Klimadatensatz wird geladen!",
+      "     Climatic data not found!\rDefault climatic data will be loaded!"}},
+    {&Texte::txt_Klima_Titel, {"Klimadatensatz nicht vorhanden", "Climatic data not found!"}},
+    {&Texte::txt_Ueberwaermung, {"Überwärmung", "overheating"}},
+    {&Texte::txt_Monat, {"Monat", "month"}},
+    {&Texte::txt_Jahresbilanz, {"Jahresbilanz", "yearly balance"}},
+    {&Texte::txt_Raumluft, {"Raumlufttemperatur", "room air temperature"}},
+    {&Texte::txt_Aussenluft, {"Außenlufttemperatur", "outdoor air temperature"}},
 }};
 
 constexpr const char* sprache_aendert_sich =
@@ -40,25 +43,23 @@ constexpr const char* sprache_aendert_sich =
     "Language will be changed after the next start of the program!";
 
 struct Monatsname {
-    const char* Name_de;
-    const char* Kurz_de;
-    const char* Name_en;
-    const char* Kurz_en;
+    Wort Name;
+    Wort Kurz;
 };
 
 constexpr std::array<Monatsname, monate> monatsnamen{{
-    {"Januar", "Jan.", "January", "Jan."},
-    {"Februar", "Feb.", "February", "Feb."},
-    {"März", "Mär.", "March", "Mar."},
-    {"April", "Apr.", "April", "Apr."},
-    {"Mai", "Mai", "May", "May"},
-    {"Juni", "Jun.", "June", "Jun."},
-    {"Juli", "Jul.", "July", "Jul."},
-    {"August", "Aug.", "August", "Aug."},
-    {"September", "Sep.", "September", "Sep."},
-    {"Oktober", "Okt.", "October", "Oct."},
-    {"November", "Nov.", "November", "Nov."},
-    {"Dezember", "Dez.", "December", "Dec."},
+    {{"Januar", "January"}, {"Jan.", "Jan."}},
+    {{"Februar", "February"}, {"Feb.", "Feb."}},
+    {{"März", "March"}, {"Mär.", "Mar."}},
+    {{"April", "April"}, {"Apr.", "Apr."}},
+    {{"Mai", "May"}, {"Mai", "May"}},
+    {{"Juni", "June"}, {"Jun.", "Jun."}},
+    {{"Juli", "July"}, {"Jul.", "Jul."}},
+    {{"August", "August"}, {"Aug.", "Aug."}},
+    {{"September", "September"}, {"Sep.", "Sep."}},
+    {{"Oktober", "October"}, {"Okt.", "Oct."}},
+    {{"November", "November"}, {"Nov.", "Nov."}},
+    {{"Dezember", "December"}, {"Dez.", "Dec."}},
 }};
 
 constexpr const char* sprachdatei = "typ.dat";
@@ -71,15 +72,14 @@ void sprachdatei_schreiben(const Projekt& p, std::string_view buchstabe) {
 
 void sprachtexte_setzen(Projekt& p) {
     p.texte.txt_Sprache = sprache_aendert_sich;
-    if (p.Sprache != "d" && p.Sprache != "e") return;
-    const bool englisch = p.Sprache == "e";
+    if (!bekannte_sprache(p.Sprache)) return;
     for (const Textzeile& zeile : gemeinsame_texte)
-        p.texte.*zeile.feld = englisch ? zeile.en : zeile.de;
+        p.texte.*zeile.feld = zeile.text.in(p.Sprache);
     int m = 0;
     for (const Monatsname& monat : monatsnamen) {
         ++m;
-        p.Monat(m).Name = englisch ? monat.Name_en : monat.Name_de;
-        p.Monat(m).Kurz = englisch ? monat.Kurz_en : monat.Kurz_de;
+        p.Monat(m).Name = monat.Name.in(p.Sprache);
+        p.Monat(m).Kurz = monat.Kurz.in(p.Sprache);
     }
 }
 

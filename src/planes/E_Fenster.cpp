@@ -1,6 +1,7 @@
 #include "planes/E_Fenster.h"
 
 #include "planes/geometrietexte.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 namespace velmaris {
@@ -26,8 +27,8 @@ constexpr std::int16_t gesetzt = -1;
 std::vector<std::string> typnamen(const std::string& sprache) {
     std::vector<std::string> namen;
     for (const Fenstertyp& typ : fenstertypen())
-        namen.emplace_back(sprache == "e" ? typ.en : typ.de);
-    namen.emplace_back(sprache == "e" ? "others" : "Sonstiges");
+        namen.emplace_back(typ.name.in(sprache));
+    namen.emplace_back(Wort{"Sonstiges", "others"}.in(sprache));
     return namen;
 }
 

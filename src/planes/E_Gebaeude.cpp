@@ -2,6 +2,7 @@
 
 #include "calc/zeitkonstante.h"
 #include "charts/gewichtbild.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 #include <string>
@@ -11,8 +12,10 @@ namespace velmaris {
 namespace {
 
 std::vector<std::string> bauarten(const std::string& sprache) {
-    if (sprache == "e") return {"heavy construction", "medium construction", "light construction"};
-    return {"Schwere Bauweise", "Mittelschwere Bauweise", "Leichte Bauweise"};
+    const Sprachpaar<std::vector<std::string>> namen{
+        {"Schwere Bauweise", "Mittelschwere Bauweise", "Leichte Bauweise"},
+        {"heavy construction", "medium construction", "light construction"}};
+    return namen.in(sprache);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "planes/geometrietexte.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
+#include "toolkit/wort.h"
 
 #include <array>
 #include <string_view>
@@ -67,7 +68,7 @@ E_Geometrie::E_Geometrie(Sitzung& sitzung) : s_(sitzung) {
     };
     AV_Picture.zeichnen = [this](Zeichenflaeche& flaeche) { av_diagramm_zeichnen(s_.p, flaeche); };
     Picture1.zeichnen = [this](Zeichenflaeche& flaeche) { lageplan_zeichnen(s_.p, flaeche); };
-    Label4.schreibe(s_.p.Sprache == "e" ? "height of roof" : "Dachhöhe:");
+    Label4.schreibe(Zweisprachig{"Dachhöhe:", "height of roof"}.in(s_.p.Sprache));
     Option_Dachfirst.markiere(1);
     s_.p.Option_Dachfirst = 1;
     dach_zeigen();

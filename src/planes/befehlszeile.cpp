@@ -1,6 +1,7 @@
 #include "planes/befehlszeile.h"
 
 #include "toolkit/text.h"
+#include "toolkit/wort.h"
 
 #include <string_view>
 #include <system_error>
@@ -18,7 +19,7 @@ bool vorhanden(const std::string& datei) {
 }  // namespace
 
 std::optional<std::string> Befehlszeile::sprache() const {
-    if (text_ == "d" || text_ == "e") return text_;
+    if (bekannte_sprache(text_)) return text_;
     return std::nullopt;
 }
 

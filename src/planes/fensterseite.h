@@ -3,6 +3,7 @@
 #include "planes/scrolltabelle.h"
 #include "project/wandseite.h"
 #include "toolkit/felder.h"
+#include "toolkit/wort.h"
 
 #include <span>
 #include <string>
@@ -12,8 +13,7 @@ namespace velmaris {
 
 /// A row of the window type table.
 struct Fenstertyp {
-    std::string_view de;
-    std::string_view en;
+    Wort name;
     double kfg;  ///< U value of the glazing, W/(m2 K)
     double gf;   ///< g value
     double kfr;  ///< U value of the frame, W/(m2 K)

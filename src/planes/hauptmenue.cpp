@@ -1,6 +1,7 @@
 #include "planes/hauptmenue.h"
 
 #include "language/beschriftungen.h"
+#include "toolkit/wort.h"
 
 #include <array>
 #include <stdexcept>
@@ -69,7 +70,7 @@ Hauptmenue::Hauptmenue(std::string_view sprache) {
             ebene = &ebene->back().kinder;
         ebene->push_back(knoten(zeile.name, sprache));
     }
-    punkt(sprache == "e" ? "mnuSpracheEnglisch" : "mnuSpracheDeutsch").kreuze_an(true);
+    punkt(englisch(sprache) ? "mnuSpracheEnglisch" : "mnuSpracheDeutsch").kreuze_an(true);
 }
 
 Menuepunkt& Hauptmenue::punkt(std::string_view name) {

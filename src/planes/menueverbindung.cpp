@@ -2,6 +2,7 @@
 
 #include "language/c_Sprache.h"
 #include "planes/Haupt.h"
+#include "toolkit/wort.h"
 
 #include <functional>
 #include <string>
@@ -11,12 +12,11 @@ namespace {
 
 /// The language of the next start: notes the choice and moves the check mark; the texts of this run stay.
 void sprache_waehlen(Haupt& haupt, const std::string& buchstabe) {
-    Menuepunkt& deutsch = haupt.menue.punkt("mnuSpracheDeutsch");
-    Menuepunkt& englisch = haupt.menue.punkt("mnuSpracheEnglisch");
-    Menuepunkt& gewaehlt = buchstabe == "e" ? englisch : deutsch;
+    const auto punkt = [&](std::string_view name) -> Menuepunkt& { return haupt.menue.punkt(name); };
+    Menuepunkt& gewaehlt = punkt(englisch(buchstabe) ? "mnuSpracheEnglisch" : "mnuSpracheDeutsch");
     if (gewaehlt.angekreuzt()) return;
-    deutsch.kreuze_an(&gewaehlt == &deutsch);
-    englisch.kreuze_an(&gewaehlt == &englisch);
+    for (const char* name : {"mnuSpracheDeutsch", "mnuSpracheEnglisch"})
+        punkt(name).kreuze_an(&punkt(name) == &gewaehlt);
     sprache_merken(haupt.p, haupt.sitzung.plattform, buchstabe);
 }
 

@@ -6,6 +6,7 @@
 #include "toolkit/sanduhr.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+#include "toolkit/wort.h"
 
 #include <utility>
 
@@ -157,7 +158,8 @@ void FILEIO::kanal_oeffnen() {
 }
 
 void FILEIO::titel_unbenannt() {
-    s_.plattform.fenstertitel(s_.p.Sprache == "e" ? "Velmaris - [no name]" : "Velmaris - [unbenannt]");
+    s_.plattform.fenstertitel(
+        Zweisprachig{"Velmaris - [unbenannt]", "Velmaris - [no name]"}.in(s_.p.Sprache));
 }
 
 void FILEIO::titel_der_datei() {

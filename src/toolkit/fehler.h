@@ -1,20 +1,13 @@
 #pragma once
 
+#include "toolkit/wort.h"
+
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
 
 namespace velmaris {
-
-/// A text in both languages, side by side.
-struct Zweisprachig {
-    std::string de;
-    std::string en;
-
-    /// The text for the language letter: English for "e", German for anything else.
-    [[nodiscard]] const std::string& in(std::string_view sprache) const { return sprache == "e" ? en : de; }
-};
 
 /// A fault that ends what the program was doing: an arithmetic fault, an integer overflow, a control position
 /// out of range. Its text tells the user what is wrong; what() is the German form.

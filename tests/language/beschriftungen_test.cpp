@@ -19,8 +19,8 @@ TEST(Beschriftungen, JedesFeldHatEinenDeutschenTextUndStehtEinmal) {
         std::set<std::string_view> felder;
         for (const Beschriftung& zeile : beschriftungen(fenster)) {
             EXPECT_TRUE(felder.insert(zeile.feld).second) << fenster << '.' << zeile.feld;
-            EXPECT_FALSE(zeile.de.empty()) << fenster << '.' << zeile.feld;
-            EXPECT_FALSE(zeile.en.empty()) << fenster << '.' << zeile.feld;
+            EXPECT_FALSE(zeile.text.de.empty()) << fenster << '.' << zeile.feld;
+            EXPECT_FALSE(zeile.text.en.empty()) << fenster << '.' << zeile.feld;
         }
     }
 }

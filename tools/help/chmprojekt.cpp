@@ -1,6 +1,7 @@
 #include "tools/help/chmprojekt.h"
 
 #include "toolkit/text.h"
+#include "toolkit/wort.h"
 
 #include <array>
 #include <map>
@@ -50,12 +51,13 @@ std::string hilfename(std::string_view sprache) {
 
 std::string chm_projekt(const Inhalt& inhalt, std::string_view sprache) {
     const std::string name = hilfename(sprache);
-    const bool englisch = sprache == "e";
     std::string text = "[OPTIONS]\nCompatibility=1.1 or later\nCompiled file=" + name +
                        ".chm\nContents file=" + name + ".hhc\nIndex file=" + name +
                        ".hhk\nDefault topic=index.html\nFull-text search=Yes\nLanguage=";
-    text += englisch ? "0x409 English (United States)" : "0x407 Deutsch (Deutschland)";
-    text += englisch ? "\nTitle=Velmaris Help\n\n[FILES]\n" : "\nTitle=Velmaris Hilfe\n\n[FILES]\n";
+    text += Wort{"0x407 Deutsch (Deutschland)\nTitle=Velmaris Hilfe",
+                 "0x409 English (United States)\nTitle=Velmaris Help"}
+                .in(sprache);
+    text += "\n\n[FILES]\n";
     for (const Seite* seite : alle_seiten(inhalt))
         text += seite->name + ".html\n";
     return text + "stil.css\n";

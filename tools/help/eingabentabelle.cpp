@@ -1,6 +1,7 @@
 #include "tools/help/eingabentabelle.h"
 
 #include "planes/neues_projekt.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 #include "tools/help/groessen.h"
 #include "tools/help/tabelle.h"
@@ -25,7 +26,7 @@ double gezeigt(const Scrollzeile& z, int positionen) {
 std::string bereich(const Scrollzeile& z, std::string_view sprache) {
     const double ende = gezeigt(z, z.minimum);
     const double anderes_ende = gezeigt(z, z.maximum);
-    return zahl(std::min(ende, anderes_ende), z.stellen) + (sprache == "e" ? " to " : " bis ") +
+    return zahl(std::min(ende, anderes_ende), z.stellen) + Zweisprachig{" bis ", " to "}.in(sprache) +
            zahl(std::max(ende, anderes_ende), z.stellen);
 }
 

@@ -1,6 +1,7 @@
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 #include "tools/help/chmprojekt.h"
 #include "tools/help/groessen.h"
@@ -33,11 +34,11 @@ void hilfe_schreiben(const std::string& sprache, const fs::path& quelle, const f
 /// needs beside them, in the folder of the third argument from the folder of the second one.
 int main(int anzahl, char** argumente) {
     const std::string sprache = anzahl == 4 ? argumente[1] : "";
-    if (sprache != "d" && sprache != "e") {
+    if (!bekannte_sprache(sprache)) {
         std::cerr << "usage: hilfe_erzeugen d|e SOURCE_FOLDER TARGET_FOLDER\n";
         return 2;
     }
-    dezimalzeichen_setzen(sprache == "d" ? ',' : '.');
+    dezimalzeichen_setzen(englisch(sprache) ? '.' : ',');
     try {
         hilfe_schreiben(sprache, argumente[2], argumente[3]);
     } catch (const Laufzeitfehler& fehler) {

@@ -3,6 +3,7 @@
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+#include "toolkit/wort.h"
 
 #include <algorithm>
 
@@ -72,7 +73,7 @@ Inhalt inhalt_lesen(const fs::path& ordner, const std::string& sprache) {
     while (const auto zeile = leser.naechste()) {
         if (zeile->starts_with('#')) {
             const std::vector<std::string> titel = geteilt(zeile->substr(1), '|');
-            inhalt.push_back({sprache == "e" ? titel.back() : titel.front(), {}});
+            inhalt.push_back({Zweisprachig{titel.front(), titel.back()}.in(sprache), {}});
         } else if (!ohne_rand(*zeile).empty()) {
             inhalt.back().seiten.push_back(
                 seite_lesen(seitenordner / pfad(std::string(ohne_rand(*zeile)) + ".html")));

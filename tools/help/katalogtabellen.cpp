@@ -5,6 +5,7 @@
 #include "planes/fensterseite.h"
 #include "project/feldtabelle.h"
 #include "toolkit/fehler.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 #include "tools/help/tabelle.h"
 
@@ -52,7 +53,7 @@ std::string fenstertypentabelle(std::string_view sprache) {
                          sprache));
     int nummer = 0;
     for (const Fenstertyp& typ : fenstertypen()) {
-        tabelle.zeile({std::to_string(nummer++), html(sprache == "e" ? typ.en : typ.de), muster(typ.kfg, 1),
+        tabelle.zeile({std::to_string(nummer++), html(typ.name.in(sprache)), muster(typ.kfg, 1),
                        muster(typ.gf, 2), muster(typ.kfr, 1)});
     }
     return tabelle.text();

@@ -1,6 +1,7 @@
 #include "tools/help/seitenbau.h"
 
 #include "toolkit/fehler.h"
+#include "toolkit/wort.h"
 #include "tools/help/eingabentabelle.h"
 #include "tools/help/katalogtabellen.h"
 
@@ -36,7 +37,7 @@ std::string blaettern(const Inhalt& inhalt, const Seite& seite, std::string_view
     const auto hier = std::find(alle.begin(), alle.end(), &seite);
     std::string text = "<hr>\n<p class=\"blaettern\">";
     if (hier != alle.begin()) text.append("&laquo; ").append(verweis(**(hier - 1))).append(trenner);
-    text.append("<a href=\"index.html\">").append(sprache == "e" ? "Contents" : "Inhalt").append("</a>");
+    text.append("<a href=\"index.html\">").append(Wort{"Inhalt", "Contents"}.in(sprache)).append("</a>");
     if (hier + 1 != alle.end()) text.append(trenner).append(verweis(**(hier + 1))).append(" &raquo;");
     return text + "</p>\n";
 }

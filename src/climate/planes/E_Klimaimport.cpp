@@ -6,6 +6,7 @@
 #include "project/dateiwahl.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -18,11 +19,7 @@ namespace {
 constexpr int zeilen_der_ansicht = 250;
 constexpr double hoechste_kopfzeilen = 1e7;
 
-using Texte = std::vector<std::string>;
-
-Texte waehle(bool englisch, const Texte& deutsch, const Texte& anders) {
-    return englisch ? anders : deutsch;
-}
+using Namen = Sprachpaar<std::vector<std::string>>;
 
 /// The first lines of a source.
 std::string ansicht(const Importquelle& quelle) {
@@ -75,10 +72,9 @@ void E_Klimaimport::beschriften() {
         {&Frame1, &Frame2, &Frame3, &Frame4, &Frame5, &Label_Kopfzeilen, &Label_Dezimalzeichen,
          &Label_Standortname, &Label_Land, &Label_Breitengrad, &Label_Laengengrad, &Label_Zeitzone});
     velmaris::beschriften<Knopf>(ebene.name, sprache, {&Command1, &Command2, &Command3});
-    const bool englisch = sprache == "e";
-    Dezimalzeichen.fuelle(waehle(englisch, {"Punkt (.)", "Komma (,)"}, {"Dot (.)", "Comma (,)"}));
-    Breitezusatz.fuelle(waehle(englisch, {"Nord", "Süd"}, {"North", "South"}));
-    Laengezusatz.fuelle(waehle(englisch, {"Ost", "West"}, {"East", "West"}));
+    Dezimalzeichen.fuelle(Namen{{"Punkt (.)", "Komma (,)"}, {"Dot (.)", "Comma (,)"}}.in(sprache));
+    Breitezusatz.fuelle(Namen{{"Nord", "Süd"}, {"North", "South"}}.in(sprache));
+    Laengezusatz.fuelle(Namen{{"Ost", "West"}, {"East", "West"}}.in(sprache));
     GMT.fuelle({"GMT + ", "GMT - "});
     vorschau.beschriften(sprache);
 }

@@ -4,6 +4,7 @@
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/nebenfenster.h"
 #include "toolkit/text.h"
+#include "toolkit/wort.h"
 
 #include <QAction>
 #include <QApplication>
@@ -71,7 +72,7 @@ class Hilfeseite : public QTextBrowser {
 
 Hilfefenster::Hilfefenster(const Fehlerwache& wache, const std::string& sprache)
     : wache_(wache),
-      titel_(sprache == "e" ? QStringLiteral("Velmaris Help") : QStringLiteral("Velmaris-Hilfe")),
+      titel_(qtext(Wort{"Velmaris-Hilfe", "Velmaris Help"}.in(sprache))),
       seite_(new Hilfeseite(datei_, wache, this)),
       suchleiste_(new Suchleiste(*seite_, sprache, this)) {
     constexpr QSize bevorzugt(760, 680);
@@ -97,7 +98,7 @@ Hilfefenster::Hilfefenster(const Fehlerwache& wache, const std::string& sprache)
 }
 
 void Hilfefenster::leiste_bauen(const std::string& sprache) {
-    const auto wort = [&](const char* de, const char* en) { return qtext(sprache == "e" ? en : de); };
+    const auto wort = [&](const char* de, const char* en) { return qtext(Wort{de, en}.in(sprache)); };
     QAction* zurueck = taste("Zurueck", wort("Zurück", "Back"), QStringLiteral("\u2190"),
                              QKeySequence(Qt::ALT | Qt::Key_Left));
     QAction* vor =

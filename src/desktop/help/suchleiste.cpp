@@ -1,5 +1,8 @@
 #include "desktop/help/suchleiste.h"
 
+#include "desktop/platform/qt_text.h"
+#include "toolkit/wort.h"
+
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -13,7 +16,7 @@ namespace velmaris {
 Suchleiste::Suchleiste(QTextBrowser& seite, const std::string& sprache, QWidget* eltern)
     : QWidget(eltern),
       seite_(seite),
-      englisch_(sprache == "e"),
+      sprache_(sprache),
       feld_(new QLineEdit(this)),
       meldung_(new QLabel(this)) {
     setObjectName(QStringLiteral("Suchleiste"));
@@ -40,7 +43,7 @@ Suchleiste::Suchleiste(QTextBrowser& seite, const std::string& sprache, QWidget*
 }
 
 QString Suchleiste::wort(const char* de, const char* en) const {
-    return QString::fromUtf8(englisch_ ? en : de);
+    return qtext(Wort{de, en}.in(sprache_));
 }
 
 QAbstractButton* Suchleiste::knopf(const char* name, const QString& text, const QString& tasten) {

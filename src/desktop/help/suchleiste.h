@@ -41,7 +41,7 @@ class Suchleiste : public QWidget {
     void melde(const QString& text);
 
     QTextBrowser& seite_;
-    bool englisch_;
+    std::string sprache_;
     QLineEdit* feld_;
     QLabel* meldung_;
 };

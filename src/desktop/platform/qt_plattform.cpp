@@ -5,6 +5,7 @@
 #include "desktop/platform/meldungstext.h"
 #include "desktop/platform/qt_text.h"
 #include "toolkit/text.h"
+#include "toolkit/wort.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -32,15 +33,14 @@ namespace {
 struct Knopfzeile {
     Antwort antwort;
     QMessageBox::StandardButton knopf;
-    const char* de;
-    const char* en;
+    Wort text;
 };
 
 constexpr std::array knopftafel{
-    Knopfzeile{Antwort::ok, QMessageBox::Ok, "OK", "OK"},
-    Knopfzeile{Antwort::ja, QMessageBox::Yes, "&Ja", "&Yes"},
-    Knopfzeile{Antwort::nein, QMessageBox::No, "&Nein", "&No"},
-    Knopfzeile{Antwort::abbrechen, QMessageBox::Cancel, "Abbrechen", "Cancel"},
+    Knopfzeile{Antwort::ok, QMessageBox::Ok, {"OK", "OK"}},
+    Knopfzeile{Antwort::ja, QMessageBox::Yes, {"&Ja", "&Yes"}},
+    Knopfzeile{Antwort::nein, QMessageBox::No, {"&Nein", "&No"}},
+    Knopfzeile{Antwort::abbrechen, QMessageBox::Cancel, {"Abbrechen", "Cancel"}},
 };
 
 /// The answers that a set of buttons has, in their order; the last one stands for closing the box.
@@ -120,7 +120,7 @@ QWidget* QtPlattform::besitzer() const {
 }
 
 QString QtPlattform::wort(const char* de, const char* en) const {
-    return qtext(sprache_() == "e" ? en : de);
+    return qtext(Wort{de, en}.in(sprache_()));
 }
 
 Antwort QtPlattform::melde(const Meldung& meldung) {
@@ -132,7 +132,7 @@ Antwort QtPlattform::melde(const Meldung& meldung) {
     const std::vector<Antwort> moeglich = antworten(meldung.knoepfe);
     for (const Antwort antwort : moeglich) {
         const Knopfzeile& zeile = knopfzeile(antwort);
-        fenster.addButton(zeile.knopf)->setText(wort(zeile.de, zeile.en));
+        fenster.addButton(zeile.knopf)->setText(qtext(zeile.text.in(sprache_())));
     }
     fenster.setEscapeButton(knopfzeile(moeglich.back()).knopf);
     fenster.setDefaultButton(knopfzeile(meldung.vorgabe.value_or(moeglich.front())).knopf);

@@ -4,6 +4,7 @@
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebene.h"
 #include "desktop/widgets/scrollleiste.h"
+#include "toolkit/wort.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -72,8 +73,8 @@ void masse(E_Geometrie& e, const Ebenenbau& bau, QWidget* ebene) {
     setze(bau.leiste(e.ag_sb, bau.text("Label1"), Qt::Vertical), ebene, 296, 88, mass::leiste, 97);
     setze(mittig(bau.anzeige(e.ag_anz)), ebene, 316, 128, 28, 16);
 
-    const std::string laenge = bau.mittel().sprache == "e" ? "length" : "Länge";
-    const std::string breite = bau.mittel().sprache == "e" ? "width" : "Breite";
+    const std::string laenge(Wort{"Länge", "length"}.in(bau.mittel().sprache));
+    const std::string breite(Wort{"Breite", "width"}.in(bau.mittel().sprache));
     setze(mittig(bau.anzeige(e.b_anz)), ebene, 10, 210, 160, 15);
     setze(bau.leiste(e.b_sb, breite), ebene, 10, 226, 160, mass::leiste);
     setze(mittig(bau.anzeige(e.l_anz)), ebene, 182, 210, 160, 15);

@@ -2,10 +2,10 @@
 
 #include "documents/report/report.h"
 #include "documents/report/temperaturverlauf.h"
-#include "documents/wort.h"
 #include "language/beschriftungen.h"
 #include "project/dateiwahl.h"
 #include "toolkit/fehler.h"
+#include "toolkit/wort.h"
 
 #include <optional>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "documents/planes/druckerwahl.h"
 
-#include "documents/wort.h"
 #include "language/beschriftungen.h"
+#include "toolkit/wort.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "documents/dokumentquelle.h"
-#include "documents/wort.h"
 #include "toolkit/drucker.h"
+#include "toolkit/wort.h"
 
 #include <array>
 #include <string>

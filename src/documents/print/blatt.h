@@ -1,8 +1,8 @@
 #pragma once
 
 #include "documents/umbruch.h"
-#include "documents/wort.h"
 #include "toolkit/drucker.h"
+#include "toolkit/wort.h"
 
 #include <span>
 #include <string>

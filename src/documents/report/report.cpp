@@ -3,6 +3,7 @@
 #include "documents/report/reportseiten.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+#include "toolkit/wort.h"
 
 #include <array>
 #include <cstddef>
@@ -37,8 +38,8 @@ std::string report_schreiben_englisch(const Dokumentquelle& quelle, int seite) {
 }
 
 std::string report_in_sprache(const Dokumentquelle& quelle, int seite) {
-    return quelle.p.Sprache == "e" ? report_schreiben_englisch(quelle, seite)
-                                   : report_schreiben(quelle, seite);
+    return englisch(quelle.p.Sprache) ? report_schreiben_englisch(quelle, seite)
+                                      : report_schreiben(quelle, seite);
 }
 
 std::string report_exportieren(const Dokumentquelle& quelle, const std::filesystem::path& datei) {

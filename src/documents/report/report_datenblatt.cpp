@@ -88,7 +88,7 @@ void bauarten(Reporttext& text, const Auswahltexte& auswahl) {
         text.textreihe({"Art der Innenwände", "Kind of indoor walls"}, auswahl.Innenwandart);
     };
     // The English report names the inner walls first.
-    if (text.sprache() == "e") {
+    if (englisch(text.sprache())) {
         innen();
         aussen();
     } else {
@@ -110,7 +110,7 @@ void gebaeude(Reporttext& text, const Dokumentquelle& quelle) {
     text.unterreihe({"Mechanische Lüftung", "Mechanical ventilation"}, muster(p.lw, 2), je_stunde);
     text.unterreihe({"Wärmerückgewinnung (nur mech. Lüftung)", "Heat recovery (only mech. ventilation)"},
                     muster(double{p.WRG} * 100, 0), prozent);
-    if (text.sprache() == "e") {
+    if (englisch(text.sprache())) {
         const std::string name = beschriftung("E_Gebaeude", "Frame9", "e");
         text.reihe({name, name}, muster(p.Klimaeffizienz, 1), R"( kWh{\sub cool} / kWh{\sub electr})");
     }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "documents/umbruch.h"
-#include "documents/wort.h"
 #include "project/c_glob.h"
+#include "toolkit/wort.h"
 
 #include <functional>
 #include <span>

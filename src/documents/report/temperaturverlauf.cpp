@@ -2,6 +2,7 @@
 
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
@@ -14,26 +15,23 @@ constexpr std::size_t spaltenbreite = 10;
 
 constexpr std::string_view linie = "____________________________________________________________";
 
-/// A line of a head in German and in English.
-using Kopfzeile = std::array<std::string_view, 2>;
-
-constexpr std::array<Kopfzeile, 3> kopf{{
+constexpr std::array<Wort, 3> kopf{{
     {"                          Velmaris", "                          Velmaris"},
     {linie, linie},
     {"", ""},
 }};
 
-constexpr std::array<Kopfzeile, 2> jahrestitel{{
+constexpr std::array<Wort, 2> jahrestitel{{
     {"             Jahres-Temperaturverläufe", "             Yearly temperature courses"},
     {"", ""},
 }};
 
-constexpr std::array<Kopfzeile, 2> monatstitel{{
+constexpr std::array<Wort, 2> monatstitel{{
     {"                      Temperaturverläufe", "                      Temperature courses"},
     {"", ""},
 }};
 
-constexpr std::array<Kopfzeile, 11> legende{{
+constexpr std::array<Wort, 11> legende{{
     {"Legende:", "Legend:"},
     {"", ""},
     {"     T außen:       Außenlufttemperatur", "     T out:         Outside air temperature"},
@@ -48,7 +46,7 @@ constexpr std::array<Kopfzeile, 11> legende{{
 }};
 
 /// The heads of the columns in the year file. The last one says "in kW" although it holds a temperature.
-constexpr std::array<Kopfzeile, 4> jahresspalten{{
+constexpr std::array<Wort, 4> jahresspalten{{
     {"       Tag     Monat    Stunde   T außen    T frei      T HK",
      "       day     Month      hour     T out    T free      T HC"},
     {"                                   in °C     in °C     in kW",
@@ -58,7 +56,7 @@ constexpr std::array<Kopfzeile, 4> jahresspalten{{
 }};
 
 /// The heads of the columns on the screen.
-constexpr std::array<Kopfzeile, 4> monatsspalten{{
+constexpr std::array<Wort, 4> monatsspalten{{
     {"       Tag     Monat    Stunde   T außen    T frei      T HK",
      "       day     month      hour     T out    T fret      T HC"},
     {"                                   in °C     in °C     in °C",
@@ -67,7 +65,7 @@ constexpr std::array<Kopfzeile, 4> monatsspalten{{
     {"", ""},
 }};
 
-constexpr Kopfzeile monatswort{"Monat:      ", "Month:      "};
+constexpr Wort monatswort{"Monat:      ", "Month:      "};
 
 constexpr std::string_view zeilenende = "\r\n";
 
@@ -76,15 +74,13 @@ struct Verlaufstext {
     const Projekt& p;
     std::string text;
 
-    [[nodiscard]] std::string_view in_sprache(const Kopfzeile& zeile) const {
-        return zeile[p.Sprache == "e" ? 1 : 0];
-    }
+    [[nodiscard]] std::string_view in_sprache(const Wort& zeile) const { return zeile.in(p.Sprache); }
 
     void zeile(std::string_view inhalt) { text.append(inhalt).append(zeilenende); }
 
     template <std::size_t n>
-    void kopfzeilen(const std::array<Kopfzeile, n>& zeilen) {
-        for (const Kopfzeile& eine : zeilen)
+    void kopfzeilen(const std::array<Wort, n>& zeilen) {
+        for (const Wort& eine : zeilen)
             zeile(in_sprache(eine));
     }
 

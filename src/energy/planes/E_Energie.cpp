@@ -5,6 +5,7 @@
 #include "charts/traegerbild.h"
 #include "energy/energiebilanz.h"
 #include "language/beschriftungen.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
@@ -135,10 +136,12 @@ void E_Energie::felder_fuellen(const Kennwerte& k) {
 }
 
 void E_Energie::beschriften(const Kurzname& name) {
-    const bool englisch = sitzung_.p.Sprache == "e";
-    const std::string traeger(name.in(sitzung_.p.Sprache));
-    Label8.schreibe((englisch ? "heating energy demand (" : "Heizenergiebedarf (") + traeger + "):");
-    Label21.schreibe((englisch ? "primary energy demand (" : "Primärenergiebedarf (") + traeger + "):");
+    const std::string& sprache = sitzung_.p.Sprache;
+    const std::string traeger(name.in(sprache));
+    const Zweisprachig heizenergie{"Heizenergiebedarf (", "heating energy demand ("};
+    const Zweisprachig primaerenergie{"Primärenergiebedarf (", "primary energy demand ("};
+    Label8.schreibe(heizenergie.in(sprache) + traeger + "):");
+    Label21.schreibe(primaerenergie.in(sprache) + traeger + "):");
     Label27.schreibe(traeger + ":");
     for (Anzeige* nur_hilfsstrom :
          {&Label14, &Label6, &anz_q_PE_Strom, &Label34, &anz_Primärenergiefaktor_Strom})
