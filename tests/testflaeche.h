@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/rekorder_flaeche.h"
+#include "tests/rekorder_flaeche.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "tests/rekorder_flaeche.h"
 #include "toolkit/felder.h"
-#include "toolkit/rekorder_flaeche.h"
 
 #include <string>
 #include <vector>

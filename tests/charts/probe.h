@@ -1,8 +1,8 @@
 #pragma once
 
 #include "project/c_glob.h"
+#include "tests/rekorder_flaeche.h"
 #include "tests/testplattform.h"
-#include "toolkit/rekorder_flaeche.h"
 
 #include <memory>
 #include <string>

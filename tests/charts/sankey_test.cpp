@@ -1,5 +1,5 @@
 #include "charts/c_sankey.h"
-#include "toolkit/rekorder_flaeche.h"
+#include "tests/rekorder_flaeche.h"
 #include "toolkit/svg_flaeche.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "charts/c_sankey.h"
-#include "toolkit/rekorder_flaeche.h"
+#include "tests/rekorder_flaeche.h"
 #include "toolkit/schriftmasse.h"
 
 #include <string>

@@ -1,8 +1,8 @@
 #include "toolkit/pixel.h"
-#include "toolkit/rekorder_flaeche.h"
 #include "toolkit/schriftmasse.h"
 #include "toolkit/svg_flaeche.h"
 
+#include <array>
 #include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,17 +17,6 @@ using ::testing::Not;
 
 constexpr double keine_zahl = NAN;
 
-/// The pixels of a colour, as "x,y x,y ..." row by row.
-std::string bemalt(const RekorderFlaeche& bild, Farbe farbe) {
-    std::string orte;
-    for (int y = 0; y < bild.hoehe(); ++y) {
-        for (int x = 0; x < bild.breite(); ++x) {
-            if (bild.lies_punkt(x, y) == farbe) orte += std::to_string(x) + "," + std::to_string(y) + " ";
-        }
-    }
-    return orte;
-}
-
 TEST(Pixel, HalbeWerdenGeradeUndWeitesBleibtFern) {
     EXPECT_EQ(pixel(0.5), 0);
     EXPECT_EQ(pixel(1.5), 2);
@@ -35,63 +24,36 @@ TEST(Pixel, HalbeWerdenGeradeUndWeitesBleibtFern) {
     EXPECT_EQ(pixel(97.2), 97);
     EXPECT_EQ(pixel(1e30), 30000);
     EXPECT_EQ(pixel(-INFINITY), -30000);
-    EXPECT_FALSE(pixelkasten(1, 2, 3, keine_zahl));
 }
 
-TEST(RekorderFlaeche, LinienLassenIhrLetztesPixelAus) {
+TEST(Pixelkasten, HatSeineEckenInJederReihenfolge) {
+    EXPECT_EQ(pixelkasten(3.4, 2, 1, 0.6), (Pixelkasten{1, 1, 3, 2}));
+    for (const auto& [x1, y1, x2, y2] : {std::array{keine_zahl, 2., 3., 4.},
+                                         {1., keine_zahl, 3., 4.},
+                                         {1., 2., keine_zahl, 4.},
+                                         {1., 2., 3., keine_zahl}})
+        EXPECT_FALSE(pixelkasten(x1, y1, x2, y2));
+}
+
+TEST(Pixellinie, LaesstIhrLetztesPixelAus) {
     struct Fall {
         double x1, y1, x2, y2;
         int dicke;
-        const char* orte;
+        Pixelkasten kasten;
     };
-    for (const Fall& f :
-         {Fall{1, 1, 4, 1, 1, "1,1 2,1 3,1 "}, Fall{4, 1, 1, 1, 1, "2,1 3,1 4,1 "},
-          Fall{2, 3, 2, 1, 1, "2,2 2,3 "}, Fall{1, 1, 3, 3, 1, "1,1 2,2 "}, Fall{0, 2, 2, 0, 1, "1,1 0,2 "},
-          Fall{2, 2, 2, 2, 1, ""}, Fall{1, 2, 3, 2, 3, "1,1 2,1 1,2 2,2 1,3 2,3 "},
-          Fall{1, 1, 4, keine_zahl, 1, ""}}) {
-        RekorderFlaeche bild(5, 5);
-        bild.linie(f.x1, f.y1, f.x2, f.y2, farben::rot, f.dicke);
-        EXPECT_EQ(bemalt(bild, farben::rot), f.orte) << f.x1 << " " << f.y1;
+    for (const Fall& f : {Fall{1, 1, 4, 1, 1, {1, 1, 3, 1}}, Fall{4, 1, 1, 1, 1, {2, 1, 4, 1}},
+                          Fall{2, 3, 2, 1, 1, {2, 2, 2, 3}}, Fall{2, 1, 2, 3, 4, {1, 1, 4, 2}},
+                          Fall{1, 2, 3, 2, 3, {1, 1, 2, 3}}, Fall{1, 2, 3, 2, 2, {1, 2, 2, 3}}}) {
+        const auto linie = pixellinie(f.x1, f.y1, f.x2, f.y2, f.dicke);
+        ASSERT_TRUE(linie);
+        EXPECT_EQ(linie->gerade, f.kasten) << f.x1 << " " << f.y1 << " " << f.dicke;
     }
-}
-
-TEST(RekorderFlaeche, KastenUndFlaecheSchliessenAlleKantenEin) {
-    RekorderFlaeche bild(6, 5);
-    bild.flaeche(3, 2, 1, 0, farben::rot);
-    EXPECT_EQ(bemalt(bild, farben::rot), "1,0 2,0 3,0 1,1 2,1 3,1 1,2 2,2 3,2 ");
-    bild.kasten(1, 0, 3, 2, farben::blau);
-    EXPECT_EQ(bemalt(bild, farben::rot), "2,1 ");
-    bild.flaeche(-9, 4, 99, 1e9, farben::gelb);
-    EXPECT_EQ(bemalt(bild, farben::gelb), "0,4 1,4 2,4 3,4 4,4 5,4 ");
-    EXPECT_EQ(bild.lies_punkt(-1, 4), bild.hintergrund());
-    bild.Cls();
-    EXPECT_EQ(bemalt(bild, bild.hintergrund()).size(), 6 * 5 * 4U);
-}
-
-TEST(RekorderFlaeche, KreisUndSektor) {
-    RekorderFlaeche bild(9, 9);
-    bild.kreis(4, 4, 2, farben::rot, farben::gelb);
-    EXPECT_EQ(bild.lies_punkt(6, 4), farben::rot);
-    EXPECT_EQ(bild.lies_punkt(4, 4), farben::gelb);
-    EXPECT_EQ(bild.lies_punkt(7, 4), bild.hintergrund());
-    bild.kreis(4, 4, 0, farben::schwarz, farben::schwarz);
-    EXPECT_EQ(bild.lies_punkt(4, 4), farben::gelb);
-
-    bild.Cls();
-    bild.sektor(4, 4, 3, 0, std::numbers::pi / 2, farben::blau);
-    for (const auto& [x, y] : {std::pair{4, 4}, {7, 4}, {4, 1}, {6, 2}})
-        EXPECT_EQ(bild.lies_punkt(x, y), farben::blau) << x << "," << y;
-    for (const auto& [x, y] : {std::pair{2, 4}, {4, 6}, {2, 2}, {6, 6}, {7, 1}})
-        EXPECT_EQ(bild.lies_punkt(x, y), bild.hintergrund()) << x << "," << y;
-}
-
-TEST(RekorderFlaeche, MerktJedenAufrufMitSeinerSchrift) {
-    RekorderFlaeche bild;
-    bild.schrift({.name = "Arial", .groesse = 6.75});
-    bild.text(1, 2, "°C", farben::schwarz);
-    ASSERT_EQ(bild.zeichnungen.size(), 1U);
-    EXPECT_EQ(bild.zeichnungen[0].schrift.groesse, 6.75);
-    EXPECT_EQ(bild.textbreite("°C"), 12);
+    const auto schraeg = pixellinie(1, 1, 3, -4.2, 1);
+    ASSERT_TRUE(schraeg);
+    EXPECT_FALSE(schraeg->gerade);
+    EXPECT_EQ(schraeg->y2, -4);
+    EXPECT_FALSE(pixellinie(2, 2, 2, 2, 1));
+    EXPECT_FALSE(pixellinie(1, 1, 4, keine_zahl, 1));
 }
 
 TEST(Schriftmasse, BreitenDerPublizierteTabelle) {

@@ -2,8 +2,8 @@
 
 #include "climate/planes/E_Klima.h"
 #include "tests/hilfen.h"
+#include "tests/rekorder_flaeche.h"
 #include "tests/testplattform.h"
-#include "toolkit/rekorder_flaeche.h"
 
 #include <memory>
 #include <string>

@@ -1,4 +1,4 @@
-#include "toolkit/rekorder_flaeche.h"
+#include "tests/rekorder_flaeche.h"
 
 #include "toolkit/text.h"
 
