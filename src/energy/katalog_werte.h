@@ -45,6 +45,12 @@ struct Kennwerte {
 
 /// Characteristic values of a heat supply for a usable floor of `f_nutz` m2. Errors as in
 /// `kombination_pruefen`.
+///
+///   qE = (qh + q_ce + q_d + q_s) e_g    qHE = q_d_he + q_s_he + q_g_he    qP = f_p qE
+/// qE end energy of the carrier, qHE auxiliary electricity, qP primary energy, qh heat demand: all of them
+/// and the losses q kWh/(m2 a); e_g, f_p no unit. A value between two floor areas of its table lies on the
+/// straight line between theirs; the heat pump has q_g_he = 1.9 AN^-0.1 with AN = `f_nutz`, m2.
+/// Source: the tables of standard equipment and the primary energy factors of DIN V 4701-10:2003, annex C.
 [[nodiscard]] Kennwerte katalog_werte(int system, int uebergabe, int energietraeger, float f_nutz);
 
 }  // namespace velmaris
