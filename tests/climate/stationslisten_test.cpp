@@ -15,7 +15,6 @@ namespace {
 using test::kopftext;
 using test::Testordner;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// The station with that file; fails the test if the list lacks it.
 Station station(const std::vector<Station>& liste, const std::string& datei) {
@@ -108,14 +107,6 @@ TEST(Stationslisten, DerErsteOrdnerGehtVor) {
     const Stationslisten listen =
         stationslisten_lesen({ordner / "eigen", ordner / "fehlt", ordner / "programm"});
     EXPECT_THAT(stationsnamen(listen.Welt), ElementsAre("Eigen B", "Eigen C", "Programm A"));
-}
-
-TEST(Stationslisten, OhneDateienSindLeer) {
-    const Testordner ordner;
-    for (const auto& pfad : {ordner.pfad(), ordner / "fehlt"}) {
-        EXPECT_THAT(stationslisten_lesen({pfad}).Welt, IsEmpty());
-        EXPECT_THAT(stationslisten_lesen({pfad}).Europa, IsEmpty());
-    }
 }
 
 TEST(Postleitzahlen, FindenIhreRegion) {

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 namespace velmaris {
@@ -62,19 +63,14 @@ TEST(Ebenen, StimmenMitDerEinzelnenRechnungUeberein) {
         p->f_dach_n = p->f_dach_s = p->f_dach_o = p->f_dach_w = p->f_dach_flach = 1;
         ebenen_bereitstellen(*p);
         const Strahlungstabellen& s = p->Strahlung;
-        const double dach = fall.Dachneigung;
-        v.vergleiche(*p, s.wand_n, 180, 90);
-        v.vergleiche(*p, s.wand_s, 0, 90);
-        v.vergleiche(*p, s.wand_o, -90, 90);
-        v.vergleiche(*p, s.wand_w, 90, 90);
-        v.vergleiche(*p, s.dach_n, 180, dach);
-        v.vergleiche(*p, s.dach_s, 0, dach);
-        v.vergleiche(*p, s.dach_o, -90, dach);
-        v.vergleiche(*p, s.dach_w, 90, dach);
+        for (const auto& [wand, geneigt, azimut] :
+             {std::tuple(&s.wand_n, &s.dach_n, 180), std::tuple(&s.wand_s, &s.dach_s, 0),
+              std::tuple(&s.wand_o, &s.dach_o, -90), std::tuple(&s.wand_w, &s.dach_w, 90)}) {
+            v.vergleiche(*p, *wand, azimut, 90);
+            v.vergleiche(*p, *geneigt, azimut, fall.Dachneigung);
+        }
         v.vergleiche(*p, s.dach_flach, 0, 0);
     }
-    RecordProperty("factors", v.werte);
-    RecordProperty("differing", v.verschieden);
     EXPECT_LE(v.groesster_abstand, 1);
     EXPECT_LE(v.verschieden, v.werte / 100000);
 }
@@ -129,44 +125,19 @@ TEST(Monatsstrahlung, SummiertStetigesWetterWieVonHand) {
     }
 }
 
-/// The same direct light in each hour in which the sun is up.
-void sonnenschein(Projekt& p, float direkt) {
-    const Standort ort{p.Breite, p.Laengenkorrektur};
-    fuer_jede_stunde([&](int m, int d, int h, int n) {
-        const bool tag = direktfaktor_horizontal(ort, n, h) > 0;
-        p.Wetter(m, d, h).Direkt = tag ? direkt : 0;
-    });
-}
-
 TEST(Monatsstrahlung, NimmtDenBodenVomDirektenLicht) {
     // At noon the north wall sees no sun, but an eighth of the direct value comes from the ground.
     const auto p = station(50, 0);
     for (int m = 1; m <= monate; ++m) {
         for (int d = 1; d <= tage_im_monat[static_cast<std::size_t>(m)]; ++d)
             p->Wetter(m, d, 12).Direkt = 1200;
+        p->Wetter(m, 3, 8).Direkt = m == 7 ? 1200 : 0;
     }
     monatsstrahlung_berechnen(*p);
     EXPECT_EQ(p->Monat(1).Strahlung_N, 16);  // 150 W/m2 over 31 hours: 16.74 MJ/m2
     EXPECT_EQ(p->Monat(2).Strahlung_N, 15);  // 28 hours: 15.12
     EXPECT_GT(p->Monat(2).Strahlung_S, 100);
-}
-
-TEST(Monatsstrahlung, DrehtSichMitDemGebaeude) {
-    const auto p = station(49.75, 2, {0, 0, 80});
-    sonnenschein(*p, 500);
-    monatsstrahlung_berechnen(*p);
-    const Reihe<Monatswerte, 1, 12> gerade = p->Monat;
-    p->orient = 180;
-    monatsstrahlung_berechnen(*p);
-    for (int m = 1; m <= monate; ++m) {
-        EXPECT_NEAR(p->Monat(m).Strahlung_N, gerade(m).Strahlung_S, 1) << m;
-        EXPECT_NEAR(p->Monat(m).Strahlung_O, gerade(m).Strahlung_W, 1) << m;
-        EXPECT_GT(gerade(m).Strahlung_S, gerade(m).Strahlung_N) << m;
-    }
-    p->orient = 90;
-    monatsstrahlung_berechnen(*p);
-    for (int m = 1; m <= monate; ++m)
-        EXPECT_NEAR(p->Monat(m).Strahlung_O, gerade(m).Strahlung_S, 1) << m;
+    EXPECT_GT(p->Monat(7).Strahlung_O, p->Monat(7).Strahlung_W + 1) << "one bright morning";
 }
 
 TEST(Monatsstrahlung, RundetDieTemperatursummeBeiJedemSchritt) {

@@ -6,6 +6,7 @@
 #include "climate/import/importziel.h"
 #include "tests/climate/import/importprobe.h"
 
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -15,10 +16,14 @@ namespace {
 using test::Quellbau;
 using testing::ElementsAre;
 
-constexpr const char* nichts = "<nothing>";
+using Felder = std::vector<std::string>;
 
-std::string oder_nichts(std::optional<std::string_view> feld) {
-    return std::string(feld.value_or(nichts));
+/// The fields of a line from the first to the last one that is there.
+Felder felder(const std::function<std::optional<std::string_view>(int)>& stelle) {
+    Felder alle;
+    while (const auto feld = stelle(static_cast<int>(alle.size()) + 1))
+        alle.emplace_back(*feld);
+    return alle;
 }
 
 TEST(Importzahlen, LesenNurGanzeZahlen) {
@@ -39,80 +44,64 @@ TEST(Importzahlen, LesenNurGanzeZahlen) {
 }
 
 TEST(Importzahlen, SchreibenDieNullVorDemPunkt) {
-    EXPECT_EQ(RealToString(0.5), " 0.5");
-    EXPECT_EQ(RealToString(-0.25), "-0.25");
-    EXPECT_EQ(RealToString(0), " 0");
-    EXPECT_EQ(RealToString(49.75), " 49.75");
-    EXPECT_EQ(RealToString(-7), "-7");
+    for (const auto& [zahl, text] :
+         {std::pair{0.5, " 0.5"}, {-0.25, "-0.25"}, {0.0, " 0"}, {49.75, " 49.75"}, {-7.0, "-7"}})
+        EXPECT_EQ(RealToString(zahl), text);
 }
 
 TEST(Importspalten, TabulatorenTrennenAuchLeereFelder) {
-    struct Fall {
-        std::string_view zeile;
-        int n;
-        std::string feld;
-    };
-    for (const Fall& fall : {Fall{"a\tb\tc", 1, "a"}, Fall{"a\tb\tc", 3, "c"}, Fall{"a\tb\tc", 4, nichts},
-                             Fall{"a\t\tc", 2, ""}, Fall{"a\t", 2, ""}, Fall{"a\t", 3, nichts},
-                             Fall{"ganz", 1, "ganz"}, Fall{"ganz", 2, nichts}, Fall{"", 1, ""}})
-        EXPECT_EQ(oder_nichts(StelleTab(fall.zeile, fall.n)), fall.feld) << fall.zeile << ' ' << fall.n;
+    for (const auto& [zeile, erwartet] : {std::pair<std::string, Felder>{"a\tb\tc", {"a", "b", "c"}},
+                                          {"a\t\tc", {"a", "", "c"}},
+                                          {"a\t", {"a", ""}},
+                                          {"ganz", {"ganz"}},
+                                          {"", {""}}})
+        EXPECT_EQ(felder([&](int n) { return StelleTab(zeile, n); }), erwartet) << zeile;
 }
 
 TEST(Importspalten, LeerzeichenTrennenNachDerMusterzeile) {
     // Places, counted from 1:    1234567890123456
     const std::string muster = "  12   345  6";
-    const auto links = Spalten_Festlegen(muster, Trennung::linksbuendig);
-    EXPECT_EQ(links.Spaltenzahl, 3);
-    EXPECT_EQ(links.Spaltenanfang(1), 3);
-    EXPECT_EQ(links.Spaltenanfang(2), 8);
-    EXPECT_EQ(links.Spaltenanfang(3), 13);
-    EXPECT_EQ(links.Spaltenanfang(4), 0);
-    const auto rechts = Spalten_Festlegen(muster + "  ", Trennung::rechtsbuendig);
-    EXPECT_EQ(rechts.Spaltenzahl, 3);
-    EXPECT_EQ(rechts.Spaltenanfang(1), 5);
-    EXPECT_EQ(rechts.Spaltenanfang(2), 11);
-    EXPECT_EQ(rechts.Spaltenanfang(3), 14);
     struct Fall {
         Trennung trennung;
-        std::string_view zeile;
-        std::vector<std::string> felder;
+        std::string zeile;
+        Felder felder;
     };
-    for (const Fall& fall :
-         {Fall{Trennung::linksbuendig, "  1    34   56", {"1    ", "34   ", "56", nichts}},
-          // A line must reach beyond the first character of its field.
-          Fall{Trennung::linksbuendig, "  1    34   5", {"1    ", "34   ", nichts}},
-          Fall{Trennung::linksbuendig, "  1", {nichts, nichts}},
-          Fall{Trennung::rechtsbuendig, "1234  -345  6", {"1234", "  -345", "  6", nichts}},
-          Fall{Trennung::rechtsbuendig, "  12   3", {"  12", "   3", ""}}}) {
-        const auto& lage = fall.trennung == Trennung::linksbuendig ? links : rechts;
-        for (std::size_t i = 0; i < fall.felder.size(); ++i)
-            EXPECT_EQ(oder_nichts(StelleLeer(fall.zeile, static_cast<int>(i) + 1, lage, fall.trennung)),
-                      fall.felder[i])
-                << fall.zeile << ' ' << i;
+    const auto links = Trennung::linksbuendig, rechts = Trennung::rechtsbuendig;
+    for (const auto& [trennung, anfaenge] :
+         {std::pair<Trennung, std::vector<int>>{links, {3, 8, 13, 0}}, {rechts, {5, 11, 14, 0}}}) {
+        const Spaltenlage lage = Spalten_Festlegen(muster + (trennung == rechts ? "  " : ""), trennung);
+        EXPECT_EQ(lage.Spaltenzahl, 3);
+        for (int n = 1; n <= 4; ++n)
+            EXPECT_EQ(lage.Spaltenanfang(n), anfaenge.at(static_cast<std::size_t>(n - 1))) << n;
+    }
+    for (const Fall& fall : {Fall{links, "  1    34   56", {"1    ", "34   ", "56"}},
+                             // A line must reach beyond the first character of its field.
+                             Fall{links, "  1    34   5", {"1    ", "34   "}}, Fall{links, "  1", {}},
+                             Fall{rechts, "1234  -345  6", {"1234", "  -345", "  6"}},
+                             Fall{rechts, "  12   3", {"  12", "   3", ""}}}) {
+        const Spaltenlage lage = Spalten_Festlegen(muster, fall.trennung);
+        const auto stelle = [&](int n) { return StelleLeer(fall.zeile, n, lage, fall.trennung); };
+        EXPECT_EQ(felder(stelle), fall.felder) << fall.zeile;
     }
 }
 
 TEST(Importspalten, AnfuehrungHaeltKommasZusammen) {
-    struct Fall {
-        std::string_view zeile;
-        std::vector<std::string> felder;
-    };
     const std::string lang = "\"" + std::string(2000, 'x');
-    for (const Fall& fall :
-         {Fall{R"(a,"b, c",d)", {"a", "b, c", "d", nichts}}, Fall{R"("a","",c)", {"a", "", "c", nichts}},
-          Fall{R"(a , "b,c" ,"d")", {"a ", "b,c", "d", nichts}},
-          Fall{R"("a ""b"", c",d)", {R"(a ""b"", c)", "d", nichts}},
-          Fall{R"("""b""",d)", {R"(""b"")", "d", nichts}},
+    for (const auto& [zeile, erwartet] :
+         {std::pair<std::string, Felder>{R"(a,"b, c",d)", {"a", "b, c", "d"}},
+          {R"("a","",c)", {"a", "", "c"}},
+          {R"(a , "b,c" ,"d")", {"a ", "b,c", "d"}},
+          {R"("a ""b"", c",d)", {R"(a ""b"", c)", "d"}},
+          {R"("""b""",d)", {R"(""b"")", "d"}},
           // A quote that no other closes, or within a field, is a character like others.
-          Fall{R"("a,b,c)", {"\"a", "b", "c", nichts}},
-          Fall{R"(a "b,c" d,e)", {"a \"b", "c\" d", "e", nichts}},
-          Fall{R"("a" b,c)", {"\"a\" b", "c", nichts}}, Fall{R"(a,")", {"a", "\"", nichts}},
-          Fall{lang, {lang, nichts}}}) {
-        const Spaltenteiler teiler(Trennung::komma, fall.zeile);
-        for (std::size_t i = 0; i < fall.felder.size(); ++i)
-            EXPECT_EQ(oder_nichts(teiler.stelle(fall.zeile, static_cast<int>(i) + 1)), fall.felder[i])
-                << fall.zeile << ' ' << i;
-        EXPECT_EQ(teiler.spaltenzahl(), static_cast<int>(fall.felder.size()) - 1) << fall.zeile;
+          {R"("a,b,c)", {"\"a", "b", "c"}},
+          {R"(a "b,c" d,e)", {"a \"b", "c\" d", "e"}},
+          {R"("a" b,c)", {"\"a\" b", "c"}},
+          {R"(a,")", {"a", "\""}},
+          {lang, {lang}}}) {
+        const Spaltenteiler teiler(Trennung::komma, zeile);
+        EXPECT_EQ(felder([&](int n) { return teiler.stelle(zeile, n); }), erwartet) << zeile;
+        EXPECT_EQ(teiler.spaltenzahl(), static_cast<int>(erwartet.size())) << zeile;
     }
 }
 
@@ -137,24 +126,23 @@ TEST(Importquelle, KenntIhreZeilenUndIhreForm) {
     const Importquelle gemischt(
         "\xEF\xBB\xBF"
         "eins\r\n\nzwei\rhalb\ndrei");
-    EXPECT_EQ(gemischt.zeilenzahl(), 4);
-    EXPECT_EQ(gemischt.zeile(1), "eins");
-    EXPECT_EQ(gemischt.zeile(2), "");
-    EXPECT_EQ(gemischt.zeile(3), "zwei\rhalb");
-    EXPECT_EQ(gemischt.zeile(4), "drei");
-    EXPECT_EQ(gemischt.zeile(5), "");
-    struct Fall {
-        std::string text;
-        Quellform form;
-    };
-    for (const Fall& fall :
-         {Fall{"", Quellform::frei}, Fall{"a\nb\nc\ndy\tTa\tG_Gh\n", Quellform::meteonorm},
-          Fall{"a\nb\nc\nTa G_Dh", Quellform::meteonorm}, Fall{"a\nb\nc\ndy\tTa\tG_Bh\n", Quellform::frei},
-          Fall{"a\nb\nc\nG_Gh\tG_Dh\n", Quellform::frei}, Fall{"a\nb\nTa\tG_Gh\n", Quellform::frei},
-          Fall{"LOCATION,Bern", Quellform::epw}, Fall{"\xEF\xBB\xBFLOCATION,Bern", Quellform::epw},
-          Fall{"\"LOCATION\",\"Bern\"", Quellform::epw}, Fall{"LOCATION;Bern", Quellform::frei},
-          Fall{"LOCATION", Quellform::frei}, Fall{"Location,Bern", Quellform::frei}})
-        EXPECT_EQ(quellform(Importquelle(fall.text)), fall.form) << fall.text;
+    Felder zeilen;
+    for (int n = 1; n <= gemischt.zeilenzahl() + 1; ++n)
+        zeilen.emplace_back(gemischt.zeile(n));
+    EXPECT_THAT(zeilen, ElementsAre("eins", "", "zwei\rhalb", "drei", ""));
+    for (const auto& [text, form] : {std::pair{"", Quellform::frei},
+                                     {"a\nb\nc\ndy\tTa\tG_Gh\n", Quellform::meteonorm},
+                                     {"a\nb\nc\nTa G_Dh", Quellform::meteonorm},
+                                     {"a\nb\nc\ndy\tTa\tG_Bh\n", Quellform::frei},
+                                     {"a\nb\nc\nG_Gh\tG_Dh\n", Quellform::frei},
+                                     {"a\nb\nTa\tG_Gh\n", Quellform::frei},
+                                     {"LOCATION,Bern", Quellform::epw},
+                                     {"\xEF\xBB\xBFLOCATION,Bern", Quellform::epw},
+                                     {"\"LOCATION\",\"Bern\"", Quellform::epw},
+                                     {"LOCATION;Bern", Quellform::frei},
+                                     {"LOCATION", Quellform::frei},
+                                     {"Location,Bern", Quellform::frei}})
+        EXPECT_EQ(quellform(Importquelle(text)), form) << text;
 }
 
 TEST(Importquelle, ZeigtJedesByte) {
@@ -271,27 +259,23 @@ TEST(Stationsdatei, KopfTraegtDieVorzeichenDerStationsdateien) {
 TEST(Stationsdatei, DerOrtLiegtAufDerErde) {
     const Ortsangaben gut{"O", "L", "90", true, "180", false, "14", false};
     EXPECT_EQ(stationsort(gut).breite, -90);
-    for (const char* schlecht : {"90.1", "-91", "", "x", "1e9"}) {
-        Ortsangaben ort = gut;
-        ort.Breitengrad = schlecht;
-        EXPECT_THROW(static_cast<void>(stationsort(ort)), Importfehler) << schlecht;
-    }
-    for (auto [feld, schlecht] :
-         {std::pair{&Ortsangaben::Laengengrad, "180.5"}, {&Ortsangaben::Zeitzone, "15"}}) {
-        Ortsangaben ort = gut;
-        ort.*feld = schlecht;
-        EXPECT_THROW(static_cast<void>(stationsort(ort)), Importfehler) << schlecht;
-    }
-    for (const char* schlecht : {"a\tb", "a\nb", "\x1B[1m", "a\x7F", "\xC2\x85"}) {
-        for (const auto feld : {&Ortsangaben::Standortname, &Ortsangaben::Land}) {
+    struct Fall {
+        std::string Ortsangaben::*feld;
+        std::vector<const char*> schlechte;
+    };
+    const std::vector<const char*> steuerzeichen{"a\tb", "a\nb", "\x1B[1m", "a\x7F", "\xC2\x85"};
+    for (const Fall& fall :
+         {Fall{&Ortsangaben::Breitengrad, {"90.1", "-91", "", "x", "1e9"}},
+          Fall{&Ortsangaben::Laengengrad, {"180.5"}}, Fall{&Ortsangaben::Zeitzone, {"15"}},
+          Fall{&Ortsangaben::Standortname, steuerzeichen}, Fall{&Ortsangaben::Land, steuerzeichen}}) {
+        for (const char* schlecht : fall.schlechte) {
             Ortsangaben ort = gut;
-            ort.*feld = schlecht;
+            ort.*fall.feld = schlecht;
             EXPECT_THROW(static_cast<void>(stationsort(ort)), Importfehler) << schlecht;
         }
     }
     EXPECT_EQ(namenshinweis("Zürich (Schweiz)").de, "");
-    EXPECT_NE(namenshinweis("Bern, Zoo (CH)").en.find("comma"), std::string::npos);
-    EXPECT_NE(namenshinweis("Łódź (PL)").en.find("character set"), std::string::npos);
+    EXPECT_THAT(namenshinweis("Bern, Zoo (Łódź)").en, testing::ContainsRegex("comma .* character set"));
 }
 
 TEST(Stationsdatei, EinFremderZeitzonenwertWirdBemerkt) {
