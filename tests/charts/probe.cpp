@@ -6,6 +6,17 @@
 #include <cmath>
 
 namespace velmaris::test {
+namespace {
+
+int lauf(const RekorderFlaeche& bild, int x, int y, int dx, int dy) {
+    const Farbe farbe = bild.lies_punkt(x, y);
+    int n = 0;
+    for (; x >= 0 && y >= 0 && x < bild.breite() && y < bild.hoehe(); x += dx, y += dy, ++n)
+        if (bild.lies_punkt(x, y) != farbe) break;
+    return n;
+}
+
+}  // namespace
 
 std::unique_ptr<Projekt> leeres_projekt(const std::string& sprache) {
     auto p = std::make_unique<Projekt>();
@@ -22,6 +33,14 @@ std::vector<Ecken> flaechen(const RekorderFlaeche& bild, Farbe farbe) {
     for (const Zeichnung& z : bild.alle(Zeichnung::Art::flaeche, farbe))
         ergebnis.push_back(z.zahlen);
     return ergebnis;
+}
+
+int hoch(const RekorderFlaeche& bild, int x, int y) {
+    return lauf(bild, x, y, 0, -1);
+}
+
+int quer(const RekorderFlaeche& bild, int x, int y) {
+    return lauf(bild, x, y, 1, 0);
 }
 
 bool steht(const RekorderFlaeche& bild, const std::string& text, double x, double y) {

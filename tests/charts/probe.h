@@ -19,6 +19,10 @@ using Ecken = std::vector<double>;
 /// The filled boxes of a colour, in the order of drawing.
 std::vector<Ecken> flaechen(const RekorderFlaeche& bild, Farbe farbe);
 
+/// Pixels in a row that have the colour at (x, y), from there upward or to the right.
+int hoch(const RekorderFlaeche& bild, int x, int y);
+int quer(const RekorderFlaeche& bild, int x, int y);
+
 /// True if the text stands with its top left at (x, y).
 bool steht(const RekorderFlaeche& bild, const std::string& text, double x, double y);
 

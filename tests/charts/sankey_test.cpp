@@ -2,9 +2,10 @@
 #include "tests/rekorder_flaeche.h"
 #include "toolkit/svg_flaeche.h"
 
-#include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace velmaris {
@@ -61,26 +62,21 @@ TEST(Sankey, LinieReichtBisZumLetztenPixel) {
 
 TEST(Sankey, SpitzePixelFuerPixel) {
     struct Fall {
-        std::string name;
-        std::vector<double> ecken;
-        Zeilen bild;
+        std::array<double, 4> ecken;
+        const char* bild;  ///< rows from the top
     };
-    const Fall faelle[] = {
-        {"rechts", {1, 5, 1, 1}, {"......", ".#....", ".##...", ".###..", ".##...", ".#....", "......"}},
-        {"rechts, gerade",
-         {1, 4, 1, 1},
-         {"......", ".#....", ".##...", ".##...", ".#....", "......", "......"}},
-        {"abwaerts", {0, 1, 4, 1}, {"......", "#####.", ".###..", "..#...", "......", "......", "......"}},
-        {"aufwaerts", {4, 5, 0, 5}, {"......", "......", "......", "..#...", ".###..", "#####.", "......"}},
-        {"ein Pixel", {2, 3, 2, 3}, {"......", "......", "......", "..#...", "......", "......", "......"}},
-        {"halbe Pixel",
-         {1.5, 5, 1.5, 1},
-         {"......", "..#...", "..##..", "..###.", "..##..", "..#...", "......"}},
-    };
-    for (const Fall& f : faelle) {
+    for (const Fall& f : {Fall{{1, 5, 1, 1}, "......|.#....|.##...|.###..|.##...|.#....|......|"},
+                          Fall{{1, 4, 1, 1}, "......|.#....|.##...|.##...|.#....|......|......|"},
+                          Fall{{0, 1, 4, 1}, "......|#####.|.###..|..#...|......|......|......|"},
+                          Fall{{4, 5, 0, 5}, "......|......|......|..#...|.###..|#####.|......|"},
+                          Fall{{2, 3, 2, 3}, "......|......|......|..#...|......|......|......|"},
+                          Fall{{1.5, 5, 1.5, 1}, "......|..#...|..##..|..###.|..##..|..#...|......|"}}) {
         Probe probe(6, 7);
         Sankey_Spitze(probe.bild, f.ecken[0], f.ecken[1], f.ecken[2], f.ecken[3], bandfarbe);
-        EXPECT_EQ(probe.zeilen(), f.bild) << f.name;
+        std::string bild;
+        for (const std::string& zeile : probe.zeilen())
+            bild += zeile + "|";
+        EXPECT_EQ(bild, f.bild) << f.ecken[0] << " " << f.ecken[1];
     }
 }
 
@@ -102,11 +98,9 @@ TEST(Sankey, BogenIstKuchenMitWeisserScheibe) {
 TEST(Sankey, BogenUeberDieNullUndOhneInneres) {
     Probe probe(40, 40);
     Sankey_Bogen(probe.blatt, 10, 30, 360, 90, 4, 10);
-    EXPECT_EQ(probe.bild.lies_punkt(24, 30), bandfarbe);
-    EXPECT_EQ(probe.bild.lies_punkt(10, 16), bandfarbe);
-    EXPECT_EQ(probe.bild.lies_punkt(19, 21), bandfarbe);
-    EXPECT_EQ(probe.bild.lies_punkt(9, 31), farben::weiss);
-    EXPECT_EQ(probe.bild.lies_punkt(10, 34), farben::weiss);
+    const auto ist_band = [&](int x, int y) { return probe.bild.lies_punkt(x, y) == bandfarbe; };
+    EXPECT_TRUE(ist_band(24, 30) && ist_band(10, 16) && ist_band(19, 21));
+    EXPECT_FALSE(ist_band(9, 31) || ist_band(10, 34));
     for (const int radius : {0, 1}) {
         Probe voll(20, 20);
         Sankey_Bogen(voll.blatt, 2, 2, 270, 360, 8, radius);
@@ -115,22 +109,24 @@ TEST(Sankey, BogenUeberDieNullUndOhneInneres) {
     }
 }
 
+/// The band in one column, {upper, lower} row.
+std::pair<std::size_t, std::size_t> band(const Zeilen& zeilen, std::size_t x) {
+    std::string spalte;
+    for (const std::string& zeile : zeilen)
+        spalte += zeile[x];
+    EXPECT_EQ(spalte.find('.', spalte.find('#')), spalte.rfind('#') + 1) << "a hole at " << x;
+    return {spalte.find('#'), spalte.rfind('#')};
+}
+
 TEST(Sankey, SchraegbandHatUeberallSeineHoehe) {
     Probe probe(40, 40);
     Sankey_Schraegband(probe.blatt, 3, 30, 33, 20, 8);
-    const Zeilen zeilen = probe.zeilen();
-    for (std::size_t x = 3; x <= 33; ++x) {
-        const auto gefuellt =
-            std::count_if(zeilen.begin(), zeilen.end(), [&](auto& z) { return z[x] == '#'; });
-        EXPECT_EQ(gefuellt, 9) << x;
-    }
-    EXPECT_EQ(zeilen[30][3], '#');
-    EXPECT_EQ(zeilen[22][3], '#');
+    for (std::size_t x = 3; x <= 33; ++x)
+        EXPECT_EQ(band(probe.zeilen(), x).second - band(probe.zeilen(), x).first, 8U) << x;
+    EXPECT_EQ(band(probe.zeilen(), 3).second, 30U);
     // Each line aims one pixel beyond its end: 30 - 11 * 30 / 31 = 19.4 in the last column.
-    EXPECT_EQ(zeilen[19][33], '#');
-    EXPECT_EQ(zeilen[11][33], '#');
-    EXPECT_EQ(zeilen[20][33], '.');
-    EXPECT_EQ(zeilen[30][2], '.');
+    EXPECT_EQ(band(probe.zeilen(), 33).second, 19U);
+    EXPECT_EQ(probe.zeilen()[30][2], '.');
 }
 
 TEST(Sankey, SchwungradiusHalbZumGeraden) {
@@ -152,33 +148,16 @@ TEST(Sankey, SchwungbandVerbindetBeideEnden) {
         for (const int versatz : {10, -10}) {
             Probe probe(60, 120);
             Sankey_Schwungband(probe.blatt, {40, 80}, {10, 80 + versatz}, breite);
-            const Zeilen zeilen = probe.zeilen();
-            for (const std::size_t x : {std::size_t{10}, std::size_t{25}, std::size_t{40}}) {
-                std::string spalte;
-                for (const std::string& zeile : zeilen)
-                    spalte += zeile[x];
-                const std::size_t oben = spalte.find('#');
-                const std::size_t unten = spalte.rfind('#');
-                ASSERT_NE(oben, std::string::npos);
-                EXPECT_EQ(spalte.find('.', oben), unten + 1) << "a hole at " << breite << " " << x;
-                if (x == 25) continue;
-                const int ziel = breite < 49   ? 80
-                                 : versatz > 0 ? 79
-                                               : 81;  // slanted lines aim beyond their end
-                const auto kante = static_cast<std::size_t>(x == 40 ? ziel : 80 + versatz);
-                EXPECT_EQ(unten, kante) << breite << " " << x;
-                EXPECT_EQ(oben, kante - static_cast<std::size_t>(breite)) << breite << " " << x;
+            EXPECT_EQ(probe.bild.alle(Art::sektor).size(), breite < 49 ? 2U : 0U) << breite;
+            band(probe.zeilen(), 25);
+            const int schraeg = breite < 49 ? 0 : versatz > 0 ? -1 : 1;  // lines aim beyond their end
+            for (const auto& [x, unten] : {std::pair{10, 80 + versatz}, {40, 80 + schraeg}}) {
+                const auto kante = static_cast<std::size_t>(unten);
+                EXPECT_EQ(band(probe.zeilen(), static_cast<std::size_t>(x)),
+                          std::pair(kante - static_cast<std::size_t>(breite), kante))
+                    << breite << " " << x;
             }
         }
-    }
-}
-
-TEST(Sankey, SchwungDerBreitestenBaender) {
-    for (const int breite : {48, 49}) {
-        Probe probe(60, 120);
-        Sankey_Schwungband(probe.blatt, {40, 80}, {10, 90}, breite);
-        EXPECT_EQ(probe.bild.alle(Art::sektor).size(), breite == 48 ? 2U : 0U);
-        EXPECT_EQ(probe.bild.alle(Art::linie).size(), breite == 48 ? 0U : 50U);
     }
 }
 

@@ -1,20 +1,23 @@
+#include "charts/c_sankey.h"
 #include "charts/planes/A_Heizen.h"
 #include "charts/planes/A_Kuehlen.h"
+#include "charts/planes/A_Sankey.h"
 #include "charts/planes/A_Uebersicht.h"
 #include "charts/planes/A_Zoom.h"
 #include "tests/charts/probe.h"
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
 #include <string>
 #include <vector>
 
 namespace velmaris {
 namespace {
 
-/// A session over a hand-filled record of March, in one language.
-struct Probesitzung {
-    explicit Probesitzung(const std::string& sprache = "d") : p(test::leeres_projekt(sprache)) {
+/// The planes over a hand-filled record of March.
+struct Probeebenen {
+    explicit Probeebenen(const std::string& sprache = "d") : p(test::leeres_projekt(sprache)) {
         Monatswerte& m = p->Monat(3);
         m.Qv = 110;
         m.Qt = 220;
@@ -33,220 +36,226 @@ struct Probesitzung {
         p->qsols = 5.05F;
         p->qis = 4;
         p->qhs_sum = 24.06F;
-        p->qh = 2406.4F;
+    }
+
+    /// The surfaces of each plane.
+    std::vector<std::vector<Bildfeld*>> flaechen() {
+        return {{&u.Temperaturen, &u.Monatsbilanz, &u.JahrBilanz, &u.UeberGrafik, &u.UeberJahr},
+                {&h.Heizbilanz, &h.JahrBilanz, &h.NutzungsgradMonat, &h.NutzungsgradJahr, &h.Gewinne_N,
+                 &h.Verluste_N, &h.Gewinne_S, &h.Verluste_S, &h.Gewinne_O, &h.Verluste_O, &h.Gewinne_W,
+                 &h.Verluste_W},
+                {&k.StundenProTagMonat, &k.StundenProTagJahr, &k.KuehlbedarfMonat, &k.KuehlbedarfJahr,
+                 &k.KuehlGradStundenMonat, &k.KuehlGradStundenJahr},
+                {&s.Sankey, &s.Sankey_Kühlen}};
     }
 
     std::unique_ptr<Projekt> p;
     test::Testplattform plattform;
     int berechnet = 0;
     Sitzung sitzung{*p, plattform, [this] { ++berechnet; }};
+    A_Uebersicht u{sitzung};
+    A_Zoom z{sitzung, u.monatswahl};
+    A_Heizen h{sitzung};
+    A_Kuehlen k{sitzung};
+    A_Sankey s{sitzung};
 };
 
-TEST(Tipptexte, Deutsch) {
-    Probesitzung s;
-    const A_Uebersicht u(s.sitzung);
-    EXPECT_EQ(u.tipp_monatsbilanz(3),
-              "Monat: März\r Heizwärmebedarf: 2.4 kWh / (m² Monat)\rKühlbedarf: 12.3 kWh / (m² Monat)");
-    EXPECT_EQ(u.tipp_jahrbilanz(),
-              "Jahresbilanz\r Heizwärmebedarf: 24.1 kWh / (m² a)\rKühlbedarf: 12.3 kWh / (m² a)");
-    EXPECT_EQ(u.tipp_uebergrafik(3),
-              "Monat: März\rHeizstunden: 372 h  (50.0 %)\rNullenergiestunden: 279 h  (37.5 %)\r"
-              "Kühlstunden: 93 h  (12.5 %)");
-    EXPECT_EQ(u.tipp_ueberjahr(),
-              "Jahressumme\rHeizstunden: 372 h  (4.2 %)\rNullenergiestunden: 279 h  (3.2 %)\r"
-              "Kühlstunden: 93 h  (1.1 %)");
-    const A_Heizen h(s.sitzung);
-    EXPECT_EQ(h.tipp_nutzungsgrad_monat(3),
-              "Monat: März\rNutzbare solare Gewinne: 0.5 kWh / (m² Monat)\r"
-              "Nicht nutzbare solare Gewinne: 0.8 kWh / (m² Monat)\r"
-              "Nutzbare interne Gewinne: 0.4 kWh / (m² Monat)\r"
-              "Nicht nutzbare interne Gewinne: 0.2 kWh / (m² Monat)");
-    const A_Kuehlen k(s.sitzung);
-    EXPECT_EQ(k.tipp_bedarf_monat(3), "Monat: März\rKühlbedarf: 12.3 kWh / (m² Monat)");
-    EXPECT_EQ(k.tipp_stunden_monat(3), "Monat: März\rDurchschnittliche Überwärmung: 3.0 Stunden pro Tag");
-    EXPECT_EQ(k.tipp_stunden_jahr(), "Jahresmittel:\rDurchschnittliche Überwärmung: 0.3 Stunden pro Tag");
-    EXPECT_EQ(k.tipp_gradstunden_monat(3), "Monat: März\r Kühlgradstunden: 77.8 Kh");
-    EXPECT_EQ(k.tipp_gradstunden_jahr(), "Jahressumme:\r Kühlgradstunden: 77.8 Kh");
+/// A tooltip text from one with '|' for a new line, '#' for the unit of a month and '@' for that of a year.
+std::string tipp(std::string_view kurz) {
+    std::string text;
+    for (const char c : kurz)
+        text += c == '|'   ? "\r"
+                : c == '#' ? " kWh / (m² Monat)"
+                : c == '@' ? " kWh / (m² a)"
+                           : std::string(1, c);
+    return text;
 }
 
-TEST(Tipptexte, Englisch) {
-    Probesitzung s("e");
-    const A_Uebersicht u(s.sitzung);
-    EXPECT_EQ(u.tipp_ueberjahr(),
-              "annual sum\rheating hours: 372 h  (4.2 %)\rzero energy hours: 279 h  (3.2 %)\r"
-              "cooling hours: 93 h  (1.1 %)");
-    const A_Heizen h(s.sitzung);
-    EXPECT_EQ(h.tipp_heizbilanz(3),
-              "month: March\rvent. losses: 1.1 kWh / (m² month)\rtransm. losses: 2.2 kWh / (m² month)\r"
-              "solar gains: 0.5 kWh / (m² month)\rinternal gains: 0.4 kWh / (m² month)\r"
-              "heat energy: 2.4 kWh / (m² month)");
-    EXPECT_EQ(
-        h.tipp_jahrbilanz(),
-        "yearly balance\rvent. losses: 11.0 kWh / (m² a)\rtransm. losses: 22.0 kWh / (m² a)\r"
-        "solar gains: 5.1 kWh / (m² a)\rinternal gains: 4.0 kWh / (m² a)\rheat energy: 24.1 kWh / (m² a)");
-    EXPECT_EQ(
-        h.tipp_nutzungsgrad_jahr(),
-        "yearly balance\rusable solar gains: 0.5 kWh / (m² a)\rnon usable solar gains: 0.8 kWh / (m² a)\r"
-        "usable internal gains: 0.4 kWh / (m² a)\rnon usable internal gains: 0.2 kWh / (m² a)");
-    const A_Kuehlen k(s.sitzung);
-    EXPECT_EQ(k.tipp_bedarf_jahr(), "yearly balance\rcooling demand: 12.3 kWh / (m² a)");
-    EXPECT_EQ(k.tipp_stunden_monat(3), "month: March\rAverage time of overheating: 3.0 hours per day");
-    EXPECT_EQ(k.tipp_stunden_jahr(), "Yearly mean:\rAverage time of overheating: 0.3 hours per day");
-    EXPECT_EQ(k.tipp_gradstunden_jahr(), "Yearly sum:\rcooling degree hours: 77.8 Kh");
-}
-
-TEST(Ebenen, JedeFlaecheZeichnetIhrDiagramm) {
-    Probesitzung s;
-    A_Uebersicht u(s.sitzung);
-    A_Heizen h(s.sitzung);
-    A_Kuehlen k(s.sitzung);
+TEST(Ebenen, JedeFlaecheZeigtIhrBildMitSeinemTipp) {
+    Probeebenen e;
     struct Fall {
-        const Bildfeld& bild;
-        const char* kennzeichen;  ///< a text that only this chart shows at its scale
-        Farbe balken;
+        Bildfeld& bild;
+        const char* text;
     };
-    for (const Fall& f :
-         {Fall{u.Monatsbilanz, " 25", farben::blau}, Fall{u.JahrBilanz, " 25", farben::blau},
-          Fall{u.UeberGrafik, " 800", farben::gelb}, Fall{u.UeberJahr, " 8800", farben::gelb},
-          Fall{h.Heizbilanz, " 5", {0, 0, 136}}, Fall{h.JahrBilanz, " 10", {102, 102, 255}},
-          Fall{h.NutzungsgradMonat, " 5", {192, 192, 0}}, Fall{h.NutzungsgradJahr, " 5", {200, 99, 0}},
-          Fall{k.StundenProTagMonat, " 4", {128, 0, 0}},
-          Fall{k.StundenProTagJahr, "Jahresmittel", {128, 0, 0}},
-          Fall{k.KuehlbedarfMonat, " 25", farben::blau},
-          Fall{k.KuehlbedarfJahr, "Jahresbilanz", farben::blau},
-          Fall{k.KuehlGradStundenMonat, " 100", {64, 64, 0}},
-          Fall{k.KuehlGradStundenJahr, "Jahressumme", {64, 64, 0}}}) {
-        ASSERT_TRUE(f.bild.lage());
+    for (const Fall& f : std::vector<Fall>{
+             {e.u.Monatsbilanz, "Monat: März| Heizwärmebedarf: 2.4#|Kühlbedarf: 12.3#"},
+             {e.u.JahrBilanz, "Jahresbilanz| Heizwärmebedarf: 24.1@|Kühlbedarf: 12.3@"},
+             {e.u.UeberGrafik,
+              "Monat: März|Heizstunden: 372 h  (50.0 %)|Nullenergiestunden: 279 h  (37.5 %)|Kühlstunden: 93 "
+              "h  (12.5 %)"},
+             {e.u.UeberJahr,
+              "Jahressumme|Heizstunden: 372 h  (4.2 %)|Nullenergiestunden: 279 h  (3.2 %)|Kühlstunden: 93 h  "
+              "(1.1 %)"},
+             {e.h.Heizbilanz,
+              "Monat: März|Lüftungsverluste: 1.1#|Transm.-Verluste: 2.2#|solare Gewinne: 0.5#|interne "
+              "Gewinne: 0.4#|Heizwärme: 2.4#"},
+             {e.h.JahrBilanz,
+              "Jahresbilanz|Lüftungsverluste: 11.0@|Transm.-Verluste: 22.0@|solare Gewinne: 5.1@|interne "
+              "Gewinne: 4.0@|Heizwärme: 24.1@"},
+             {e.h.NutzungsgradMonat,
+              "Monat: März|Nutzbare solare Gewinne: 0.5#|Nicht nutzbare solare Gewinne: 0.8#|Nutzbare "
+              "interne Gewinne: 0.4#|Nicht nutzbare interne Gewinne: 0.2#"},
+             {e.h.NutzungsgradJahr,
+              "Jahresbilanz|Nutzbare solare Gewinne: 0.5@|Nicht nutzbare solare Gewinne: 0.8@|Nutzbare "
+              "interne Gewinne: 0.4@|Nicht nutzbare interne Gewinne: 0.2@"},
+             {e.k.StundenProTagMonat, "Monat: März|Durchschnittliche Überwärmung: 3.0 Stunden pro Tag"},
+             {e.k.StundenProTagJahr, "Jahresmittel:|Durchschnittliche Überwärmung: 0.3 Stunden pro Tag"},
+             {e.k.KuehlbedarfMonat, "Monat: März|Kühlbedarf: 12.3#"},
+             {e.k.KuehlbedarfJahr, "Jahresbilanz|Kühlbedarf: 12.3@"},
+             {e.k.KuehlGradStundenMonat, "Monat: März| Kühlgradstunden: 77.8 Kh"},
+             {e.k.KuehlGradStundenJahr, "Jahressumme:| Kühlgradstunden: 77.8 Kh"}}) {
         RekorderFlaeche bild(f.bild.lage()->breite, f.bild.lage()->hoehe);
         f.bild.zeichnen(bild);
-        const auto texte = bild.texte();
-        EXPECT_NE(std::find(texte.begin(), texte.end(), f.kennzeichen), texte.end()) << f.bild.name;
-        EXPECT_FALSE(test::flaechen(bild, f.balken).empty()) << f.bild.name;
+        const double x = bild.breite() > 100 ? 85 : 50;
+        const double y = bild.lies_punkt(x, 115) == bild.hintergrund() ? 108 : 115;
+        f.bild.maus_bewegt(x, y);
+        EXPECT_TRUE(e.plattform.zeitgeber.empty()) << f.bild.name << ": no view yet";
+        f.bild.lies_punkt = [&bild](double px, double py) { return bild.lies_punkt(px, py); };
+        f.bild.maus_bewegt(x, y);
+        ASSERT_FALSE(e.plattform.zeitgeber.empty()) << f.bild.name;
+        const std::string uhr = e.plattform.zeitgeber.begin()->first;
+        const Tooltip& tooltip = uhr[2] == 'U' ? e.u.tooltip : uhr[2] == 'H' ? e.h.tooltip : e.k.tooltip;
+        EXPECT_EQ(tooltip.Label_Tooltip.text(), tipp(f.text)) << f.bild.name;
+        f.bild.maus_bewegt(90, 2);
+        EXPECT_TRUE(e.plattform.zeitgeber.empty()) << f.bild.name << ": nothing there";
+    }
+}
+
+TEST(Ebenen, DieFlaechenLiegenNebeneinanderAufIhrerEbene) {
+    Probeebenen e;
+    for (const std::vector<Bildfeld*>& ebene : e.flaechen()) {
+        for (const Bildfeld* bild : ebene) {
+            ASSERT_TRUE(bild->lage()) << bild->name;
+            const Rechteck a = *bild->lage();
+            EXPECT_TRUE(a.links >= 4 && a.oben >= 4) << bild->name;
+            EXPECT_TRUE(a.links + a.breite <= 454 && a.oben + a.hoehe <= 505) << bild->name;
+            for (const Bildfeld* anderes : ebene) {
+                const Rechteck b = *anderes->lage();
+                const bool getrennt = a.links + a.breite <= b.links || b.links + b.breite <= a.links ||
+                                      a.oben + a.hoehe <= b.oben || b.oben + b.hoehe <= a.oben;
+                EXPECT_TRUE(anderes == bild || getrennt) << bild->name << " " << anderes->name;
+                EXPECT_TRUE(a.oben != b.oben || a.hoehe == b.hoehe) << bild->name << " in one row";
+            }
+        }
     }
 }
 
 TEST(Ebenen, FassadenbalkenZeigenIhreFassade) {
-    Probesitzung s;
-    A_Heizen h(s.sitzung);
-    Projekt& p = *s.p;
+    Probeebenen e;
+    Projekt& p = *e.p;
     p.Fenstergewinn_N = 10, p.Fenstergewinn_S = 20, p.Fenstergewinn_O = 30, p.Fenstergewinn_W = 40;
     p.Fensterverlust_N = 50, p.Fensterverlust_S = 60, p.Fensterverlust_O = 70, p.Fensterverlust_W = 100;
     struct Fall {
         const Bildfeld& bild;
-        Farbe farbe;
-        double y;
+        double x;  ///< on the plane, in pairs
+        double oben;
     };
-    const Farbe blau{0, 0, 136};
-    for (const Fall& f : {Fall{h.Gewinne_N, farben::gelb, 45}, Fall{h.Gewinne_S, farben::gelb, 40},
-                          Fall{h.Gewinne_O, farben::gelb, 35}, Fall{h.Gewinne_W, farben::gelb, 30},
-                          Fall{h.Verluste_N, blau, 25}, Fall{h.Verluste_S, blau, 20},
-                          Fall{h.Verluste_O, blau, 15}, Fall{h.Verluste_W, blau, 0}}) {
-        RekorderFlaeche bild(f.bild.lage()->breite, f.bild.lage()->hoehe);
+    for (const Fall& f :
+         {Fall{e.h.Gewinne_N, 312, 45}, Fall{e.h.Verluste_N, 322, 25}, Fall{e.h.Gewinne_S, 336, 40},
+          Fall{e.h.Verluste_S, 346, 20}, Fall{e.h.Gewinne_O, 360, 35}, Fall{e.h.Verluste_O, 370, 15},
+          Fall{e.h.Gewinne_W, 384, 30}, Fall{e.h.Verluste_W, 394, 0}}) {
+        RekorderFlaeche bild(10, 51);
         f.bild.zeichnen(bild);
-        EXPECT_EQ(test::flaechen(bild, f.farbe), (std::vector<test::Ecken>{{1, 49, 8, f.y}})) << f.bild.name;
+        const Farbe farbe = f.bild.name[0] == 'G' ? farben::gelb : Farbe{0, 0, 136};
+        EXPECT_EQ(test::flaechen(bild, farbe), (std::vector<test::Ecken>{{1, 49, 8, f.oben}})) << f.bild.name;
+        EXPECT_EQ(f.bild.lage(), (Rechteck{f.x, 424, 10, 51})) << f.bild.name;
     }
 }
 
-TEST(Ebenen, DieRoutinenBestellenIhreFlaechen) {
-    Probesitzung s;
-    A_Uebersicht u(s.sitzung);
-    A_Heizen h(s.sitzung);
-    A_Kuehlen k(s.sitzung);
-    std::string bestellt;
-    for (Bildfeld* bild :
-         {&u.Temperaturen, &u.Monatsbilanz, &u.JahrBilanz, &u.UeberGrafik, &u.UeberJahr, &h.Heizbilanz,
-          &h.Gewinne_N, &h.Verluste_W, &h.NutzungsgradMonat, &h.NutzungsgradJahr, &k.StundenProTagMonat,
-          &k.StundenProTagJahr, &k.KuehlbedarfMonat, &k.KuehlbedarfJahr, &k.KuehlGradStundenMonat,
-          &k.KuehlGradStundenJahr})
-        bild->ansicht = [bild, &bestellt] { bestellt += bild->name + " "; };
-    u.MonatsbilanzZeichnen();
-    u.UeberGrafikZeichnen();
-    h.FassadenbalkenZeichnen();
-    h.HeizbilanzZeichnen();
-    h.NutzungsgradZeichnen();
-    EXPECT_EQ(bestellt,
-              "Monatsbilanz JahrBilanz UeberGrafik UeberJahr Gewinne_N Verluste_W Heizbilanz "
-              "NutzungsgradMonat NutzungsgradJahr ");
-    bestellt.clear();
-    k.aktiviert();
-    EXPECT_EQ(bestellt,
-              "StundenProTagMonat StundenProTagJahr KuehlbedarfMonat KuehlbedarfJahr "
-              "KuehlGradStundenMonat KuehlGradStundenJahr ");
+TEST(Ebenen, JedeRoutineBestelltIhreFlaechen) {
+    Probeebenen e;
+    std::map<const Bildfeld*, int> bestellt;
+    for (const std::vector<Bildfeld*>& ebene : e.flaechen()) {
+        for (Bildfeld* bild : ebene)
+            bild->ansicht = [&zahl = bestellt[bild]] { ++zahl; };
+    }
+    e.u.MonatsbilanzZeichnen();
+    e.u.UeberGrafikZeichnen();
+    e.u.TemperaturDiagrammZeichnen();
+    e.h.aktiviert();
+    e.k.aktiviert();
+    e.s.aktiviert();
+    for (const auto& [bild, anzahl] : bestellt)
+        EXPECT_EQ(anzahl, 1) << bild->name;
+    for (const Feld* ebene : {&e.u.ebene, &e.z.ebene, &e.h.ebene, &e.k.ebene, &e.s.ebene})
+        EXPECT_FALSE(ebene->sichtbar()) << ebene->name;
 }
 
-TEST(A_Heizen, DieFelderEndenMitEinemBlank) {
-    Probesitzung s;
-    A_Heizen h(s.sitzung);
-    h.HeizFelderAusfuellen();
-    EXPECT_EQ(h.qh_s_anz.text(), "24.1 ");
-    EXPECT_EQ(h.qh_anz.text(), "2406 ");
-    EXPECT_EQ(h.qinfs_anz.text(), "11.0 ");
-    EXPECT_EQ(h.qtr_anz.text(), "0 ");
-    EXPECT_EQ(h.Label2.text(), " Heizwärmebedarf:");
+TEST(A_Heizen, DieTabelleZeigtDenDatensatz) {
+    Probeebenen e;
+    e.p->qh = 2406.4F, e.p->qsol = 505, e.p->qi = 400, e.p->qinf = 1100, e.p->qtr = 2200;
+    e.h.aktiviert();
+    const std::vector<std::pair<const Anzeige*, std::string>> felder{
+        {&e.h.qsols_anz, "5.1 "}, {&e.h.qis_anz, "4.0 "}, {&e.h.qh_s_anz, "24.1 "}, {&e.h.qinfs_anz, "11.0 "},
+        {&e.h.qtrs_anz, "22.0 "}, {&e.h.qh_anz, "2406 "}, {&e.h.qsol_anz, "505 "},  {&e.h.qi_anz, "400 "},
+        {&e.h.qinf_anz, "1100 "}, {&e.h.qtr_anz, "2200 "}};
+    for (const auto& [feld, text] : felder)
+        EXPECT_EQ(feld->text(), text) << feld->name;
 }
 
-TEST(A_Uebersicht, EinMonatsknopfWaehltUndWirdMarkiert) {
-    Probesitzung s;
-    s.p->Monat_Uebersicht = 2;
-    A_Uebersicht u(s.sitzung);
-    EXPECT_EQ(s.p->Monat_Uebersicht, 7);
-    EXPECT_EQ(u.monatsleiste.AktiverMonat1.text(), "Jul.");
+TEST(A_Sankey, DieFlaechenZeigenHeizenUeberKuehlen) {
+    Probeebenen e;
+    RekorderFlaeche heizen(sankey_breite, sankey_hoehe);
+    RekorderFlaeche kuehlen(sankey_breite, sankey_hoehe);
+    e.s.Sankey.zeichnen(heizen);
+    e.s.Sankey_Kühlen.zeichnen(kuehlen);
+    EXPECT_FALSE(test::flaechen(heizen, {255, 180, 180}).empty());
+    EXPECT_TRUE(test::steht(kuehlen, "Kein Kühlbedarf vorhanden.", 142, 110));
+    for (const auto& [titel, bild] : {std::pair<const Anzeige&, const Bildfeld&>{e.s.Label1, e.s.Sankey},
+                                      {e.s.Label2, e.s.Sankey_Kühlen}}) {
+        EXPECT_EQ(titel.text().substr(0, 13), "Energiefluß-");
+        EXPECT_EQ(titel.lage()->links, bild.lage()->links);
+        EXPECT_EQ(titel.lage()->oben + titel.lage()->hoehe, bild.lage()->oben);
+    }
+}
+
+TEST(A_Uebersicht, JederKnopfWaehltSeinenMonatInBeidenFenstern) {
+    Probeebenen e("e");
+    EXPECT_EQ(e.p->Monat_Uebersicht, 7);
+    EXPECT_EQ(e.u.monatsleiste.AktiverMonat1.text(), "Jul.");
+    e.z.anordnen(1000, 600);
     int gezeichnet = 0;
-    u.Temperaturen.ansicht = [&] { ++gezeichnet; };
-    u.monatsleiste.knopf(5).druecke();
-    EXPECT_EQ(s.p->Monat_Uebersicht, 5);
-    EXPECT_EQ(gezeichnet, 1);
-    EXPECT_EQ(u.monatsleiste.AktiverMonat1.text(), "Mai");
-    EXPECT_EQ(u.monatsleiste.AktiverMonat.lage(), u.monatsleiste.knopf(5).lage());
-    EXPECT_EQ(u.monatsleiste.AktiverMonat1.lage()->breite, u.monatsleiste.knopf(5).lage()->breite + 1);
-    EXPECT_EQ(s.berechnet, 0);
-    u.aktiviert();
-    EXPECT_EQ(s.berechnet, 1);
-}
-
-TEST(A_Zoom, TeiltDenMonatUndDieFensterbreite) {
-    Probesitzung s("e");
-    A_Uebersicht u(s.sitzung);
-    A_Zoom z(s.sitzung, u.monatswahl);
-    u.zoom_oeffnen = [&] { z.oeffnen(); };
-    int klein = 0;
-    int gross = 0;
-    u.Temperaturen.ansicht = [&] { ++klein; };
-    z.Temperaturen.ansicht = [&] { ++gross; };
-    u.Temperaturen.maus_geklickt(10, 10);
-    EXPECT_TRUE(z.ebene.sichtbar());
-    EXPECT_EQ(gross, 1) << "what was drawn at an earlier opening may be old";
-    EXPECT_EQ(z.monatsleiste.AktiverMonat1.text(), "Jul.");
-    EXPECT_EQ(z.Command_Schliessen.text(), "Close");
-
-    z.anordnen(1000, 600);
-    EXPECT_EQ(z.Temperaturen.lage()->breite, 984);
-    EXPECT_EQ(z.Temperaturen.lage()->hoehe, 544);
-    EXPECT_EQ(z.Command_Schliessen.lage()->links, 856);
-    EXPECT_EQ(z.Command_Schliessen.lage()->oben, 567);
-    EXPECT_EQ(z.monatsleiste.knopf(1).lage()->breite, 84);  // 0 to 83
-    EXPECT_EQ(z.monatsleiste.knopf(2).lage()->links, 83);
-    EXPECT_EQ(z.monatsleiste.knopf(12).lage()->links, 917);  // 916.67
-    EXPECT_EQ(z.monatsleiste.knopf(12).lage()->breite, 84);
-
-    struct Wahl {
-        Monatsleiste& leiste;
-        int monat;
-        const char* name;
-    };
-    klein = gross = 0;
-    for (const Wahl& wahl : {Wahl{z.monatsleiste, 12, "Dec."}, Wahl{u.monatsleiste, 3, "Mar."}}) {
-        wahl.leiste.knopf(wahl.monat).druecke();
-        EXPECT_EQ(s.p->Monat_Uebersicht, wahl.monat);
-        for (Monatsleiste* leiste : {&u.monatsleiste, &z.monatsleiste}) {
-            EXPECT_EQ(leiste->AktiverMonat1.text(), wahl.name);
-            EXPECT_EQ(leiste->AktiverMonat.lage(), leiste->knopf(wahl.monat).lage());
+    for (Bildfeld* bild : {&e.u.Temperaturen, &e.z.Temperaturen})
+        bild->ansicht = [&] { ++gezeichnet; };
+    const std::array<Monatsleiste*, 2> leisten{&e.u.monatsleiste, &e.z.monatsleiste};
+    for (int m = 1; m <= monate; ++m) {
+        leisten[static_cast<std::size_t>(m % 2)]->knopf(m).druecke();
+        EXPECT_EQ(e.p->Monat_Uebersicht, m);
+        EXPECT_EQ(gezeichnet, 2 * m);
+        for (Monatsleiste* leiste : leisten) {
+            const Rechteck knopf = leiste->knopf(m).lage().value();
+            EXPECT_EQ(leiste->knopf(m).text(), e.p->Monat(m).Kurz);
+            EXPECT_EQ(leiste->AktiverMonat1.text(), e.p->Monat(m).Kurz);
+            EXPECT_EQ(leiste->AktiverMonat.lage(), knopf);
+            EXPECT_EQ(leiste->AktiverMonat1.lage(), (Rechteck{0, 0, knopf.breite + 1, knopf.hoehe + 1}));
+            const Rechteck voriger = leiste->knopf(std::max(m - 1, 1)).lage().value();
+            EXPECT_EQ(knopf.links,
+                      m == 1 ? leiste == leisten[0] ? 8 : 0 : voriger.links + voriger.breite - 1);
         }
     }
-    EXPECT_EQ(klein, 2);
-    EXPECT_EQ(gross, 2);
-    z.Command_Schliessen.druecke();
-    EXPECT_FALSE(z.ebene.sichtbar());
+    EXPECT_EQ(e.u.monatsleiste.knopf(12).lage(), (Rechteck{401, 163, 37, 20}));  // 8 + 393.25 to 8 + 429
+    EXPECT_EQ(e.z.monatsleiste.knopf(12).lage(), (Rechteck{917, 0, 84, 22}));    // 916.67 to 1000
+    EXPECT_EQ(e.berechnet, 0);
+    e.u.aktiviert();
+    EXPECT_EQ(e.berechnet, 1);
+}
+
+TEST(A_Zoom, OeffnetMitDemStandDerUebersicht) {
+    Probeebenen e("e");
+    e.u.zoom_oeffnen = [&] { e.z.oeffnen(); };
+    int gezeichnet = 0;
+    e.z.Temperaturen.ansicht = [&] { ++gezeichnet; };
+    e.p->Monat_Uebersicht = 4;
+    e.u.Temperaturen.maus_geklickt(10, 10);
+    EXPECT_TRUE(e.z.ebene.sichtbar());
+    EXPECT_EQ(gezeichnet, 1) << "what was drawn at an earlier opening may be old";
+    EXPECT_EQ(e.z.monatsleiste.AktiverMonat1.text(), "Apr.");
+    EXPECT_EQ(e.z.Command_Schliessen.text(), "Close");
+    e.z.anordnen(1000, 600);
+    EXPECT_EQ(e.z.Temperaturen.lage(), (Rechteck{8, 22, 984, 544}));
+    EXPECT_EQ(e.z.Command_Schliessen.lage(), (Rechteck{856, 567, 136, 25}));
+    e.z.Command_Schliessen.druecke();
+    EXPECT_FALSE(e.z.ebene.sichtbar());
 }
 
 /// The overview with its months' chart drawn on pixels that the plane reads.
@@ -256,69 +265,58 @@ class Tooltiptest : public ::testing::Test {
         u.UeberGrafik.zeichnen(bild);
         u.UeberGrafik.lies_punkt = [this](double x, double y) { return bild.lies_punkt(x, y); };
         u.tooltip.ebenenlage = [] { return Ebenenlage{.haupt = {100, 50}, .ebene = {352, 0}}; };
+        e.plattform.zeiger_ort = {600, 400};
     }
 
     void bewege(double x, double y) { u.UeberGrafik.maus_bewegt(x, y); }
-    [[nodiscard]] bool laeuft() const { return s.plattform.zeitgeber.contains(uhr); }
+    void zeige() {
+        bewege(90, 100);
+        e.plattform.lasse_ablaufen(uhr);
+    }
+    [[nodiscard]] bool laeuft() const { return e.plattform.zeitgeber.contains(uhr); }
     [[nodiscard]] bool sichtbar() const { return u.tooltip.Frame_ToolTip.sichtbar(); }
 
     const std::string uhr = "A_Uebersicht.Timer_Tip_ein";
-    Probesitzung s;
-    A_Uebersicht u{s.sitzung};
+    Probeebenen e;
+    A_Uebersicht& u = e.u;
     RekorderFlaeche bild;
 };
 
 TEST_F(Tooltiptest, ErscheintWennDerZeigerAufEinemBalkenRuht) {
     EXPECT_EQ(u.tooltip.Label_Tooltip.text(), "Infos");
-    s.plattform.zeiger_ort = {600, 400};
     bewege(90, 100);
-    ASSERT_TRUE(laeuft());
+    EXPECT_EQ(e.plattform.zeitgeber[uhr].millisekunden, 1000);
     EXPECT_FALSE(sichtbar());
-    s.plattform.lasse_ablaufen(uhr);
+    e.plattform.zeiger_ort = {601, 400};
+    e.plattform.lasse_ablaufen(uhr);
+    EXPECT_FALSE(sichtbar()) << "the pointer has moved on";
+    e.plattform.zeiger_ort = {600, 400};
+    zeige();
     EXPECT_TRUE(sichtbar());
-    EXPECT_EQ(u.tooltip.Label_Tooltip.text(), u.tipp_uebergrafik(3));
     const Rechteck lage = u.tooltip.Frame_ToolTip.lage().value();
-    EXPECT_EQ(lage.links, 143);
-    EXPECT_EQ(lage.oben, 330);
-    EXPECT_EQ(lage.hoehe, 64);
+    EXPECT_EQ(lage.links, 600 - 100 - 352 - 5);
+    EXPECT_EQ(lage.oben, 400 - 50 - 20);
+    EXPECT_EQ(lage.hoehe, 4 * 12.5 + 14);
     bewege(92, 100);
     EXPECT_FALSE(laeuft());
+    u.tooltip.Label_Tooltip_MouseDown();
+    EXPECT_TRUE(sichtbar());
     u.tooltip.Label_Tooltip_MouseMove();
     EXPECT_FALSE(sichtbar());
-}
-
-TEST_F(Tooltiptest, EinBewegterZeigerZeigtNichts) {
-    s.plattform.zeiger_ort = {600, 400};
-    bewege(90, 100);
-    s.plattform.zeiger_ort = {601, 400};
-    s.plattform.lasse_ablaufen(uhr);
-    EXPECT_FALSE(sichtbar());
-    bewege(90, 100);
-    EXPECT_TRUE(laeuft());
-}
-
-TEST_F(Tooltiptest, AufDemGrundUndNebenDenMonatenVerschwindetEr) {
-    s.plattform.zeiger_ort = {440, 10};
-    bewege(90, 100);
-    s.plattform.lasse_ablaufen(uhr);
+    e.plattform.zeiger_ort = {440, 10};
+    zeige();
     EXPECT_EQ(u.tooltip.Frame_ToolTip.lage()->links, 0);
-    bewege(110, 100);
-    EXPECT_FALSE(sichtbar());
-    bewege(90, 100);
-    EXPECT_TRUE(laeuft());
     bewege(30, 60);  // the axis, left of January
-    EXPECT_FALSE(laeuft());
+    EXPECT_FALSE(sichtbar());
 }
 
 TEST_F(Tooltiptest, NimmtPlatzFuerSeinenTextUndBleibtNichtStehen) {
-    s.plattform.zeiger_ort = {600, 400};
-    bewege(90, 100);
-    s.plattform.lasse_ablaufen(uhr);
+    zeige();
     Groesse bedarf{260, 70};
     u.tooltip.platzbedarf = [&] { return bedarf; };
     bewege(92, 100);
     EXPECT_EQ(u.tooltip.Frame_ToolTip.lage(), (Rechteck{143, 330, 260, 70}));
-    s.p->Monat(3).Stunden_kalt = 100;
+    e.p->Monat(3).Stunden_kalt = 100;
     bedarf.breite = 300;
     u.tooltip.erneuern();
     EXPECT_EQ(u.tooltip.Frame_ToolTip.lage()->breite, 300);
@@ -332,7 +330,7 @@ TEST_F(Tooltiptest, NimmtPlatzFuerSeinenTextUndBleibtNichtStehen) {
         for (const auto& fort : std::vector<std::function<void()>>{
                  [&] { u.aktiviert(); }, [&] { bewege(-1, -1); }, [&] { u.tooltip.verlassen(); }}) {
             bewege(90, 100);
-            if (gezeigt) s.plattform.lasse_ablaufen(uhr);
+            if (gezeigt) e.plattform.lasse_ablaufen(uhr);
             ASSERT_EQ(sichtbar(), gezeigt);
             fort();
             EXPECT_FALSE(sichtbar());
@@ -341,9 +339,31 @@ TEST_F(Tooltiptest, NimmtPlatzFuerSeinenTextUndBleibtNichtStehen) {
     }
 }
 
-TEST_F(Tooltiptest, OhneAnsichtGibtEsKeinen) {
-    u.JahrBilanz.maus_bewegt(60, 100);
-    EXPECT_FALSE(laeuft());
+TEST(Tooltip, SeineArtBestimmtPlatzHoeheUndVerschwinden) {
+    Probeebenen e;
+    Tooltip tooltip(e.plattform, "Ebene",
+                    {.platz = platz_neben_dem_zeiger, .hoehe = 72, .verbirgt_bei_druck = true});
+    tooltip.ebenenlage = [] { return Ebenenlage{.haupt = {100, 50}, .ebene = {10, 0}, .hoehe = 300}; };
+    tooltip.platzbedarf = [] { return Groesse{200, 20}; };
+    Bildfeld bild{"Bild"};
+    tooltip.folge(bild, [](double, double) { return "Text"; });
+    struct Fall {
+        Bildschirmpunkt zeiger;
+        Rechteck lage;
+    };
+    // To the left with the whole width; above the pointer from 278 on, where 72 below 20 above it leave the
+    // plane.
+    for (const Fall& f : {Fall{{500, 298}, {185, 228, 200, 72}}, Fall{{500, 299}, {185, 127, 200, 72}},
+                          Fall{{314, 100}, {0, 30, 200, 72}}}) {
+        e.plattform.zeiger_ort = f.zeiger;
+        bild.maus_bewegt(1, 1);
+        e.plattform.lasse_ablaufen("Ebene.Timer_Tip_ein");
+        EXPECT_EQ(tooltip.Frame_ToolTip.lage(), f.lage);
+        tooltip.Label_Tooltip_MouseMove();
+        EXPECT_TRUE(tooltip.Frame_ToolTip.sichtbar());
+        tooltip.Label_Tooltip_MouseDown();
+        EXPECT_FALSE(tooltip.Frame_ToolTip.sichtbar());
+    }
 }
 
 }  // namespace
