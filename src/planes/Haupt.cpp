@@ -46,7 +46,7 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       a_report(sitzung, [this] { return dokumentquelle(*this); }),
       drucken(sitzung, [this] { return dokumentquelle(*this); }),
       rettung(sitzung),
-      datei(sitzung, rettung, projektwege()),
+      datei(sitzung, rettung, *this),
       menue(sprache),
       plan_(rechenplan()) {
     verbinden();
@@ -139,24 +139,22 @@ Rechenplan Haupt::rechenplan() {
     return plan;
 }
 
-Projektwege Haupt::projektwege() {
-    Projektwege wege;
-    wege.neues_projekt = [this] { neues_projekt(); };
-    wege.neu_moeglich = [this] { return neu_moeglich(); };
-    wege.klimadatei_lesen = [this] { oder_ersatzstation([this] { klimadatei_lesen(); }); };
-    wege.wetter_laden = [this] { oder_ersatzstation([this] { wetter_laden(); }); };
-    wege.eingaben_anzeigen = [this] { eingaben_anzeigen(); };
-    wege.bauteile_anzeigen = [this] { bauteile_anzeigen(); };
-    wege.erste_ebenen = [this] { erste_ebenen(); };
-    wege.ebenen.Innenwandart = [this](int zeile) { e_gebaeude.Innenwandart.setze(zeile); };
-    wege.ebenen.Aussenwandart = [this](int zeile) { e_gebaeude.Aussenwandart.setze(zeile); };
-    wege.ebenen.Check_Dachgeschoss = [this](int wert) { e_geometrie.dachgeschoss_lesen(wert); };
-    wege.ebenen.Option_Dachfirst = [this](int wert) { e_geometrie.dachfirst_lesen(wert); };
-    wege.ebenen.Option1 = [this](int wert) { e_fenster.fenstermodus_lesen(wert); };
-    wege.ebenen.zeile_pruefen = [this](std::string_view feld, int zeile) {
-        if (Fensterseite* seite = e_fenster.seite_mit_typ(feld)) seite->typ.pruefe(zeile);
-    };
-    return wege;
+bool Haupt::stellen(std::string_view feld, int wert) {
+    if (feld == e_gebaeude.Innenwandart.name) {
+        e_gebaeude.Innenwandart.setze(wert);
+    } else if (feld == e_gebaeude.Aussenwandart.name) {
+        e_gebaeude.Aussenwandart.setze(wert);
+    } else if (feld == e_geometrie.Check_Dachgeschoss.name) {
+        e_geometrie.dachgeschoss_lesen(wert);
+    } else if (feld == e_geometrie.Option_Dachfirst.name) {
+        e_geometrie.dachfirst_lesen(wert);
+    } else if (feld == e_fenster.Option1.name) {
+        e_fenster.fenstermodus_lesen(wert);
+    } else {
+        if (const Fensterseite* seite = e_fenster.seite_mit_typ(feld)) seite->typ.pruefe(wert);
+        return false;
+    }
+    return true;
 }
 
 void Haupt::neues_projekt() {
@@ -186,6 +184,14 @@ void Haupt::oder_ersatzstation(const std::function<void()>& laden) {
     } catch (const Dateifehler& fehler) {
         e_klima.station_ersetzen(fehler);
     }
+}
+
+void Haupt::station_lesen() {
+    oder_ersatzstation([this] { klimadatei_lesen(); });
+}
+
+void Haupt::station_laden() {
+    oder_ersatzstation([this] { wetter_laden(); });
 }
 
 bool Haupt::neu_moeglich() {

@@ -19,21 +19,21 @@
 #include "planes/ebenenleiste.h"
 #include "planes/hauptmenue.h"
 #include "project/FILEIO.h"
+#include "project/projektbetrieb.h"
 #include "project/sitzung.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
+#include <string_view>
 
 namespace velmaris {
 
 /// The composition root: the one record, all planes over it, the life of the project and the recalculation.
 /// Large; keep it on the heap.
-struct Haupt {
+struct Haupt : private Projektbetrieb {
     /// `sprache` is "d" or "e"; `programmordner` holds klima/ and Grafiken/.
     Haupt(Plattform& plattform, const std::filesystem::path& programmordner, const std::string& sprache);
-    Haupt(const Haupt&) = delete;
-    Haupt& operator=(const Haupt&) = delete;
-    ~Haupt() = default;
 
     Projekt p;
     Sitzung sitzung;
@@ -64,30 +64,25 @@ struct Haupt {
     /// What the main window does when it comes up: shows both bars and the first planes, notes the printer.
     void laden();
 
-    /// Shows the first input and the first output plane; the user goes on at the input plane.
-    void erste_ebenen();
-
-    /// Sets all inputs, the controls that keep state and the title to those of a new project.
-    void neues_projekt();
+    void erste_ebenen() override;
+    void neues_projekt() override;
 
     /// Makes the station named by the record the current climate: reads it, recalculates and shows its
     /// figures. A station file that cannot be read is a Dateifehler; the former climate stays.
     void wetter_laden();
 
-    /// Moves all input planes to the record's state, in a fixed order, and clears `Geaendert`. Positions are
-    /// whole numbers, so values are rounded to them, and dependent values follow. A position out of range, a
-    /// list row or a combination of heating choices that does not exist is a Laufzeitfehler that names the
-    /// quantity.
-    void eingaben_anzeigen();
-
-    /// The same without the climate plane.
-    void bauteile_anzeigen();
+    void eingaben_anzeigen() override;
+    void bauteile_anzeigen() override;
 
     /// Recalculates and refreshes what is visible; no more than the geometry while no station can be read.
     void alles_berechnen();
 
   private:
-    [[nodiscard]] Projektwege projektwege();
+    bool neu_moeglich() override;
+    void station_lesen() override;
+    void station_laden() override;
+    bool stellen(std::string_view feld, int wert) override;
+
     [[nodiscard]] Rechenplan rechenplan();
     void verbinden();
     void leisten_fuellen();
@@ -100,9 +95,6 @@ struct Haupt {
 
     /// Loads a station for a project; one that cannot be read is replaced, where that is allowed.
     void oder_ersatzstation(const std::function<void()>& laden);
-
-    /// True if the station of a new project can be read; else the user is told.
-    bool neu_moeglich();
 
     Rechenplan plan_;
 };

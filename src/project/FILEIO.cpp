@@ -2,6 +2,7 @@
 
 #include "project/dateiwahl.h"
 #include "project/feldtabelle.h"
+#include "project/projektdatei.h"
 #include "toolkit/fehler.h"
 #include "toolkit/sanduhr.h"
 #include "toolkit/text.h"
@@ -49,19 +50,19 @@ std::string bis_zum_naechsten_projekt(const std::string& sprache) {
 
 void FILEIO::projekt_aufbauen() {
     s_.p.FormLoadGuard = -1;
-    wege_.neues_projekt();
+    betrieb_.neues_projekt();
     eigene_.vergessen();
     s_.projektdatei.clear();
-    wege_.klimadatei_lesen();
-    wege_.eingaben_anzeigen();
+    betrieb_.station_lesen();
+    betrieb_.eingaben_anzeigen();
     s_.p.FormLoadGuard = 0;
     s_.alles_berechnen();
 }
 
 void FILEIO::projekt_vorbereiten() {
     s_.p.FormLoadGuard = -1;
-    wege_.neues_projekt();
-    wege_.bauteile_anzeigen();
+    betrieb_.neues_projekt();
+    betrieb_.bauteile_anzeigen();
     s_.p.FormLoadGuard = 0;
     s_.p.Geaendert = 0;
 }
@@ -69,7 +70,7 @@ void FILEIO::projekt_vorbereiten() {
 /// A fault of the station is told as one of the project file that names it.
 void FILEIO::wetter_der_datei_laden() const {
     try {
-        wege_.wetter_laden();
+        betrieb_.station_laden();
     } catch (const Dateifehler& fehler) {
         const Zweisprachig grund{fehler.text("d"), fehler.text("e")};
         throw Dateifehler(s_.p.Datei, grund, feld_suchen("Klimadatei")->zeile, "Klimadatei");
@@ -107,14 +108,16 @@ bool FILEIO::uebernehmen(const std::string& datei, const std::string& bytes) {
     eigene_.loesen();
     bool gelesen = true;
     try {
-        gelesen = projekt_lesen(p, bytes, datei, wege_.ebenen);
+        gelesen = projekt_lesen(p, bytes, datei, [this](std::string_view feld, int wert) {
+            return betrieb_.stellen(feld, wert);
+        });
         if (!gelesen) {
             p.Datei = unbenannt;
             s_.plattform.melde(falsche_version(p.Sprache, datei));
         }
         const std::string station = p.Klimadatei;
         wetter_der_datei_laden();
-        wege_.eingaben_anzeigen();
+        betrieb_.eingaben_anzeigen();
         rechnen();
         if (p.Klimadatei != station) p.Geaendert = 1;
         if (gelesen) projekt_gehoert_zu(datei, bytes);
@@ -206,7 +209,7 @@ bool FILEIO::rettung_melden() const {
 void FILEIO::datei_neu() {
     if (aenderung_klaeren(&FILEIO::sichern) == Frage::abbrechen) return;
     const Sanduhr sanduhr(s_.plattform);
-    if (!wege_.neu_moeglich() || !aenderung_aufgeben()) return;
+    if (!betrieb_.neu_moeglich() || !aenderung_aufgeben()) return;
     kanal_schliessen();
     projekt_aufbauen();
 }
@@ -235,7 +238,7 @@ void FILEIO::datei_oeffnen(const std::string& datei) {
         if (!aenderung_aufgeben()) return;
         if (uebernehmen(ziel, bytes)) {
             titel_der_datei();
-            wege_.erste_ebenen();
+            betrieb_.erste_ebenen();
         } else {
             titel_unbenannt();
         }
@@ -291,7 +294,7 @@ FILEIO::Sicherung FILEIO::sichern_unter() {
 void FILEIO::gesichertes_zeigen() {
     titel_der_datei();
     try {
-        wege_.eingaben_anzeigen();
+        betrieb_.eingaben_anzeigen();
     } catch (const Laufzeitfehler& fehler) {
         throw als_dateifehler(s_.p.Datei, fehler);
     }

@@ -1,29 +1,16 @@
 #pragma once
 
 #include "project/eigene_datei.h"
-#include "project/projektdatei.h"
+#include "project/projektbetrieb.h"
 #include "project/rettung.h"
 #include "project/sitzung.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <string>
 
 namespace velmaris {
-
-/// What the life of a project needs of the rooms above it.
-struct Projektwege {
-    std::function<bool()> neu_moeglich;   ///< false, and the user is told why, if a new one cannot be built
-    std::function<void()> neues_projekt;  ///< sets the record and the planes to the new project
-    std::function<void()> klimadatei_lesen;   ///< reads the station of the record
-    std::function<void()> wetter_laden;       ///< makes the station of the record the current climate
-    std::function<void()> bauteile_anzeigen;  ///< moves the input planes but the climate's to the record
-    std::function<void()> eingaben_anzeigen;  ///< moves all input planes to the record, clears `Geaendert`
-    std::function<void()> erste_ebenen;       ///< back to the first input and the first output plane
-    Ebenenhaken ebenen;                       ///< what the reader sets on the planes
-};
 
 /// The life of a project: new, open, save, leave, and the questions about unsaved changes. The project file
 /// stays open on channel 1 from open or save until it is replaced or the program ends.
@@ -31,9 +18,10 @@ struct Projektwege {
 /// read from it or wrote into it.
 class FILEIO {
   public:
-    /// `rettung` keeps the changes that a Yes of the question did not save; it must outlive the object.
-    FILEIO(Sitzung& sitzung, const Rettung& rettung, Projektwege wege)
-        : s_(sitzung), rettung_(rettung), wege_(std::move(wege)) {}
+    /// `rettung` keeps the changes that a Yes of the question did not save. All three must outlive the
+    /// object.
+    FILEIO(Sitzung& sitzung, const Rettung& rettung, Projektbetrieb& betrieb)
+        : s_(sitzung), rettung_(rettung), betrieb_(betrieb) {}
 
     /// Builds up a new project and calculates it; the end of the start and the heart of `datei_neu`.
     void projekt_aufbauen();
@@ -97,7 +85,7 @@ class FILEIO {
 
     Sitzung& s_;
     const Rettung& rettung_;
-    Projektwege wege_;
+    Projektbetrieb& betrieb_;
     EigeneDatei eigene_;
     bool ungesichert_ = false;  ///< the user wanted to save, but cancelled that
     std::ifstream kanal1_;

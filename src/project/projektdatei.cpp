@@ -18,16 +18,6 @@ namespace {
 constexpr int letzte_zeile_frueher = 67;
 constexpr int letzte_zeile_jetzt = 69;
 
-/// The control behind a quantity that is set on its plane, nullptr for the plain fields.
-const std::function<void(int)>* haken_fuer(std::string_view name, const Ebenenhaken& haken) {
-    if (name == "Innenwandart") return &haken.Innenwandart;
-    if (name == "Aussenwandart") return &haken.Aussenwandart;
-    if (name == "Check_Dachgeschoss") return &haken.Check_Dachgeschoss;
-    if (name == "Option_Dachfirst") return &haken.Option_Dachfirst;
-    if (name == "Option1") return &haken.Option1;
-    return nullptr;
-}
-
 double zahl_des_postens(std::string_view posten) {
     const std::optional<double> zahl = zahl_pruefen(posten);
     if (zahl) return *zahl;
@@ -46,7 +36,7 @@ float f32_des_postens(std::string_view posten) {
     return f32(zahl);
 }
 
-void ablegen(Projekt& p, const Feldzeile& feld, std::string_view posten, const Ebenenhaken& haken) {
+void ablegen(Projekt& p, const Feldzeile& feld, std::string_view posten, const Feldsteller& stellen) {
     if (const auto* text = std::get_if<std::string Projekt::*>(&feld.zeiger)) {
         if (const auto fehler = klimanamensfehler(posten)) throw Laufzeitfehler(*fehler);
         p.*(*text) = posten;
@@ -54,24 +44,19 @@ void ablegen(Projekt& p, const Feldzeile& feld, std::string_view posten, const E
         p.*(*gleitzahl) = f32_des_postens(posten);
     } else if (const auto* ganzzahl = std::get_if<std::int16_t Projekt::*>(&feld.zeiger)) {
         const std::int16_t wert = i16(zahl_des_postens(posten), feld.name);
-        if (const auto* steller = haken_fuer(feld.name, haken)) {
-            (*steller)(wert);
-        } else {
-            if (haken.zeile_pruefen) haken.zeile_pruefen(feld.name, wert);
-            p.*(*ganzzahl) = wert;
-        }
+        if (!stellen(feld.name, wert)) p.*(*ganzzahl) = wert;
     }
 }
 
 void zeile_lesen(Projekt& p, int zeile, Listenleser& leser, const std::string& name,
-                 const Ebenenhaken& haken) {
+                 const Feldsteller& stellen) {
     const Feldzeile& feld = feld_der_zeile(zeile);
     const std::string feldname(feld.name);
     const auto posten = leser.naechster();
     if (!posten)
         throw Dateifehler(name, {"die Datei endet zu früh", "the file ends too early"}, zeile, feldname);
     try {
-        ablegen(p, feld, *posten, haken);
+        ablegen(p, feld, *posten, stellen);
     } catch (const Laufzeitfehler& fehler) {
         throw Dateifehler(name, fehler.grund(), leser.zeile(), feldname);
     }
@@ -98,20 +83,20 @@ bool bekannte_version(std::string_view bytes) {
     return version == version_jetzt || version == version_frueher;
 }
 
-bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, const Ebenenhaken& haken) {
+bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, const Feldsteller& stellen) {
     if (!bekannte_version(bytes)) return false;
     const std::string text = aus_windows1252(bytes);
     Listenleser leser(text);
     const auto version = leser.naechster();
     for (int zeile = 2; zeile <= letzte_zeile_frueher; ++zeile)
-        zeile_lesen(p, zeile, leser, name, haken);
+        zeile_lesen(p, zeile, leser, name, stellen);
     if (version == version_frueher) {
         p.infiltration = 0;
         p.Waermebruecken = f32(0.1);
         return true;
     }
     for (int zeile = letzte_zeile_frueher + 1; zeile <= letzte_zeile_jetzt; ++zeile) {
-        zeile_lesen(p, zeile, leser, name, haken);
+        zeile_lesen(p, zeile, leser, name, stellen);
     }
     return true;
 }

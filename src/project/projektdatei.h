@@ -16,18 +16,9 @@ inline constexpr std::string_view version_frueher = "Velmaris Version 3.0";
 /// Bound of what is read of a project file, in bytes; the 69 lines themselves take less than 1 KB.
 inline constexpr std::size_t hoechste_projektgroesse = std::size_t{1} << 20U;
 
-/// What the reader sets on the planes as it comes to the line, since these quantities are controls there.
-/// Each call runs the control's handler.
-struct Ebenenhaken {
-    std::function<void(int)> Innenwandart = {};
-    std::function<void(int)> Aussenwandart = {};
-    std::function<void(int)> Check_Dachgeschoss = {};
-    std::function<void(int)> Option_Dachfirst = {};
-    std::function<void(int)> Option1 = {};
-
-    /// Raises a Laufzeitfehler if the list of that quantity has no such row; may be empty.
-    std::function<void(std::string_view feld, int zeile)> zeile_pruefen = {};
-};
+/// Sets a quantity that a control keeps as the reader comes to its line; false for one that only the record
+/// holds.
+using Feldsteller = std::function<bool(std::string_view feld, int wert)>;
 
 /// True if the first line of a project file's text is a version known here.
 [[nodiscard]] bool bekannte_version(std::string_view bytes);
@@ -37,7 +28,7 @@ struct Ebenenhaken {
 /// is changed. A missing line, an item that is no number where one belongs, a number that the field cannot
 /// hold, or an index outside its list is a Dateifehler that names line and field; what was read before it
 /// stays.
-bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, const Ebenenhaken& haken);
+bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, const Feldsteller& stellen);
 
 /// The text of a project file of the current version (69 lines, CR LF, windows-1252).
 [[nodiscard]] std::string projekt_schreiben(const Projekt& p);

@@ -1,5 +1,6 @@
 #include "project/FILEIO.h"
 
+#include "project/projektdatei.h"
 #include "tests/project/projektlauf.h"
 #include "toolkit/fehler.h"
 
