@@ -1,5 +1,6 @@
 #include "planes/Haupt.h"
 
+#include "calc/rechenstufen.h"
 #include "climate/klimadatei.h"
 #include "language/beschriftungen.h"
 #include "language/c_Sprache.h"
@@ -47,8 +48,7 @@ Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, 
       drucken(sitzung, [this] { return dokumentquelle(*this); }),
       rettung(sitzung),
       datei(sitzung, rettung, *this),
-      menue(sprache),
-      plan_(rechenplan()) {
+      menue(sprache) {
     verbinden();
     leisten_fuellen();
     menue_verbinden(*this);
@@ -99,44 +99,6 @@ void Haupt::verbinden() {
     e_gebaeude.nachbar_gezeigt = [this](Wandseite fassade, bool nachbar) {
         e_fenster.nachbar_zeigen(fassade, nachbar);
     };
-}
-
-Rechenplan Haupt::rechenplan() {
-    Rechenplan plan;
-    plan.geometrie_zeigen = [this] {
-        e_geometrie.geometrie_zeigen();
-        e_fenster.geometrie_zeigen();
-    };
-    plan.gebaeude_zeigen = [this] {
-        e_gebaeude.gebaeude_zeigen();
-        a_klima.kennwerte_zeigen(p);
-    };
-    plan.energie = [this] { e_energie.rechnen(); };
-    plan.energie_zeigen = [this] { e_energie.zeigen(); };
-    const auto zeile = [&plan](const char* name, const Feld& ebene, std::function<void()> zeichnen) {
-        plan.tabelle.push_back({name, [&ebene] { return ebene.sichtbar(); }, std::move(zeichnen)});
-    };
-    zeile("AV_diagramm", e_geometrie.ebene, [this] { e_geometrie.AV_diagramm(); });
-    zeile("MonatsbilanzZeichnen", a_uebersicht.ebene, [this] { a_uebersicht.MonatsbilanzZeichnen(); });
-    zeile("UeberGrafikZeichnen", a_uebersicht.ebene, [this] { a_uebersicht.UeberGrafikZeichnen(); });
-    zeile("TemperaturDiagrammZeichnen", a_uebersicht.ebene,
-          [this] { a_uebersicht.TemperaturDiagrammZeichnen(); });
-    zeile("TemperaturDiagrammZeichnen", a_zoom.ebene, [this] { a_zoom.TemperaturDiagrammZeichnen(); });
-    zeile("SankeyHeizen", a_sankey.ebene, [this] { a_sankey.SankeyHeizen(); });
-    zeile("SankeyKuehlen", a_sankey.ebene, [this] { a_sankey.SankeyKuehlen(); });
-    zeile("HeizFelderAusfuellen", a_heizen.ebene, [this] { a_heizen.HeizFelderAusfuellen(); });
-    zeile("FassadenbalkenZeichnen", a_heizen.ebene, [this] { a_heizen.FassadenbalkenZeichnen(); });
-    zeile("JahrBilanzZeichnen", a_heizen.ebene, [this] { a_heizen.JahrBilanzZeichnen(); });
-    zeile("HeizbilanzZeichnen", a_heizen.ebene, [this] { a_heizen.HeizbilanzZeichnen(); });
-    zeile("NutzungsgradZeichnen", a_heizen.ebene, [this] { a_heizen.NutzungsgradZeichnen(); });
-    zeile("StundenProTagZeichnen", a_kuehlen.ebene, [this] { a_kuehlen.StundenProTagZeichnen(); });
-    zeile("KuehlBedarfZeichnen", a_kuehlen.ebene, [this] { a_kuehlen.KuehlBedarfZeichnen(); });
-    zeile("KuehlGradStundenZeichnen", a_kuehlen.ebene, [this] { a_kuehlen.KuehlGradStundenZeichnen(); });
-    zeile("Ausfuellen", a_klima.ebene, [this] { a_klima.Ausfuellen(p); });
-    for (Tooltip* tooltip :
-         {&e_energie.tooltip, &a_uebersicht.tooltip, &a_heizen.tooltip, &a_kuehlen.tooltip})
-        zeile("Tooltip", tooltip->Frame_ToolTip, [tooltip] { tooltip->erneuern(); });
-    return plan;
 }
 
 bool Haupt::stellen(std::string_view feld, int wert) {
@@ -228,12 +190,55 @@ void Haupt::bauteile_anzeigen() {
 
 void Haupt::alles_berechnen() {
     rettung.rechnung_beginnt();
-    if (e_klima.klima_fehlt()) {
-        geometrie_allein(p, plan_);
+    if (p.FormLoadGuard != 0 || e_klima.klima_fehlt()) {
+        geometrie_ohne_pruefung(p);
+        geometrie_zeigen();
     } else {
-        velmaris::alles_berechnen(p, plan_);
+        rechnen();
+        auffrischen();
     }
     rettung.rechnung_gelungen();
+}
+
+void Haupt::rechnen() {
+    geometrie_stufe(p);
+    geometrie_zeigen();
+    bilanz_stufe(p);
+    e_gebaeude.gebaeude_zeigen();
+    a_klima.kennwerte_zeigen(p);
+    simulation_stufe(p);
+    e_energie.zeigen(energie_stufe(p));
+}
+
+void Haupt::geometrie_zeigen() {
+    e_geometrie.geometrie_zeigen();
+    e_fenster.geometrie_zeigen();
+}
+
+void Haupt::auffrischen() {
+    const auto zeile = [](auto& a, auto zeichnen, const auto&... werte) {
+        if (a.ebene.sichtbar()) (a.*zeichnen)(werte...);
+    };
+    zeile(e_geometrie, &E_Geometrie::AV_diagramm);
+    zeile(a_uebersicht, &A_Uebersicht::MonatsbilanzZeichnen);
+    zeile(a_uebersicht, &A_Uebersicht::UeberGrafikZeichnen);
+    zeile(a_uebersicht, &A_Uebersicht::TemperaturDiagrammZeichnen);
+    zeile(a_zoom, &A_Zoom::TemperaturDiagrammZeichnen);
+    zeile(a_sankey, &A_Sankey::SankeyHeizen);
+    zeile(a_sankey, &A_Sankey::SankeyKuehlen);
+    zeile(a_heizen, &A_Heizen::HeizFelderAusfuellen);
+    zeile(a_heizen, &A_Heizen::FassadenbalkenZeichnen);
+    zeile(a_heizen, &A_Heizen::JahrBilanzZeichnen);
+    zeile(a_heizen, &A_Heizen::HeizbilanzZeichnen);
+    zeile(a_heizen, &A_Heizen::NutzungsgradZeichnen);
+    zeile(a_kuehlen, &A_Kuehlen::StundenProTagZeichnen);
+    zeile(a_kuehlen, &A_Kuehlen::KuehlBedarfZeichnen);
+    zeile(a_kuehlen, &A_Kuehlen::KuehlGradStundenZeichnen);
+    zeile(a_klima, &A_Klima::Ausfuellen, p);
+    for (Tooltip* tooltip :
+         {&e_energie.tooltip, &a_uebersicht.tooltip, &a_heizen.tooltip, &a_kuehlen.tooltip}) {
+        if (tooltip->Frame_ToolTip.sichtbar()) tooltip->erneuern();
+    }
 }
 
 }  // namespace velmaris

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "calc/alles_berechnen.h"
 #include "charts/planes/A_Heizen.h"
 #include "charts/planes/A_Kuehlen.h"
 #include "charts/planes/A_Sankey.h"
@@ -64,6 +63,7 @@ struct Haupt : private Projektbetrieb {
     /// What the main window does when it comes up: shows both bars and the first planes, notes the printer.
     void laden();
 
+    // What the life of a project asks for, open to others too.
     void erste_ebenen() override;
     void neues_projekt() override;
 
@@ -74,7 +74,9 @@ struct Haupt : private Projektbetrieb {
     void eingaben_anzeigen() override;
     void bauteile_anzeigen() override;
 
-    /// Recalculates and refreshes what is visible; no more than the geometry while no station can be read.
+    /// Recalculates the building and refreshes what is visible; follows every change of an input. No more
+    /// than the geometry under the load guard and while no station can be read. Errors as in
+    /// `geometrie_stufe`.
     void alles_berechnen();
 
   private:
@@ -83,9 +85,13 @@ struct Haupt : private Projektbetrieb {
     void station_laden() override;
     bool stellen(std::string_view feld, int wert) override;
 
-    [[nodiscard]] Rechenplan rechenplan();
     void verbinden();
     void leisten_fuellen();
+    void rechnen();
+    void geometrie_zeigen();
+
+    /// Draws anew what lies on the visible planes, in a fixed order.
+    void auffrischen();
 
     /// Notes which printer is the current one.
     void drucker_merken();
@@ -95,8 +101,6 @@ struct Haupt : private Projektbetrieb {
 
     /// Loads a station for a project; one that cannot be read is replaced, where that is allowed.
     void oder_ersatzstation(const std::function<void()>& laden);
-
-    Rechenplan plan_;
 };
 
 }  // namespace velmaris

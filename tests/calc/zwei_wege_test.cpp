@@ -1,6 +1,6 @@
-#include "calc/alles_berechnen.h"
 #include "calc/geometrie.h"
 #include "calc/monatsbilanz.h"
+#include "calc/rechenstufen.h"
 #include "climate/klimadatei.h"
 #include "climate/strahlung.h"
 #include "planes/Haupt.h"
@@ -85,7 +85,9 @@ Vergleich vergleichen(const Projekt& a, const Projekt& b) {
 void beide_wege(Projekt& schnell) {
     const auto geschrieben = std::make_unique<Projekt>(schnell);
     monatsstrahlung_berechnen(schnell);
-    alles_berechnen(schnell, {});
+    geometrie_stufe(schnell);
+    bilanz_stufe(schnell);
+    simulation_stufe(schnell);
 
     test::monatsstrahlung_wie_geschrieben(*geschrieben);
     geometrie_berechnen(*geschrieben);

@@ -58,18 +58,14 @@ void E_Energie::aktiviert() {
 }
 
 void E_Energie::EnergRefresh() {
-    rechnen();
-    zeigen();
+    zeigen(energ_refresh(sitzung_.p));
 }
 
-void E_Energie::rechnen() {
-    kennwerte_ = energ_refresh(sitzung_.p);
-}
-
-void E_Energie::zeigen() {
+void E_Energie::zeigen(const Kennwerte& kennwerte) {
+    kennwerte_ = kennwerte;
     auswahl_zeigen();
-    felder_fuellen(kennwerte_);
-    beschriften(kennwerte_.name);
+    felder_fuellen(kennwerte);
+    beschriften(kennwerte.name);
     if (ebene.sichtbar()) bilder_erneuern();
 }
 

@@ -66,9 +66,8 @@ struct E_Energie {
     /// while the plane is visible. Errors as in `kombination_pruefen`.
     void EnergRefresh();
 
-    /// The two halves of it: the arithmetic alone, and the plane alone.
-    void rechnen();
-    void zeigen();
+    /// Shows the results with their characteristic values, the second half of it.
+    void zeigen(const Kennwerte& kennwerte);
 
     /// Takes entry i (1..9) of the open list and closes it: stores the choice and recalculates. The dirty
     /// flag stays. An entry that is hidden, or that the row of the record does not offer, cannot be taken.
@@ -78,7 +77,7 @@ struct E_Energie {
     /// 1. Errors as in `kombination_pruefen`.
     void eingaben_anzeigen();
 
-    /// The characteristic values of the last `EnergRefresh`.
+    /// The characteristic values shown last.
     [[nodiscard]] const Kennwerte& kennwerte() const { return kennwerte_; }
 
     /// A click on the panel beside its entries, which closes it.
