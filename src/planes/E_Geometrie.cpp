@@ -69,8 +69,7 @@ E_Geometrie::E_Geometrie(Sitzung& sitzung) : s_(sitzung) {
     AV_Picture.zeichnen = [this](Zeichenflaeche& flaeche) { av_diagramm_zeichnen(s_.p, flaeche); };
     Picture1.zeichnen = [this](Zeichenflaeche& flaeche) { lageplan_zeichnen(s_.p, flaeche); };
     Label4.schreibe(Zweisprachig{"Dachhöhe:", "height of roof"}.in(s_.p.Sprache));
-    Option_Dachfirst.markiere(1);
-    s_.p.Option_Dachfirst = 1;
+    Option_Dachfirst.markiere(s_.p.Option_Dachfirst);
     dach_zeigen();
     orient_zeigen();
     ebene.zeige(false);

@@ -13,11 +13,13 @@
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace velmaris {
 namespace {
 
-/// The record before the first plane is built: language, texts and folders.
+/// Makes the record ready for the planes: language, texts, folders, and the ridge that the program starts
+/// with.
 void vorbereiten(Projekt& p, const Plattform& plattform, const std::filesystem::path& programmordner,
                  const std::string& sprache) {
     p.Sprache = sprache;
@@ -25,14 +27,22 @@ void vorbereiten(Projekt& p, const Plattform& plattform, const std::filesystem::
     p.Datenordner = datenordner_bestimmen(programmordner, plattform.datenordner());
     p.InitDir = programmordner;
     p.Datei = unbenannt;
+    p.Option_Dachfirst = 1;
     sprachtexte_setzen(p);
+}
+
+/// The session on a record that is ready.
+Sitzung sitzung_eroeffnen(Projekt& p, Plattform& plattform, const std::filesystem::path& programmordner,
+                          const std::string& sprache, std::function<void()> alles_berechnen) {
+    vorbereiten(p, plattform, programmordner, sprache);
+    return {p, plattform, std::move(alles_berechnen)};
 }
 
 }  // namespace
 
 Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, const std::string& sprache)
-    : sitzung{p, plattform, [this] { alles_berechnen(); }},
-      e_geometrie((vorbereiten(p, plattform, programmordner, sprache), sitzung)),
+    : sitzung(sitzung_eroeffnen(p, plattform, programmordner, sprache, [this] { alles_berechnen(); })),
+      e_geometrie(sitzung),
       e_fenster(sitzung),
       e_daemmung(sitzung),
       e_gebaeude(sitzung),

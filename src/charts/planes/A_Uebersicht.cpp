@@ -8,8 +8,6 @@
 namespace velmaris {
 namespace {
 
-constexpr int anfangsmonat = 7;
-
 /// A line with hours and their share of all hours.
 std::string stundenzeile(const Anzeige& name, int h, double alle) {
     return "\r" + name.text() + ": " + muster(h, 0) + " h  (" + muster(h / alle * 100, 1) + " %)";
@@ -25,7 +23,6 @@ std::string stundenzeilen(const A_Uebersicht& ebene, const Betriebsstunden& h, d
 A_Uebersicht::A_Uebersicht(Sitzung& sitzung)
     : monatswahl(sitzung.p), tooltip(sitzung.plattform, ebene.name), sitzung_(sitzung) {
     const Projekt& p = sitzung.p;
-    sitzung.p.Monat_Uebersicht = anfangsmonat;
     ebene.zeige(false);
     monatswahl.nimm_auf(monatsleiste, Temperaturen);
     Monatsbilanz.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::MonatsbilanzZeichnen(p, bild); };

@@ -13,7 +13,6 @@ namespace velmaris {
 
 /// The overview plane: temperatures of one month, demand and operating hours of the year.
 struct A_Uebersicht {
-    /// Sets the month shown to July and the captions to the language of the run.
     explicit A_Uebersicht(Sitzung& sitzung);
 
     Feld ebene{"A_Uebersicht"};  ///< the plane itself, hidden at first
