@@ -67,7 +67,6 @@ Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
     report_ansicht(haupt.a_report, mittel, this);
     druck_ansicht(haupt.drucken, mittel, this);
     klimaimport_ansicht(haupt.e_klimaimport, mittel, this);
-    haupt.a_uebersicht.zoom_oeffnen = [&haupt] { haupt.a_zoom.oeffnen(); };
 }
 
 void Hauptfenster::menue_bauen() {

@@ -20,7 +20,7 @@ std::vector<std::string> bauarten(const std::string& sprache) {
 
 }  // namespace
 
-E_Gebaeude::E_Gebaeude(Sitzung& sitzung) : s_(sitzung) {
+E_Gebaeude::E_Gebaeude(Sitzung& sitzung, E_Fenster& fenster) : s_(sitzung), fenster_(fenster) {
     for (Eingabefeld* feld : {&intg_sb, &infiltration_sb, &lw_sb, &WRG_Sb, &Klimaeffizienz_sb}) {
         feld->geaendert = [this, feld] {
             feld->uebernehmen(s_.p);
@@ -85,7 +85,7 @@ void E_Gebaeude::wand_geklickt(Wandseite fassade) {
     for (const Wand& wand : waende()) {
         if (wand.fassade != fassade) continue;
         s_.p.*wand.feld = i16(1 - wand.check->wert(), wand.check->name);
-        if (nachbar_gezeigt) nachbar_gezeigt(fassade, wand.check->wert() == 1);
+        fenster_.nachbar_zeigen(fassade, wand.check->wert() == 1);
     }
     geaendert(s_);
 }

@@ -1,19 +1,20 @@
 #pragma once
 
+#include "planes/E_Fenster.h"
 #include "planes/scrolltabelle.h"
 #include "project/sitzung.h"
 #include "project/wandseite.h"
 #include "toolkit/felder.h"
 
 #include <array>
-#include <functional>
 
 namespace velmaris {
 
 /// The plane of use and construction: set temperature, overheating limit, internal gains, air change,
 /// neighbours, heaviness of the walls, efficiency of the cooling.
 struct E_Gebaeude {
-    explicit E_Gebaeude(Sitzung& sitzung);
+    /// `fenster` locks the window share of a wall to a heated neighbour.
+    E_Gebaeude(Sitzung& sitzung, E_Fenster& fenster);
 
     Feld ebene{"E_Gebaeude"};
 
@@ -31,9 +32,6 @@ struct E_Gebaeude {
 
     Anzeige cges_anz{"cges_anz"}, Cwirk_anz{"Cwirk_anz"};
     Bildfeld Traegheit{"Traegheit"};  ///< the stacked weight
-
-    /// Tells the windows plane whether the wall of a facade adjoins a heated neighbour.
-    std::function<void(Wandseite, bool)> nachbar_gezeigt;
 
     /// Copies the heat capacity into its displays.
     void gebaeude_zeigen();
@@ -56,6 +54,7 @@ struct E_Gebaeude {
     [[nodiscard]] std::array<Wand, 4> waende();
 
     Sitzung& s_;
+    E_Fenster& fenster_;
 };
 
 }  // namespace velmaris

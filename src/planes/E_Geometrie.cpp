@@ -50,7 +50,7 @@ constexpr int dachhoehe_ein_meter = -10;
 
 }  // namespace
 
-E_Geometrie::E_Geometrie(Sitzung& sitzung) : s_(sitzung) {
+E_Geometrie::E_Geometrie(Sitzung& sitzung, E_Daemmung& daemmung) : s_(sitzung), daemmung_(daemmung) {
     for (Eingabefeld* feld : {&l_sb, &b_sb, &h_sb, &hd_sb, &ag_sb}) {
         feld->geaendert = [this, feld] {
             feld->uebernehmen(s_.p);
@@ -100,7 +100,7 @@ void E_Geometrie::dach_zeigen() {
     Frame3.aktiviere(beheizt);
     dachbild_zeigen();
     dachbeschriftung_zeigen(s_.p.Option_Dachfirst);
-    if (dachgeschoss_gezeigt) dachgeschoss_gezeigt(beheizt);
+    daemmung_.dachgeschoss_zeigen(beheizt);
     hd_sb.zeige(beheizt);
     h_sb.lege(beheizt ? hoehe_unter_dach : hoehe_allein);
     for (Anzeige* anzeige : {&Label9, &Label6, &Label4, &hd_anz, &dachfläche_anz, &Giebel_anz}) {

@@ -1,17 +1,17 @@
 #pragma once
 
+#include "planes/E_Daemmung.h"
 #include "planes/scrolltabelle.h"
 #include "project/sitzung.h"
 #include "toolkit/felder.h"
-
-#include <functional>
 
 namespace velmaris {
 
 /// The plane on which the box-shaped building gets its shape: length, width, height, floors, heated attic
 /// with its ridge, orientation.
 struct E_Geometrie {
-    explicit E_Geometrie(Sitzung& sitzung);
+    /// `daemmung` shows the upper closure as the attic has it.
+    E_Geometrie(Sitzung& sitzung, E_Daemmung& daemmung);
 
     Feld ebene{"E_Geometrie"};  ///< the plane as a window
 
@@ -38,9 +38,6 @@ struct E_Geometrie {
     Bildfeld AV_Picture{"AV_Picture"};  ///< A/V chart
     Bildfeld Picture1{"Picture1"};      ///< orientation sketch
     Bildfeld Picture3{"Picture3"};      ///< house picture
-
-    /// Tells the insulation plane whether the attic is heated.
-    std::function<void(bool)> dachgeschoss_gezeigt;
 
     /// The roof logic behind the check field, which carries the new state already: hides or shows what
     /// belongs to the roof, resets `hd` to 0 or to 1 m, recalculates.
@@ -76,6 +73,7 @@ struct E_Geometrie {
     void dachbeschriftung_zeigen(int first);
 
     Sitzung& s_;
+    E_Daemmung& daemmung_;
 };
 
 }  // namespace velmaris

@@ -42,24 +42,24 @@ Sitzung sitzung_eroeffnen(Projekt& p, Plattform& plattform, const std::filesyste
 
 Haupt::Haupt(Plattform& plattform, const std::filesystem::path& programmordner, const std::string& sprache)
     : sitzung(sitzung_eroeffnen(p, plattform, programmordner, sprache, [this] { alles_berechnen(); })),
-      e_geometrie(sitzung),
-      e_fenster(sitzung),
       e_daemmung(sitzung),
-      e_gebaeude(sitzung),
+      e_geometrie(sitzung, e_daemmung),
+      e_fenster(sitzung),
+      e_gebaeude(sitzung, e_fenster),
       e_klima(sitzung, [this] { wetter_laden(); }),
       e_energie(sitzung),
-      a_uebersicht(sitzung),
+      monatswahl(p),
+      a_zoom(sitzung, monatswahl),
+      a_uebersicht(sitzung, monatswahl, a_zoom),
       a_heizen(sitzung),
       a_kuehlen(sitzung),
       a_sankey(sitzung),
-      a_zoom(sitzung, a_uebersicht.monatswahl),
       e_klimaimport(sitzung),
       a_report(sitzung, [this] { return dokumentquelle(*this); }),
       drucken(sitzung, [this] { return dokumentquelle(*this); }),
       rettung(sitzung),
       datei(sitzung, rettung, *this),
       menue(sprache) {
-    verbinden();
     leisten_fuellen();
     menue_verbinden(*this);
 }
@@ -102,13 +102,6 @@ void Haupt::erste_ebenen() {
     e_menue.klicke("Geometrie");
     a_menue.klicke("Uebersicht");
     e_menue.zuwenden();
-}
-
-void Haupt::verbinden() {
-    e_geometrie.dachgeschoss_gezeigt = [this](bool beheizt) { e_daemmung.dachgeschoss_zeigen(beheizt); };
-    e_gebaeude.nachbar_gezeigt = [this](Wandseite fassade, bool nachbar) {
-        e_fenster.nachbar_zeigen(fassade, nachbar);
-    };
 }
 
 bool Haupt::stellen(std::string_view feld, int wert) {

@@ -5,6 +5,7 @@
 #include "charts/planes/A_Sankey.h"
 #include "charts/planes/A_Uebersicht.h"
 #include "charts/planes/A_Zoom.h"
+#include "charts/planes/monatswahl.h"
 #include "climate/planes/A_Klima.h"
 #include "climate/planes/E_Klima.h"
 #include "climate/planes/E_Klimaimport.h"
@@ -36,18 +37,19 @@ struct Haupt : private Projektbetrieb {
 
     Projekt p;
     Sitzung sitzung;
+    E_Daemmung e_daemmung;
     E_Geometrie e_geometrie;
     E_Fenster e_fenster;
-    E_Daemmung e_daemmung;
     E_Gebaeude e_gebaeude;
     E_Klima e_klima;
     E_Energie e_energie;
+    Monatswahl monatswahl;
+    A_Zoom a_zoom;
     A_Uebersicht a_uebersicht;
     A_Klima a_klima;
     A_Heizen a_heizen;
     A_Kuehlen a_kuehlen;
     A_Sankey a_sankey;
-    A_Zoom a_zoom;
     E_Klimaimport e_klimaimport;
     A_Report a_report;
     Drucken drucken;
@@ -85,7 +87,6 @@ struct Haupt : private Projektbetrieb {
     void station_laden() override;
     bool stellen(std::string_view feld, int wert) override;
 
-    void verbinden();
     void leisten_fuellen();
     void rechnen();
     void geometrie_zeigen();

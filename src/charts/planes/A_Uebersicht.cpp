@@ -20,8 +20,8 @@ std::string stundenzeilen(const A_Uebersicht& ebene, const Betriebsstunden& h, d
 
 }  // namespace
 
-A_Uebersicht::A_Uebersicht(Sitzung& sitzung)
-    : monatswahl(sitzung.p), tooltip(sitzung.plattform, ebene.name), sitzung_(sitzung) {
+A_Uebersicht::A_Uebersicht(Sitzung& sitzung, Monatswahl& monatswahl, A_Zoom& zoom)
+    : tooltip(sitzung.plattform, ebene.name), sitzung_(sitzung), monatswahl_(monatswahl), zoom_(zoom) {
     const Projekt& p = sitzung.p;
     ebene.zeige(false);
     monatswahl.nimm_auf(monatsleiste, Temperaturen);
@@ -33,9 +33,7 @@ A_Uebersicht::A_Uebersicht(Sitzung& sitzung)
     tooltip.folge_jahr(JahrBilanz, [this] { return tipp_jahrbilanz(); });
     tooltip.folge_monaten(UeberGrafik, [this](int m) { return tipp_uebergrafik(m); });
     tooltip.folge_jahr(UeberJahr, [this] { return tipp_ueberjahr(); });
-    Temperaturen.gedrueckt = [this] {
-        if (zoom_oeffnen) zoom_oeffnen();
-    };
+    Temperaturen.gedrueckt = [this] { zoom_.oeffnen(); };
     Temperaturen.maus_geklickt = [this](double, double) { Temperaturen.gedrueckt(); };
     anordnen();
     laden();
@@ -56,13 +54,13 @@ void A_Uebersicht::anordnen() {
 void A_Uebersicht::laden() {
     beschriften(ebene.name, sitzung_.p.Sprache, {&Label9, &Label1, &Label32, &Label01, &Label02});
     monatsleiste.beschriften(sitzung_.p);
-    monatswahl.markiere();
+    monatswahl_.markiere();
 }
 
 void A_Uebersicht::aktiviert() {
     tooltip.verlassen();
     sitzung_.alles_berechnen();
-    monatswahl.markiere();
+    monatswahl_.markiere();
 }
 
 void A_Uebersicht::MonatsbilanzZeichnen() const {

@@ -1,33 +1,31 @@
 #pragma once
 
+#include "charts/planes/A_Zoom.h"
 #include "charts/planes/monatsleiste.h"
 #include "charts/planes/monatswahl.h"
 #include "charts/tooltip.h"
 #include "project/sitzung.h"
 #include "toolkit/felder.h"
 
-#include <functional>
 #include <string>
 
 namespace velmaris {
 
 /// The overview plane: temperatures of one month, demand and operating hours of the year.
 struct A_Uebersicht {
-    explicit A_Uebersicht(Sitzung& sitzung);
+    /// A click on the temperature chart opens `zoom`, which shows it at window size; both follow
+    /// `monatswahl`.
+    A_Uebersicht(Sitzung& sitzung, Monatswahl& monatswahl, A_Zoom& zoom);
 
     Feld ebene{"A_Uebersicht"};  ///< the plane itself, hidden at first
 
     Bildfeld Temperaturen{"Temperaturen"};
     Monatsleiste monatsleiste;
-    Monatswahl monatswahl;  ///< shared with the chart at window size
     Bildfeld Monatsbilanz{"Monatsbilanz"}, JahrBilanz{"JahrBilanz"};
     Anzeige Label9{"Label9"}, Label1{"Label1"};
     Bildfeld UeberGrafik{"UeberGrafik"}, UeberJahr{"UeberJahr"};
     Anzeige Label32{"Label32"}, Label01{"Label01"}, Label02{"Label02"};
     Tooltip tooltip;
-
-    /// Opens the temperature chart at window size; set by the main window.
-    std::function<void()> zoom_oeffnen;
 
     /// Captions in the language of the run.
     void laden();
@@ -50,6 +48,8 @@ struct A_Uebersicht {
     void anordnen();
 
     Sitzung& sitzung_;
+    Monatswahl& monatswahl_;
+    A_Zoom& zoom_;
 };
 
 }  // namespace velmaris

@@ -53,8 +53,9 @@ struct Probeebenen {
     test::Testplattform plattform;
     int berechnet = 0;
     Sitzung sitzung{*p, plattform, [this] { ++berechnet; }};
-    A_Uebersicht u{sitzung};
-    A_Zoom z{sitzung, u.monatswahl};
+    Monatswahl monatswahl{*p};
+    A_Zoom z{sitzung, monatswahl};
+    A_Uebersicht u{sitzung, monatswahl, z};
     A_Heizen h{sitzung};
     A_Kuehlen k{sitzung};
     A_Sankey s{sitzung};
@@ -242,7 +243,6 @@ TEST(A_Uebersicht, JederKnopfWaehltSeinenMonatInBeidenFenstern) {
 
 TEST(A_Zoom, OeffnetMitDemStandDerUebersicht) {
     Probeebenen e("e");
-    e.u.zoom_oeffnen = [&] { e.z.oeffnen(); };
     int gezeichnet = 0;
     e.z.Temperaturen.ansicht = [&] { ++gezeichnet; };
     e.p->Monat_Uebersicht = 4;
