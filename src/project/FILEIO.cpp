@@ -271,18 +271,11 @@ FILEIO::Sicherung FILEIO::sichern() {
 }
 
 bool FILEIO::ersetzen_erlaubt() {
-    std::error_code fehler;
-    if (!std::filesystem::exists(pfad(s_.p.Datei), fehler)) return true;
     const Zweisprachig fremd{
         "Die Datei wurde geändert, seit dieses Programm sie geöffnet oder gespeichert hat.",
         "The file has been changed since this program opened or saved it."};
     const bool geaendert = eigene_.fremd_geaendert(pfad(s_.p.Datei));
-    return s_.plattform.melde({.text = s_.p.Datei + "\n" + s_.p.texte.txt_Ersetzen,
-                               .titel = "Velmaris",
-                               .symbol = Symbol::ausrufezeichen,
-                               .knoepfe = Knoepfe::ja_nein,
-                               .vorgabe = Antwort::nein,
-                               .hinweis = geaendert ? fremd.in(s_.p.Sprache) : std::string()}) == Antwort::ja;
+    return velmaris::ersetzen_erlaubt(s_, s_.p.Datei, geaendert ? fremd.in(s_.p.Sprache) : std::string());
 }
 
 FILEIO::Sicherung FILEIO::sichern_unter() {

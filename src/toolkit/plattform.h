@@ -32,7 +32,6 @@ struct Dateidialog {
     std::filesystem::path ordner = {};
     std::string dateiname = {};
     std::string endung = {};  ///< added to a name that has none, with its point
-    bool ueberschreiben_fragen = false;
 };
 
 /// A point of the screen in pixels.

@@ -1,3 +1,4 @@
+#include "project/dateiwahl.h"
 #include "tests/project/projektlauf.h"
 
 #include <functional>
@@ -175,6 +176,24 @@ TEST(Dateiwahl, DieDialogeBeginnenWoDerLetzteWar) {
     h.p.InitDir = ordner / "weg/Haus 2.5.VEL";
     h.datei.datei_oeffnen({});
     EXPECT_EQ(neu.plattform().dialoge.back().ordner, ordner / "weg") << "the command line may name a project";
+}
+
+TEST_F(Sichern, EinZielWirdNurNachEinemJaErsetzt) {
+    const Dateidialog dialog{.art = Dateidialog::Art::speichern};
+    const fs::path neu = programm.ordner / "neu.rtf";
+    plattform().dateien = {haus, neu};
+    plattform().antworten = {Antwort::nein};
+    EXPECT_EQ(zieldatei_erfragen(programm.haupt->sitzung, dialog), neu);
+    EXPECT_EQ(plattform().dialoge.back().dateiname, "haus.vel");
+    EXPECT_EQ(plattform().dialoge.back().ordner, haus.parent_path());
+    EXPECT_EQ(plattform().meldungen.back().text,
+              pfadtext(haus) + "\nDiese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?");
+    EXPECT_EQ(plattform().meldungen.back().vorgabe, Antwort::nein);
+    plattform().dateien = {haus, neu};
+    plattform().antworten = {Antwort::ja};
+    EXPECT_EQ(zieldatei_erfragen(programm.haupt->sitzung, dialog), haus);
+    plattform().dateien.clear();
+    EXPECT_EQ(zieldatei_erfragen(programm.haupt->sitzung, dialog), std::nullopt);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "climate/import/importziel.h"
 
+#include "toolkit/rueckfrage.h"
 #include "toolkit/text.h"
 
 #include <algorithm>
@@ -49,11 +50,7 @@ bool darf_ersetzen(Plattform& plattform, const std::string& sprache, const std::
         "vorhandene Datensatz überschrieben werden?",
         "This filename already exists. Should the data set, saved under this filename, be "
         "overwritten?"};
-    return plattform.melde({.text = frage.in(sprache),
-                            .titel = titel,
-                            .symbol = Symbol::ausrufezeichen,
-                            .knoepfe = Knoepfe::ja_nein,
-                            .vorgabe = Antwort::nein}) == Antwort::ja;
+    return bejaht(plattform, {.text = frage.in(sprache), .titel = titel});
 }
 
 }  // namespace

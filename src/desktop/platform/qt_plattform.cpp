@@ -163,14 +163,9 @@ std::optional<std::string> QtPlattform::eingabe(const std::string& text, const s
 
 std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog& dialog) {
     const Zeigerpause pause(sanduhr_);
-    Dateidialog naechster = dialog;
-    while (true) {
-        std::optional<std::filesystem::path> datei = datei_waehlen(naechster);
-        if (datei && !datei->has_extension()) *datei += dialog.endung;
-        if (!datei || !dialog.ueberschreiben_fragen || ersetzen_erlaubt(*datei)) return datei;
-        naechster.ordner = datei->parent_path();
-        naechster.dateiname = pfadtext(datei->filename());
-    }
+    std::optional<std::filesystem::path> datei = datei_waehlen(dialog);
+    if (datei && !datei->has_extension()) *datei += dialog.endung;
+    return datei;
 }
 
 std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialog& dialog) {
@@ -210,18 +205,6 @@ void QtPlattform::beschriften(QFileDialog& fenster, Dateidialog::Art art) const 
     beschrifte(QFileDialog::LookIn, "Suchen in:", "Look in:");
     beschrifte(QFileDialog::FileName, "Datei&name:", "File &name:");
     beschrifte(QFileDialog::FileType, "Dateityp:", "Files of type:");
-}
-
-bool QtPlattform::ersetzen_erlaubt(const std::filesystem::path& datei) {
-    std::error_code fehler;
-    if (!std::filesystem::exists(datei, fehler)) return true;
-    const Zweisprachig frage{"Diese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?",
-                             "This file already exists.\n\n      Overwrite it?"};
-    return melde({.text = pfadtext(datei) + "\n" + frage.in(sprache_()),
-                  .titel = "Velmaris",
-                  .symbol = Symbol::ausrufezeichen,
-                  .knoepfe = Knoepfe::ja_nein,
-                  .vorgabe = Antwort::nein}) == Antwort::ja;
 }
 
 void QtPlattform::sanduhr(bool an) {

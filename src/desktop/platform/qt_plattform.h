@@ -69,7 +69,6 @@ class QtPlattform final : public Plattform {
     [[nodiscard]] QString wort(const char* de, const char* en) const;
     [[nodiscard]] std::optional<std::filesystem::path> datei_waehlen(const Dateidialog& dialog);
     void beschriften(QFileDialog& fenster, Dateidialog::Art art) const;
-    [[nodiscard]] bool ersetzen_erlaubt(const std::filesystem::path& datei);
 
     const Fehlerwache& wache_;
     std::function<std::string()> sprache_;

@@ -33,12 +33,11 @@ constexpr Dateiart report_datei{"Rich Text Format (*.rtf)|*.rtf", ".rtf"};
 constexpr Dateiart text_datei{"Textdatei (*.txt)|*.txt", ".txt"};
 
 std::optional<std::filesystem::path> zieldatei(Sitzung& sitzung, const Dateiart& art) {
-    return datei_erfragen(sitzung, {.art = Dateidialog::Art::speichern,
-                                    .filter = art.filter,
-                                    .filterindex = 1,
-                                    .dateiname = namensvorschlag(sitzung, art.endung),
-                                    .endung = art.endung,
-                                    .ueberschreiben_fragen = true});
+    return zieldatei_erfragen(sitzung, {.art = Dateidialog::Art::speichern,
+                                        .filter = art.filter,
+                                        .filterindex = 1,
+                                        .dateiname = namensvorschlag(sitzung, art.endung),
+                                        .endung = art.endung});
 }
 
 /// The buttons of the pages, by name and number.

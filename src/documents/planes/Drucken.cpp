@@ -59,12 +59,11 @@ std::optional<Druckziel> Drucken::ziel() const {
     const Projekt& p = sitzung_.p;
     const std::filesystem::path projekt = pfad(p.Datei).filename();
     if (!drucker_.empty()) return Druckziel{.titel = pfadtext(projekt), .drucker = drucker_};
-    const auto datei = datei_erfragen(
+    const auto datei = zieldatei_erfragen(
         sitzung_, {.art = Dateidialog::Art::speichern,
                    .filter = std::string(pdf_filter.in(p.Sprache)),
                    .dateiname = pfadtext(std::filesystem::path(projekt).replace_extension(".pdf")),
-                   .endung = ".pdf",
-                   .ueberschreiben_fragen = true});
+                   .endung = ".pdf"});
     if (!datei) return std::nullopt;
     return Druckziel{.titel = pfadtext(projekt), .pdf = *datei};
 }

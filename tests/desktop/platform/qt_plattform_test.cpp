@@ -213,35 +213,18 @@ TEST_F(QtPlattformTest, DateidialogOeffnetUndBrichtAb) {
     EXPECT_EQ(plattform.dateidialog(dialog), ordner / "gibt es nicht.vel") << "the caller judges the name";
 }
 
-TEST_F(QtPlattformTest, SpeichernFragtNurWennErSoll) {
+TEST_F(QtPlattformTest, SpeichernFragtNichtNachDemErsetzen) {
     const Testordner ordner;
     const std::filesystem::path datei = ordner.schreibe("alt.vel", "x");
-    Dateidialog dialog{.art = Dateidialog::Art::speichern,
-                       .filter = "VELM Dateien (*.vel)|*.vel",
-                       .ordner = ordner.pfad(),
-                       .dateiname = "alt.vel"};
+    const Dateidialog dialog{.art = Dateidialog::Art::speichern,
+                             .filter = "VELM Dateien (*.vel)|*.vel",
+                             .ordner = ordner.pfad(),
+                             .dateiname = "alt.vel"};
     const auto bestaetige = [](QFileDialog& box) {
         EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
         QTest::keyClick(box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
     };
     am_naechsten_dialog<QFileDialog>(bestaetige);
-    EXPECT_EQ(plattform.dateidialog(dialog), datei);
-
-    dialog.ueberschreiben_fragen = true;
-    sprache = "e";
-    am_naechsten_dialog<QFileDialog>([&](QFileDialog& box) {
-        bestaetige(box);
-        am_naechsten_dialog<QMessageBox>([&](QMessageBox& frage) {
-            EXPECT_TRUE(frage.text().contains("alt.vel"));
-            QTest::keyClick(&frage, Qt::Key_Return);  // No is the default: back to the dialog
-            am_naechsten_dialog<QFileDialog>([&](QFileDialog& zweite) {
-                bestaetige(zweite);
-                am_naechsten_dialog<QMessageBox>([](QMessageBox& nochmals) {
-                    QTest::mouseClick(nochmals.button(QMessageBox::Yes), Qt::LeftButton);
-                });
-            });
-        });
-    });
     EXPECT_EQ(plattform.dateidialog(dialog), datei);
 }
 

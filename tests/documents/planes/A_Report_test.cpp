@@ -55,7 +55,6 @@ TEST(AReport, SpeichertAlleSeitenInEinerZeile) {
     f.report.Command_Speichern.druecke();
     const auto& dialog = f.programm->plattform.dialoge.back();
     EXPECT_EQ(dialog.filter, "Rich Text Format (*.rtf)|*.rtf");
-    EXPECT_TRUE(dialog.ueberschreiben_fragen);
     const std::string bytes = test::inhalt(f.programm->ordner / "bericht.rtf");
     EXPECT_TRUE(bytes.starts_with("{\\rtf1\\ansi"));
     EXPECT_EQ(bytes.find('\n'), bytes.size() - 1);

@@ -84,7 +84,6 @@ TEST(Drucken, FragtNachDerPdfDatei) {
     d.drucken.Command1.druecke();
     ASSERT_EQ(d.programm->plattform.dialoge.size(), 1U);
     EXPECT_EQ(d.programm->plattform.dialoge[0].dateiname, "Müller.pdf");
-    EXPECT_TRUE(d.programm->plattform.dialoge[0].ueberschreiben_fragen);
     EXPECT_TRUE(d.ziele.empty()) << "cancelled";
     EXPECT_TRUE(d.programm->plattform.meldungen.empty());
     EXPECT_TRUE(d.drucken.fenster.sichtbar());
