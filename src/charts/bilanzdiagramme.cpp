@@ -1,5 +1,6 @@
 #include "charts/bilanzdiagramme.h"
 
+#include "calc/jahressummen.h"
 #include "charts/balkenfarben.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
@@ -124,29 +125,6 @@ void UeberJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     bild.text(22, 123, beschriftung(p, {"Jahressumme", "annual sum"}));
     bild.text(10, 0, beschriftung(p, {"Std.", "h"}));
     stunden_zeichnen(diagramm, 45, 70, betriebsstunden_im_jahr(p));
-}
-
-double jahreskuehlbedarf(const Projekt& p) {
-    double summe = 0;
-    for (const Monatswerte& monat : p.Monat)
-        summe += monat.Kuehlbedarf;
-    return summe / p.f_nutz;
-}
-
-Betriebsstunden betriebsstunden(const Projekt& p, int m) {
-    const Monatswerte& monat = p.Monat(m);
-    return {.kalt = monat.Stunden_kalt, .komfort = monat.Stunden_komfort, .heiss = monat.Stunden_heiss};
-}
-
-Betriebsstunden betriebsstunden_im_jahr(const Projekt& p) {
-    Betriebsstunden summe;
-    for (int m = 1; m <= monate; ++m) {
-        const Betriebsstunden monat = betriebsstunden(p, m);
-        summe.kalt += monat.kalt;
-        summe.komfort += monat.komfort;
-        summe.heiss += monat.heiss;
-    }
-    return summe;
 }
 
 }  // namespace velmaris

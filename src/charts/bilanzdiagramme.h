@@ -34,18 +34,4 @@ void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild);
 void UeberGrafikZeichnen(const Projekt& p, Zeichenflaeche& bild);
 void UeberJahrZeichnen(const Projekt& p, Zeichenflaeche& bild);
 
-/// Cooling demand of the year from the months, kWh/(m2 a).
-[[nodiscard]] double jahreskuehlbedarf(const Projekt& p);
-
-/// Hours of the three operating classes.
-struct Betriebsstunden {
-    int kalt = 0;     ///< heating
-    int komfort = 0;  ///< zero energy
-    int heiss = 0;    ///< cooling
-};
-
-/// The hours of month m (1..12), and of the twelve months together.
-[[nodiscard]] Betriebsstunden betriebsstunden(const Projekt& p, int m);
-[[nodiscard]] Betriebsstunden betriebsstunden_im_jahr(const Projekt& p);
-
 }  // namespace velmaris

@@ -1,7 +1,7 @@
 #include "charts/kuehldiagramme.h"
 
+#include "calc/jahressummen.h"
 #include "charts/balkenfarben.h"
-#include "charts/bilanzdiagramme.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
 
@@ -66,25 +66,6 @@ Art art_gradstunden(const Projekt& p) {
 
 }  // namespace
 
-double tagesstunden(const Projekt& p, int m) {
-    return static_cast<double>(p.Monat(m).Stunden_heiss) / p.Monat(m).Tage;
-}
-
-double tagesstunden_im_jahr(const Projekt& p) {
-    return static_cast<double>(betriebsstunden_im_jahr(p).heiss) / tage_im_jahr;
-}
-
-double monatskuehlbedarf(const Projekt& p, int m) {
-    return double{p.Monat(m).Kuehlbedarf} / p.f_nutz;
-}
-
-double kuehlgradstunden_im_jahr(const Projekt& p) {
-    double summe = 0;
-    for (int m = 1; m <= monate; ++m)
-        summe += kuehlgradstunden(p, m);
-    return summe;
-}
-
 void StundenProTagMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     monate_zeichnen(p, bild, art_tagesstunden(p), tagesstunden, stufen_tagesstunden);
 }
@@ -108,8 +89,8 @@ void KuehlGradStundenMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
 }
 
 void KuehlGradStundenJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
-    jahr_zeichnen(bild, art_gradstunden(p), kuehlgradstunden_im_jahr(p), stufen_gradstunden_jahr,
-                  beschriftung(p, {"Jahressumme", "yearly sum"}));
+    jahr_zeichnen(bild, art_gradstunden(p), summe_der_monate(p, &Monatswerte::Kuehlgradstunden),
+                  stufen_gradstunden_jahr, beschriftung(p, {"Jahressumme", "yearly sum"}));
 }
 
 }  // namespace velmaris

@@ -1,5 +1,6 @@
 #include "charts/nutzungsgrad.h"
 
+#include "calc/jahressummen.h"
 #include "charts/balkenfarben.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
@@ -27,27 +28,6 @@ void gewinne_zeichnen(const Balkendiagramm& diagramm, double x, double breite, d
 }
 
 }  // namespace
-
-Gewinne gewinne(const Projekt& p, int m) {
-    const Monatswerte& monat = p.Monat(m);
-    const double f_nutz = p.f_nutz;
-    return {.solar_genutzt = monat.Qs_genutzt / f_nutz,
-            .solar = monat.Qs_brutto / f_nutz,
-            .intern_genutzt = monat.Qi_genutzt / f_nutz,
-            .intern = monat.Qi_brutto / f_nutz};
-}
-
-Gewinne gewinne_im_jahr(const Projekt& p) {
-    Gewinne summe;
-    for (int m = 1; m <= monate; ++m) {
-        const Gewinne monat = gewinne(p, m);
-        summe.solar_genutzt += monat.solar_genutzt;
-        summe.solar += monat.solar;
-        summe.intern_genutzt += monat.intern_genutzt;
-        summe.intern += monat.intern;
-    }
-    return summe;
-}
 
 void NutzungsgradMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     double M = 1;

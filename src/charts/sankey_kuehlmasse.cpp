@@ -1,3 +1,4 @@
+#include "calc/jahressummen.h"
 #include "charts/sankey_kuehlen.h"
 #include "toolkit/pixel.h"
 #include "toolkit/zahlen.h"
@@ -9,7 +10,6 @@
 namespace velmaris {
 namespace {
 
-constexpr double primaerfaktor = 3;  ///< of electricity
 constexpr double raender = 50 + 40;  ///< above and below the stack, and between the inlets
 constexpr int breitester_verlust = 80;
 constexpr int abstand = 10;       ///< between neighbouring inlets
@@ -34,7 +34,7 @@ void breiten_legen(Sankey_Kuehlmasse& m, const Teile& teile, double effizienz, d
                    [&](auto teil) { return i16(ganzzahl(teil * faktor), "Sankey_Kühlen"); });
     m.C = summe(m.teile);
     m.E = i16(ganzzahl(m.C / effizienz), "Sankey_Kühlen");
-    m.P = i16(ganzzahl(primaerfaktor * m.C / effizienz), "Sankey_Kühlen");
+    m.P = i16(ganzzahl(f_p_Kuehlstrom * m.C / effizienz), "Sankey_Kühlen");
     m.L = m.P - m.E;
 }
 
@@ -64,15 +64,12 @@ Sankey_Kuehlwerte sankey_kuehlwerte(const Projekt& p) {
         &Monatswerte::Kuehl_trans, &Monatswerte::Kuehl_lueft, &Monatswerte::Kuehl_solar,
         &Monatswerte::Kuehl_intern};
     Sankey_Kuehlwerte w;
-    for (std::size_t i = 0; i < ueberschuesse; ++i) {
-        for (const Monatswerte& monat : p.Monat)
-            w.teile[i] += monat.*felder[i];
-        w.teile[i] /= p.f_nutz;
-    }
+    for (std::size_t i = 0; i < ueberschuesse; ++i)
+        w.teile[i] = summe_der_monate(p, felder[i]) / p.f_nutz;
     w.effizienz = p.Klimaeffizienz;
     w.C = summe(w.teile);
     w.E = w.C / w.effizienz;
-    w.P = primaerfaktor * w.E;
+    w.P = f_p_Kuehlstrom * w.E;
     w.L = w.P - w.E;
     return w;
 }

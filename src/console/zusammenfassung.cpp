@@ -1,5 +1,6 @@
 #include "console/zusammenfassung.h"
 
+#include "calc/jahressummen.h"
 #include "toolkit/text.h"
 #include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
@@ -43,24 +44,6 @@ class Bogen {
     std::string text_;
 };
 
-struct Jahresstunden {
-    int kalt = 0;
-    int komfort = 0;
-    int heiss = 0;
-    double kuehlbedarf = 0;  ///< kWh
-};
-
-Jahresstunden jahresstunden(const Projekt& p) {
-    Jahresstunden jahr;
-    for (const Monatswerte& monat : p.Monat) {
-        jahr.kalt += monat.Stunden_kalt;
-        jahr.komfort += monat.Stunden_komfort;
-        jahr.heiss += monat.Stunden_heiss;
-        jahr.kuehlbedarf += monat.Kuehlbedarf;
-    }
-    return jahr;
-}
-
 void gebaeude(Bogen& bogen, const Projekt& p) {
     bogen.titel("Gebäude", "Building");
     bogen.zahl("Grundfläche", "ground area", p.f_gd, 1, "m²");
@@ -72,12 +55,12 @@ void gebaeude(Bogen& bogen, const Projekt& p) {
 }
 
 void heizen_und_kuehlen(Bogen& bogen, const Projekt& p) {
-    const Jahresstunden jahr = jahresstunden(p);
+    const Betriebsstunden jahr = betriebsstunden_im_jahr(p);
     bogen.titel("Heizen und Kühlen", "Heating and cooling");
     bogen.zahl("Heizwärmebedarf", "heat energy demand", p.qh, 0, "kWh/a");
     bogen.zahl("", "", p.qhs_sum, 1, "kWh/(m² a)");
-    bogen.zahl("Kühlbedarf", "cooling demand", jahr.kuehlbedarf, 0, "kWh/a");
-    bogen.zahl("", "", jahr.kuehlbedarf / p.f_nutz, 1, "kWh/(m² a)");
+    bogen.zahl("Kühlbedarf", "cooling demand", summe_der_monate(p, &Monatswerte::Kuehlbedarf), 0, "kWh/a");
+    bogen.zahl("", "", jahreskuehlbedarf(p), 1, "kWh/(m² a)");
     bogen.zahl("Heizstunden", "heating hours", jahr.kalt, 0, "h");
     bogen.zahl("Nullenergiestunden", "zero energy hours", jahr.komfort, 0, "h");
     bogen.zahl("Kühlstunden", "cooling hours", jahr.heiss, 0, "h");

@@ -1,5 +1,6 @@
 #include "charts/planes/A_Heizen.h"
 
+#include "calc/jahressummen.h"
 #include "charts/balkenfarben.h"
 #include "charts/bilanzdiagramme.h"
 #include "charts/nutzungsgrad.h"

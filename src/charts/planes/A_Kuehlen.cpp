@@ -1,5 +1,6 @@
 #include "charts/planes/A_Kuehlen.h"
 
+#include "calc/jahressummen.h"
 #include "charts/bilanzdiagramme.h"
 #include "charts/kuehldiagramme.h"
 #include "charts/schema.h"
@@ -112,7 +113,7 @@ std::string A_Kuehlen::tipp_gradstunden_monat(int m) const {
 std::string A_Kuehlen::tipp_gradstunden_jahr() const {
     const Projekt& p = sitzung_.p;
     return beschriftung(p, {"Jahressumme:", "Yearly sum:"}) +
-           tippzeile(Label2, kuehlgradstunden_im_jahr(p), kelvinstunden);
+           tippzeile(Label2, summe_der_monate(p, &Monatswerte::Kuehlgradstunden), kelvinstunden);
 }
 
 }  // namespace velmaris

@@ -1,5 +1,6 @@
 #include "charts/planes/A_Uebersicht.h"
 
+#include "calc/jahressummen.h"
 #include "charts/bilanzdiagramme.h"
 #include "charts/schema.h"
 #include "language/beschriftungen.h"

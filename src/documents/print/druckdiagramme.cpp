@@ -1,8 +1,7 @@
 #include "documents/print/druckdiagramme.h"
 
-#include "charts/bilanzdiagramme.h"
+#include "calc/jahressummen.h"
 #include "charts/stufen.h"
-#include "documents/kuehlstrom.h"
 #include "documents/print/druckachsen.h"
 #include "energy/energiebilanz.h"
 
@@ -195,8 +194,8 @@ void Diagramm_Stunden(Blatt& blatt, const Projekt& p) {
 }
 
 void Diagramm_Kuehlen(Blatt& blatt, const Projekt& p) {
-    const auto je_tag = [&p](int m) { return 1.0 * p.Monat(m).Stunden_heiss / p.Monat(m).Tage; };
-    const auto je_flaeche = [&p](int m) { return double{p.Monat(m).Kuehlbedarf} / p.f_nutz; };
+    const auto je_tag = [&p](int m) { return tagesstunden(p, m); };
+    const auto je_flaeche = [&p](int m) { return monatskuehlbedarf(p, m); };
     einzelbalken(blatt, ueberwaermung, je_tag, stufen_tagesstunden.schritt(groesster(je_tag, 1)), vier,
                  Wort{"Std./Tag", "hours/day"}.in(blatt.sprache()), druckfarben::ueberwaermung);
     einzelbalken(blatt, kuehlbedarf, je_flaeche, stufen_bedarfsmonat.schritt(groesster(je_flaeche, 1)), fuenf,
@@ -229,10 +228,10 @@ void Diagramm_Heizenergie(Blatt& blatt, const Projekt& p) {
 
 void Diagramm_Kühlenergie(Blatt& blatt, const Projekt& p) {
     energiediagramm(blatt, p, [&](int m) -> Energiesaeulen {
-        const double strom = double{p.Monat(m).Kuehlbedarf} / p.Klimaeffizienz / p.f_nutz;
-        return {{strom, druckfarben::kuehlenergie},
+        const Kuehlenergie monat = kuehlenergie(p, m);
+        return {{monat.Endenergie, druckfarben::kuehlenergie},
                 {},
-                {strom * f_p_Kuehlstrom, druckfarben::kuehlprimaerenergie},
+                {monat.Primaerenergie, druckfarben::kuehlprimaerenergie},
                 {}};
     });
     legendeneintrag(blatt, legende, 215, druckfarben::kuehlenergie,

@@ -1,5 +1,4 @@
-#include "charts/bilanzdiagramme.h"
-#include "documents/jahressummen.h"
+#include "calc/jahressummen.h"
 #include "documents/print/druckdiagramme.h"
 #include "documents/print/druckseiten.h"
 #include "documents/print/drucktabelle.h"
@@ -180,16 +179,14 @@ void seite_waermebilanz(Blatt& blatt, const Dokumentquelle& quelle) {
 
 void seite_kuehlbilanz(Blatt& blatt, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
-    const double bedarf = summe_der_monate(p, &Monatswerte::Kuehlbedarf);
-    const double heiss = summe_der_monate(p, &Monatswerte::Stunden_heiss);
     const auto name = [&blatt](const Wort& wort) { return std::string(wort.in(blatt.sprache())); };
     const std::array<Tabellenzeile, 4> zeilen{{
         {name({"Kühlbedarf in kWh/m²", "Cooling demand in kWh/m²"}),
-         [&p](int m) { return double{p.Monat(m).Kuehlbedarf} / p.f_nutz; }, bedarf / p.f_nutz, 1},
+         [&p](int m) { return monatskuehlbedarf(p, m); }, jahreskuehlbedarf(p), 1},
         {name({"Kühlbedarf in kWh", "Cooling demand in kWh"}), [&p](int m) { return p.Monat(m).Kuehlbedarf; },
-         bedarf, 0},
+         summe_der_monate(p, &Monatswerte::Kuehlbedarf), 0},
         {name({"Überwärmung in Std./Tag", "Overheating in hours/day"}),
-         [&p](int m) { return 1.0 * p.Monat(m).Stunden_heiss / p.Monat(m).Tage; }, heiss / tage_im_jahr, 1},
+         [&p](int m) { return tagesstunden(p, m); }, tagesstunden_im_jahr(p), 1},
         {name({"Kühlgradstunden in Kh", "Cooling degree hours in Kh"}),
          [&p](int m) { return p.Monat(m).Kuehlgradstunden; },
          summe_der_monate(p, &Monatswerte::Kuehlgradstunden), 0},

@@ -1,5 +1,4 @@
-#include "documents/jahressummen.h"
-#include "documents/kuehlstrom.h"
+#include "calc/jahressummen.h"
 #include "documents/print/druckdiagramme.h"
 #include "documents/print/druckseiten.h"
 #include "documents/print/drucktabelle.h"
@@ -125,8 +124,8 @@ void seite_heizenergie(Blatt& blatt, const Dokumentquelle& quelle) {
 
 void seite_kuehlenergie(Blatt& blatt, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
-    const double bedarf = summe_der_monate(p, &Monatswerte::Kuehlbedarf) / p.f_nutz;
-    const double strom = bedarf / p.Klimaeffizienz;
+    const double bedarf = jahreskuehlbedarf(p);
+    const Kuehlenergie strom = kuehlenergie_im_jahr(p);
     Werteliste liste(blatt, seitenanfang);
     liste.zeile({"Effizienzfaktor Klimaanlage:", "Efficiency factor of the air conditioning:"},
                 muster(p.Klimaeffizienz, 1),
@@ -134,20 +133,17 @@ void seite_kuehlenergie(Blatt& blatt, const Dokumentquelle& quelle) {
     liste.abstand();
     liste.zeile({"Kühlbedarf", "Cooling demand"}, muster(bedarf, 1), je_jahr);
     liste.zeile({"Kühlenergiebedarf (Strom)", "End energy demand for cooling (electricity)"},
-                muster(strom, 1), je_jahr);
+                muster(strom.Endenergie, 1), je_jahr);
     liste.zeile({"Primärenergiefaktor Strom", "Primary energy factor electricity"},
                 muster(f_p_Kuehlstrom, 1));
-    liste.zeile({"Primärenergiebedarf", "Primary energy demand"}, muster(strom * f_p_Kuehlstrom, 1), je_jahr);
-    const auto je_flaeche = [&p](double faktor) {
-        return [&p, faktor](int m) { return double{p.Monat(m).Kuehlbedarf} / p.f_nutz * faktor; };
-    };
-    const double strom_je_bedarf = 1.0 / p.Klimaeffizienz;
+    liste.zeile({"Primärenergiebedarf", "Primary energy demand"}, muster(strom.Primaerenergie, 1), je_jahr);
     const auto text = [&blatt](const Wort& wort) { return std::string(wort.in(blatt.sprache())); };
     const std::array<Tabellenzeile, 3> zeilen{{
-        {text({"Kühlbedarf", "Cooling demand"}), je_flaeche(1), bedarf},
-        {text({"Kühlenergiebedarf", "End energy demand"}), je_flaeche(strom_je_bedarf), strom},
-        {text({"Primärenergiebedarf", "Primary energy demand"}), je_flaeche(strom_je_bedarf * f_p_Kuehlstrom),
-         strom * f_p_Kuehlstrom},
+        {text({"Kühlbedarf", "Cooling demand"}), [&p](int m) { return monatskuehlbedarf(p, m); }, bedarf},
+        {text({"Kühlenergiebedarf", "End energy demand"}),
+         [&p](int m) { return kuehlenergie(p, m).Endenergie; }, strom.Endenergie},
+        {text({"Primärenergiebedarf", "Primary energy demand"}),
+         [&p](int m) { return kuehlenergie(p, m).Primaerenergie; }, strom.Primaerenergie},
     }};
     monatstabelle_drucken(blatt, 95, {.einheit = im_monat, .jahr = jahr, .zeilenhoehe = 6}, zeilen);
     Diagramm_Kühlenergie(blatt, p);

@@ -1,4 +1,4 @@
-#include "documents/jahressummen.h"
+#include "calc/jahressummen.h"
 #include "documents/report/reportseiten.h"
 #include "toolkit/zahlen.h"
 
@@ -45,15 +45,14 @@ void betriebsstunden(Reporttext& text, const Projekt& p) {
         return {std::to_string(monat.Stunden_kalt), std::to_string(monat.Stunden_komfort),
                 std::to_string(monat.Stunden_heiss)};
     });
-    const double kalt = summe_der_monate(p, &Monatswerte::Stunden_kalt);
-    const double komfort = summe_der_monate(p, &Monatswerte::Stunden_komfort);
-    const double heiss = summe_der_monate(p, &Monatswerte::Stunden_heiss);
+    const Betriebsstunden jahr = betriebsstunden_im_jahr(p);
     const auto anteil = [](double stunden_der_art) {
         return muster(stunden_der_art / stunden_je_prozent, 1);
     };
     text.jahreszeile({"Summe (in Std.)", "Sum (in hours)"},
-                     {zahltext(kalt), zahltext(komfort), zahltext(heiss)});
-    text.jahreszeile({"Summe (in %)", "Sum (in %)"}, {anteil(kalt), anteil(komfort), anteil(heiss)});
+                     {zahltext(jahr.kalt), zahltext(jahr.komfort), zahltext(jahr.heiss)});
+    text.jahreszeile({"Summe (in %)", "Sum (in %)"},
+                     {anteil(jahr.kalt), anteil(jahr.komfort), anteil(jahr.heiss)});
 }
 
 void klimadaten(Reporttext& text, const Projekt& p) {
@@ -152,8 +151,7 @@ void kuehlbilanz(Reporttext& text, const Projekt& p) {
     text.abschnitt({"Kühlbedarf und Überwärmung", "Cooling demand and overheating"});
     text.monatstabelle(p, tabstopps::vier, kopf, [&](int m) {
         const Monatswerte& monat = p.Monat(m);
-        return zellen(monat.Kuehlbedarf, muster(1.0 * monat.Stunden_heiss / monat.Tage, 1),
-                      monat.Kuehlgradstunden);
+        return zellen(monat.Kuehlbedarf, muster(tagesstunden(p, m), 1), monat.Kuehlgradstunden);
     });
     text.jahreszeile(jahressumme, zellen(summe_der_monate(p, &Monatswerte::Kuehlbedarf), " ",
                                          summe_der_monate(p, &Monatswerte::Kuehlgradstunden)));

@@ -1,5 +1,4 @@
-#include "documents/jahressummen.h"
-#include "documents/kuehlstrom.h"
+#include "calc/jahressummen.h"
 #include "documents/report/reportseiten.h"
 #include "energy/energiebilanz.h"
 #include "toolkit/zahlen.h"
@@ -158,10 +157,8 @@ void report_kuehlenergie(Reporttext& text, const Dokumentquelle& quelle) {
         {R"( \tab in kWh/m² \tab in kWh/m² \tab in kWh/m²)",
          R"( \tab in kWh/m² \tab in kWh/m² \tab in kWh/m²)"},
     }};
-    const auto zellen = [&p](double bedarf) -> Zellen {
-        const double strom = bedarf / p.Klimaeffizienz;
-        return {muster(bedarf / p.f_nutz, 1), muster(strom / p.f_nutz, 1),
-                muster(strom * f_p_Kuehlstrom / p.f_nutz, 1)};
+    const auto zellen = [](double bedarf, const Kuehlenergie& strom) -> Zellen {
+        return {muster(bedarf, 1), muster(strom.Endenergie, 1), muster(strom.Primaerenergie, 1)};
     };
     text.seitenkopf({"Ausgabe: Primär- und Endenergiebedarf Kühlung",
                      "Output: Primary and end energy demand for cooling"});
@@ -171,9 +168,10 @@ void report_kuehlenergie(Reporttext& text, const Dokumentquelle& quelle) {
                muster(p.Klimaeffizienz, 1),
                Wort{" kWh Kühlung/ kWh Strom", " kWh cooling/ kWh electricity"}.in(text.sprache()));
     text.zeile_anhaengen("");
-    text.monatstabelle(p, tabstopps::drei, kopf, [&](int m) { return zellen(p.Monat(m).Kuehlbedarf); });
+    text.monatstabelle(p, tabstopps::drei, kopf,
+                       [&](int m) { return zellen(monatskuehlbedarf(p, m), kuehlenergie(p, m)); });
     text.tabellenlinie();
-    text.jahreszeile(jahressumme, zellen(summe_der_monate(p, &Monatswerte::Kuehlbedarf)));
+    text.jahreszeile(jahressumme, zellen(jahreskuehlbedarf(p), kuehlenergie_im_jahr(p)));
 }
 
 }  // namespace velmaris
