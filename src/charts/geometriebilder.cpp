@@ -1,9 +1,9 @@
 #include "charts/geometriebilder.h"
 
+#include "charts/grundriss.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace velmaris {
@@ -26,16 +26,6 @@ double balkenhoehe(const Projekt& p) {
     const double y = av_hoehe(p.AV * kantenlaenge(p));
     return std::max<double>(i16(std::clamp(y, -32768.0, 32767.0), "AV"), balken_oben);
 }
-
-struct Punkt {
-    double x = 0;
-    double y = 0;
-
-    Punkt operator-() const { return {-x, -y}; }
-    Punkt operator+(const Punkt& p) const { return {x + p.x, y + p.y}; }
-    Punkt operator-(const Punkt& p) const { return {x - p.x, y - p.y}; }
-    Punkt operator*(double f) const { return {x * f, y * f}; }
-};
 
 /// Lines relative to the centre of a surface.
 class Plan {
@@ -61,10 +51,7 @@ Punkt auf_kreis(double grad, double radius) {
 void dach_von_oben(const Plan& plan, double orient) {
     const Punkt a = -auf_kreis(orient + 45, 28);
     const Punkt b = auf_kreis(orient - 45, 28);
-    const Punkt c = (a - b) * (1.0 / 3);
-    const std::array<std::pair<Punkt, Punkt>, 9> linien{
-        {{a, b}, {b, -a}, {-a, -b}, {-b, a}, {-c, c}, {c, a}, {c, -b}, {-c, b}, {-c, -a}}};
-    for (const auto& [von, bis] : linien)
+    for (const auto& [von, bis] : haus_von_oben(a, b))
         plan.linie(von, bis, farben::grau);
 }
 

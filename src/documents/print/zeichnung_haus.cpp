@@ -1,5 +1,6 @@
 #include "documents/print/zeichnung_haus.h"
 
+#include "charts/grundriss.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -9,21 +10,6 @@
 
 namespace velmaris {
 namespace {
-
-struct Punkt {
-    double x;
-    double y;
-
-    friend Punkt operator+(Punkt a, Punkt b) { return {a.x + b.x, a.y + b.y}; }
-    friend Punkt operator-(Punkt a, Punkt b) { return {a.x - b.x, a.y - b.y}; }
-    friend Punkt operator-(Punkt a) { return {-a.x, -a.y}; }
-    friend Punkt operator*(double faktor, Punkt a) { return {faktor * a.x, faktor * a.y}; }
-};
-
-struct Strecke {
-    Punkt von;
-    Punkt bis;
-};
 
 void zeichne(Blatt& blatt, Punkt ursprung, Strecke s, Farbe farbe = farben::schwarz) {
     const Punkt von = ursprung + s.von;
@@ -140,9 +126,7 @@ void Diagramm_Orientierung(Blatt& blatt, const Projekt& p) {
     const Punkt ost{sued.y, -sued.x};
     const Punkt A = halbe_seite * (-sued - ost);
     const Punkt B = halbe_seite * (ost - sued);
-    const Punkt C = (1.0 / 3) * (A - B);
-    for (const Strecke& s :
-         {Strecke{A, B}, {B, -A}, {-A, -B}, {-B, A}, {-C, C}, {C, A}, {C, -B}, {-C, B}, {-C, -A}})
+    for (const Strecke& s : haus_von_oben(A, B))
         zeichne(blatt, mitte, s);
 
     const Punkt H = pfeil * sued;
