@@ -1,147 +1,314 @@
 #include "console/auftrag.h"
 
+#include "console/aufruf.h"
 #include "console/ausgabe_json.h"
-#include "project/feldtabelle.h"
+#include "console/zusammenfassung.h"
 #include "tests/testprogramm.h"
-#include "toolkit/konsolenplattform.h"
+#include "tests/zufallsprojekt.h"
 #include "toolkit/text.h"
 
-#include <functional>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <new>
+#include <map>
+#include <set>
 #include <sstream>
-#include <stdexcept>
 
 namespace velmaris {
 namespace {
 
+namespace fs = std::filesystem;
 using test::inhalt;
-using test::projekttext;
-using test::projektzeilen;
-using test::Testprogramm;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
 
+/// A program folder as the current one, with the projects "haus.vel", "kurz.vel", whose station is cut off,
+/// and "alt.vel" of a version that is not known.
 class Konsole : public testing::Test {
   protected:
     Konsole() {
-        auftrag.programmordner = programm.ordner.pfad();
-        auftrag.sprache = "e";
-        auto zeilen = projektzeilen(programm.p());
-        haus = pfadtext(programm.ordner.schreibe("haus.vel", projekttext(zeilen)));
+        fs::current_path(programm.ordner.pfad());
+        auto zeilen = test::projektzeilen(programm.p());
+        programm.ordner.schreibe("haus.vel", test::projekttext(zeilen));
         zeilen[55] = "kurz.met";
         programm.ordner.schreibe("klima/kurz.met", test::stationsbytes("Kurz (Land)").substr(0, 5000));
-        kurz = pfadtext(programm.ordner.schreibe("kurz.vel", projekttext(zeilen)));
+        programm.ordner.schreibe("kurz.vel", test::projekttext(zeilen));
+        programm.ordner.schreibe("alt.vel", "Velmaris Version 1.0\r\n 10\r\n");
+    }
+    ~Konsole() override { fs::current_path(vorher); }
+
+    /// The exit status of a call with these words, split at blanks; `aus` and `fehler` hold its output.
+    int rufe(const std::string& worte) {
+        std::istringstream rest(worte);
+        std::vector<std::string> teile{"./velmaris_rechnen"};
+        for (std::string wort; rest >> wort;)
+            teile.push_back(wort);
+        std::vector<const char*> argv;
+        for (const std::string& teil : teile)
+            argv.push_back(teil.c_str());
+        std::ostringstream text, fehlertext;
+        const int status = aufrufen(static_cast<int>(argv.size()), argv.data(), text, fehlertext);
+        aus = text.str();
+        fehler = fehlertext.str();
+        return status;
     }
 
-    int laufen() { return ausfuehren(auftrag, aus, fehler); }
-
-    Testprogramm programm;
-    Auftrag auftrag;
-    std::string haus;
-    std::string kurz;
-    std::ostringstream aus;
-    std::ostringstream fehler;
+    fs::path vorher = fs::current_path();
+    test::Testprogramm programm;
+    std::string aus, fehler;
 };
 
-TEST_F(Konsole, JsonGibtJedesFeldGenauZurueck) {
-    auftrag.projekte = {haus};
-    auftrag.json = true;
-    ASSERT_EQ(laufen(), alles_gut) << fehler.str();
-    const Json objekt = Json::parse(aus.str());
-    const Projekt& p = programm.p();
-    for (const Feldzeile& zeile : felder()) {
-        const auto& wert = objekt.at(std::string(zeile.name));
-        if (const auto* zeiger = std::get_if<float Projekt::*>(&zeile.zeiger)) {
-            EXPECT_EQ(wert.get<float>(), p.*(*zeiger)) << zeile.name;
-        }
-    }
-    ASSERT_EQ(objekt.at("Monat").size(), 12U);
-    EXPECT_EQ(objekt["Monat"][0]["Qh"].get<float>(), p.Monat(1).Qh);
-    EXPECT_EQ(objekt["Monat"][2]["Kurz"].get<std::string>(), "Mar.");
-    for (const char* name :
-         {"q_ce", "q_d", "q_s", "e_g", "q_d_he", "q_s_he", "q_g_he", "f_p", "Traegername", "anz_klimaregion",
-          "anz_tau", "anz_Heiztage", "anz_heizlast_spez", "Breite", "tau"}) {
-        EXPECT_TRUE(objekt.contains(name)) << name;
-    }
-}
-
-TEST(Konsolenplattform, MeldungenStehenInEinerZeile) {
-    EXPECT_EQ(in_einer_zeile("eins\rzwei\r\ndrei\nvier"), "eins zwei drei vier");
-    EXPECT_EQ(in_einer_zeile("\n"), " ");
-    EXPECT_EQ(in_einer_zeile("h\xE4user/\x1B[m\x07.vel"), "h\uFFFDuser/\uFFFD[m\uFFFD.vel");
-}
-
-TEST(Konsolenplattform, JederFehlerNenntSeineDatei) {
+TEST_F(Konsole, RichtigeUndFalscheAufrufe) {
     struct Fall {
-        std::function<void()> stueck;
-        const char* zeile;
+        int status;
+        std::string worte, aus, fehler;
     };
-    for (const Fall& fall : {Fall{[] {}, ""},
-                             Fall{[] {
-                                      throw Dateifehler("a.met", {"schlecht", "bad"});
-                                  },
-                                  "a.met: bad\n"},
-                             Fall{[] {
-                                      throw Laufzeitfehler({"schlecht", "bad"}, "f_gd");
-                                  },
-                                  "haus.vel: f_gd: bad\n"},
-                             Fall{[] { throw std::bad_alloc(); }, "haus.vel: not enough memory\n"},
-                             Fall{[] { throw std::length_error("too\nlong"); }, "haus.vel: too long\n"}}) {
-        std::ostringstream fehler;
-        EXPECT_EQ(versuchen(fehler, "e", "haus.vel", fall.stueck), *fall.zeile == '\0');
-        EXPECT_EQ(fehler.str(), fall.zeile);
+    for (const Fall& fall :
+         {Fall{0, "haus.vel", "haus.vel\n  Klimastation                      Trier", ""},
+          {0, "--sprache e haus.vel", "haus.vel\n  climate station ", ""},
+          {0, "--json haus.vel", "{\n  \"Datei\": \"haus.vel\"", ""},
+          {0, "--json haus.vel haus.vel", "[\n  {\n    \"Datei\": \"haus.vel\"", ""},
+          {0, "haus.vel --bericht-seite 7", "VELMaris \n", ""},
+          {0, "--neu neu.vel", "", ""},
+          {0, "--neu a.vel --sprache e neu.vel", "neu.vel\n  climate station", ""},
+          {0, "--help", "velmaris_rechnen - Heiz", ""},
+          {1, "alt.vel haus.vel", "haus.vel", "alt.vel: keine gültige Velmaris-Datendatei"},
+          {1, "kurz.vel --neu kein/neu.vel", "", "kein/neu.vel: "},
+          {1, "--json fehlt.vel", "", "fehlt.vel: Datei nicht gefunden\n"},
+          {1, "--json fehlt.vel haus.vel --sprache e", "[\n  {", "fehlt.vel: file not found\n"},
+          {1, "haus.vel --bericht kein/b.rtf", "", "kein/b.rtf: "},
+          {1, "haus.vel --diagramme haus.vel --sprache e", "", "haus.vel: the folder cannot be made\n"},
+          {1, "--import alt.vel --name neu", "", "alt.vel: weder eine Meteonorm"},
+          {2, "", "", "PROJEKT: kein Projekt"},
+          {2, "--unbekannt", "", "The following argument was not expected"},
+          {2, "--sprache f haus.vel", "", "--sprache: f not in"},
+          {2, "haus.vel a.vel --temperaturen x", "", "PROJEKT: --temperaturen"},
+          {2, "haus.vel a.vel --speichern x", "", "PROJEKT: --temperaturen"},
+          {2, "haus.vel a.vel --diagramme x", "", "PROJEKT: --temperaturen"},
+          {2, "haus.vel a.vel --bericht x", "", "PROJEKT: --temperaturen"},
+          {2, "haus.vel a.vel --bericht-seite 1", "", "PROJEKT: --temperaturen"},
+          {2, "--neu x --json", "", "PROJEKT: kein Projekt"},
+          {2, "--neu x --bericht y", "", "PROJEKT: kein Projekt"},
+          {2, "haus.vel --bericht-seite 0", "", "--bericht-seite: "},
+          {2, "haus.vel --bericht-seite 8", "", "--bericht-seite: "},
+          {2, "haus.vel --bericht-seite 1 --json", "", "--json excludes --bericht-seite"},
+          {2, "--import alt.vel", "", "--import requires --name"},
+          {2, "haus.vel --name x", "", "--name requires --import"},
+          {2, "haus.vel --land x", "", "--land requires --import"},
+          {2, "haus.vel --ort x", "", "--ort requires --import"},
+          {2, "haus.vel --ersetzen", "", "--ersetzen requires --import"}}) {
+        EXPECT_EQ(rufe(fall.worte + (fall.status == 2 ? "" : " --ordner .")), fall.status)
+            << fall.worte << fehler;
+        EXPECT_THAT(aus, StartsWith(fall.aus)) << fall.worte;
+        EXPECT_THAT(fehler, StartsWith(fall.fehler)) << fall.worte;
+        EXPECT_EQ(aus.empty(), fall.aus.empty()) << fall.worte << aus;
+        EXPECT_EQ(fehler.empty(), fall.fehler.empty()) << fall.worte << fehler;
+        EXPECT_FALSE(fs::exists("x")) << fall.worte;
+    }
+    for (const std::string angabe : {"--temperaturen", "--neu", "--speichern", "--diagramme", "--bericht",
+                                     "--ordner", "--import", "--name", "--land", "--ort"}) {
+        EXPECT_EQ(rufe("haus.vel " + angabe + " --json"), 2);
+        EXPECT_THAT(fehler, HasSubstr(angabe + ": der Wert fehlt / the value is missing: --json"));
+    }
+}
+
+TEST_F(Konsole, OhneOrdnerGiltDerDesProgramms) {
+    auto zeilen = test::projektzeilen(programm.p());
+    zeilen[55] = "nirgends.met";
+    programm.ordner.schreibe("weg.vel", test::projekttext(zeilen));
+    EXPECT_EQ(rufe("weg.vel"), projekt_fehlerhaft);
+    const fs::path selbst = fs::read_symlink("/proc/self/exe").parent_path();
+    EXPECT_THAT(fehler, HasSubstr(pfadtext(selbst / "klima/nirgends.met")));
+}
+
+TEST_F(Konsole, SchreibtWasVerlangtWird) {
+    ASSERT_EQ(rufe("--neu neu.vel --ordner ."), 0);
+    ASSERT_EQ(rufe("neu.vel --ordner . --speichern kopie.vel --temperaturen jahr.txt --bericht b.rtf "
+                   "--diagramme svg"),
+              0)
+        << fehler;
+    EXPECT_EQ(inhalt("neu.vel"), inhalt("haus.vel"));
+    EXPECT_EQ(inhalt("kopie.vel"), inhalt("haus.vel"));
+    const std::string jahr = inhalt("jahr.txt");
+    EXPECT_GT(std::count(jahr.begin(), jahr.end(), '\n'), 8760);
+    EXPECT_THAT(inhalt("b.rtf"), StartsWith("{\\rtf"));
+    std::set<std::string> bilder;
+    for (const auto& eintrag : fs::directory_iterator("svg"))
+        bilder.insert(pfadtext(eintrag.path().stem()));
+    EXPECT_THAT(bilder,
+                ElementsAre("A_Heizen_Gewinne_N", "A_Heizen_Gewinne_O", "A_Heizen_Gewinne_S",
+                            "A_Heizen_Gewinne_W", "A_Heizen_Heizbilanz", "A_Heizen_JahrBilanz",
+                            "A_Heizen_NutzungsgradJahr", "A_Heizen_NutzungsgradMonat", "A_Heizen_Verluste_N",
+                            "A_Heizen_Verluste_O", "A_Heizen_Verluste_S", "A_Heizen_Verluste_W",
+                            "A_Kuehlen_KuehlGradStundenJahr", "A_Kuehlen_KuehlGradStundenMonat",
+                            "A_Kuehlen_KuehlbedarfJahr", "A_Kuehlen_KuehlbedarfMonat",
+                            "A_Kuehlen_StundenProTagJahr", "A_Kuehlen_StundenProTagMonat", "A_Sankey_Sankey",
+                            "A_Sankey_Sankey_Kühlen", "A_Uebersicht_JahrBilanz", "A_Uebersicht_Monatsbilanz",
+                            "A_Uebersicht_Temperaturen", "A_Uebersicht_UeberGrafik", "A_Uebersicht_UeberJahr",
+                            "E_Energie_Monatsübersicht_Energieträger", "E_Energie_Picture2",
+                            "E_Energie_Picture3", "E_Geometrie_AV_Picture", "E_Geometrie_Picture1"));
+    EXPECT_THAT(inhalt("svg/E_Geometrie_AV_Picture.svg"), HasSubstr("0 0 140 132\""));
+    EXPECT_THAT(inhalt("svg/E_Geometrie_Picture1.svg"), HasSubstr("0 0 80 80\""));
+    EXPECT_THAT(inhalt("svg/E_Energie_Picture2.svg"), HasSubstr("0 0 80 60\""));
+    EXPECT_THAT(inhalt("svg/E_Energie_Picture3.svg"), HasSubstr("0 0 80 60\""));
+    EXPECT_THAT(inhalt(pfad("svg/E_Energie_Monatsübersicht_Energieträger.svg")), HasSubstr("0 0 330 118\""));
+}
+
+// A cube of 10 m without ground: V = 1000, A/V = 0.6 by hand; the bar shows A/V times the edge from 2.88 on,
+// in steps of 0.06, and its words stand at the heights of the bodies.
+TEST_F(Konsole, DasAVBildBeschriftetDenBalken) {
+    auto zeilen = test::projektzeilen(programm.p());
+    zeilen[3] = " 10";
+    programm.ordner.schreibe("wuerfel.vel", test::projekttext(zeilen));
+    ASSERT_EQ(rufe("wuerfel.vel --ordner . --diagramme svg"), 0);
+    const std::string bild = inhalt("svg/E_Geometrie_AV_Picture.svg");
+    EXPECT_THAT(bild, HasSubstr("<path fill=\"#f0f0f0\""));
+    EXPECT_THAT(bild, HasSubstr("x=\"58\" y=\"54.91\" font-size=\"11\">0.72 Tetraeder<"));
+    EXPECT_THAT(bild, HasSubstr("x=\"58\" y=\"75\" font-size=\"11\">0.60 Würfel<"));
+    EXPECT_THAT(bild, HasSubstr("x=\"58\" y=\"94.4\" font-size=\"11\">0.48 Kugel<"));
+    EXPECT_THAT(bild, HasSubstr("font-size=\"11\">0.60 <"));
+}
+
+TEST_F(Konsole, DieZusammenfassungNenntIhreGroessen) {
+    Projekt& p = programm.p();
+    p.Datei = "a\tb.vel";
+    p.f_gd = 101.04F;
+    p.f_nutz = 200;
+    p.v_geb = 303.33F;
+    p.f_gf = 40.4F;
+    p.AV = 0.505F;
+    p.tau = 36000 * 6.06F;
+    p.qh = 7007.4F;
+    p.qhs_sum = 80.8F;
+    p.Heizlast_max = 9.09F;
+    p.Kuehllast_max = 10.1F;
+    p.q_HE_Energietraeger = 11.1F;
+    p.q_HE_Strom = 12.2F;
+    p.q_PE_Energietraeger = 13.3F;
+    p.q_PE_Strom = 14.4F;
+    for (int m = 1; m <= 12; ++m) {
+        p.Monat(m).Stunden_kalt = 100;
+        p.Monat(m).Stunden_komfort = 20;
+        p.Monat(m).Stunden_heiss = static_cast<std::int16_t>(m);
+        p.Monat(m).Kuehlbedarf = 250.25F;
+    }
+    const std::string erwartet =
+        "a\uFFFDb.vel\n"
+        "  Klimastation                      Trier (Deutschland)\n"
+        "\nGebäude\n"
+        "  Grundfläche                              101.0 m²\n"
+        "  Nutzfläche                               200.0 m²\n"
+        "  Gebäudevolumen                           303.3 m³\n"
+        "  Fensterfläche                             40.4 m²\n"
+        "  A/V - Verhältnis                          0.50 1/m\n"
+        "  Zeitkonstante                             60.6 h\n"
+        "\nHeizen und Kühlen\n"
+        "  Heizwärmebedarf                           7007 kWh/a\n"
+        "                                            80.8 kWh/(m² a)\n"
+        "  Kühlbedarf                                3003 kWh/a\n"
+        "                                            15.0 kWh/(m² a)\n"
+        "  Heizstunden                               1200 h\n"
+        "  Nullenergiestunden                         240 h\n"
+        "  Kühlstunden                                 78 h\n"
+        "  Maximale Heizlast                          9.1 kW\n"
+        "  Maximale Kühllast                         10.1 kW\n"
+        "\nEndenergie\n"
+        "  Heizöl                                    11.1 kWh/(m² a)\n"
+        "  Hilfsenergie (Strom)                      12.2 kWh/(m² a)\n"
+        "\nPrimärenergie\n"
+        "  Heizöl                                    13.3 kWh/(m² a)\n"
+        "  Hilfsenergie (Strom)                      14.4 kWh/(m² a)\n";
+    EXPECT_EQ(zusammenfassung(*programm.haupt), erwartet);
+}
+
+/// The numbers of an object under these names.
+std::vector<float> zahlen(const Json& objekt, const std::string& namen) {
+    std::istringstream rest(namen);
+    std::vector<float> werte;
+    for (std::string name; rest >> name;)
+        werte.push_back(objekt.at(name).get<float>());
+    return werte;
+}
+
+TEST_F(Konsole, JsonNenntJedeGroesseBeiIhremNamen) {
+    Projekt& p = programm.p();
+    p.Monat(12).Kuehl_lueft = 120.5F;
+    const Json json = als_json(*programm.haupt);
+    EXPECT_THAT(zahlen(json,
+                       "l kww gfs fs orient f_dach_flach f_nf f_sf v_geb tau qh qsol qi qtr qinf "
+                       "Fenstergewinn_S q_PE_Strom"),
+                ElementsAre(p.l, p.kww, p.gfs, p.fs, p.orient, p.f_dach_flach, p.f_nf, p.f_sf, p.v_geb, p.tau,
+                            p.qh, p.qsol, p.qi, p.qtr, p.qinf, p.Fenstergewinn_S, p.q_PE_Strom));
+    ASSERT_EQ(json["Monat"].size(), 12U);
+    for (const int m : {1, 12}) {
+        const Monatswerte& monat = p.Monat(m);
+        EXPECT_THAT(zahlen(json["Monat"][static_cast<std::size_t>(m - 1)],
+                           "Tmittel Qt Qv Qs_genutzt Qh Strahlung_S Stunden_kalt Kuehl_lueft"),
+                    ElementsAre(monat.Tmittel, monat.Qt, monat.Qv, monat.Qs_genutzt, monat.Qh,
+                                monat.Strahlung_S, monat.Stunden_kalt, monat.Kuehl_lueft));
+        EXPECT_EQ(json["Monat"][static_cast<std::size_t>(m - 1)]["Name"], monat.Name);
+    }
+    const Kennwerte& werte = programm.haupt->e_energie.kennwerte();
+    EXPECT_THAT(zahlen(json, "q_ce q_d q_s e_g q_d_he q_s_he q_g_he f_p"),
+                ElementsAre(werte.q_ce, werte.q_d, werte.q_s, werte.e_g, werte.q_d_he, werte.q_s_he,
+                            werte.q_g_he, werte.f_p));
+    EXPECT_EQ(json["Klimadatei"], "trier.met");
+    EXPECT_EQ(json["Traegername"], "Heizöl");
+    EXPECT_EQ(json["Traegername_e"], "fuel oil");
+    EXPECT_EQ(json["anz_tau"], programm.haupt->a_klima.anz_tau.text());
+}
+
+// What is opened is saved as it was, and the summary shows the numbers of the JSON output.
+TEST_F(Konsole, ZufaelligeProjekteBleibenUndZeigenIhreZahlen) {
+    std::mt19937 zufall(20261122);
+    for (int lauf = 0; lauf < 8; ++lauf) {
+        programm.ordner.schreibe("zufall.vel", test::projekttext(test::zufallszeilen(zufall)));
+        ASSERT_EQ(rufe("zufall.vel --json --speichern kopie.vel --ordner ."), 0) << fehler;
+        EXPECT_EQ(inhalt("kopie.vel"), inhalt("zufall.vel"));
+        const Json json = Json::parse(aus);
+        ASSERT_EQ(rufe("zufall.vel --ordner ."), 0);
+        for (const auto& [wort, name] :
+             std::map<std::string, const char*>{{"Nutzfläche", "f_nutz"},
+                                                {"Gebäudevolumen", "v_geb"},
+                                                {"Fensterfläche", "f_gf"},
+                                                {"Heizwärmebedarf", "qh"},
+                                                {"Maximale Heizlast", "Heizlast_max"},
+                                                {"Maximale Kühllast", "Kuehllast_max"}}) {
+            const std::size_t ort = aus.find(wort) + wort.size();
+            EXPECT_NEAR(std::stod(aus.substr(ort)), json[name].get<double>(), 0.501) << name;
+        }
     }
 }
 
 TEST_F(Konsole, DateinamenOhneUtf8SchadenDerAusgabeNicht) {
-    const auto eigen = programm.ordner / "h\xFC\xFFus.vel";
-    std::filesystem::copy_file(pfad(haus), eigen);
-    auftrag.projekte = {pfadtext(eigen), haus, pfadtext(programm.ordner / "fehlt\xFF.vel")};
-    auftrag.json = true;
-    EXPECT_EQ(laufen(), projekt_fehlerhaft);
-    const Json ergebnisse = Json::parse(aus.str());
-    ASSERT_EQ(ergebnisse.size(), 2U);
-    EXPECT_TRUE(ergebnisse[0]["Datei"].get<std::string>().ends_with("h\uFFFD\uFFFDus.vel"));
-    EXPECT_TRUE(fehler.str().ends_with("fehlt\uFFFD.vel: file not found\n")) << fehler.str();
-    aus.str({});
-    auftrag.json = false;
-    laufen();
-    EXPECT_TRUE(ist_utf8(aus.str()));
-}
-
-TEST_F(Konsole, EinFehlerHaeltDieAnderenNichtAuf) {
-    auftrag.projekte = {kurz, haus, pfadtext(programm.ordner / "fehlt.vel")};
-    auftrag.json = true;
-    EXPECT_EQ(laufen(), projekt_fehlerhaft);
-    EXPECT_EQ(Json::parse(aus.str()).size(), 1U);
-    const std::string zeilen = fehler.str();
-    EXPECT_NE(zeilen.find("kurz.met: "), std::string::npos);
-    EXPECT_NE(zeilen.find("fehlt.vel: file not found"), std::string::npos);
-    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), '\n'), 2);
+    fs::copy_file("haus.vel", "h\xFC\xFFus.vel");
+    EXPECT_EQ(rufe("--ordner . --json h\xFC\xFFus.vel fehlt\xFF.vel"), projekt_fehlerhaft);
+    EXPECT_EQ(Json::parse(aus)[0]["Datei"], "h\uFFFD\uFFFDus.vel");
+    EXPECT_EQ(fehler, "fehlt\uFFFD.vel: Datei nicht gefunden\n");
+    rufe("--ordner . h\xFC\xFFus.vel");
+    EXPECT_TRUE(ist_utf8(aus));
 }
 
 TEST_F(Konsole, WarntVorUnmoeglichenWertenUndRechnetDochDamit) {
-    std::string station = inhalt(programm.ordner / "klima/trier.met");
+    std::string station = inhalt("klima/trier.met");
     station.replace(station.find("49.75"), 5, "97.25");
     programm.ordner.schreibe("klima/trier.met", station);
-    auftrag.projekte = {haus};
     testing::internal::CaptureStderr();
-    EXPECT_EQ(laufen(), alles_gut) << fehler.str();
+    EXPECT_EQ(rufe("haus.vel --sprache e --ordner ."), alles_gut) << fehler;
     const std::string warnung = testing::internal::GetCapturedStderr();
-    EXPECT_NE(warnung.find("trier.met, line 2: latitude 97.25 °. One line"), std::string::npos) << warnung;
+    EXPECT_THAT(warnung, HasSubstr("trier.met, line 2: latitude 97.25 °. One line"));
     EXPECT_EQ(std::count(warnung.begin(), warnung.end(), '\n'), 1);
 }
 
 TEST_F(Konsole, BeiFehlernWirdNichtsGeschrieben) {
-    auftrag.projekte = {kurz};
-    auftrag.speichern = pfadtext(programm.ordner / "neu.vel");
-    auftrag.temperaturen = pfadtext(programm.ordner / "jahr.txt");
-    EXPECT_EQ(laufen(), projekt_fehlerhaft);
-    EXPECT_FALSE(std::filesystem::exists(programm.ordner / "neu.vel"));
-    EXPECT_FALSE(std::filesystem::exists(programm.ordner / "jahr.txt"));
-    auftrag.projekte = {haus};
-    auftrag.speichern = pfadtext(programm.ordner / "kein/ordner/neu.vel");
-    EXPECT_EQ(laufen(), projekt_fehlerhaft);
-    EXPECT_NE(fehler.str().find("neu.vel: file cannot be written"), std::string::npos);
+    EXPECT_EQ(rufe("kurz.vel --ordner . --speichern neu.vel --temperaturen jahr.txt"), projekt_fehlerhaft);
+    EXPECT_THAT(fehler, HasSubstr("kurz.met: "));
+    EXPECT_EQ(std::count(fehler.begin(), fehler.end(), '\n'), 1);
+    EXPECT_FALSE(fs::exists("neu.vel") || fs::exists("jahr.txt"));
+    std::ostringstream text, grund;
+    text.setstate(std::ios::badbit);
+    EXPECT_EQ(ausfuehren({}, text, grund), projekt_fehlerhaft);
+    EXPECT_EQ(grund.str(), "die Ausgabe kann nicht geschrieben werden\n");
 }
 
 }  // namespace
