@@ -1,6 +1,7 @@
 #include "planes/neues_projekt.h"
 
 #include "climate/regionen.h"
+#include "project/klimabereich.h"
 #include "toolkit/zahlen.h"
 
 namespace velmaris {
@@ -64,7 +65,7 @@ void neue_eingaben(Projekt& p) {
     neue_nutzung(p);
     regionsdateien_setzen(p);
     p.Klimadatei = vorgabestation();
-    p.Klimaauswahl = 2;
+    p.Klimaauswahl = nummer(Klimabereich::europa);
     p.Heizsystem = p.Uebergabe = p.Energietraeger = 1;
     p.Datei = unbenannt;
 }

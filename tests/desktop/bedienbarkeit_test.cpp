@@ -218,7 +218,7 @@ TEST_F(EbenenfokusTest, EingabetasteDruecktDenKnopfMitDemFokus) {
     EXPECT_FALSE(haupt.a_report.fenster.sichtbar());
 
     haupt.e_menue.klicke("Klima");
-    haupt.e_klima.Option.setze(E_Klima::welt);
+    haupt.e_klima.Option.setze(nummer(Klimabereich::welt));
     for (const auto& [ort, key, station] : {std::tuple{"Klimaregionwahl2", Qt::Key_Return, 1},
                                             {"Command2", Qt::Key_Return, 0},
                                             {"Command2", Qt::Key_Enter, 0},

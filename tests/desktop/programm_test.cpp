@@ -225,7 +225,7 @@ TEST_F(ProgrammTest, OhneStationKommtDasHauptfensterDochUndRechnetNachDerWahl) {
     EXPECT_GT(p().l, 10.0F);
     EXPECT_EQ(p().qh, 0);
     std::filesystem::rename(ordner / "weg", klima);
-    programm->haupt().e_klima.Option.setze(E_Klima::deutschland);
+    programm->haupt().e_klima.Option.setze(nummer(Klimabereich::deutschland));
     programm->haupt().e_klima.Klimaregionwahl.setze(3);
     EXPECT_GT(p().qh, 0);
 }

@@ -158,7 +158,7 @@ TEST(Startfehler, OhneVorgabestationKommtDasProgrammMitEinerAnderenHoch) {
         EXPECT_EQ(p.qh > 0, fall.andere);
         EXPECT_EQ(haupt->e_klima.klima_fehlt(), !fall.andere);
         ordner.schreibe("klima/trier.met", test::stationsbytes("Trier"));
-        haupt->e_klima.Option.setze(E_Klima::deutschland);
+        haupt->e_klima.Option.setze(nummer(Klimabereich::deutschland));
         haupt->e_klima.Klimaregionwahl.setze(3);
         EXPECT_EQ(p.Klimadatei, "trier.met");
         EXPECT_GT(p.qh, 0);

@@ -4,6 +4,7 @@
 #include "calc/heizgrenze.h"
 #include "climate/jahreswerte.h"
 #include "climate/regionen.h"
+#include "project/klimabereich.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
@@ -11,10 +12,8 @@
 namespace velmaris {
 namespace {
 
-constexpr int bereich_deutschland = 1;
-
 std::string klimaname(const Projekt& p) {
-    if (p.Klimaauswahl != bereich_deutschland) return p.Stationsname;
+    if (!im_bereich(p, Klimabereich::deutschland)) return p.Stationsname;
     const int region = region_der_station(p);
     return "Region " + (region > 0 ? std::string(klimaregion(region).text) : p.Stationsname);
 }

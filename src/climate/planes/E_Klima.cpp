@@ -107,12 +107,12 @@ E_Klima::E_Klima(Sitzung& sitzung, std::function<void()> wetter_laden)
     Picture2.lade(kartenbild(s_.p, "europa"));
     Picture3.lade(kartenbild(s_.p, "welt"));
     weltkarte_legen();
-    bereich_zeigen(deutschland);
+    bereich_zeigen(Klimabereich::deutschland);
     verbinden();
 }
 
 void E_Klima::verbinden() {
-    Option.geklickt = [this](int bereich) { Option_Click(bereich); };
+    Option.geklickt = [this](int option) { Option_Click(option); };
     Klimaregionwahl.gewaehlt = [this] { region_gewaehlt(); };
     Picture1.maus_bewegt = [this](double x, double y) { karte_bewegt(x, y); };
     Picture1.maus_geklickt = [this](double x, double y) { karte_geklickt(x, y); };
@@ -126,20 +126,21 @@ void E_Klima::verbinden() {
 }
 
 void E_Klima::klima_anzeigen() {
-    const int bereich = s_.p.Klimaauswahl;
-    if (bereich < deutschland || bereich > welt) return;
-    if (Option.gesetzt(bereich)) {
-        Option_Click(bereich);
+    const int option = s_.p.Klimaauswahl;
+    if (option < nummer(Klimabereich::deutschland) || option > nummer(Klimabereich::welt)) return;
+    if (Option.gesetzt(option)) {
+        Option_Click(option);
     } else {
-        Option.setze(bereich);
+        Option.setze(option);
     }
 }
 
-void E_Klima::Option_Click(int bereich) {
-    s_.p.Klimaauswahl = i16(bereich, "Klimaauswahl");
+void E_Klima::Option_Click(int option) {
+    s_.p.Klimaauswahl = i16(option, "Klimaauswahl");
+    const auto bereich = static_cast<Klimabereich>(option);
     bereich_zeigen(bereich);
     const bool ersetzt = !gelistet() && !klima_fehlt_ && ersatz_erlaubt && ersatz_laden(ungelistet(s_.p));
-    if (bereich == deutschland) {
+    if (bereich == Klimabereich::deutschland) {
         region_zeigen();
     } else {
         Klimaregionwahl2.fuelle(stationsnamen(stationen_des_bereichs()));
@@ -147,28 +148,28 @@ void E_Klima::Option_Click(int bereich) {
     }
 }
 
-void E_Klima::bereich_zeigen(int bereich) {
-    const bool regionen = bereich == deutschland;
+void E_Klima::bereich_zeigen(Klimabereich bereich) {
+    const bool regionen = bereich == Klimabereich::deutschland;
     for (Feld* feld : std::initializer_list<Feld*>{&Frame_Region, &Klimaregionwahl, &Picture1, &Frame_plz,
                                                    &plz, &PLZsuchen})
         feld->zeige(regionen);
     for (Feld* feld : std::initializer_list<Feld*>{&Frame_Station, &Klimaregionwahl2, &MausRegion})
         feld->zeige(!regionen);
-    Picture2.zeige(bereich == europa);
+    Picture2.zeige(bereich == Klimabereich::europa);
     for (Feld* feld : std::initializer_list<Feld*>{&picture3f, &Picture3, &HScroll1, &Image1})
-        feld->zeige(bereich == welt);
+        feld->zeige(bereich == Klimabereich::welt);
     MausRegion.schreibe({});
     Label2.zeige(false);
     s_.plattform.zeitgeber_stoppen(Timer1);
 }
 
 const std::vector<Station>& E_Klima::stationen_des_bereichs() const {
-    return s_.p.Klimaauswahl == europa ? stationen.Europa : stationen.Welt;
+    return im_bereich(s_.p, Klimabereich::europa) ? stationen.Europa : stationen.Welt;
 }
 
 /// True if the lists of the scope know the record's station, or those of the world do.
 bool E_Klima::gelistet() const {
-    const bool region = s_.p.Klimaauswahl == deutschland && region_der_station(s_.p) > 0;
+    const bool region = im_bereich(s_.p, Klimabereich::deutschland) && region_der_station(s_.p) > 0;
     return region || stationsindex(stationen.Welt, s_.p.Klimadatei) >= 0;
 }
 
@@ -188,7 +189,8 @@ void E_Klima::station_zeigen(bool versucht) {
         return;
     }
     auswahl_nachziehen();
-    if (index >= 0 && s_.p.Klimaauswahl == welt) station_in_sicht(liste[static_cast<std::size_t>(index)]);
+    if (index >= 0 && im_bereich(s_.p, Klimabereich::welt))
+        station_in_sicht(liste[static_cast<std::size_t>(index)]);
     Picture2.neu_zeichnen();
     Picture3.neu_zeichnen();
 }
@@ -196,7 +198,7 @@ void E_Klima::station_zeigen(bool versucht) {
 /// The stations to try in place of one that cannot be used, in their order.
 std::vector<std::string> E_Klima::ersatzstationen() const {
     std::vector<std::string> dateien;
-    if (s_.p.Klimaauswahl == deutschland) {
+    if (im_bereich(s_.p, Klimabereich::deutschland)) {
         dateien.push_back(s_.p.Regionsdatei(ersatzregion));
         for (int region = 1; region <= klimaregionen; ++region)
             dateien.push_back(s_.p.Regionsdatei(region));
@@ -244,7 +246,7 @@ void E_Klima::fehlt_melden(const std::string& text, const Dateifehler& grund, co
 
 /// Brings the selection back to the record's station, without a handler.
 void E_Klima::auswahl_nachziehen() {
-    const bool regionen = s_.p.Klimaauswahl == deutschland;
+    const bool regionen = im_bereich(s_.p, Klimabereich::deutschland);
     Auswahlliste& liste = regionen ? Klimaregionwahl : Klimaregionwahl2;
     const int index =
         regionen ? region_der_station(s_.p) - 1 : stationsindex(stationen_des_bereichs(), s_.p.Klimadatei);
@@ -267,7 +269,7 @@ void E_Klima::region_gewaehlt() {
 
 void E_Klima::station_gewaehlt() {
     const Station& station = stationen_des_bereichs().at(static_cast<std::size_t>(Klimaregionwahl2.index()));
-    if (s_.p.Klimaauswahl == welt) station_in_sicht(station);
+    if (im_bereich(s_.p, Klimabereich::welt)) station_in_sicht(station);
     uebernehmen(station.datei);
     Picture2.neu_zeichnen();
     Picture3.neu_zeichnen();

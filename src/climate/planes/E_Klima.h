@@ -3,6 +3,7 @@
 #include "climate/planes/E_Zoom_Klima.h"
 #include "climate/planes/stationskarte.h"
 #include "climate/stationslisten.h"
+#include "project/klimabereich.h"
 #include "project/sitzung.h"
 #include "toolkit/fehler.h"
 #include "toolkit/felder.h"
@@ -22,14 +23,11 @@ struct E_Klima {
     /// current climate; it leaves the former one by a Dateifehler if the station cannot be read.
     E_Klima(Sitzung& sitzung, std::function<void()> wetter_laden);
 
-    /// The numbers of the scopes, as `Klimaauswahl` holds them.
-    enum Bereich { deutschland = 1, europa = 2, welt = 3 };
-
     const Stationslisten stationen;
 
     Feld ebene{"E_Klima"};  ///< the plane itself, hidden at first
 
-    Optionsgruppe Option{"Option", deutschland, 3};  ///< `Option1` to `Option3`
+    Optionsgruppe Option{"Option", 1, 3};  ///< `Option1` to `Option3`, by the number of their scope
 
     Anzeige Frame_Karte{"Frame_Karte"};  ///< around the map of the scope
 
@@ -74,7 +72,7 @@ struct E_Klima {
     /// The logic behind the options: shows the controls of the scope and brings its list and the record's
     /// station together. A station that no list has is replaced as by `station_ersetzen`; if none can be read
     /// it stays in force.
-    void Option_Click(int bereich);
+    void Option_Click(int option);
 
     /// Replaces the record's station, which cannot be used for the reason of `fehler`, and tells the user: by
     /// that of region 4 in Germany, by one drawn by lot elsewhere; where that cannot be read either, by
@@ -97,7 +95,7 @@ struct E_Klima {
 
   private:
     void verbinden();
-    void bereich_zeigen(int bereich);
+    void bereich_zeigen(Klimabereich bereich);
     void region_zeigen();
     void station_zeigen(bool versucht);
     [[nodiscard]] bool gelistet() const;

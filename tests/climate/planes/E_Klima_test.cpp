@@ -15,9 +15,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr int deutschland = E_Klima::deutschland;
-constexpr int europa = E_Klima::europa;
-constexpr int welt = E_Klima::welt;
+constexpr int deutschland = nummer(Klimabereich::deutschland);
+constexpr int europa = nummer(Klimabereich::europa);
+constexpr int welt = nummer(Klimabereich::welt);
 
 /// The map pictures by their file names.
 std::string bild(const Bildfeld& feld) {

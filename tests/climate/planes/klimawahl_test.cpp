@@ -26,7 +26,7 @@ const std::vector<std::pair<int, int>> bezugspixel{{110, 20}, {140, 90}, {35, 13
 class Deutschlandkarte : public testing::Test {
   protected:
     Deutschlandkarte() {
-        probe.oeffne(E_Klima::deutschland, "trier.met");
+        probe.oeffne(nummer(Klimabereich::deutschland), "trier.met");
         std::uint8_t region = 1;
         for (const auto& ort : bezugspixel)
             pixel[ort] = {region++, 0, 0};
@@ -110,7 +110,7 @@ TEST(Klimawahl, DiePostleitzahlWirdGesuchtOderErklaert) {
           Fall{"00123", {}, "  Keine gültige Postleitzahl!  ", ""}, Fall{"5429", {}, kurz, "5429"},
           Fall{"D-542", {}, kurz, "542"}, Fall{"77777", {}, ohne, "77777"}}) {
         Klimaprobe probe;
-        probe.oeffne(E_Klima::deutschland, "trier.met");
+        probe.oeffne(nummer(Klimabereich::deutschland), "trier.met");
         probe.e->plz.tippe(fall.getippt);
         probe.e->plz.bestaetige();
         EXPECT_EQ(probe.geladen, fall.geladen) << fall.getippt;
@@ -125,7 +125,7 @@ TEST(Klimawahl, DiePostleitzahlWirdGesuchtOderErklaert) {
 
 TEST(Klimawahl, EineFehlendeTabelleDerPostleitzahlenWirdGenannt) {
     Klimaprobe probe;
-    probe.oeffne(E_Klima::deutschland, "trier.met");
+    probe.oeffne(nummer(Klimabereich::deutschland), "trier.met");
     std::filesystem::remove(probe.ordner / "klima/plz.txt");
     probe.e->plz.tippe("28259");
     probe.e->PLZsuchen.druecke();
@@ -139,7 +139,7 @@ TEST(Klimawahl, ImProgrammFolgenBeideKlimaebenenDerWahl) {
     EXPECT_EQ(haupt.a_klima.anz_klimaregion.text(), "Trier (Deutschland)");
     EXPECT_EQ(haupt.e_klima.anz_MittelJahrTemp.text(), haupt.a_klima.anz_MittelJahrTemp.text());
     EXPECT_NE(haupt.e_klima.anz_MittelJahrTemp.text(), "");
-    EXPECT_EQ(haupt.e_klima.Option.gesetzt(), E_Klima::europa);
+    EXPECT_EQ(haupt.e_klima.Option.gesetzt(), nummer(Klimabereich::europa));
     EXPECT_EQ(haupt.e_klima.Klimaregionwahl2.text(), "Trier (Deutschland)");
     EXPECT_EQ(programm.p().Geaendert, 0);
 

@@ -246,14 +246,14 @@ TEST_F(AnsichtenTest, ZoomZeigtDenMonatDerUebersicht) {
 TEST_F(AnsichtenTest, KarteWaehltStationUndPostleitzahl) {
     starte("d");
     klicke(such<QAbstractButton>("E_Menue", "Klima"));
-    programm->haupt().e_klima.Option.setze(E_Klima::deutschland);
+    programm->haupt().e_klima.Option.setze(nummer(Klimabereich::deutschland));
     auto& plz = such<QLineEdit>("E_Klima", "plz");
     plz.setFocus();
     QTest::keyClicks(&plz, "1a2b3456");
     EXPECT_EQ(plz.text(), "12345");
     EXPECT_EQ(programm->haupt().e_klima.kartenfarbe(programm->haupt().e_klima.Picture1, 110, 20),
               such<Bildflaeche>("E_Klima", "Picture1").flaeche().lies_punkt(110, 20));
-    programm->haupt().e_klima.Option.setze(E_Klima::welt);
+    programm->haupt().e_klima.Option.setze(nummer(Klimabereich::welt));
     EXPECT_TRUE(such("E_Klima", "picture3f").isVisible());
     const int links = such("E_Klima", "Picture3").x();
     QTest::keyClick(&such("E_Klima", "HScroll1"), Qt::Key_Left);

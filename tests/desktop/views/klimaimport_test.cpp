@@ -278,7 +278,7 @@ TEST_F(KlimaimportTest, ErkannteDateienBrauchenWenigUndDerNeustartBietetSieAn) {
     starte("e");
     const double alt = p().qh;
     klicke(such<QAbstractButton>("E_Menue", "Klima"));
-    programm->haupt().e_klima.Option.setze(E_Klima::welt);
+    programm->haupt().e_klima.Option.setze(nummer(Klimabereich::welt));
     auto& liste = such<QComboBox>("E_Klima", "Klimaregionwahl2");
     ASSERT_GE(liste.findText("Bern (CHE)"), 0);
     test::waehle_zeile(liste, liste.findText("Bern (CHE)"));
