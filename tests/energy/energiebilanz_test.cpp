@@ -71,14 +71,6 @@ TEST(EnergRefresh, OhneBedarfBleibtDieDivisionErlaubt) {
     EXPECT_EQ(klein->qhs_sum, 2E-10F);
 }
 
-TEST(EnergRefresh, FalscheKombinationLaesstDieErgebnisseStehen) {
-    const auto p = projekt(5, 1, 2, 150, 0);
-    p->q_HE_Strom = 7;
-    EXPECT_THROW(energ_refresh(*p), Laufzeitfehler);
-    EXPECT_EQ(p->q_HE_Strom, 7);
-    EXPECT_EQ(p->qhs_sum, 0);
-}
-
 /// 7500 kWh of heat in the year: 1500 in January, 6000 in December.
 std::unique_ptr<Projekt> winterhaus(int system, int uebergabe, int traeger) {
     auto p = projekt(system, uebergabe, traeger, 150, 50);
