@@ -76,9 +76,9 @@ Hilfedatei::Hilfedatei(std::filesystem::path datei)
     const QByteArray bytes = geprueft(pfad_);
     QTemporaryFile& kopie = kopie_->datei;
     if (!kopie.open() || kopie.write(bytes) != bytes.size() || !kopie.flush()) throw kein_platz(kopie);
-    const std::filesystem::path name = QFileInfo(kopie.fileName()).filesystemAbsoluteFilePath();
     kopie.close();
-    kopie_->leser.reset(chm_open(name.c_str()));
+    // In the system's bytes, since a path is wide on some systems and the reader's name never is.
+    kopie_->leser.reset(chm_open(QFile::encodeName(kopie.fileName()).constData()));
     if (!kopie_->leser) throw beschaedigt(pfad_);
     kopie.remove();  // out of everybody's reach; where an open file cannot be removed, it goes at the end
 }
