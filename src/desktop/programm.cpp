@@ -42,7 +42,7 @@ Programm::Programm(const std::filesystem::path& programmordner, const std::strin
       haupt_(std::make_unique<Haupt>(plattform_, programmordner, sprache)),
       start_(std::make_unique<Start>(*haupt_, befehlszeile, [this] { fenster_->zeigen(); })),
       fenster_(std::make_unique<Hauptfenster>(*haupt_, mittel_)),
-      startfenster_(startfenster(*start_, *haupt_, mittel_, [this] { plattform_.beenden(); })),
+      startfenster_(startfenster(*start_, mittel_, programmordner)),
       hilfefenster_(wache_, sprache),
       hilfetaste_(
           [this](const std::string& seite) { wache_.fuehre_aus([&] { haupt_->datei.hilfe_zeigen(seite); }); },

@@ -57,12 +57,10 @@ class Sprachknopf : public QPushButton {
 
 }  // namespace
 
-QWidget* startfenster(Start& start, const Haupt& haupt, const Ansichtsmittel& mittel,
-                      std::function<void()> beenden) {
-    const auto schliessen = [&start, &haupt, beenden = std::move(beenden)] {
-        haupt.p.Gestartet == 1 ? start.fenster.zeige(false) : beenden();
-    };
-    auto* fenster = new Nebenfenster(mittel.wache, schliessen, nullptr);
+QWidget* startfenster(Start& start, const Ansichtsmittel& mittel,
+                      const std::filesystem::path& programmordner) {
+    auto* fenster = new Nebenfenster(
+        mittel.wache, [&start] { start.schliessen(); }, nullptr);
     fenster->setWindowModality(Qt::ApplicationModal);
     fenster->setWindowTitle(QStringLiteral("Velmaris"));
     fenster->setMinimumSize(650, 429);
@@ -71,7 +69,7 @@ QWidget* startfenster(Start& start, const Haupt& haupt, const Ansichtsmittel& mi
     tafel->setContentsMargins(40, 30, 40, 24);
     tafel->setHorizontalSpacing(30);
     auto* bild = new QLabel(fenster);
-    bild->setPixmap(programmbild(haupt.p.AppPfad, fenster->devicePixelRatioF()));
+    bild->setPixmap(programmbild(programmordner, fenster->devicePixelRatioF()));
     tafel->addWidget(bild, 0, 0, 2, 1, Qt::AlignCenter);
     tafel->addWidget(ueberschrift(fenster), 0, 1, Qt::AlignLeft | Qt::AlignBottom);
     QLabel* text = bau.anzeige(start.Text);

@@ -7,9 +7,9 @@ class QWidget;
 
 namespace velmaris {
 
-/// The start window, later the about box. `beenden` is run when it is closed while the program is not up yet.
-QWidget* startfenster(Start& start, const Haupt& haupt, const Ansichtsmittel& mittel,
-                      std::function<void()> beenden);
+/// The start window, later the about box. Its picture is in the folder Grafiken of the program.
+QWidget* startfenster(Start& start, const Ansichtsmittel& mittel,
+                      const std::filesystem::path& programmordner);
 
 /// Shows the language window and waits for the choice: "d" or "e", nothing if it was closed without one. The
 /// two pictures are in the folder Grafiken of the program.

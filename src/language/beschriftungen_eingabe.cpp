@@ -15,6 +15,8 @@ constexpr std::array E_Geometrie{
     Beschriftung{"Label1", "Anzahl Geschosse:", "number of floors"},
     Beschriftung{"Label22", "   Höhe     (ohne Dach):", "height (without roof)"},
     Beschriftung{"Label4", "Dachhöhe:", "height of roof"},
+    Beschriftung{"l_sb", "Länge", "length"},  // for screen readers
+    Beschriftung{"b_sb", "Breite", "width"},
     Beschriftung{"Label12", "West-", "west"},
     Beschriftung{"Label15", "Fassade:", "facade"},
     Beschriftung{"Label14", "Süd-Fassade:", "south facade"},

@@ -81,6 +81,14 @@ void Start::Timer1_Timer() {
     hauptfenster_zeigen_();
 }
 
+void Start::schliessen() {
+    if (haupt_.p.Gestartet == 1) {
+        fenster.zeige(false);
+    } else {
+        haupt_.sitzung.plattform.beenden();
+    }
+}
+
 void Start::OK_Button_Click() {
     if (haupt_.p.Gestartet == 1) {
         fenster.zeige(false);

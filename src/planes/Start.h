@@ -26,6 +26,9 @@ struct Start {
     /// Builds up the project, opens the one that the command line names, and shows the main window.
     void Timer1_Timer();
 
+    /// Closes the about box; before the program is up, ends it.
+    void schliessen();
+
   private:
     void schnell_starten();
     void aufbauen();

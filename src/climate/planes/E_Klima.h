@@ -62,8 +62,8 @@ struct E_Klima {
     /// end or the other of `HScroll1`.
     static constexpr int rahmenbreite = 330;
 
-    /// Set by the view: reads a pixel of one of the maps.
-    Kartenfarbe kartenfarbe;
+    /// Reads a pixel of one of the maps.
+    Kartenfarbe kartenfarbe = gezeigte_kartenfarbe;
 
     /// Sets the option of `Klimaauswahl` and runs its logic, also if it is set already. A value without an
     /// option does nothing.

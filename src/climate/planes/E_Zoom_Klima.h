@@ -18,8 +18,8 @@ struct E_Zoom_Klima {
     Knopf Command1{"Command1"};        ///< takes the choice over
     Knopf Command2{"Command2"};        ///< closes without a change
 
-    /// Set by the view: reads a pixel of the map.
-    Kartenfarbe kartenfarbe;
+    /// Reads a pixel of the map.
+    Kartenfarbe kartenfarbe = gezeigte_kartenfarbe;
 
     /// Opens the window on the plane's list and selection.
     void oeffnen();

@@ -3,6 +3,7 @@
 #include "toolkit/zahlen.h"
 
 #include <cmath>
+#include <filesystem>
 
 namespace velmaris {
 namespace {
@@ -17,6 +18,12 @@ void punkt_zeichnen(Zeichenflaeche& bild, Kartenpunkt ort, Farbe farbe) {
 }
 
 }  // namespace
+
+std::optional<Farbe> gezeigte_kartenfarbe(const Bildfeld& karte, double x, double y) {
+    if (!karte.lies_punkt || karte.bild().empty() || !std::filesystem::exists(karte.bild()))
+        return std::nullopt;
+    return karte.lies_punkt(x, y);
+}
 
 void Stationskarte::verbinden() {
     karte.zeichnen = [this](Zeichenflaeche& bild) { zeichnen(bild); };

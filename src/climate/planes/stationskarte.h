@@ -13,6 +13,7 @@ namespace velmaris {
 /// The colour of a pixel of a map as it is on the screen, with what is drawn over the picture; nothing if the
 /// picture could not be loaded.
 using Kartenfarbe = std::function<std::optional<Farbe>(const Bildfeld& karte, double x, double y)>;
+[[nodiscard]] std::optional<Farbe> gezeigte_kartenfarbe(const Bildfeld& karte, double x, double y);
 
 /// A map on which stations are dots: painting them, finding the station under the pointer, taking one
 /// by a click. Works on the controls of the window that holds it, which outlives it.
@@ -24,7 +25,7 @@ struct Stationskarte {
     Bildfeld& karte;           ///< the map
     Auswahlliste& liste;       ///< `Klimaregionwahl2`, filled with the names of `stationen`
     Anzeige& MausRegion;       ///< name of the station under the pointer
-    const Kartenfarbe& farbe;  ///< unset while there is no view
+    const Kartenfarbe& farbe;  ///< may be unset
 
     /// Takes over drawing and pointer events of the map.
     void verbinden();

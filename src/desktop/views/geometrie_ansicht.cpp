@@ -4,7 +4,6 @@
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebene.h"
 #include "desktop/widgets/scrollleiste.h"
-#include "toolkit/wort.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -73,12 +72,10 @@ void masse(E_Geometrie& e, const Ebenenbau& bau, QWidget* ebene) {
     setze(bau.leiste(e.ag_sb, bau.text("Label1"), Qt::Vertical), ebene, 296, 88, mass::leiste, 97);
     setze(mittig(bau.anzeige(e.ag_anz)), ebene, 316, 128, 28, 16);
 
-    const std::string laenge(Wort{"Länge", "length"}.in(bau.mittel().sprache));
-    const std::string breite(Wort{"Breite", "width"}.in(bau.mittel().sprache));
     setze(mittig(bau.anzeige(e.b_anz)), ebene, 10, 210, 160, 15);
-    setze(bau.leiste(e.b_sb, breite), ebene, 10, 226, 160, mass::leiste);
+    setze(bau.leiste(e.b_sb, bau.text(e.b_sb.name)), ebene, 10, 226, 160, mass::leiste);
     setze(mittig(bau.anzeige(e.l_anz)), ebene, 182, 210, 160, 15);
-    setze(bau.leiste(e.l_sb, laenge), ebene, 182, 226, 160, mass::leiste);
+    setze(bau.leiste(e.l_sb, bau.text(e.l_sb.name)), ebene, 182, 226, 160, mass::leiste);
 }
 
 QGroupBox* dachfirst(E_Geometrie& e, const Ebenenbau& bau) {

@@ -24,13 +24,6 @@ namespace {
 constexpr int kartenrand = 5;  ///< between the frame and the maps
 constexpr int karten_oben = 22;
 
-/// The colour of a map's pixel, nothing for a map without a picture.
-std::optional<Farbe> kartenfarbe(const Bildfeld& karte, double x, double y) {
-    if (!karte.lies_punkt || karte.bild().empty() || !std::filesystem::exists(karte.bild()))
-        return std::nullopt;
-    return karte.lies_punkt(x, y);
-}
-
 void rahmen_mit_liste(Anzeige& titel, Auswahlliste& liste, const Ebenenbau& bau, QWidget* ebene) {
     QGroupBox* rahmen = setze(bau.rahmen(titel), ebene, 6, 28, 340, 48);
     stapel(*rahmen)->addWidget(bau.liste(liste, titel.text()));
@@ -94,7 +87,6 @@ QGroupBox* klimadaten(E_Klima& e, const Ebenenbau& bau) {
 QWidget* klima_ansicht(E_Klima& e, const Ansichtsmittel& mittel, QWidget* eltern) {
     QWidget* ebene = ebene_bauen(e.ebene, eingabegroesse, mittel, eltern);
     const Ebenenbau bau(*ebene, "E_Klima", mittel);
-    e.kartenfarbe = kartenfarbe;
     int x = 10;
     for (QRadioButton* option : bau.optionen(e.Option)) {
         setze(option, ebene, x, 6, 108, 20);
@@ -114,7 +106,6 @@ QWidget* zoom_klima_ansicht(E_Zoom_Klima& e, const Ansichtsmittel& mittel, QWidg
         mittel.wache, [&e] { e.Command2.druecke(); }, eltern);
     fenster->setWindowModality(Qt::ApplicationModal);
     const Ebenenbau bau(*fenster, "E_Zoom_Klima", mittel);
-    e.kartenfarbe = kartenfarbe;
     auto* spalte = new QVBoxLayout(fenster);
     Bildflaeche* karte = bau.bild(e.Picture1);
     karte->setFixedSize(QSize(weltgroesse.breite, weltgroesse.hoehe) * weltvergroesserung);
