@@ -1,6 +1,5 @@
 #include "climate/karten.h"
 #include "tests/tools/pictures/kartenprobe.h"
-#include "toolkit/zahlen.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -23,10 +22,10 @@ struct Ort {
 /// The rings of the regions 1..12 at 0..11, in degrees.
 std::array<std::vector<std::vector<Ort>>, regionen> ringe_lesen() {
     std::array<std::vector<std::vector<Ort>>, regionen> ergebnis;
-    for (auto& zeile : test::fakten("regionen_polygone.csv")) {
-        auto& ringe = ergebnis.at(static_cast<std::size_t>(zahl_lesen(zeile["region"])) - 1);
-        if (zeile["punkt"] == "1") ringe.emplace_back();
-        ringe.back().push_back({zahl_lesen(zeile["lon"]), zahl_lesen(zeile["lat"])});
+    for (const Csvzeile& zeile : test::fakten("regionen_polygone.csv", {"region", "punkt", "lon", "lat"})) {
+        auto& ringe = ergebnis.at(static_cast<std::size_t>(zeile.ganzzahl("region", {1, 12})) - 1);
+        if (zeile.text("punkt") == "1") ringe.emplace_back();
+        ringe.back().push_back({zeile.zahl("lon", {5, 16}), zeile.zahl("lat", {47, 56})});
     }
     return ergebnis;
 }

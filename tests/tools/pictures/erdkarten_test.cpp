@@ -1,5 +1,4 @@
 #include "tests/tools/pictures/kartenprobe.h"
-#include "toolkit/zahlen.h"
 #include "tools/pictures/projektion.h"
 
 #include <algorithm>
@@ -126,11 +125,11 @@ void pruefen(const Karte& karte, const std::vector<Ort>& orte, const Staedte& st
     for (const auto& [name, art, grad] : orte)
         EXPECT_TRUE(ist(art, karte, bild, karte.pixel(grad))) << karte.datei << ", " << name;
     std::size_t gefunden = 0;
-    for (const auto& zeile : test::fakten("stationen.csv")) {
-        const std::string& name = zeile.at("name");
+    for (const Csvzeile& zeile : test::fakten("stationen.csv", {"name", "laenge_o", "breite_n"})) {
+        const std::string& name = zeile.text("name");
         if (!staedte.kueste.contains(name) && !staedte.binnen.contains(name)) continue;
         const Art art = staedte.kueste.contains(name) ? Art::kueste : Art::binnen;
-        const Punkt grad{zahl_lesen(zeile.at("laenge_o")), zahl_lesen(zeile.at("breite_n"))};
+        const Punkt grad{zeile.zahl("laenge_o", {-180, 180}), zeile.zahl("breite_n", {-90, 90})};
         EXPECT_TRUE(ist(art, karte, bild, karte.pixel(grad))) << karte.datei << ", " << name;
         ++gefunden;
     }

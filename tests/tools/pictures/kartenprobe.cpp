@@ -4,19 +4,10 @@
 #include "toolkit/text.h"
 
 #include <cstdint>
-#include <sstream>
 #include <stdexcept>
 
 namespace velmaris::test {
 namespace {
-
-std::vector<std::string> zerlegt(const std::string& zeile) {
-    std::istringstream strom(zeile + ",");
-    std::vector<std::string> felder;
-    for (std::string feld; std::getline(strom, feld, ',');)
-        felder.push_back(feld);
-    return felder;
-}
 
 std::uint32_t zahl(const std::string& bytes, std::size_t ab, std::size_t anzahl) {
     std::uint32_t wert = 0;
@@ -62,19 +53,8 @@ Bitmap grafik(const std::string& name) {
     return bild;
 }
 
-std::vector<std::map<std::string, std::string>> fakten(const std::string& name) {
-    std::istringstream strom(inhalt(datenordner() / name));
-    std::string zeile;
-    std::getline(strom, zeile);
-    const std::vector<std::string> kopf = zerlegt(zeile);
-    std::vector<std::map<std::string, std::string>> zeilen;
-    while (std::getline(strom, zeile)) {
-        const std::vector<std::string> felder = zerlegt(zeile);
-        auto& neue = zeilen.emplace_back();
-        for (std::size_t i = 0; i < kopf.size(); ++i)
-            neue[kopf[i]] = felder.at(i);
-    }
-    return zeilen;
+std::vector<Csvzeile> fakten(const std::string& name, const std::vector<std::string>& spalten) {
+    return csv_lesen(inhalt(datenordner() / name), name, spalten);
 }
 
 }  // namespace velmaris::test

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "toolkit/zeichenflaeche.h"
+#include "tools/csv.h"
 
 #include <filesystem>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -28,7 +28,7 @@ struct Bitmap {
 /// 24 bits is an exception.
 Bitmap grafik(const std::string& name);
 
-/// The rows of a table of the facts, without its head, as column name -> field.
-std::vector<std::map<std::string, std::string>> fakten(const std::string& name);
+/// The rows of a table of the facts.
+std::vector<Csvzeile> fakten(const std::string& name, const std::vector<std::string>& spalten);
 
 }  // namespace velmaris::test

@@ -18,10 +18,10 @@ TEST(Postleitzahlen, JederAnfangStehtDerReiheNachMitSeinerRegion) {
     EXPECT_EQ(bytes.substr(0, 16), "000; 0\r\n001; 0\r\n");
     Listenleser leser(bytes);
     int anzahl = 0;
-    for (auto& zeile : test::fakten("plz_region.csv")) {
+    for (const Csvzeile& zeile : test::fakten("plz_region.csv", {"prefix", "region"})) {
         const auto posten = leser.naechster().value_or("");
-        EXPECT_EQ(spalten(posten, 1, 4), zeile["prefix"] + ";");
-        EXPECT_EQ(zahl_lesen(spalten(posten, 5, 6)), zahl_lesen(zeile["region"])) << posten;
+        EXPECT_EQ(spalten(posten, 1, 4), zeile.text("prefix") + ";");
+        EXPECT_EQ(zahl_lesen(spalten(posten, 5, 6)), zeile.zahl("region", {0, 12})) << posten;
         ++anzahl;
     }
     EXPECT_EQ(anzahl, 1000);
