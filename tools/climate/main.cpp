@@ -1,10 +1,9 @@
-#include "toolkit/fehler.h"
 #include "toolkit/zahlen.h"
 #include "tools/climate/klimasatz.h"
+#include "tools/lauf.h"
 
 #include <algorithm>
 #include <charconv>
-#include <exception>
 #include <filesystem>
 #include <iostream>
 #include <optional>
@@ -68,20 +67,14 @@ void zusammenfassen(const std::vector<Klimadatei>& dateien) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    try {
-        const auto wunsch = aufruf(std::vector<std::string_view>(argv + 1, argv + argc));
-        if (!wunsch) {
-            std::cerr << gebrauch;
-            return 2;
-        }
+    const auto wunsch = aufruf(std::vector<std::string_view>(argv + 1, argv + argc));
+    if (!wunsch) {
+        std::cerr << gebrauch;
+        return 2;
+    }
+    return erzeugerlauf("klima_erzeugen", [&] {
         const auto dateien = klimasatz_erzeugen(stationsliste_lesen(wunsch->liste), wunsch->faeden);
         klimasatz_schreiben(wunsch->ordner, dateien);
         zusammenfassen(dateien);
-        return 0;
-    } catch (const Laufzeitfehler& fehler) {
-        std::cerr << "klima_erzeugen: " << fehler.text("e") << '\n';
-    } catch (const std::exception& fehler) {
-        std::cerr << "klima_erzeugen: " << fehler.what() << '\n';
-    }
-    return 1;
+    });
 }

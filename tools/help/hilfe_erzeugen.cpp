@@ -1,4 +1,3 @@
-#include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 #include "toolkit/wort.h"
@@ -6,6 +5,7 @@
 #include "tools/help/chmprojekt.h"
 #include "tools/help/groessen.h"
 #include "tools/help/seitenbau.h"
+#include "tools/lauf.h"
 
 #include <iostream>
 
@@ -39,14 +39,5 @@ int main(int anzahl, char** argumente) {
         return 2;
     }
     dezimalzeichen_setzen(englisch(sprache) ? '.' : ',');
-    try {
-        hilfe_schreiben(sprache, argumente[2], argumente[3]);
-    } catch (const Laufzeitfehler& fehler) {
-        std::cerr << fehler.text("e") << '\n';
-        return 1;
-    } catch (const std::exception& fehler) {
-        std::cerr << fehler.what() << '\n';
-        return 1;
-    }
-    return 0;
+    return erzeugerlauf("hilfe_erzeugen", [&] { hilfe_schreiben(sprache, argumente[2], argumente[3]); });
 }

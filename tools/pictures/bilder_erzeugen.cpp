@@ -1,7 +1,7 @@
 #include "climate/karten.h"
-#include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+#include "tools/lauf.h"
 #include "tools/pictures/deutschland.h"
 #include "tools/pictures/erdkarten.h"
 #include "tools/pictures/haus.h"
@@ -67,14 +67,5 @@ int main(int anzahl, char** argumente) {
         std::cerr << "usage: bilder_erzeugen DATA_FOLDER TARGET_FOLDER\n";
         return 2;
     }
-    try {
-        alles_schreiben(argumente[1], argumente[2]);
-    } catch (const Laufzeitfehler& fehler) {
-        std::cerr << fehler.text("e") << '\n';
-        return 1;
-    } catch (const std::exception& fehler) {
-        std::cerr << fehler.what() << '\n';
-        return 1;
-    }
-    return 0;
+    return erzeugerlauf("bilder_erzeugen", [&] { alles_schreiben(argumente[1], argumente[2]); });
 }
