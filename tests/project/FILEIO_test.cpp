@@ -214,18 +214,6 @@ TEST_F(Fileio, SpeichernUnterErgaenztDieEndungUndFragtVorDemErsetzen) {
     EXPECT_EQ(p().Datei, pfadtext(ordner / "haus.alt"));
 }
 
-TEST_F(Fileio, SpeichernDasMisslingtSagtEsUndBehaeltDieAenderung) {
-    oeffne(haus);
-    std::filesystem::permissions(haus, std::filesystem::perms::owner_read);
-    laenge(13);
-    datei().datei_speichern();
-    ASSERT_EQ(plattform().meldungen.size(), 1U);
-    EXPECT_THAT(meldung().text, HasSubstr("haus.vel"));
-    EXPECT_EQ(p().Geaendert, 1);
-    EXPECT_EQ(p().Datei_offen, 1);
-    EXPECT_EQ(laenge_in(haus), 12);
-}
-
 TEST_F(Fileio, BeendenFragtNachEinemNamenUndStelltDenDruckerZurueck) {
     oeffne(haus);
     plattform().drucker = {"eins", "zwei"};
@@ -246,19 +234,24 @@ TEST_F(Fileio, BeendenFragtNachEinemNamenUndStelltDenDruckerZurueck) {
     }
 }
 
-TEST_F(Fileio, SchliessenDesFensters) {
-    EXPECT_EQ(datei().aenderung_abfragen(), 0);
-    EXPECT_TRUE(plattform().meldungen.empty());
+TEST_F(Fileio, SchliessenStelltDenDruckerNurZurueckWennEsAbgebrochenWird) {
     p().Geaendert = 1;
     plattform().drucker = {"eins", "zwei"};
-    plattform().antworten = {Antwort::abbrechen, Antwort::nein};
-    datei().fenster_schliessen();
-    EXPECT_FALSE(plattform().beendet);
-    EXPECT_EQ(plattform().druckername, "eins") << "the printer of the start, after a cancelled closing only";
-    plattform().druckername = "zwei";
-    datei().fenster_schliessen();
-    EXPECT_TRUE(plattform().beendet);
-    EXPECT_EQ(plattform().druckername, "zwei");
+    for (const auto& [antwort, drucker] : {std::pair{Antwort::abbrechen, "eins"}, {Antwort::nein, "zwei"}}) {
+        plattform().druckername = "zwei";
+        plattform().antworten = {antwort};
+        datei().fenster_schliessen();
+        EXPECT_EQ(plattform().beendet, antwort == Antwort::nein);
+        EXPECT_EQ(plattform().druckername, drucker);
+    }
+}
+
+TEST_F(Fileio, EinVorbereitetesProjektIstUnveraendert) {
+    laenge(15);
+    datei().projekt_vorbereiten();
+    EXPECT_EQ(p().l, 10);
+    EXPECT_EQ(p().FormLoadGuard, 0);
+    EXPECT_EQ(p().Geaendert, 0);
 }
 
 }  // namespace
