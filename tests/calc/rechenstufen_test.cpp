@@ -54,8 +54,12 @@ TEST(Rechenstufen, RechenfehlerNennenDieStufe) {
          },
          alle_stufen, "Das Gebäude wird wärmer als die Überwärmungsgrenze",
          "although it has no gains of any kind"},
-        {"a house without storage", [](Projekt& p) { p.Cwirk = p.tau = 0; }, simulation_stufe,
-         "Die stündliche Temperatursimulation lässt sich", "The hourly temperature simulation cannot"},
+        {"air too hot for all numbers",
+         [](Projekt& p) {
+             test::gleiches_wetter(p, {1e38F, 0, 0});
+         },
+         simulation_stufe, "Die stündliche Temperatursimulation lässt sich",
+         "The hourly temperature simulation cannot"},
         {"a demand beyond all numbers", [](Projekt& p) { p.qhs_sum = std::numeric_limits<float>::max(); },
          [](Projekt& p) { static_cast<void>(energie_stufe(p)); },
          "Der End- und Primärenergiebedarf lässt sich", "energy demand cannot be"},
