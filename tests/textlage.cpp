@@ -2,9 +2,6 @@
 
 #include "planes/Haupt.h"
 
-#include <algorithm>
-#include <map>
-
 namespace velmaris::test {
 
 void Textprobe::schrift(const Schrift& schrift) {
@@ -32,32 +29,30 @@ std::vector<Diagramm> diagramme(Haupt& haupt) {
 }
 
 std::vector<std::string> textfehler(const Diagramm& diagramm, Zeichenflaeche& masse) {
-    struct Stueck {
-        double links, rechts;
-        std::string text;
+    constexpr double ueberstand = 2;  // letters leave the edges of their lines free
+    struct Kasten {
+        double links, oben, rechts, unten;
     };
     Textprobe probe(diagramm.breite, diagramm.hoehe, masse);
     diagramm.bild->zeichnen(probe);
     std::vector<std::string> fehler;
-    const auto melde = [&](const std::string& text, const char* was) {
-        fehler.push_back(diagramm.bild->name + " \"" + text + "\" " + was);
-    };
-    std::map<double, std::vector<Stueck>> zeilen;
+    std::vector<Kasten> kaesten;
     for (const Zeichnung& z : probe.alle(Zeichnung::Art::text)) {
+        const auto melde = [&](const char* was) {
+            fehler.push_back(diagramm.bild->name + " \"" + z.text + "\" " + was);
+        };
         masse.schrift(z.schrift);
-        const double links = z.zahlen[0];
-        const double oben = z.zahlen[1];
-        const double rechts = links + masse.textbreite(z.text);
-        if (links < 0 || rechts > diagramm.breite) melde(z.text, "is cut at a side");
-        if (oben < 0 || oben + masse.texthoehe(z.text) > diagramm.hoehe)
-            melde(z.text, "is cut above or below");
-        zeilen[oben].push_back({links, rechts, z.text});
-    }
-    for (auto& [y, stuecke] : zeilen) {
-        std::sort(stuecke.begin(), stuecke.end(),
-                  [](const Stueck& a, const Stueck& b) { return a.links < b.links; });
-        for (std::size_t i = 1; i < stuecke.size(); ++i)
-            if (stuecke[i].links < stuecke[i - 1].rechts + 1) melde(stuecke[i].text, "touches its neighbour");
+        const double x = z.zahlen[0];
+        const double y = z.zahlen[1];
+        const Kasten k{x, y, x + masse.textbreite(z.text), y + masse.texthoehe(z.text)};
+        if (k.links < 0 || k.rechts > diagramm.breite) melde("is cut at a side");
+        if (k.oben < 0 || k.unten > diagramm.hoehe) melde("is cut above or below");
+        for (const Kasten& a : kaesten) {
+            if (k.links < a.rechts + 1 && a.links < k.rechts + 1 && k.oben < a.unten - ueberstand &&
+                a.oben < k.unten - ueberstand)
+                melde("touches another");
+        }
+        kaesten.push_back(k);
     }
     return fehler;
 }

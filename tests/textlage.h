@@ -38,7 +38,7 @@ struct Diagramm {
 [[nodiscard]] std::vector<Diagramm> diagramme(Haupt& haupt);
 
 /// What is wrong with the texts of a chart in the letters of another surface: those that begin or end beyond
-/// the chart's surface, and those of one line that touch.
+/// the chart's surface, and those that touch.
 [[nodiscard]] std::vector<std::string> textfehler(const Diagramm& diagramm, Zeichenflaeche& masse);
 
 }  // namespace velmaris::test

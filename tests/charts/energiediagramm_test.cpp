@@ -50,25 +50,16 @@ TEST(Saeulen, TrefferNurAufDemGefuelltenPixel) {
         bool treffer;
     };
     // February: end energy up to 86, primary energy up to 81.5; December up to 41 and 14.
-    for (const Fall& f : std::vector<Fall>{{59, 95, true},
-                                           {58, 95, false},
-                                           {67, 86, true},
-                                           {67, 85, false},
-                                           {68, 95, false},
-                                           {69, 82, true},
-                                           {69, 81, false},
-                                           {77, 95, true},
-                                           {77, 96, false},
-                                           {78, 95, false},
-                                           {317, 14, true},
-                                           {317, 13, false}})
+    for (const Fall& f :
+         {Fall{59, 95, true}, Fall{58, 95, false}, Fall{67, 86, true}, Fall{67, 85, false},
+          Fall{68, 95, false}, Fall{69, 82, true}, Fall{69, 81, false}, Fall{77, 95, true},
+          Fall{77, 96, false}, Fall{78, 95, false}, Fall{317, 14, true}, Fall{317, 13, false}})
         EXPECT_EQ(auf_saeule(zwoelf_monate(), f.x, f.y), f.treffer) << f.x << "," << f.y;
 }
 
 /// 100 m2 whose only heat, in January, needs this primary energy, kWh/(m2 month).
 std::unique_ptr<Projekt> projekt(float primaer) {
     auto p = test::leeres_projekt();
-    p->Heizsystem = p->Energietraeger = 1;
     p->qhs_sum = 10;
     p->Monat(1).Qh = 1000;
     p->q_PE_Energietraeger = primaer;

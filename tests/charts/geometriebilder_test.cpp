@@ -94,6 +94,7 @@ TEST(Gewichtbild, WaechstMitDerWurzelUeberDieFlaecheHinaus) {
     for (const Art art : {Art::flaeche, Art::kasten}) {
         const auto stuecke = bild.alle(art);
         ASSERT_EQ(stuecke.size(), 2U);
+        EXPECT_EQ(stuecke[1].farbe, art == Art::flaeche ? Farbe(112, 118, 126) : farben::schwarz);
         EXPECT_EQ(stuecke[1].zahlen, (Ecken{8, -23, 68, 57}));
         EXPECT_EQ(stuecke[0].zahlen[0], 24);
         EXPECT_EQ(stuecke[0].zahlen[2], 52);

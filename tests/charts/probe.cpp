@@ -22,6 +22,7 @@ std::unique_ptr<Projekt> leeres_projekt(const std::string& sprache) {
     auto p = std::make_unique<Projekt>();
     p->Sprache = sprache;
     p->f_nutz = 100;
+    p->Heizsystem = p->Uebergabe = p->Energietraeger = 1;
     sprachtexte_setzen(*p);
     for (int m = 1; m <= monate; ++m)
         p->Monat(m).Tage = static_cast<std::int16_t>(tage_im_monat[static_cast<std::size_t>(m)]);

@@ -45,7 +45,7 @@ const Fall faelle[] = {
      {128, 12, 116, 16, 100, 20, 30, 40, 110},
      {181, 65, 181, 165, 185, 65, 75},
      "h 79 181 128  h 150 165 100  h 195 195 21  h 180 55 31  h 255 185 151  h 295 185 111  h 325 65 41  q "
-     "90 40 13  q 130 195 17"},
+     "90 40 13  q 130 195 17  h 81 181 129  h 121 181 116"},
     // Largest stack 25 + 1 + 14.5; both gains too wide to bend.
     {"Passivhaus",
      {1.75F, 1.5F, 1, 14.5F, 25, 8.5F, 32},
@@ -57,7 +57,8 @@ const Fall faelle[] = {
      {40, 20, 60, 30, 62, 52, 100},
      {40, 20, 20, -40, 60, 30, 62, 52, 100},
      {117, 97, 157, 157, 187, 97, 87},
-     "h 79 117 40  h 140 157 60  h 255 187 153  h 295 187 101  h 198 197 31  q 70 175 41  q 90 50 21"},
+     "h 79 117 40  h 140 157 60  h 255 187 153  h 295 187 101  h 198 197 31  q 70 175 41  q 90 50 21  h 119 "
+     "157 60"},
     // As before, but the internal gains need more room than the environment: 20 + 10 + 50 + 25.
     {"Waermepumpe mit viel Abwaerme",
      {30, 20, 40, 50, 72, 32, 130},
@@ -69,12 +70,18 @@ const Fall faelle[] = {
      {70, 110, 100, 15, 42, 57, 100},
      {70, -40, 110, 10, 100, 15, 42, 57, 100},
      {187, 77, 187, 177, 192, 77, 92},
-     "h 100 187 110  h 150 177 100  h 255 192 158  q 30 60 41  q 130 200 11"},
+     "h 100 187 110  h 150 177 100  h 255 192 158  q 30 60 41  q 130 200 11  h 79 187 111"},
     {"alles null",
      {0, 1E-10F, 1E-10F, 0, 0, 0, 0},
      {0, 0, 0, 0, 0, 0, 0, 0, 0},
      {197, 197, 197, 197, 197, 197, 197},
      "h 60 198 2  h 255 197 1"},
+    // Largest stack 2 * 10 + 2 * 20, 2.7 pixels each.
+    {"ohne Bedarf",
+     {30, 20, 0, 0, 0, 0, 0},
+     {81, 27, 54, 54, 0, 0, 0, 0, 0},
+     {143, 89, 143, 89, 89, 89, 89},
+     "h 79 143 81"},
     // Slanted from 49 pixels on: 162 = 49 + 64 + 49.
     {"breite Gewinne",
      {64, 64, 64, 49, 49, 49, 113},
@@ -129,17 +136,24 @@ TEST(SankeyHeizen, BaenderHabenIhreBreiteUndGehenAuf) {
     }
 }
 
+/// The disk inside the bend of a narrow band reaches far over the wide one on the other side where little
+/// heat demand lies between them. The scales, 162 and 102, are the same with and without the narrow band.
 TEST(SankeyHeizen, SchmaleGewinneBeissenNicht) {
-    // The disk inside the bend of a narrow solar band reaches far over the internal gains where little heat
-    // demand lies between them. The scale, 98 + 4 + 60, is the same with and without sun.
-    Probe mit;
-    Probe ohne;
-    SankeyHeizen(*projekt({53, 4, 4, 60, 2, 30, 36}), mit);
-    SankeyHeizen(*projekt({53, 4, 4, 60, 0, 30, 34}), ohne);
-    const int yB = sankey_heizmasse(*projekt({53, 4, 4, 60, 2, 30, 36}), mit).yB;
-    for (int y = yB; y <= yB + 70; ++y) {
-        for (int x = 200; x <= 230; ++x)
-            ASSERT_EQ(mit.lies_punkt(x, y), ohne.lies_punkt(x, y)) << x << " " << y;
+    struct Paar {
+        Energien mit, ohne;
+        int von, bis;  ///< rows of the wide band
+    };
+    for (const Paar& paar : {Paar{{53, 4, 4, 60, 2, 30, 36}, {53, 4, 4, 60, 0, 30, 34}, 0, 70},
+                             Paar{{53, 10, 4, 2, 60, 30, 36}, {53, 10, 4, 0, 60, 30, 34}, -120, -10}}) {
+        Probe mit;
+        Probe ohne;
+        SankeyHeizen(*projekt(paar.mit), mit);
+        SankeyHeizen(*projekt(paar.ohne), ohne);
+        const int yB = sankey_heizmasse(*projekt(paar.mit), mit).yB;
+        for (int y = yB + paar.von; y <= yB + paar.bis; ++y) {
+            for (int x = 200; x <= 230; ++x)
+                ASSERT_EQ(mit.lies_punkt(x, y), ohne.lies_punkt(x, y)) << x << " " << y;
+        }
     }
 }
 
@@ -179,22 +193,22 @@ TEST(SankeyHeizen, BeschriftungenAnIhrenOrten) {
         const char* text;
         double x, y;
     };
-    const std::vector<Text> verluste{{"Primärenergiebedarf", 2, 29},
-                                     {"128.0 kWh/(m² a)", 2, 41},
-                                     {"Umwandlungs- und Transport-", 9, 0},
-                                     {"verluste 12.0 kWh/(m² a)", 18, 12},
-                                     {"nutzbare solare Gewinne", 146, 0},
-                                     {"Lüftungsverluste", 319, 0},
-                                     {"Verluste Heizungssystem", 0, 186},
-                                     {"16.0 kWh/(m² a)", 33, 198},
-                                     {"nutzbare interne Gewinne", 128, 207},
-                                     {"Transmissionsverluste", 289, 207},
-                                     {"Heizwärmebedarf", 130, 103},
-                                     {"Dach (15 %)", 356, 100},
-                                     {"Fenster (30 %)", 356, 112},
-                                     {"Wände (45 %)", 356, 124},
-                                     {"Tür (0 %)", 356, 136},
-                                     {"Boden (10 %)", 356, 148}};
+    const std::vector<Text> verluste{Text{"Primärenergiebedarf", 2, 29},
+                                     Text{"128.0 kWh/(m² a)", 2, 41},
+                                     Text{"Umwandlungs- und Transport-", 9, 0},
+                                     Text{"verluste 12.0 kWh/(m² a)", 18, 12},
+                                     Text{"nutzbare solare Gewinne", 146, 0},
+                                     Text{"Lüftungsverluste", 319, 0},
+                                     Text{"Verluste Heizungssystem", 0, 186},
+                                     Text{"16.0 kWh/(m² a)", 33, 198},
+                                     Text{"nutzbare interne Gewinne", 128, 207},
+                                     Text{"Transmissionsverluste", 289, 207},
+                                     Text{"Heizwärmebedarf", 130, 103},
+                                     Text{"Dach (15 %)", 356, 100},
+                                     Text{"Fenster (30 %)", 356, 112},
+                                     Text{"Wände (45 %)", 356, 124},
+                                     Text{"Tür (0 %)", 356, 136},
+                                     Text{"Boden (10 %)", 356, 148}};
     const std::vector<Text> gewinne{{"Gewinne aus der Umwelt", 0, 162}, {"40.0 kWh/(m² a)", 13, 174}};
     const std::vector<Text> erneuerbar{{"Erneuerbare Energien", 0, 0}, {"40.0 kWh/(m² a)", 5, 12}};
     // Six pixels a character: 23 of the loss end at 123, 27 of the transport are centred at 90.

@@ -111,22 +111,19 @@ TEST(SankeyKuehlen, BeschriftungenAnIhrenOrten) {
     };
     // Six pixels a character: 27 of the transport are centred at 90, 14 of the heat end at 415. The list of
     // nine lines is centred between the inlets' ends at 31 and 173, but stays below the headings.
-    for (const Text& t : std::vector<Text>{{"Primärenergiebedarf", 2, 98},
-                                           {"75.0 kWh/(m² a)", 2, 110},
-                                           {"Umwandlungs- und Transport-", 9, 0},
-                                           {"verluste 50.0 kWh/(m² a)", 18, 12},
-                                           {"End-Kühlenergiebedarf", 87, 207},
-                                           {"25.0 kWh/(m² a)", 105, 219},
-                                           {"Aus dem Gebäude abgeführte Wärme", 223, 0},
-                                           {"(= Kühlbedarf) 100.0 kWh/(m² a)", 229, 12},
-                                           {"Abwärme Kühlgerät", 313, 207},
-                                           {"25.0 kWh/(m² a)", 325, 219},
-                                           {"Überschüssige", 130, 48},
-                                           {" - Transmissionsgewinne: ", 130, 60},
-                                           {"5.0 kWh/(m² a)", 138, 72},
-                                           {" - interne Gewinne: ", 130, 132},
-                                           {"10.0 kWh/(m² a)", 138, 144}})
+    for (const Text& t :
+         {Text{"Primärenergiebedarf", 2, 98}, Text{"75.0 kWh/(m² a)", 2, 110},
+          Text{"Umwandlungs- und Transport-", 9, 0}, Text{"verluste 50.0 kWh/(m² a)", 18, 12},
+          Text{"End-Kühlenergiebedarf", 87, 207}, Text{"25.0 kWh/(m² a)", 105, 219},
+          Text{"Aus dem Gebäude abgeführte Wärme", 223, 0}, Text{"(= Kühlbedarf) 100.0 kWh/(m² a)", 229, 12},
+          Text{"Abwärme Kühlgerät", 313, 207}, Text{"25.0 kWh/(m² a)", 325, 219},
+          Text{"Überschüssige", 130, 48}, Text{" - Transmissionsgewinne: ", 130, 60},
+          Text{"5.0 kWh/(m² a)", 138, 72}, Text{" - interne Gewinne: ", 130, 132},
+          Text{"10.0 kWh/(m² a)", 138, 144}})
         EXPECT_TRUE(test::steht(bild, t.text, t.x, t.y)) << t.text;
+    Probe schmal;  // a loss of 32 pixels rises further to the left
+    SankeyKuehlen(*projekt({0, 0, 0, 0.002F}, 8), schmal);
+    EXPECT_TRUE(test::steht(schmal, "Umwandlungs- und Transport-", 5, 0));
     Probe leer;
     SankeyKuehlen(*projekt({0, 0, 0, 0}, 2.5F, "e"), leer);
     ASSERT_EQ(leer.zeichnungen.size(), 2U);

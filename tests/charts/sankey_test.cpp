@@ -134,8 +134,7 @@ TEST(Sankey, SchwungradiusHalbZumGeraden) {
         int breite;
         int radius;
     };
-    const Fall faelle[] = {{1, 24}, {2, 24}, {3, 24}, {5, 22}, {20, 15},
-                           {47, 2}, {48, 1}, {49, 0}, {50, 0}, {60, -5}};
+    const Fall faelle[] = {{1, 24}, {2, 24}, {5, 22}, {20, 15}, {47, 2}, {48, 1}, {49, 0}, {60, -5}};
     for (const Fall& f : faelle)
         EXPECT_EQ(schwung(f.breite).radius, f.radius) << f.breite;
     // For an even width the radii add up to 50: a triangle of 30, 40 and 50.

@@ -5,10 +5,13 @@
 #include "charts/kuehldiagramme.h"
 #include "charts/nutzungsgrad.h"
 #include "tests/charts/probe.h"
+#include "tests/textlage.h"
+#include "toolkit/svg_flaeche.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <vector>
@@ -18,71 +21,72 @@ namespace {
 
 using test::leeres_projekt;
 
-constexpr const char* stufen_bis_500 = "5:1 10:2 25:5 50:10 75:15 100:20 250:50 500:100 ";
+using Zeichenroutine = void (*)(const Projekt&, Zeichenflaeche&);
+using Setzer = std::function<void(Projekt& p, int m, double M)>;
 
-/// A chart: how its largest value gets into month m of a record of 1 m2, the parts of its axis, and the
-/// limits below which the axis has a step; the last limit is beyond all values.
-struct Skala {
-    const char* name;
-    void (*setze)(Projekt& p, int m, double M);
-    void (*zeichne)(const Projekt& p, Zeichenflaeche& bild);
-    int teile;
-    std::string stufen;
-};
+Setzer im_monat(float Monatswerte::*feld) {
+    return [feld](Projekt& p, int m, double M) { p.Monat(m).*feld = f32(M); };
+}
+
+Setzer im_jahr(float Projekt::*feld) {
+    return [feld](Projekt& p, int, double M) { p.*feld = f32(M); };
+}
 
 /// Hours are whole: the largest count that stays below.
-void setze_tagesstunden(Projekt& p, int m, double M) {
+void tagesstunden_setzen(Projekt& p, int m, double M) {
     p.Monat(m).Stunden_heiss = static_cast<std::int16_t>(std::floor(M * p.Monat(m).Tage));
 }
 
-void setze_jahresstunden(Projekt& p, int m, double M) {
+void jahresstunden_setzen(Projekt& p, int m, double M) {
     const auto h = static_cast<std::int16_t>(std::floor(M * 365));
     p.Monat(m).Stunden_heiss = static_cast<std::int16_t>(h / 2);
     p.Monat(13 - m).Stunden_heiss = static_cast<std::int16_t>(h - h / 2);
 }
 
-void setze_energie(Projekt& p, int m, double M) {
-    p.Heizsystem = p.Energietraeger = 1;
+void energie_setzen(Projekt& p, int m, double M) {
     p.qhs_sum = p.Monat(m).Qh = 10;
     (m == 1 ? p.q_HE_Energietraeger : p.q_PE_Energietraeger) = f32(M / 2);
     (m == 1 ? p.q_HE_Strom : p.q_PE_Strom) = f32(M / 2);
 }
 
+void energie_zeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    Monatsverbrauch_zeichnen(bild, p);
+}
+
+/// A chart: how its largest value gets into month m of a record of 1 m2, the parts of its axis, and the
+/// limits below which the axis has a step.
+struct Skala {
+    Setzer setze;
+    Zeichenroutine zeichne;
+    int teile;
+    std::string stufen;
+};
+
 const std::vector<Skala>& skalen() {
+    using M = Monatswerte;
+    const std::string klein = "5:1 10:2 25:5 50:10 75:15 100:20 250:50 500:100 ";
+    const std::string gross = "10:2 25:5 50:10 75:15 100:20 250:50 500:100 750:150 1000:200 2500:500 ";
+    const std::string bedarf = klein + "750:150 1000:200 2500:500 1e6:2500";
+    const std::string stunden = "4:1 8:2 12:3 16:4 20:5 24:6";
+    const std::string kelvin = "5:1 10:2 25:5 50:10 100:20 250:50 500:100 1000:200 2500:500 ";
     static const std::vector<Skala> alle{
-        {"year balance, heating", [](Projekt& p, int, double M) { p.qverl_s = f32(M); }, JahrBilanzZeichnen,
-         5,
-         "10:2 25:5 50:10 75:15 100:20 250:50 500:100 750:150 1000:200 2500:500 5000:1000 7500:1500 "
-         "10000:2000 1e6:10000"},
-        {"month balance, heating", [](Projekt& p, int m, double M) { p.Monat(m).Qt = f32(M); },
-         HeizbilanzZeichnen, 5, stufen_bis_500 + std::string("1e6:1000")},
-        {"month heat demand", [](Projekt& p, int m, double M) { p.Monat(m).Qh = f32(M); },
-         MonatsbilanzZeichnen, 5, stufen_bis_500 + std::string("1e6:500")},
-        {"month cooling demand", [](Projekt& p, int m, double M) { p.Monat(m).Kuehlbedarf = f32(M); },
-         MonatsbilanzZeichnen, 5, stufen_bis_500 + std::string("1e6:500")},
-        {"year demand", [](Projekt& p, int, double M) { p.qhs_sum = f32(M); }, JahresbedarfZeichnen, 5,
-         stufen_bis_500 + std::string("750:150 1000:200 2500:500 1e6:2500")},
-        {"month gains",
-         [](Projekt& p, int m, double M) { (m == 1 ? p.Monat(m).Qs_brutto : p.Monat(m).Qi_brutto) = f32(M); },
-         NutzungsgradMonatZeichnen, 5, stufen_bis_500 + std::string("1e6:1000")},
-        {"year gains", [](Projekt& p, int m, double M) { p.Monat(m).Qi_brutto = f32(M); },
-         NutzungsgradJahrZeichnen, 5, stufen_bis_500 + std::string("750:150 1000:200 2500:500 1e6:2500")},
-        {"hours per day, month", setze_tagesstunden, StundenProTagMonatZeichnen, 4,
-         "4:1 8:2 12:3 16:4 20:5 24:6"},
-        {"hours per day, year", setze_jahresstunden, StundenProTagJahrZeichnen, 4,
-         "4:1 8:2 12:3 16:4 20:5 24:6"},
-        {"cooling demand, month", [](Projekt& p, int m, double M) { p.Monat(m).Kuehlbedarf = f32(M); },
-         KuehlBedarfMonatZeichnen, 5, stufen_bis_500 + std::string("1e6:500")},
-        {"cooling demand, year", [](Projekt& p, int m, double M) { p.Monat(m).Kuehlbedarf = f32(M); },
-         KuehlBedarfJahrZeichnen, 5, stufen_bis_500 + std::string("750:150 1000:200 2500:500 1e6:2500")},
-        {"degree hours, month", [](Projekt& p, int m, double M) { p.Monat(m).Kuehlgradstunden = f32(M); },
-         KuehlGradStundenMonatZeichnen, 5,
-         "5:1 10:2 25:5 50:10 100:20 250:50 500:100 1000:200 2500:500 5000:1000 1e6:2000"},
-        {"degree hours, year", [](Projekt& p, int m, double M) { p.Monat(m).Kuehlgradstunden = f32(M); },
-         KuehlGradStundenJahrZeichnen, 5,
-         "5:1 10:2 25:5 50:10 100:20 250:50 500:100 1000:200 2500:500 1e6:5000"},
-        {"energy, month", setze_energie,
-         [](const Projekt& p, Zeichenflaeche& bild) { Monatsverbrauch_zeichnen(bild, p); }, 3,
+        {im_jahr(&Projekt::qverl_s), JahrBilanzZeichnen, 5,
+         gross + "5000:1000 7500:1500 10000:2000 1e6:10000"},
+        {im_monat(&M::Qt), HeizbilanzZeichnen, 5, klein + "1e6:1000"},
+        {im_monat(&M::Qh), MonatsbilanzZeichnen, 5, klein + "1e6:500"},
+        {im_monat(&M::Kuehlbedarf), MonatsbilanzZeichnen, 5, klein + "1e6:500"},
+        {im_jahr(&Projekt::qhs_sum), JahresbedarfZeichnen, 5, bedarf},
+        {im_monat(&M::Kuehlbedarf), JahresbedarfZeichnen, 5, bedarf},
+        {im_monat(&M::Qs_brutto), NutzungsgradMonatZeichnen, 5, klein + "1e6:1000"},
+        {im_monat(&M::Qi_brutto), NutzungsgradMonatZeichnen, 5, klein + "1e6:1000"},
+        {im_monat(&M::Qi_brutto), NutzungsgradJahrZeichnen, 5, bedarf},
+        {tagesstunden_setzen, StundenProTagMonatZeichnen, 4, stunden},
+        {jahresstunden_setzen, StundenProTagJahrZeichnen, 4, stunden},
+        {im_monat(&M::Kuehlbedarf), KuehlBedarfMonatZeichnen, 5, klein + "1e6:500"},
+        {im_monat(&M::Kuehlbedarf), KuehlBedarfJahrZeichnen, 5, bedarf},
+        {im_monat(&M::Kuehlgradstunden), KuehlGradStundenMonatZeichnen, 5, kelvin + "5000:1000 1e6:2000"},
+        {im_monat(&M::Kuehlgradstunden), KuehlGradStundenJahrZeichnen, 5, kelvin + "1e6:5000"},
+        {energie_setzen, energie_zeichnen, 3,
          "30:10 60:20 150:50 300:100 600:200 1500:500 3000:1000 6000:2000 15000:5000 30000:10000 1e6:50000"},
     };
     return alle;
@@ -96,9 +100,8 @@ double gezeigter_schritt(const Skala& skala, int m, double M) {
     RekorderFlaeche bild;
     skala.zeichne(*p, bild);
     double oben = 0;
-    for (const std::string& text : bild.texte()) {
+    for (const std::string& text : bild.texte())
         if (text.front() == ' ') oben = std::max(oben, zahl_lesen(text));
-    }
     return oben / skala.teile;
 }
 
@@ -111,7 +114,7 @@ TEST(Skala, DerSchrittWechseltGenauAnDerGrenze) {
         char punkt = 0;
         for (int m = 1; stufen >> bis >> punkt >> schritt; m = 13 - m, von = bis) {
             for (const double M : {von, double{std::nextafter(static_cast<float>(bis), 0.0F)}})
-                EXPECT_EQ(gezeigter_schritt(skala, m, M), schritt) << skala.name << " " << M;
+                EXPECT_EQ(gezeigter_schritt(skala, m, M), schritt) << skala.stufen << ": " << M;
         }
     }
 }
@@ -131,48 +134,38 @@ TEST(Spaltenmonat, VonDerAchseBisDezember) {
 TEST(Rahmen, AchsenStricheUndZahlen) {
     using Art = Zeichnung::Art;
     struct Fall {
-        void (*zeichne)(const Projekt&, Zeichenflaeche&);
+        Zeichenroutine zeichne;
         double achse, oben, rechts;
         std::vector<double> striche;
         int schritt;
     };
-    const std::vector<Fall> faelle{
-        {HeizbilanzZeichnen, 117, 17, 325, {117, 97.2, 77.4, 57.6, 37.8, 18}, 1},
-        {UeberGrafikZeichnen, 117, 17, 325, {117, 92.25, 67.5, 42.75, 18}, 200},
-        {UeberJahrZeichnen, 117, 17, 85, {117, 92.25, 67.5, 42.75, 18}, 2200},
-        {StundenProTagMonatZeichnen, 110, 20, 325, {110, 87.75, 65.5, 43.25, 21}, 1},
-        {KuehlGradStundenJahrZeichnen, 110, 20, 85, {110, 92.2, 74.4, 56.6, 38.8, 21}, 1},
-        {[](const Projekt& p, Zeichenflaeche& bild) { Monatsverbrauch_zeichnen(bild, p); },
-         95,
-         5,
-         325,
-         {95, 95 - 89. / 3, 95 - 178. / 3, 6},
-         10},
-    };
-    auto p = leeres_projekt();
-    p->Heizsystem = p->Energietraeger = 1;
-    for (const Fall& f : faelle) {
+    for (const Fall& f :
+         std::vector<Fall>{{HeizbilanzZeichnen, 117, 17, 325, {117, 97.2, 77.4, 57.6, 37.8, 18}, 1},
+                           {UeberGrafikZeichnen, 117, 17, 325, {117, 92.25, 67.5, 42.75, 18}, 200},
+                           {UeberJahrZeichnen, 117, 17, 85, {117, 92.25, 67.5, 42.75, 18}, 2200},
+                           {StundenProTagMonatZeichnen, 110, 20, 325, {110, 87.75, 65.5, 43.25, 21}, 1},
+                           {KuehlGradStundenJahrZeichnen, 110, 20, 85, {110, 92.2, 74.4, 56.6, 38.8, 21}, 1},
+                           {energie_zeichnen, 95, 5, 325, {95, 95 - 89. / 3, 95 - 178. / 3, 6}, 10}}) {
         RekorderFlaeche bild;
-        f.zeichne(*p, bild);
+        f.zeichne(*leeres_projekt(), bild);
         EXPECT_EQ(bild.zeichnungen.front().art, Art::cls);
         const std::vector<Zeichnung> linien = bild.alle(Art::linie, farben::schwarz);
         ASSERT_EQ(linien.size(), f.striche.size() + 2);
         EXPECT_EQ(linien[0].zahlen, (test::Ecken{30, f.achse, 30, f.oben}));
         EXPECT_EQ(linien[1].zahlen, (test::Ecken{30, f.achse, f.rechts, f.achse}));
         for (std::size_t i = 0; i < f.striche.size(); ++i) {
-            const std::vector<double>& strich = linien[i + 2].zahlen;
-            EXPECT_EQ(strich, (test::Ecken{27, strich[1], 30, strich[1]}));
-            EXPECT_NEAR(strich[1], f.striche[i], 1e-9);
+            const double y = linien[i + 2].zahlen[1];
+            EXPECT_EQ(linien[i + 2].zahlen, (test::Ecken{27, y, 30, y}));
+            EXPECT_NEAR(y, f.striche[i], 1e-9);
             const std::string zahl = " " + std::to_string(static_cast<int>(i) * f.schritt);
-            EXPECT_TRUE(test::steht(bild, zahl, 25 - 6.0 * static_cast<double>(zahl.size()), strich[1] - 5))
-                << zahl;
+            EXPECT_TRUE(test::steht(bild, zahl, 25 - 6.0 * static_cast<double>(zahl.size()), y - 5)) << zahl;
         }
     }
 }
 
 TEST(Beschriftung, EinheitUndNameAnJedemBild) {
     struct Fall {
-        void (*zeichne)(const Projekt&, Zeichenflaeche&);
+        Zeichenroutine zeichne;
         const char* sprache;
         const char* einheit;
         double x;
@@ -202,6 +195,24 @@ TEST(Beschriftung, EinheitUndNameAnJedemBild) {
         const bool ganzes_jahr = f.x_name < 100;
         EXPECT_TRUE(ganzes_jahr || test::steht(bild, f.sprache[0] == 'd' ? "Dez." : "Dec.", 299, f.y_name));
     }
+}
+
+TEST(Beschriftung, LangeMonatsnamenBehaltenEinenZwischenraum) {
+    const auto p = leeres_projekt();
+    for (int m = 1; m <= monate; ++m)
+        p->Monat(m).Kurz = "Monat 10";
+    SvgFlaeche masse(1, 1);
+    test::Textprobe bild(330, 140, masse);
+    monatsnamen_zeichnen(bild, *p, 124);
+    bild.text(0, 0, "danach", farben::schwarz);
+    const std::vector<Zeichnung> texte = bild.alle(Zeichnung::Art::text);
+    EXPECT_EQ(texte.back().schrift, Schrift{});
+    Schrift schrift = texte.front().schrift;
+    masse.schrift(schrift);
+    EXPECT_LE(masse.textbreite("Monat 10 "), 24);
+    schrift.groesse += 0.75;
+    masse.schrift(schrift);
+    EXPECT_GT(masse.textbreite("Monat 10 "), 24) << "no smaller than need be";
 }
 
 }  // namespace

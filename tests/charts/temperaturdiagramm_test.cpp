@@ -8,6 +8,7 @@ namespace velmaris {
 namespace {
 
 using test::flaechen;
+using Art = Zeichnung::Art;
 
 TEST(Temperaturachse, SchritteUndEnden) {
     struct Fall {
@@ -86,30 +87,21 @@ TEST_F(Temperaturdiagramm, KurvenAusKaestenVonPunktZuPunkt) {
     EXPECT_EQ(raum[24 + 13], (test::Ecken{45, 105, 45, 55}));
 }
 
-TEST_F(Temperaturdiagramm, DerFebruarEndetAmTag28) {
-    p->Monat_Uebersicht = 2;
-    zeichne(bild_);
-    EXPECT_EQ(flaechen(bild_, farben::blau).size(), 1 + 672U);
-    EXPECT_EQ(flaechen(bild_, farben::blau).back()[2], 310);
-}
-
 TEST_F(Temperaturdiagramm, GitterUndZahlen) {
     zeichne(bild_);
-    EXPECT_EQ(bild_.alle(Zeichnung::Art::linie, farben::schwarz).size(), 2U);
-    EXPECT_EQ(bild_.alle(Zeichnung::Art::linie, farben::grau).size(), 31 + 7U);
-    EXPECT_EQ(bild_.lies_punkt(30, 100), farben::schwarz);
-    EXPECT_EQ(bild_.lies_punkt(340, 100), farben::grau);
-    EXPECT_EQ(bild_.lies_punkt(200, 175), farben::schwarz);
-    EXPECT_EQ(bild_.lies_punkt(201, 35), farben::grau);
+    EXPECT_EQ(bild_.alle(Art::linie, farben::schwarz).size(), 2U);
+    EXPECT_EQ(bild_.alle(Art::linie, farben::grau).size(), 31 + 7U);
+    EXPECT_EQ(bild_.alle(Art::linie).at(0).zahlen, (test::Ecken{30, 35, 30, 176}));
+    EXPECT_EQ(bild_.alle(Art::linie).at(31).zahlen, (test::Ecken{340, 35, 340, 176}));
+    EXPECT_EQ(bild_.alle(Art::linie).at(32).zahlen, (test::Ecken{31, 175, 341, 175}));
+    EXPECT_EQ(bild_.alle(Art::linie).at(39).zahlen, (test::Ecken{31, 35, 341, 35}));
     EXPECT_TRUE(test::steht(bild_, "31", 334, 179));
     EXPECT_FALSE(test::steht(bild_, "2", 47, 179));
     EXPECT_TRUE(test::steht(bild_, "22", 13, 28.5));  // at the top of the axis
     EXPECT_TRUE(test::steht(bild_, "8", 19, 168.5));
+    EXPECT_TRUE(test::steht(bild_, "°C", 13, 12));
     EXPECT_EQ(bild_.texte().size(), 2 + 16 + 8 + 1U);
-    EXPECT_EQ(bild_.alle(Zeichnung::Art::text).back().schrift.groesse, 8);
-}
-
-TEST_F(Temperaturdiagramm, BreiteFlaechenZaehlenJedenTag) {
+    EXPECT_EQ(bild_.alle(Art::text).back().schrift.groesse, 8);
     RekorderFlaeche schmal(600, 195);
     RekorderFlaeche breit(601, 195);
     EXPECT_EQ(zeichne(breit).texte().size() - zeichne(schmal).texte().size(), 16U);
@@ -119,14 +111,14 @@ TEST_F(Temperaturdiagramm, FrostLegtDieNulllinieInsBild) {
     p->Wetter(7, 1, 1).Ta = -3;
     zeichne(bild_);
     // 23 K take the step 5; the axis goes from -10 to 25, and 140 pixels show 35 K.
-    EXPECT_EQ(bild_.alle(Zeichnung::Art::linie, farben::schwarz).size(), 3U);
+    EXPECT_EQ(bild_.alle(Art::linie, farben::schwarz).size(), 3U);
     EXPECT_EQ(bild_.lies_punkt(200, 135), farben::schwarz);
 }
 
 TEST_F(Temperaturdiagramm, LegendeVomRechtenRand) {
     zeichne(bild_);
-    EXPECT_EQ(flaechen(bild_, farben::rot).front()[0], 70);
-    EXPECT_EQ(flaechen(bild_, farben::blau).front()[0], 220);
+    EXPECT_EQ(flaechen(bild_, farben::rot).front(), (test::Ecken{70, 24, 79, 30}));
+    EXPECT_EQ(flaechen(bild_, farben::blau).front(), (test::Ecken{220, 24, 229, 30}));
     EXPECT_TRUE(test::steht(bild_, "Raumlufttemperatur", 85, 20.5));
     EXPECT_TRUE(test::steht(bild_, "Außenlufttemperatur", 235, 20.5));
 }

@@ -19,23 +19,10 @@ namespace {
 struct Probeebenen {
     explicit Probeebenen(const std::string& sprache = "d") : p(test::leeres_projekt(sprache)) {
         Monatswerte& m = p->Monat(3);
-        m.Qv = 110;
-        m.Qt = 220;
-        m.Qs_genutzt = 50;
-        m.Qs_brutto = 125;
-        m.Qi_genutzt = 40;
-        m.Qi_brutto = 60;
-        m.Qh = 240;
-        m.Kuehlbedarf = 1234;
-        m.Kuehlgradstunden = 77.77F;
-        m.Stunden_kalt = 372;
-        m.Stunden_komfort = 279;
-        m.Stunden_heiss = 93;
-        p->qinfs = 11;
-        p->qtrs = 22;
-        p->qsols = 5.05F;
-        p->qis = 4;
-        p->qhs_sum = 24.06F;
+        m.Qv = 110, m.Qt = 220, m.Qh = 240, m.Kuehlbedarf = 1234, m.Kuehlgradstunden = 77.77F;
+        m.Qs_genutzt = 50, m.Qs_brutto = 125, m.Qi_genutzt = 40, m.Qi_brutto = 60;
+        m.Stunden_kalt = 372, m.Stunden_komfort = 279, m.Stunden_heiss = 93;
+        p->qinfs = 11, p->qtrs = 22, p->qsols = 5.05F, p->qis = 4, p->qhs_sum = 24.06F;
     }
 
     /// The surfaces of each plane.
