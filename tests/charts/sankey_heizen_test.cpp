@@ -123,6 +123,7 @@ TEST(SankeyHeizen, BaenderHabenIhreBreiteUndGehenAuf) {
         EXPECT_NEAR(m.bPE, m.bEE + m.bTV, 1) << f.name;
         EXPECT_NEAR(m.bEE, m.bQH + m.bSV, 1) << f.name;
         EXPECT_NEAR(m.bQH + m.bQI + m.bQS, m.bQL + m.bQT, 3) << f.name;
+        EXPECT_TRUE(f.energien.PE > 0 || bild.alle(Zeichnung::Art::sektor).empty()) << f.name;
         std::istringstream laeufe(f.laeufe);
         char richtung = 0;
         for (int x = 0, y = 0, laenge = 0; laeufe >> richtung >> x >> y >> laenge;) {

@@ -73,14 +73,24 @@ TEST(SankeyKuehlen, BaenderTreffenSichOhneLuecken) {
     EXPECT_EQ(hoch(bild, 59, 206), 84) << "primary energy";
     EXPECT_EQ(quer(bild, 70, 70), 57) << "loss, as wide as its bend";
     EXPECT_EQ(hoch(bild, 150, 206), 28) << "end energy";
-    for (std::size_t i = 0; i < ueberschuesse; ++i) {
-        EXPECT_EQ(bild.lies_punkt(m.xSchraeg - 1, m.einlass[i] + 1), farben::weiss);
-        EXPECT_EQ(hoch(bild, m.xSchraeg - 1, m.einlass[i]), m.teile[i]) << i;
-    }
     EXPECT_EQ(hoch(bild, m.xSammlung + 1, 206), 28 + 112) << "waste side";
     EXPECT_EQ(quer(bild, m.xSammlung, 178 - 56), 410 - m.xSammlung) << "upper apex";
     EXPECT_EQ(quer(bild, m.xSammlung, 206 - 14), 410 - m.xSammlung) << "lower apex";
     EXPECT_EQ(bild.lies_punkt(5, 206 - 42), farben::weiss) << "tail of the primary energy";
+}
+
+TEST(SankeyKuehlen, JederUeberschussHatSeinenEinlass) {
+    for (const std::vector<float>& teile : {std::vector<float>{5, 10, 75, 10}, {0, 10, 0, 90}}) {
+        Probe bild;
+        SankeyKuehlen(*projekt(teile, 4), bild);
+        const Sankey_Kuehlmasse m = masse(*projekt(teile, 4));
+        for (std::size_t i = 0; i < ueberschuesse; ++i) {
+            const int x = m.xSchraeg - 1;
+            EXPECT_EQ(bild.lies_punkt(x, m.einlass[i] + 1), farben::weiss);
+            EXPECT_EQ(bild.lies_punkt(x, m.einlass[i]) == bandfarbe, teile[i] > 0) << i;
+            EXPECT_TRUE(teile[i] == 0 || hoch(bild, x, m.einlass[i]) == m.teile[i]) << i;
+        }
+    }
 }
 
 TEST(SankeyKuehlen, BreitenBleibenInGrenzenUndGehenAuf) {
@@ -124,6 +134,9 @@ TEST(SankeyKuehlen, BeschriftungenAnIhrenOrten) {
     Probe schmal;  // a loss of 32 pixels rises further to the left
     SankeyKuehlen(*projekt({0, 0, 0, 0.002F}, 8), schmal);
     EXPECT_TRUE(test::steht(schmal, "Umwandlungs- und Transport-", 5, 0));
+    Probe breit;  // inlets near the end energy push their list up
+    SankeyKuehlen(*projekt({0, 0, 100, 0}, 0.5F), breit);
+    EXPECT_TRUE(test::steht(breit, "Überschüssige", 154, 56));
     Probe leer;
     SankeyKuehlen(*projekt({0, 0, 0, 0}, 2.5F, "e"), leer);
     ASSERT_EQ(leer.zeichnungen.size(), 2U);

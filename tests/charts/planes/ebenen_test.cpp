@@ -273,7 +273,11 @@ TEST_F(Tooltiptest, ErscheintWennDerZeigerAufEinemBalkenRuht) {
     EXPECT_EQ(u.tooltip.Label_Tooltip.text(), "Infos");
     bewege(90, 100);
     EXPECT_EQ(e.plattform.zeitgeber[uhr].millisekunden, 1000);
+    bild.Cls();
+    u.tooltip.erneuern();
+    EXPECT_TRUE(laeuft()) << "only a shown one is brought up to date";
     EXPECT_FALSE(sichtbar());
+    u.UeberGrafik.zeichnen(bild);
     e.plattform.zeiger_ort = {601, 400};
     e.plattform.lasse_ablaufen(uhr);
     EXPECT_FALSE(sichtbar()) << "the pointer has moved on";
