@@ -140,56 +140,28 @@ TEST(Dateiwahl, DieDialogeBeginnenWoDerLetzteWar) {
     test::Projektlauf neu("e");
     Haupt& h = *neu.programm.haupt;
     const fs::path ordner = neu.programm.ordner.pfad();
-    fs::create_directories(ordner / "papier");
     const fs::path haus = ordner / "projekte/Haus 2.5.VEL";
     fs::rename(neu.haus, haus);
-    struct Fall {
-        std::function<void()> tu;
-        fs::path antwort, ordner;
-        std::string name;
+    fs::create_directories(ordner / "papier");
+    const auto beginnt = [&neu](const std::function<void()>& tu, const fs::path& ort, const std::string& name,
+                                const fs::path& antwort) {
+        if (!antwort.empty()) neu.plattform().dateien = {antwort};
+        tu();
+        EXPECT_EQ(neu.plattform().dialoge.back().ordner, ort) << name;
+        EXPECT_EQ(neu.plattform().dialoge.back().dateiname, name);
     };
-    const std::vector<Fall> faelle{
-        {[&] { h.datei.datei_speichern_unter(); }, {}, ordner, ""},
-        {[&] { h.datei.datei_oeffnen({}); }, haus, ordner, ""},
-        {[&] { h.a_report.report_zeigen(), h.a_report.speichern(); }, ordner / "papier/x.rtf",
-         haus.parent_path(), "Haus 2.5.rtf"},
-        {[&] { h.e_klimaimport.Command1.druecke(); }, haus, ordner / "papier", ""},
-        {[&] { h.datei.datei_speichern_unter(); }, haus.parent_path() / "anders.bau", haus.parent_path(),
-         "Haus 2.5.VEL"},
-        {[&] { h.a_report.report_zeigen(), h.a_report.speichern(); },
-         {},
-         haus.parent_path(),
-         "anders.bau.rtf"},
-    };
-    for (const Fall& fall : faelle) {
-        if (!fall.antwort.empty()) neu.plattform().dateien = {fall.antwort};
-        fall.tu();
-        EXPECT_EQ(neu.plattform().dialoge.back().ordner, fall.ordner) << fall.name;
-        EXPECT_EQ(neu.plattform().dialoge.back().dateiname, fall.name);
-    }
-    EXPECT_EQ(neu.plattform().dialoge.size(), faelle.size());
+    const auto oeffnen = [&h] { h.datei.datei_oeffnen({}); };
+    const auto speichern = [&h] { h.datei.datei_speichern_unter(); };
+    const auto bericht = [&h] { h.a_report.report_zeigen(), h.a_report.speichern(); };
+    beginnt(speichern, ordner, "", {});
+    beginnt(oeffnen, ordner, "", haus);
+    beginnt(bericht, haus.parent_path(), "Haus 2.5.rtf", ordner / "papier/x.rtf");
+    beginnt([&h] { h.e_klimaimport.Command1.druecke(); }, ordner / "papier", "", haus);
+    beginnt(speichern, haus.parent_path(), "Haus 2.5.VEL", haus.parent_path() / "anders.bau");
+    beginnt(bericht, haus.parent_path(), "anders.bau.rtf", {});
     fs::rename(ordner / "projekte", ordner / "weg");
-    h.p.InitDir = ordner / "weg/Haus 2.5.VEL";
-    h.datei.datei_oeffnen({});
-    EXPECT_EQ(neu.plattform().dialoge.back().ordner, ordner / "weg") << "the command line may name a project";
-}
-
-TEST_F(Sichern, EinZielWirdNurNachEinemJaErsetzt) {
-    const Dateidialog dialog{.art = Dateidialog::Art::speichern};
-    const fs::path neu = programm.ordner / "neu.rtf";
-    plattform().dateien = {haus, neu};
-    plattform().antworten = {Antwort::nein};
-    EXPECT_EQ(zieldatei_erfragen(programm.haupt->sitzung, dialog), neu);
-    EXPECT_EQ(plattform().dialoge.back().dateiname, "haus.vel");
-    EXPECT_EQ(plattform().dialoge.back().ordner, haus.parent_path());
-    EXPECT_EQ(plattform().meldungen.back().text,
-              pfadtext(haus) + "\nDiese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?");
-    EXPECT_EQ(plattform().meldungen.back().vorgabe, Antwort::nein);
-    plattform().dateien = {haus, neu};
-    plattform().antworten = {Antwort::ja};
-    EXPECT_EQ(zieldatei_erfragen(programm.haupt->sitzung, dialog), haus);
-    plattform().dateien.clear();
-    EXPECT_EQ(zieldatei_erfragen(programm.haupt->sitzung, dialog), std::nullopt);
+    h.p.InitDir = ordner / "weg/Haus 2.5.VEL";  // the command line may name a project
+    beginnt(oeffnen, ordner / "weg", "", {});
 }
 
 }  // namespace
