@@ -1,140 +1,154 @@
 #include "documents/planes/A_Report.h"
 
-#include "planes/dokumentquelle.h"
-#include "tests/documents/report/reporthilfen.h"
+#include "tests/documents/unterlagen.h"
+#include "tests/hilfen.h"
+#include "tests/testplattform.h"
 
 #include <array>
-#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace velmaris {
 namespace {
 
 struct Fenster {
-    explicit Fenster(const std::string& sprache = "d") : programm(test::dokumentprogramm(sprache)) {}
+    explicit Fenster(const std::string& sprache = "d") : u(sprache) {}
 
-    std::unique_ptr<test::Testprogramm> programm;
-    A_Report report{programm->haupt->sitzung, [this] { return dokumentquelle(*programm->haupt); }};
+    void speichern(const std::string& datei) {
+        plattform.dateien = {ordner / datei};
+        report.Command_Speichern.druecke();
+    }
+
+    test::Unterlagen u;
+    test::Testordner ordner;
+    test::Testplattform plattform;
+    Sitzung sitzung{*u.p, plattform, [] {}};
+    A_Report report{sitzung, [this] { return u.quelle; }};
 };
 
-TEST(AReport, OeffnetAufSeiteEins) {
-    Fenster f;
-    EXPECT_FALSE(f.report.fenster.sichtbar());
-    f.report.anordnen(900, 500);
-    f.report.report_zeigen();
-    EXPECT_TRUE(f.report.fenster.sichtbar());
-    EXPECT_TRUE(f.report.Report1.sichtbar());
-    EXPECT_FALSE(f.report.Temperaturverlauf1.sichtbar());
-    EXPECT_TRUE(f.report.Seite(7).sichtbar());
-    EXPECT_FALSE(f.report.Seite(8).sichtbar());
-    EXPECT_NE(f.report.Report1.text().find("Datenblatt"), std::string::npos);
-    f.report.Seite(4).druecke();
-    EXPECT_NE(f.report.Report1.text().find("Ausgabe: Wärmebilanz"), std::string::npos);
-    EXPECT_EQ(f.report.AktSeite.platz()->links, f.report.Seite(4).lage()->links + 2);
-    f.report.Command_Schliessen.druecke();
-    EXPECT_FALSE(f.report.fenster.sichtbar());
+bool enthaelt(const std::string& text, const std::string& teil) {
+    return text.find(teil) != std::string::npos;
 }
 
-TEST(AReport, TemperaturverlaufHatZwoelfMonate) {
+TEST(AReport, ZeigtSeitenUndMonate) {
     Fenster f("e");
-    EXPECT_EQ(f.report.Command_Speichern.text(), "Save report");
-    f.report.temperaturverlauf_zeigen();
-    EXPECT_FALSE(f.report.Report1.sichtbar());
-    EXPECT_TRUE(f.report.Seite(12).sichtbar());
-    EXPECT_NE(f.report.Temperaturverlauf1.text().find("January"), std::string::npos);
-    f.report.Seite(12).druecke();
-    EXPECT_NE(f.report.Temperaturverlauf1.text().find("December"), std::string::npos);
-    f.report.report_zeigen();
-    EXPECT_FALSE(f.report.Seite(12).sichtbar());
+    A_Report& a = f.report;
+    EXPECT_FALSE(a.fenster.sichtbar());
+    EXPECT_FALSE(a.Hinweis.sichtbar());
+    EXPECT_EQ(a.Command_Speichern.text(), "Save report");
+    EXPECT_EQ(a.Seite(12).text(), "12");
+    a.anordnen(900, 500);
+    struct Fall {
+        bool report;
+        int knoepfe;
+        const char* erste;
+        int knopf;
+        const char* zweite;
+    };
+    for (const Fall& fall : {Fall{true, 7, "Data sheet", 4, "Output: Heat balance"},
+                             {false, 12, "Month:      M1\r", 12, "M12"}}) {
+        fall.report ? a.report_zeigen() : a.temperaturverlauf_zeigen();
+        const Anzeige& text = fall.report ? a.Report1 : a.Temperaturverlauf1;
+        EXPECT_TRUE(a.fenster.sichtbar());
+        EXPECT_EQ(a.Report1.sichtbar(), fall.report);
+        EXPECT_EQ(a.Temperaturverlauf1.sichtbar(), !fall.report);
+        for (int i = 1; i <= 12; ++i)
+            EXPECT_EQ(a.Seite(i).sichtbar(), i <= fall.knoepfe) << i;
+        EXPECT_TRUE(enthaelt(text.text(), fall.erste));
+        EXPECT_EQ(a.AktSeite.text(), "1");
+        a.Seite(fall.knopf).druecke();
+        EXPECT_TRUE(enthaelt(text.text(), fall.zweite));
+        EXPECT_EQ(a.AktSeite.text(), std::to_string(fall.knopf));
+        EXPECT_EQ(a.AktSeite.platz()->links, a.Seite(fall.knopf).lage()->links + 2);
+        a.Command_Schliessen.druecke();
+        EXPECT_FALSE(a.fenster.sichtbar());
+    }
 }
 
-TEST(AReport, SpeichertAlleSeitenInEinerZeile) {
+/// From the left the buttons of the pages, then saving and closing, in one row below the texts.
+TEST(AReport, KnoepfeStehenInEinerReihe) {
+    Fenster f;
+    A_Report& a = f.report;
+    for (const double breite : {A_Report::mindestbreite(), 1200.0}) {
+        a.anordnen(breite, 500);
+        std::vector<const Feld*> reihe;
+        for (int i = 1; i <= 12; ++i)
+            reihe.push_back(&a.Seite(i));
+        reihe.insert(reihe.end(), {&a.Command_Speichern, &a.Command_Schliessen});
+        double rechts = 0;
+        for (const Feld* knopf : reihe) {
+            const Rechteck r = *knopf->lage();
+            EXPECT_GT(r.links, rechts) << knopf->name;
+            EXPECT_TRUE(r.oben == 467 && r.hoehe == 25) << knopf->name;
+            rechts = r.links + r.breite;
+        }
+        EXPECT_EQ(rechts, breite - 8);
+        const Rechteck texte = *a.Report1.lage();
+        EXPECT_TRUE(texte.links == 8 && texte.oben == 8 && texte.breite == breite - 16 && texte.hoehe == 451);
+        EXPECT_EQ(a.Temperaturverlauf1.lage()->hoehe, texte.hoehe);
+    }
+}
+
+TEST(AReport, SpeichertAlleSeitenOderAlleStunden) {
     Fenster f;
     f.report.report_zeigen();
-    f.programm->plattform.dateien = {f.programm->ordner / "bericht"};
-    f.report.Command_Speichern.druecke();
-    const auto& dialog = f.programm->plattform.dialoge.back();
-    EXPECT_EQ(dialog.filter, "Rich Text Format (*.rtf)|*.rtf");
-    const std::string bytes = test::inhalt(f.programm->ordner / "bericht.rtf");
+    f.speichern("bericht");
+    const auto& dialoge = f.plattform.dialoge;
+    EXPECT_EQ(dialoge.back().filter, "Rich Text Format (*.rtf)|*.rtf");
+    const std::string bytes = test::inhalt(f.ordner / "bericht.rtf");
     EXPECT_TRUE(bytes.starts_with("{\\rtf1\\ansi"));
     EXPECT_EQ(bytes.find('\n'), bytes.size() - 1);
-    EXPECT_NE(bytes.find("W\xE4rmebilanz"), std::string::npos);
-    EXPECT_NE(bytes.find("m\xB2"), std::string::npos);
-    EXPECT_NE(f.report.Report1.text().find("Wärmebilanz"), std::string::npos);
-}
-
-TEST(AReport, SpeichertDieStundenDesJahres) {
-    Fenster f;
+    EXPECT_TRUE(enthaelt(bytes, "W\xE4rmebilanz"));
+    EXPECT_TRUE(enthaelt(bytes, "m\xB2"));
+    EXPECT_TRUE(enthaelt(f.report.Report1.text(), "Wärmebilanz"));
     f.report.temperaturverlauf_zeigen();
-    f.programm->plattform.dateien = {f.programm->ordner / "jahr.txt"};
+    f.speichern("jahr.txt");
+    EXPECT_EQ(dialoge.back().filter, "Textdatei (*.txt)|*.txt");
+    EXPECT_GT(test::inhalt(f.ordner / "jahr.txt").size(), 8760U * 62U);
     f.report.Command_Speichern.druecke();
-    EXPECT_EQ(f.programm->plattform.dialoge.back().filter, "Textdatei (*.txt)|*.txt");
-    EXPECT_GT(test::inhalt(f.programm->ordner / "jahr.txt").size(), 8760U * 62U);
-}
-
-TEST(AReport, AbbruchBleibtStill) {
-    Fenster f;
-    f.report.report_zeigen();
-    f.report.Command_Speichern.druecke();
-    EXPECT_EQ(f.programm->plattform.dialoge.size(), 1U);
-    EXPECT_FALSE(f.report.Hinweis.sichtbar());
+    EXPECT_EQ(dialoge.size(), 3U);
+    EXPECT_FALSE(f.report.Hinweis.sichtbar()) << "cancelled";
 }
 
 TEST(AReport, FehlschlagStehtImFensterBisEtwasGelingt) {
     struct Fall {
+        const char* sprache;
+        bool report;
         const char* datei;
-        const char* de;
-        const char* en;
+        const char* anfang;
+        const char* grund;
     };
-    const std::array<Fall, 2> faelle{
-        {{"fehlt/bericht.rtf", "den Ordner gibt es nicht", "there is no such folder"},
-         {"ordner.rtf", "ist ein Ordner, keine Datei", "is a folder, not a file"}}};
-    for (const char* sprache : {"d", "e"}) {
-        for (const Fall& fall : faelle) {
-            Fenster f(sprache);
-            std::filesystem::create_directory(f.programm->ordner / "ordner.rtf");
-            A_Report& a = f.report;
-            a.anordnen(900, 500);
-            std::size_t ersetzt = 0;
-            const auto scheitern = [&] {
-                const auto ziel = f.programm->ordner / fall.datei;
-                if (std::filesystem::exists(ziel)) ++ersetzt;
-                f.programm->plattform.dateien = {ziel};
-                f.programm->plattform.antworten = {Antwort::ja};
-                a.Command_Speichern.druecke();
-            };
-            for (const bool report : {true, false}) {
-                report ? a.report_zeigen() : a.temperaturverlauf_zeigen();
-                const Anzeige& text = report ? a.Report1 : a.Temperaturverlauf1;
-                const std::string vorher = text.text();
-                const double hoehe = text.lage()->hoehe;
-                scheitern();
-                ASSERT_TRUE(a.Hinweis.sichtbar());
-                const std::string& hinweis = a.Hinweis.text();
-                EXPECT_TRUE(hinweis.starts_with(sprache[0] == 'e' ? "Nothing was saved: "
-                                                                  : "Es wurde nichts gespeichert: "));
-                EXPECT_NE(hinweis.find(fall.datei), std::string::npos) << hinweis;
-                EXPECT_NE(hinweis.find(sprache[0] == 'e' ? fall.en : fall.de), std::string::npos) << hinweis;
-                EXPECT_EQ(f.programm->plattform.meldungen.size(), ersetzt) << "only the question";
-                EXPECT_EQ(text.text(), vorher);
-                EXPECT_LE(text.lage()->oben + text.lage()->hoehe, a.Hinweis.lage()->oben);
-                EXPECT_LE(a.Hinweis.lage()->oben + a.Hinweis.lage()->hoehe, a.Seite(1).lage()->oben);
+    for (const Fall& fall :
+         {Fall{"d", true, "fehlt/bericht.rtf", "Es wurde nichts gespeichert: ", "den Ordner gibt es nicht"},
+          {"e", false, "fehlt/jahr.txt", "Nothing was saved: ", "there is no such folder"}}) {
+        Fenster f(fall.sprache);
+        A_Report& a = f.report;
+        a.anordnen(900, 500);
+        fall.report ? a.report_zeigen() : a.temperaturverlauf_zeigen();
+        const Anzeige& text = fall.report ? a.Report1 : a.Temperaturverlauf1;
+        const std::string vorher = text.text();
+        f.speichern(fall.datei);
+        ASSERT_TRUE(a.Hinweis.sichtbar());
+        EXPECT_TRUE(a.Hinweis.text().starts_with(fall.anfang));
+        EXPECT_TRUE(enthaelt(a.Hinweis.text(), fall.datei) && enthaelt(a.Hinweis.text(), fall.grund));
+        EXPECT_TRUE(f.plattform.meldungen.empty());
+        EXPECT_EQ(text.text(), vorher);
+        const Rechteck hinweis = *a.Hinweis.lage();
+        EXPECT_TRUE(hinweis.links == 8 && hinweis.oben == 401 && hinweis.hoehe == 58 &&
+                    hinweis.breite == 884);
+        EXPECT_EQ(text.lage()->hoehe, 385);
 
-                a.Command_Speichern.druecke();
-                EXPECT_TRUE(a.Hinweis.sichtbar()) << "cancelled";
-                a.Seite(2).druecke();
-                EXPECT_FALSE(a.Hinweis.sichtbar());
-                EXPECT_EQ(text.lage()->hoehe, hoehe);
-                scheitern();
-                f.programm->plattform.dateien = {f.programm->ordner / "gut"};
-                a.Command_Speichern.druecke();
-                EXPECT_FALSE(a.Hinweis.sichtbar());
-                scheitern();
-                a.Command_Schliessen.druecke();
-            }
-            a.report_zeigen();
-            EXPECT_FALSE(a.Hinweis.sichtbar());
-        }
+        a.Command_Speichern.druecke();
+        EXPECT_TRUE(a.Hinweis.sichtbar()) << "cancelled";
+        a.Seite(2).druecke();
+        EXPECT_FALSE(a.Hinweis.sichtbar());
+        EXPECT_EQ(text.lage()->hoehe, 451);
+        f.speichern(fall.datei);
+        f.speichern("gut");
+        EXPECT_FALSE(a.Hinweis.sichtbar());
+        f.speichern(fall.datei);
+        a.Command_Schliessen.druecke();
+        a.report_zeigen();
+        EXPECT_FALSE(a.Hinweis.sichtbar());
     }
 }
 

@@ -1,8 +1,8 @@
 #include "documents/planes/Drucken.h"
 
-#include "planes/dokumentquelle.h"
-#include "tests/documents/report/reporthilfen.h"
+#include "tests/documents/unterlagen.h"
 #include "tests/testdrucker.h"
+#include "tests/testplattform.h"
 #include "toolkit/fehler.h"
 
 #include <gtest/gtest.h>
@@ -24,9 +24,9 @@ class Weitergabe : public test::Testdrucker {
 };
 
 struct Dialog {
-    explicit Dialog(const std::string& sprache = "d") : programm(test::dokumentprogramm(sprache)) {
-        programm->plattform.drucker = {"Laser", "Tinte"};
-        programm->plattform.druckername = "Laser";
+    explicit Dialog(const std::string& sprache = "d") : u(sprache) {
+        plattform.drucker = {"Laser", "Tinte"};
+        plattform.druckername = "Laser";
         drucken.dokument = [this](const Druckziel& wohin) {
             ziele.push_back(wohin);
             auto drucker = std::make_unique<Weitergabe>(gedruckt);
@@ -36,8 +36,10 @@ struct Dialog {
         drucken.oeffnen();
     }
 
-    std::unique_ptr<test::Testprogramm> programm;
-    Drucken drucken{programm->haupt->sitzung, [this] { return dokumentquelle(*programm->haupt); }};
+    test::Unterlagen u;
+    test::Testplattform plattform;
+    Sitzung sitzung{*u.p, plattform, [] {}};
+    Drucken drucken{sitzung, [this] { return u.quelle; }};
     std::vector<Druckziel> ziele;  ///< of the documents begun
     bool stoerung = false;
     int gedruckt = 0;
@@ -51,25 +53,21 @@ TEST(Drucken, DrucktWasGewaehltIstUndSchliesst) {
     d.drucken.Command1.druecke();
     EXPECT_EQ(d.gedruckt, 3);
     EXPECT_FALSE(d.drucken.fenster.sichtbar());
-    EXPECT_TRUE(d.programm->plattform.meldungen.empty());
+    EXPECT_TRUE(d.plattform.meldungen.empty());
 }
 
-TEST(Drucken, OhneAuswahlKommtEinWort) {
+TEST(Drucken, OhneAuswahlOderMitStoerungBleibtDerDialogOffen) {
     Dialog d("e");
+    EXPECT_EQ(d.drucken.Command1.text(), "Print");
     d.drucken.Command1.druecke();
     EXPECT_TRUE(d.ziele.empty());
-    ASSERT_EQ(d.programm->plattform.meldungen.size(), 1U);
-    EXPECT_EQ(d.programm->plattform.meldungen[0].text, "Please choose at least one output.");
-    EXPECT_TRUE(d.drucken.fenster.sichtbar());
-}
-
-TEST(Drucken, StoerungLaesstDenDialogOffen) {
-    Dialog d;
     d.drucken.Druckausgabe(2).setze(1);
     d.stoerung = true;
     d.drucken.Command1.druecke();
-    ASSERT_EQ(d.programm->plattform.meldungen.size(), 1U);
-    EXPECT_EQ(d.programm->plattform.meldungen[0].text, "Papierstau");
+    const auto& meldungen = d.plattform.meldungen;
+    ASSERT_EQ(meldungen.size(), 2U);
+    EXPECT_EQ(meldungen[0].text, "Please choose at least one output.");
+    EXPECT_EQ(meldungen[1].text, "paper jam");
     EXPECT_TRUE(d.drucken.fenster.sichtbar());
     d.drucken.Command2.druecke();
     EXPECT_FALSE(d.drucken.fenster.sichtbar());
@@ -77,17 +75,17 @@ TEST(Drucken, StoerungLaesstDenDialogOffen) {
 
 TEST(Drucken, FragtNachDerPdfDatei) {
     Dialog d;
-    d.programm->p().Datei = "C:\\Häuser\\Müller.vel";
-    d.programm->plattform.druckername = "";
+    d.u.p->Datei = "C:\\Häuser\\Müller.vel";
+    d.plattform.druckername = "";
     d.drucken.oeffnen();
     d.drucken.Druckausgabe(2).setze(1);
     d.drucken.Command1.druecke();
-    ASSERT_EQ(d.programm->plattform.dialoge.size(), 1U);
-    EXPECT_EQ(d.programm->plattform.dialoge[0].dateiname, "Müller.pdf");
+    ASSERT_EQ(d.plattform.dialoge.size(), 1U);
+    EXPECT_EQ(d.plattform.dialoge[0].dateiname, "Müller.pdf");
     EXPECT_TRUE(d.ziele.empty()) << "cancelled";
-    EXPECT_TRUE(d.programm->plattform.meldungen.empty());
+    EXPECT_TRUE(d.plattform.meldungen.empty());
     EXPECT_TRUE(d.drucken.fenster.sichtbar());
-    d.programm->plattform.dateien = {"/tmp/blatt"};
+    d.plattform.dateien = {"/tmp/blatt"};
     d.drucken.Command1.druecke();
     ASSERT_EQ(d.ziele.size(), 1U);
     EXPECT_EQ(d.ziele[0].pdf, "/tmp/blatt.pdf");
@@ -116,9 +114,9 @@ TEST(Drucken, DruckerWerdenGewaehltUndPdfImmerAngeboten) {
         EXPECT_EQ(d.drucken.DruckerName.text(), zeile == 1 ? "Tinte" : "PDF-Datei");
         EXPECT_EQ(d.drucken.DruckerNameUnten.text(), d.drucken.DruckerName.text());
     }
-    EXPECT_EQ(d.programm->plattform.druckername, "");
+    EXPECT_EQ(d.plattform.druckername, "");
 
-    d.programm->plattform.drucker.clear();
+    d.plattform.drucker.clear();
     d.drucken.oeffnen();
     d.drucken.Command3.druecke();
     EXPECT_EQ(wahl.Druckerliste.eintraege(), (std::vector<std::string>{"PDF-Datei"}));
@@ -129,68 +127,40 @@ TEST(Drucken, DruckerWerdenGewaehltUndPdfImmerAngeboten) {
 /// A printer that goes: what is left is offered, and nothing is printed elsewhere without a word.
 TEST(Drucken, VerschwundenerDrucker) {
     using Namen = std::vector<std::string>;
-    struct Fall {
-        const char* wann;
-        Namen rest;
-        void (*verschwinden)(Dialog&, const Namen& rest);
-    };
-    const auto druckt = [](Dialog& d, const Namen& rest) {
-        d.programm->plattform.drucker = rest;
-        d.drucken.Command1.druecke();
-    };
-    const auto waehlt = [](Dialog& d, const Namen& rest) {
-        d.drucken.Command3.druecke();
-        d.programm->plattform.drucker = rest;
-        d.drucken.wahl.OK_Button.druecke();
-    };
-    const auto vorgabe_wechselt = [](Dialog& d, const Namen& rest) {
-        d.programm->plattform.drucker = rest;
-        d.programm->plattform.druckername = rest.empty() ? "" : rest.front();
-        d.drucken.Command1.druecke();
-    };
-    const auto beim_beginnen = [](Dialog& d, const Namen& rest) {
-        d.drucken.dokument = [&d, &rest](const Druckziel&) -> std::unique_ptr<velmaris::Drucker> {
-            d.programm->plattform.drucker = rest;
-            throw Laufzeitfehler({"Laser antwortet nicht", "Laser does not answer"});
-        };
-        d.drucken.Command1.druecke();
-    };
-    const auto vor_dem_oeffnen = [](Dialog& d, const Namen& rest) {
-        d.drucken.Command2.druecke();
-        d.programm->plattform.drucker = rest;
-        d.drucken.oeffnen();
-        EXPECT_EQ(d.drucken.DruckerName.text(), "Laser");
-        d.drucken.Command1.druecke();
-    };
+    const std::vector<void (*)(Dialog&, const Namen&)> wege{
+        [](Dialog& d, const Namen& rest) {
+            d.plattform.drucker = rest;
+            d.drucken.Command1.druecke();
+        },
+        [](Dialog& d, const Namen& rest) {
+            d.drucken.Command3.druecke();
+            d.plattform.drucker = rest;
+            d.drucken.wahl.OK_Button.druecke();
+        },
+        [](Dialog& d, const Namen& rest) {
+            d.drucken.dokument = [&d, rest](const Druckziel&) -> std::unique_ptr<velmaris::Drucker> {
+                d.plattform.drucker = rest;
+                throw Laufzeitfehler({"Laser antwortet nicht", "Laser does not answer"});
+            };
+            d.drucken.Command1.druecke();
+        }};
     for (const Namen& rest : {Namen{"Tinte"}, Namen{}}) {
-        for (const Fall& fall : {Fall{"print", rest, druckt},
-                                 {"choose", rest, waehlt},
-                                 {"default", rest, vorgabe_wechselt},
-                                 {"begin", rest, beim_beginnen},
-                                 {"open", rest, vor_dem_oeffnen}}) {
-            SCOPED_TRACE(fall.wann + std::string(rest.empty() ? ", none left" : ""));
+        for (const auto verschwinden : wege) {
             Dialog d;
             d.drucken.Druckausgabe(2).setze(1);
-            fall.verschwinden(d, rest);
-            const auto& plattform = d.programm->plattform;
-            ASSERT_EQ(plattform.meldungen.size(), 1U);
-            EXPECT_NE(plattform.meldungen[0].text.find("Laser"), std::string::npos);
-            EXPECT_TRUE(plattform.dialoge.empty()) << "no PDF dialog";
+            verschwinden(d, rest);
+            ASSERT_EQ(d.plattform.meldungen.size(), 1U);
+            EXPECT_NE(d.plattform.meldungen[0].text.find("Laser"), std::string::npos);
+            EXPECT_TRUE(d.plattform.dialoge.empty()) << "no PDF dialog";
             EXPECT_EQ(d.gedruckt, 0);
             const Druckerwahl& wahl = d.drucken.wahl;
-            EXPECT_TRUE(wahl.fenster.sichtbar());
+            EXPECT_TRUE(wahl.fenster.sichtbar() && d.drucken.fenster.sichtbar());
             Namen angebot = rest;
             angebot.emplace_back("PDF-Datei");
             EXPECT_EQ(wahl.Druckerliste.eintraege(), angebot);
             EXPECT_EQ(wahl.Hinweis.text().empty(), !rest.empty());
-            EXPECT_TRUE(d.drucken.fenster.sichtbar());
         }
     }
-}
-
-TEST(Drucken, Beschriftungen) {
-    EXPECT_EQ(Dialog("e").drucken.Command1.text(), "Print");
-    EXPECT_EQ(Dialog("d").drucken.Command3.text(), "Ändern");
 }
 
 }  // namespace

@@ -1,0 +1,319 @@
+#include "documents/print/druckdiagramme.h"
+
+#include "documents/print/drucktabelle.h"
+#include "documents/print/zeichnung_haus.h"
+#include "tests/documents/unterlagen.h"
+#include "tests/hilfen.h"
+#include "tests/testdrucker.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <gtest/gtest.h>
+#include <map>
+#include <optional>
+#include <sstream>
+
+namespace velmaris {
+namespace {
+
+using test::Druckzeichen;
+using test::Testdrucker;
+using test::Unterlagen;
+using Art = Druckzeichen::Art;
+
+bool gleich(double a, double b) {
+    return std::abs(a - b) < 1E-6;
+}
+
+/// A plain house that looks south, and values that the scales hold.
+void in_die_skalen(Projekt& p) {
+    p.l = 10;
+    p.b = 20;
+    p.h = 5.2F;
+    p.hd = 2.5F;
+    p.orient = 0;
+    p.qtrs = 310.5F;
+    p.qinfs = 150.25F;
+    p.qverl_s = p.qtrs + p.qinfs;
+    p.qis = 120.5F;
+    p.qsols = 90.25F;
+    p.qhs_sum = 250;
+    for (int m = 1; m <= monate; ++m) {
+        p.Monat(m).Stunden_kalt = static_cast<std::int16_t>(300 + m);
+        p.Monat(m).Stunden_komfort = static_cast<std::int16_t>(150 + 2 * m);
+        p.Monat(m).Stunden_heiss = static_cast<std::int16_t>(200 - 3 * m);
+    }
+}
+
+using Zeichnung = void (*)(Blatt&, const Projekt&);
+
+template <int first>
+void haus(Blatt& blatt, const Projekt& p) {
+    Projekt mit_dach = p;
+    mit_dach.Check_Dachgeschoss = first > 0 ? 1 : 0;
+    mit_dach.Option_Dachfirst = first;
+    Zeichnung_Haus(blatt, mit_dach);
+}
+
+const std::map<std::string, Zeichnung> zeichnungen{
+    {"Jahresbilanz", Diagramm_Jahresbilanz},
+    {"Monatbilanz", Diagramm_Monatbilanz},
+    {"Bilanzlegende", [](Blatt& blatt, const Projekt&) { Legende_Bilanz(blatt); }},
+    {"Fenster", Diagramm_Fenster},
+    {"Stunden", Diagramm_Stunden},
+    {"Kuehlen", Diagramm_Kuehlen},
+    {"Heizenergie", Diagramm_Heizenergie},
+    {"Kühlenergie", Diagramm_Kühlenergie},
+    {"Flachdach", haus<0>},
+    {"First_Nord_Süd", haus<1>},
+    {"First_Ost_West", haus<2>},
+    {"Orientierung", Diagramm_Orientierung},
+    {"Seite", [](Blatt& blatt, const Projekt&) {
+         Seitenkopf(blatt, "<Titel>", {"<Datei>", "<Datum>", 2, 3});
+     }}};
+
+/// Compares a drawing with the lines of `diagramme.txt`, all places in millimetres: `kasten` left, top,
+/// right, bottom; `achse` x, foot, top, end; `skala` steps and the number at the top; `links`, `mitte`,
+/// `rechts` a text with that place of it and its top; `balken` left, right and pieces from the foot up, a
+/// colour and a value each; `monate` the same for January, the others 8 mm apart; `namen` the months with
+/// their top; `legende` a colour and its meaning; `linie` its ends and colour; `linien` how many there are.
+class Vergleich {
+  public:
+    Vergleich(Zeichnung zeichnen, const std::string& sprache) : u_(sprache) {
+        in_die_skalen(*u_.p);
+        Blatt blatt(drucker_, u_.p->Sprache);
+        zeichnen(blatt, *u_.p);
+    }
+
+    void pruefe(std::istringstream zeile) {
+        std::string art;
+        zeile >> art;
+        if (art == "kasten") {
+            kasten_ = zahlen<4>(zeile);
+            EXPECT_TRUE(steht(Art::kasten, kasten_));
+        } else if (art == "achse") {
+            achse_ = zahlen<4>(zeile);
+            EXPECT_TRUE(steht(Art::linie, {achse_[0], achse_[1], achse_[0], achse_[2]}));
+            EXPECT_TRUE(steht(Art::linie, {achse_[0], achse_[1], achse_[3], achse_[1]}));
+        } else if (art == "skala") {
+            const auto [teile, skala] = zahlen<2>(zeile);
+            skala_ = skala;
+            for (int i = 0; i <= teile; ++i)
+                strich(skala * i / teile);
+        } else if (art == "balken" || art == "monate") {
+            const auto [x1, x2] = zahlen<2>(zeile);
+            const std::string teile(std::istreambuf_iterator<char>(zeile), {});
+            if (art == "balken") balken(std::istringstream(teile), 0, x1, x2);
+            for (int m = 1; m <= monate && art == "monate"; ++m)
+                balken(std::istringstream(teile), m, x1 + 8 * (m - 1), x2 + 8 * (m - 1));
+        } else if (art == "linie") {
+            const auto ecken = zahlen<4>(zeile);
+            EXPECT_TRUE(steht(Art::linie, ecken, farbe(zeile)));
+        } else if (art == "linien") {
+            EXPECT_EQ(drucker_.auf_seite(1, Art::linie).size(), zahlen<1>(zeile)[0]);
+        } else if (art == "namen") {
+            text(35, zahlen<1>(zeile)[0], std::string(monate_der_diagramme.in(u_.p->Sprache)), 0);
+        } else if (art == "legende") {
+            const Farbe f = farbe(zeile);
+            legende(f, wort(zeile));
+        } else {
+            const auto [x, y] = zahlen<2>(zeile);
+            text(x, y, wort(zeile), art == "links" ? 0 : (art == "mitte" ? 0.5 : 1));
+        }
+    }
+
+    /// No surface in the box but the bars that were found.
+    void alles_gefunden() const {
+        const auto flaechen = drucker_.auf_seite(1, Art::flaeche);
+        EXPECT_EQ(std::count_if(flaechen.begin(), flaechen.end(),
+                                [&k = kasten_](const Druckzeichen& z) {
+                                    return z.x1 > k[0] && z.x2 < k[2] && z.y1 > k[1] && z.y1 < k[3];
+                                }),
+                  gefunden_);
+    }
+
+  private:
+    using Ecken = std::array<double, 4>;
+
+    [[nodiscard]] bool irgendwo(Art art, const std::function<bool(const Druckzeichen&)>& passt) const {
+        const auto alle = drucker_.auf_seite(1, art);
+        return std::any_of(alle.begin(), alle.end(), passt);
+    }
+
+    [[nodiscard]] bool steht(Art art, const Ecken& e, Farbe farbe = farben::schwarz) const {
+        return irgendwo(art, [&](const Druckzeichen& z) {
+            return gleich(z.x1, e[0]) && gleich(z.y1, e[1]) && gleich(z.x2, e[2]) && gleich(z.y2, e[3]) &&
+                   z.farbe == farbe;
+        });
+    }
+
+    /// A text of which this share lies left of x.
+    void text(double x, double y, const std::string& text, double anteil) const {
+        EXPECT_TRUE(irgendwo(Art::text, [&](const Druckzeichen& z) {
+            return z.text == text && gleich(z.x1 + anteil * (z.x2 - z.x1), x) && gleich(z.y1, y);
+        })) << text;
+    }
+
+    void strich(double wert) const {
+        EXPECT_TRUE(steht(Art::linie, {achse_[0] - 1, y(wert), achse_[0], y(wert)})) << wert;
+        text(achse_[0] - 1.5, y(wert) - 1.5, std::to_string(std::lround(wert)), 1);
+    }
+
+    void balken(std::istringstream teile, int m, double x1, double x2) {
+        double unten = 0;
+        while (teile >> std::ws && !teile.eof()) {
+            const Farbe f = farbe(teile);
+            std::string formel;
+            std::getline(teile.ignore(), formel, ' ');
+            const double oben = unten + test::wert(*u_.p, m, formel);
+            EXPECT_TRUE(steht(Art::flaeche, {x1, y(unten), x2, y(oben)}, f)) << formel << m;
+            unten = oben;
+            ++gefunden_;
+        }
+        EXPECT_TRUE(steht(Art::linie, {x1, achse_[1], x2, achse_[1]}));
+    }
+
+    /// A square of three millimetres, and two of them on the word in the diagrams' font.
+    void legende(Farbe farbe, const std::string& text) const {
+        EXPECT_TRUE(irgendwo(Art::text, [&](const Druckzeichen& z) {
+            const Ecken quadrat{z.x1 - 5, z.y1 + 0.2, z.x1 - 2, z.y1 + 3.2};
+            return z.text == text && z.schrift.groesse == 8 && steht(Art::flaeche, quadrat, farbe) &&
+                   steht(Art::kasten, quadrat);
+        })) << text;
+    }
+
+    [[nodiscard]] double y(double wert) const { return achse_[1] - wert / skala_ * (achse_[1] - achse_[2]); }
+
+    template <std::size_t n>
+    static std::array<double, n> zahlen(std::istream& zeile) {
+        std::array<double, n> alle{};
+        for (double& zahl : alle) {
+            zeile >> zahl;
+            if (zeile.peek() == ',') zeile.ignore();
+        }
+        return alle;
+    }
+
+    static Farbe farbe(std::istream& zeile) {
+        const auto rgb = zahlen<3>(zeile);
+        const auto anteil = [&rgb](std::size_t i) { return static_cast<std::uint8_t>(rgb.at(i)); };
+        return {anteil(0), anteil(1), anteil(2)};
+    }
+
+    [[nodiscard]] std::string wort(std::istream& zeile) const {
+        std::string beide;
+        std::getline(zeile >> std::ws, beide);
+        const auto mitte = beide.find(" = ");
+        return u_.p->Sprache == "e" ? beide.substr(mitte + 3) : beide.substr(0, mitte);
+    }
+
+    Unterlagen u_;
+    Testdrucker drucker_;
+    Ecken kasten_{};
+    Ecken achse_{};
+    double skala_ = 1;
+    int gefunden_ = 0;
+};
+
+TEST(Druckdiagramme, ZeigenDenDatensatzAnIhremPlatz) {
+    for (const char* sprache : {"d", "e"}) {
+        std::istringstream zeilen(test::inhalt(VELMARIS_SEITEN "/print/diagramme.txt"));
+        std::optional<Vergleich> vergleich;
+        for (std::string zeile; std::getline(zeilen, zeile);) {
+            SCOPED_TRACE(zeile + " " + sprache);
+            if (!zeile.starts_with("diagramm ")) {
+                vergleich->pruefe(std::istringstream(zeile));
+                continue;
+            }
+            if (vergleich) vergleich->alles_gefunden();
+            vergleich.emplace(zeichnungen.at(zeile.substr(9)), sprache);
+        }
+    }
+}
+
+/// By hand: below 10000 the steps are those of the year balance, beyond them a thousand times as large.
+TEST(Druckdiagramme, FensterskalaReichtInDieTausende) {
+    const Unterlagen u("d");
+    for (const auto& [gewinn, oben] :
+         {std::pair{9999.0F, "10000"}, {10000.0F, "25000"}, {60000.0F, "75000"}}) {
+        u.p->Fenstergewinn_S = gewinn;
+        Testdrucker drucker;
+        Blatt blatt(drucker, "d");
+        Diagramm_Fenster(blatt, *u.p);
+        EXPECT_EQ(drucker.auf_seite(1, Art::text).at(5).text, oben);
+    }
+}
+
+TEST(Druckdiagramme, OhneHilfsstromFehltSeinTeil) {
+    const Unterlagen u("d");
+    u.p->Heizsystem = 8;
+    Testdrucker drucker;
+    Blatt blatt(drucker, "d");
+    Diagramm_Heizenergie(blatt, *u.p);
+    EXPECT_EQ(drucker.auf_seite(1, Art::flaeche).size(), 2U * 12 + 2);
+}
+
+TEST(Druckdiagramme, MonatsnamenStehenUnterIhrenBalken) {
+    Testdrucker drucker;
+    drucker.schrift({.groesse = 8});
+    for (const std::string_view zeile : {monate_der_diagramme.de, monate_der_diagramme.en}) {
+        const auto namen = worte(zeile);
+        ASSERT_EQ(namen.size(), 12U);
+        for (std::size_t i = 0; i < namen.size(); ++i) {
+            const auto anfang = static_cast<std::size_t>(namen[i].data() - zeile.data());
+            const double mitte =
+                35 + drucker.textbreite(zeile.substr(0, anfang)) + drucker.textbreite(namen[i]) / 2;
+            EXPECT_NEAR(mitte, 39 + 8.0 * static_cast<double>(i), 0.5) << namen[i];
+        }
+    }
+}
+
+/// The areas of the walls stand inside them, however large the house is.
+TEST(ZeichnungHaus, FlaechenBleibenInIhrerWand) {
+    constexpr double links = 143.8;
+    for (const float laenge : {2.0F, 50.0F}) {
+        for (const float hoehe : {2.0F, 50.0F}) {
+            Projekt p;
+            p.l = p.b = laenge;
+            p.h = hoehe;
+            Testdrucker drucker;
+            Blatt blatt(drucker, "e");
+            Zeichnung_Haus(blatt, p);
+            auto texte = drucker.auf_seite(1, Art::text);
+            std::erase_if(texte, [](const Druckzeichen& z) { return !z.text.ends_with("m²"); });
+            ASSERT_EQ(texte.size(), 2U);
+            const Druckzeichen& sued = texte[0];
+            EXPECT_TRUE(sued.x1 - links >= 12 && sued.x2 - links <= 31.2) << sued.text;
+            const Druckzeichen& west = texte[1];
+            EXPECT_TRUE(west.x1 - links >= 0.8 && west.x2 - links <= 12) << west.text;
+            const double grundlinie = west.y1 + 0.8 * (west.y2 - west.y1) - 57;
+            EXPECT_LE(grundlinie, 28.6 + (west.x1 - links - 0.8) * 6.4 / 11.2);
+        }
+    }
+}
+
+/// South is down the page; a deviation to the west turns it to the left.
+TEST(DiagrammOrientierung, DrehtSichNachWesten) {
+    for (const int orient : {0, 45, -45}) {
+        Projekt p;
+        p.orient = static_cast<std::int16_t>(orient);
+        Testdrucker drucker;
+        Blatt blatt(drucker, "e");
+        Diagramm_Orientierung(blatt, p);
+        std::map<std::string, std::pair<double, double>> orte;
+        for (const auto& z : drucker.auf_seite(1, Art::text))
+            orte[z.text] = {(z.x1 + z.x2) / 2 - 115, (z.y1 + z.y2) / 2 - 75};
+        ASSERT_EQ(orte.size(), 4U);
+        EXPECT_NEAR(orte["S"].first, orient == 0 ? 0 : (orient > 0 ? -10.25 : 10.25), 0.05);
+        EXPECT_NEAR(std::hypot(orte["S"].first, orte["S"].second), 14.5, 0.01);
+        EXPECT_NEAR(orte["N"].first, -orte["S"].first, 0.01);
+        EXPECT_NEAR(orte["E"].first, orte["S"].second, 0.01);
+        EXPECT_NEAR(orte["W"].second, orte["S"].first, 0.01);
+        const auto pfeil = drucker.auf_seite(1, Art::linie).at(9);
+        EXPECT_NEAR((pfeil.x2 - 115) / 6.3, orte["S"].first / 14.5, 0.01);
+    }
+}
+
+}  // namespace
+}  // namespace velmaris

@@ -1,0 +1,78 @@
+#include "documents/print/Ausdrucken.h"
+#include "tests/documents/unterlagen.h"
+#include "tests/testdrucker.h"
+
+#include <algorithm>
+#include <array>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace velmaris {
+namespace {
+
+using test::Druckzeichen;
+using test::Testdrucker;
+using test::Unterlagen;
+using test::Zeilen;
+using testing::Contains;
+using testing::ElementsAreArray;
+
+/// The title and what stands above the diagrams and beside the drawings of a page.
+bool im_textteil(const Druckzeichen& z) {
+    constexpr std::array<double, 8> unten{260, 260, 137, 138, 162, 134, 208, 208};
+    if (z.y1 < 38 || z.y2 > unten.at(static_cast<std::size_t>(z.seite - 1))) return false;
+    const bool skizze = z.seite == 1 && z.x1 > 120;
+    const bool plan = z.seite == 6 && z.x1 > 95 && z.y1 < 95;
+    return !skizze && !plan;
+}
+
+/// The rows of a page from the top down; texts whose tops differ by less than half a millimetre share one.
+Zeilen gedruckt(const Dokumentquelle& quelle, int seite) {
+    Testdrucker drucker;
+    Ausdrucken(drucker, quelle, alles_drucken, "");
+    std::vector<Druckzeichen> texte = drucker.auf_seite(seite, Druckzeichen::Art::text);
+    std::erase_if(texte, [](const Druckzeichen& z) { return !im_textteil(z); });
+    std::stable_sort(texte.begin(), texte.end(), [](const auto& a, const auto& b) { return a.y1 < b.y1; });
+    Zeilen zeilen;
+    for (auto von = texte.begin(); von != texte.end();) {
+        const auto bis = std::find_if(von, texte.end(), [&](const auto& z) { return z.y1 > von->y1 + 0.5; });
+        std::stable_sort(von, bis, [](const auto& a, const auto& b) { return a.x2 < b.x2; });
+        Zeilen zellen;
+        std::transform(von, bis, std::back_inserter(zellen), [](const auto& z) { return z.text; });
+        zeilen.push_back(test::zeile(zellen));
+        von = bis;
+    }
+    return zeilen;
+}
+
+TEST(Druckseiten, JedeZeileZeigtIhrenWertDesDatensatzes) {
+    for (const char* sprache : {"d", "e"}) {
+        Unterlagen u(sprache);
+        for (int seite = 1; seite <= 8; ++seite)
+            EXPECT_THAT(gedruckt(u.quelle, seite), ElementsAreArray(test::seite(u, "print/seiten", seite)))
+                << sprache << seite;
+        constexpr int strom_statt_seite_7 = 9;
+        u.quelle.energie.name = strom_name;
+        EXPECT_THAT(gedruckt(u.quelle, 7),
+                    ElementsAreArray(test::seite(u, "print/seiten", strom_statt_seite_7)));
+    }
+}
+
+TEST(Druckseiten, DachUndNachbarnNachDerWahl) {
+    Unterlagen u("e");
+    u.p->Option_Dachfirst = 2;
+    EXPECT_THAT(gedruckt(u.quelle, 1), Contains("Direction of roof ridge|east-west"));
+    u.p->hd = 0;
+    u.p->awn = u.p->aww = 1;
+    const Zeilen flach = gedruckt(u.quelle, 1);
+    EXPECT_THAT(flach, testing::Not(Contains(testing::HasSubstr("roof ridge"))));
+    EXPECT_THAT(flach, Contains("Height of roof|0.0 m"));
+    EXPECT_THAT(flach, Contains("Walls towards another heated area|none"));
+    u.p->Check_Dachgeschoss = 0;
+    const Zeilen ohne = gedruckt(u.quelle, 1);
+    EXPECT_THAT(ohne, Contains("Upper floor towards|<Dachraum>"));
+    EXPECT_THAT(ohne, Contains(testing::StartsWith("U value of the upper floor|")));
+}
+
+}  // namespace
+}  // namespace velmaris
