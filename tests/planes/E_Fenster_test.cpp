@@ -168,13 +168,5 @@ TEST_F(EFenster, ReiterZeigenEinenRahmen) {
     EXPECT_TRUE(e().Command_HR[1].aktiv());
 }
 
-TEST_F(EFenster, OhneFensterSindDieMittelwerteLeer) {
-    for (Fensterseite* seite : {&e().nord, &e().sued, &e().ost, &e().west})
-        seite->f.sb.setze(0);
-    EXPECT_EQ(e().kf_anz.text(), "");
-    EXPECT_EQ(e().gfm_anz.text(), "");
-    EXPECT_EQ(e().f_gf_anz.text(), "0.0");
-}
-
 }  // namespace
 }  // namespace velmaris

@@ -31,19 +31,6 @@ TEST_F(EGebaeude, SollwertUndUeberwaermungsgrenzeHaltenAbstand) {
     EXPECT_EQ(p().Tueber, 20.1F);
 }
 
-TEST_F(EGebaeude, AnzeigenInIhrenEinheiten) {
-    e().intg_sb.setze(50);
-    EXPECT_EQ(e().intg_anz.text(), "25.0");
-    EXPECT_EQ(e().intg_anz2.text(), "2.9");
-    e().intg_sb.setze(801 - 1);
-    EXPECT_EQ(p().intg, 400);
-    e().WRG_Sb.setze(85);
-    EXPECT_EQ(e().WRG_anz.text(), "85");
-    EXPECT_EQ(p().WRG, 0.85F);
-    e().Klimaeffizienz_sb.setze(35);
-    EXPECT_EQ(e().KlimaEffizienz_anz.text(), "3.5");
-}
-
 TEST_F(EGebaeude, WandGegenNachbarnSperrtDasFensterUndBehaeltDenAnteil) {
     E_Fenster& fenster = programm.haupt->e_fenster;
     e().aws_cb.setze(1);

@@ -20,30 +20,6 @@ class EGeometrie : public testing::Test {
     Testprogramm programm;
 };
 
-TEST_F(EGeometrie, SchieberStellenDieWerte) {
-    struct Fall {
-        Eingabefeld* feld;
-        int stellung;
-        float Projekt::*ziel;
-        float wert;
-        Anzeige* anzeige;
-        std::string text;
-    };
-    const std::vector<Fall> faelle{
-        {&e().l_sb, 125, &Projekt::l, 12.5F, &e().l_anz, "Länge: 12.5 m"},
-        {&e().b_sb, 20, &Projekt::b, 2, &e().b_anz, "Breite: 2.0 m"},
-        {&e().h_sb, -102, &Projekt::h, 10.2F, &e().h_anz, "10.2 m"},
-        {&e().ag_sb, -20, &Projekt::ag, 20, &e().ag_anz, " 20"},
-    };
-    for (const Fall& fall : faelle) {
-        p().Geaendert = 0;
-        fall.feld->setze(fall.stellung);
-        EXPECT_EQ(p().*fall.ziel, fall.wert) << fall.feld->name;
-        EXPECT_EQ(p().Geaendert, 1);
-        EXPECT_EQ(fall.anzeige->text(), fall.text);
-    }
-}
-
 TEST_F(EGeometrie, OrientierungWirktAufDieStrahlung) {
     const std::int16_t west = p().Monat(6).Strahlung_W;
     e().orient_sb.setze(-45);
