@@ -38,7 +38,7 @@ TEST(Importmutation, VeraenderteQuellenSchadenNicht) {
     Importprobe probe;
     Verderber verderber(20240229);
     for (const std::string& quelle : {Quellbau{}.meteonorm(), Quellbau{}.epw(true)}) {
-        for (int i = 0; i < 60; ++i)
+        for (int i = 0; i < 30; ++i)
             durchspielen(probe, verderber.verderbe(quelle), verderber);
     }
 }

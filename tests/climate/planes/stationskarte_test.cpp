@@ -110,19 +110,5 @@ TEST_F(Karte, EinKlickNimmtDieStationBisZumGezeigtenNamen) {
     }
 }
 
-TEST_F(Karte, VergroessertLiegenDiePunkteWeiterAuseinander) {
-    Bildfeld grosses_bild{"Picture1"};
-    Stationskarte gross{plattform, stationen, 1.5, 2, grosses_bild, liste, MausRegion, kartenfarbe};
-    gross.verbinden();
-    unter_der_maus = farben::gelb;
-    plattform.lose = {0.99};
-    grosses_bild.maus_bewegt(135, 105);
-    EXPECT_EQ(MausRegion.text(), "Dburg");
-    grosses_bild.maus_geklickt(135, 105);
-    EXPECT_EQ(liste.index(), 3);
-    EXPECT_EQ(Testflaeche(150, 120, grosses_bild.zeichnen).alle(Art::kreis)[2].zahlen,
-              (std::vector<double>{78.75, 60, 2}));
-}
-
 }  // namespace
 }  // namespace velmaris
