@@ -115,12 +115,12 @@ class Monatssumme {
     double wattstunden_ = 0;
 };
 
-void monat_berechnen(Projekt& p, int m, int n0) {
+void monat_berechnen(Projekt& p, int m) {
     const Strahlungstabellen& s = p.Strahlung;
     const double tage = tage_im_monat[static_cast<std::size_t>(m)];
     float temperatur = 0;
     Monatssumme nord, sued, ost, west;
-    fuer_jede_stunde_des_monats(m, n0, [&](int, int d, int h, int) {
+    fuer_jede_stunde_des_monats(m, 1, [&](int, int d, int h, int) {
         const Wetterstunde& w = p.Wetter(m, d, h);
         const double direkt = w.Direkt;
         const double diffus = w.Diffus;
@@ -160,11 +160,8 @@ void ebenen_bereitstellen(Projekt& p) {
 
 void monatsstrahlung_berechnen(Projekt& p) {
     waende_bereitstellen(p);
-    int n0 = 1;
-    for (int m = 1; m <= monate; ++m) {
-        monat_berechnen(p, m, n0);
-        n0 += tage_im_monat[static_cast<std::size_t>(m)];
-    }
+    for (int m = 1; m <= monate; ++m)
+        monat_berechnen(p, m);
 }
 
 }  // namespace velmaris
