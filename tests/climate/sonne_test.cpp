@@ -31,10 +31,22 @@ TEST(Sonne, StehtSoHochWieImVeroeffentlichtenBeispiel) {
     EXPECT_NEAR(hoehe(287), 39.872, 0.1);
 }
 
-TEST(Sonne, ErreichtDieWendekreiseUndDenAequator) {
-    EXPECT_NEAR(deklination(172) / grad, 23.45, 0.02);
-    EXPECT_NEAR(deklination(355) / grad, -23.45, 0.02);
-    EXPECT_NEAR(deklination(81), 0, 1e-4);
+TEST(Sonne, TrifftDieVonHandGerechnetenTage) {
+    struct Fall {
+        int n;
+        double deklination, zeitgleichung, stundenwinkel;  ///< at half past ten, 4.5 degrees west
+        double SA, SU;                                     ///< at 50 degrees north
+    };
+    for (const Fall& fall : {Fall{10, -0.3845898, -7.42815, -0.503555, 7.62159, 15.77841},
+                             Fall{100, 0.1314703, -1.59312, -0.4781, 5.0944, 18.3056},
+                             Fall{300, -0.240531, 16.38628, -0.399665, 6.83195, 16.56805}}) {
+        EXPECT_NEAR(deklination(fall.n), fall.deklination, 1e-6);
+        EXPECT_NEAR(zeitgleichung(fall.n), fall.zeitgleichung, 1e-4);
+        EXPECT_NEAR(Sonnenuhr(fall.n, 4.5F).stundenwinkel(10.5), fall.stundenwinkel, 1e-5);
+        const Sonnentag tag = sonnentag({bogen(50), 4.5F}, fall.n);
+        EXPECT_NEAR(tag.SA, fall.SA, 1e-4);
+        EXPECT_NEAR(tag.SU, fall.SU, 1e-4);
+    }
 }
 
 TEST(Arccos, TrifftDenKehrwertDesKosinus) {

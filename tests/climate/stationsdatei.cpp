@@ -18,4 +18,12 @@ std::string Stationsdatei::text() const {
     return text;
 }
 
+std::string kopftext(const std::string& name, double breite, double laenge) {
+    return Stationsdatei{.ort = name,
+                         .breite = "Breitengrad:  " + std::to_string(breite),
+                         .laenge = "Laengengrad:  " + std::to_string(-laenge),
+                         .zeilen = 0}
+        .text();
+}
+
 }  // namespace velmaris::test

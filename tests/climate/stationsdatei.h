@@ -29,4 +29,8 @@ struct Stationsdatei {
     [[nodiscard]] std::string text() const;
 };
 
+/// A station file without any data rows, as the station lists read it: name in windows-1252, degrees north
+/// and east.
+[[nodiscard]] std::string kopftext(const std::string& name, double breite, double laenge);
+
 }  // namespace velmaris::test

@@ -2,7 +2,7 @@
 
 #include "climate/klimadatei.h"
 #include "climate/postleitzahlen.h"
-#include "tests/climate/stationskopf.h"
+#include "tests/climate/stationsdatei.h"
 #include "tests/hilfen.h"
 #include "toolkit/fehler.h"
 

@@ -140,6 +140,8 @@ TEST(Station, KenntTagesmittelUndExtreme) {
     EXPECT_DOUBLE_EQ(p->Strahlung.werte.Tagesmittel(32), 10);
     EXPECT_EQ(p->Strahlung.werte.Ta_max, 36);
     EXPECT_EQ(p->Strahlung.werte.Ta_min, -36);
+    EXPECT_EQ(station(50, 0, {-1005, 0, 0})->Strahlung.werte.Ta_max, -1000);
+    EXPECT_EQ(station(50, 0, {1005, 0, 0})->Strahlung.werte.Ta_min, 1000);
 }
 
 }  // namespace

@@ -93,41 +93,24 @@ std::string ohne(std::string text, const std::string& von, const std::string& bi
 
 TEST(Importjahr, EnergyPlusQuellenWieSieVorkommen) {
     const std::string epw = Quellbau{}.epw();
-    const std::string lage = "46.92,7.50,1.0";
-    const std::string bern = "46.92|-7.5|-1";
     const std::size_t kopf = epw.find("1995,"), mitte = epw.find("1995,7,1,1,");
     std::string ohne_stempel = epw;
     for (std::size_t i = 0; (i = ohne_stempel.find("\n1995,", i)) != std::string::npos; ++i)
         ohne_stempel.replace(i, 7, "\n1995,x");
-    struct Fall {
-        const char* name;
-        std::string quelle;
-        std::string kopf;  ///< lines 2 to 4 of the station file
-        int kopfzeilen = 8;
-    };
-    for (const Fall& fall : std::vector<Fall>{
-             {"lf", Quellbau{.zeilenende = "\n"}.epw(), bern},
-             {"turned year", epw.substr(0, kopf) + epw.substr(mitte) + epw.substr(kopf, mitte - kopf), bern},
-             {"no stamps", ohne_stempel, bern},
-             {"south, half an hour", mit(epw, lage, "-12.4,130.9,9.5"), "-12.4|-130.9|-9.5"},
-             {"west, half an hour", mit(epw, lage, "47.6,-52.7,-3.5"), "47.6|52.7|3.5"},
-             {"three quarters", mit(epw, lage, " 27.7 , 85.3 , 5.75 "), "27.7|-85.3|-5.75"},
-             {"quoted place", mit(epw, "Bern,BE", "\"St. Gallen, \"\"Flug\"\"\",\"BE\""), bern},
-             {"commas of a table", mit(epw, "565.0", "565.0,,,,,,,,"), bern},
-             {"broken comment", mit(epw, "COMMENTS 2,", "broken\r\nCOMMENTS 2,"), bern, 9},
-             {"no data periods", ohne(epw, "DATA PERIODS", "1995"), bern, 7},
-             {"place alone", ohne(epw, "DESIGN", "1995"), bern, 1}}) {
-        SCOPED_TRACE(fall.name);
+    for (const auto& [kopfzeilen, quelle] : std::vector<std::pair<int, std::string>>{
+             {8, Quellbau{.zeilenende = "\n"}.epw()},
+             {8, epw.substr(0, kopf) + epw.substr(mitte) + epw.substr(kopf, mitte - kopf)},
+             {8, ohne_stempel},
+             {8, mit(epw, "Bern,BE", "\"St. Gallen, \"\"Flug\"\"\",\"BE\"")},
+             {9, mit(epw, "COMMENTS 2,", "broken\r\nCOMMENTS 2,")},
+             {7, ohne(epw, "DATA PERIODS", "1995")},
+             {1, ohne(epw, "DESIGN", "1995")}}) {
+        SCOPED_TRACE(quelle.substr(0, 200));
         Importprobe probe;
-        probe.oeffne("quelle.epw", fall.quelle);
-        EXPECT_EQ(probe.e->Kopfzeilen.text(), std::to_string(fall.kopfzeilen));
+        probe.oeffne("quelle.epw", quelle);
+        EXPECT_EQ(probe.e->Kopfzeilen.text(), std::to_string(kopfzeilen));
         probe.importiere("neu");
         vergleiche_zeilen(probe.station("neu"), -1);
-        const auto zeilen = test::zeilen(probe.station("neu"));
-        std::string gelesen;
-        for (const std::size_t i : {1U, 2U, 3U})
-            gelesen += (i > 1 ? "|" : "") + zeilen[i].substr(zeilen[i].find_first_of("-0123456789"));
-        EXPECT_EQ(gelesen, fall.kopf);
     }
 }
 
@@ -236,6 +219,8 @@ TEST(Importjahr, DieErsteSchlechteZeileWirdGenannt) {
     };
     const std::vector<Fall> faelle{
         {false, 1, "1\t1\tkalt\t0\t0", "Spalte 3: \"kalt\" ist keine Zahl"},
+        {false, 9, "1\t1\t" + std::string(41, 'x'),
+         "Spalte 3: \"" + std::string(40, 'x') + "...\" ist keine Zahl"},
         {false, 8760, "1\t1\t5\t\t0", "Spalte 4: \"\" ist keine Zahl"},
         {false, 8761, "x", ""},
         {false, 200, "1\t1\t5\t0", "Spalte 5: der Wert fehlt"},

@@ -113,7 +113,9 @@ TEST(Importspalten, SindHoechstensHundert) {
         std::string zeile;
         for (int i = 0; i < 150; ++i)
             zeile += feld;
-        EXPECT_EQ(Spaltenteiler(trennung, zeile).spaltenzahl(), 100);
+        const Spaltenteiler teiler(trennung, zeile);
+        EXPECT_EQ(teiler.spaltenzahl(), 100);
+        EXPECT_TRUE(teiler.stelle(zeile, 100).has_value());
     }
     EXPECT_EQ(Spaltenteiler(Trennung::linksbuendig, std::string(70000, ' ') + "1").spaltenzahl(), 0);
 }
@@ -257,6 +259,15 @@ TEST(Stationsdatei, DerOrtLiegtAufDerErde) {
             ort.*fall.feld = schlecht;
             EXPECT_THROW(static_cast<void>(stationsort(ort)), Importfehler) << schlecht;
         }
+    }
+    Ortsangaben lang = gut;
+    lang.Laengengrad = std::string(41, '1');
+    try {
+        static_cast<void>(stationsort(lang));
+        FAIL() << "beyond the earth";
+    } catch (const Importfehler& fehler) {
+        EXPECT_EQ(fehler.text("e"),
+                  "Longitude: \"" + std::string(40, '1') + "...\" is not between 0 and 180.");
     }
     EXPECT_EQ(namenshinweis("Zürich (Schweiz)").de, "");
     EXPECT_THAT(namenshinweis("Bern, Zoo (Łódź)").en, testing::ContainsRegex("comma .* character set"));

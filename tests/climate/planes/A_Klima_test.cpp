@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 namespace velmaris {
@@ -77,27 +78,19 @@ TEST(AKlima, JedeEingabeErneuertDieKennwerteDesGebaeudes) {
 }
 
 TEST(AKlima, NenntRegionOderStation) {
-    struct Fall {
-        std::int16_t Klimaauswahl;
-        const char* Klimadatei;
-        const char* text;
-    };
-    const std::vector<Fall> faelle{
-        {1, "trier.met", "Region   4: Nördl. und westl. Mittelgebirge ohne Hochlagen"},
-        {1, "konstanz.met", "Region 12: Bodensee mit Umgebung"},
-        {1, "paris.met", "Region Paris (Frankreich)"},
-        {2, "trier.met", "Paris (Frankreich)"},
-        {3, "paris.met", "Paris (Frankreich)"},
-    };
     const auto p = std::make_unique<Projekt>();
     regionsdateien_setzen(*p);
     p->Stationsname = "Paris (Frankreich)";
     A_Klima ebene;
-    for (const Fall& fall : faelle) {
-        p->Klimaauswahl = fall.Klimaauswahl;
-        p->Klimadatei = fall.Klimadatei;
+    for (const auto& [auswahl, datei, text] :
+         {std::tuple{1, "trier.met", "Region   4: Nördl. und westl. Mittelgebirge ohne Hochlagen"},
+          {1, "konstanz.met", "Region 12: Bodensee mit Umgebung"},
+          {1, "paris.met", "Region Paris (Frankreich)"},
+          {2, "trier.met", "Paris (Frankreich)"}}) {
+        p->Klimaauswahl = static_cast<std::int16_t>(auswahl);
+        p->Klimadatei = datei;
         ebene.stationswerte_zeigen(*p);
-        EXPECT_EQ(ebene.anz_klimaregion.text(), fall.text);
+        EXPECT_EQ(ebene.anz_klimaregion.text(), text);
     }
 }
 
@@ -118,11 +111,12 @@ TEST(AKlima, ZeigtDieTemperaturenDesJahres) {
                        &ebene.anz_MinMonatTemp, &ebene.anz_MittelJahrTemp, &ebene.anz_MaxJahrTemp,
                        &ebene.anz_MinJahrTemp}),
                 ElementsAre("Monat 7", "Monat 2", "19.0", "-2.5", "8.5", "35.3", "-18.8"));
-
-    for (int m = 1; m <= monate; ++m)
-        p->Monat(m).Tmittel = 5000;  // beyond any limit
-    ebene.stationswerte_zeigen(*p);
-    EXPECT_EQ(ebene.anz_MinMonatName.text(), "Monat 1");
+    for (const float jenseits : {-1400.0F, 1400.0F}) {
+        for (int m = 1; m <= monate; ++m)
+            p->Monat(m).Tmittel = m == 1 ? jenseits * 1.1F : jenseits;
+        ebene.stationswerte_zeigen(*p);
+        EXPECT_EQ(ebene.anz_MaxMonatName.text() + ebene.anz_MinMonatName.text(), "Monat 1Monat 1");
+    }
 }
 
 }  // namespace

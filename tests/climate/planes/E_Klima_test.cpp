@@ -246,7 +246,10 @@ TEST(EKlima, DieWeltkarteRolltZurStation) {
     Klimaprobe probe;
     probe.oeffne(welt, "paris.met");
     E_Klima& e = *probe.e;
+    EXPECT_EQ(e.HScroll1.minimum(), 0);
     EXPECT_EQ(e.HScroll1.maximum(), 4800);
+    EXPECT_EQ(e.HScroll1.kleiner_schritt(), 150);  // 10 pixels
+    EXPECT_EQ(e.HScroll1.grosser_schritt(), 1500);
     // The frame shows 330 pixels: Honolulu (60.6) only at the left end, Tokyo (559.6) only at the right one,
     // Paris (328.9) at both.
     for (const auto& [station, von, nach] : std::vector<std::tuple<int, int, int>>{{4, 0, 4800},
@@ -262,6 +265,9 @@ TEST(EKlima, DieWeltkarteRolltZurStation) {
         EXPECT_EQ(e.HScroll1.position(), nach) << station << " from " << von;
         EXPECT_EQ(e.Picture3.lage(), (Rechteck{-nach / 15.0, 0, 650, 246}));
     }
+    e.HScroll1.setze(1500);
+    probe.oeffne(welt, "tokyo.met");
+    EXPECT_EQ(e.HScroll1.position(), 4800);
 }
 
 TEST(EKlima, ZeigtDieTemperaturenDesKlimas) {

@@ -87,6 +87,12 @@ TEST_F(Klimaimport, EineQuelleWirdGezeigtUndIhrPfadGemerkt) {
     EXPECT_EQ(e.Dateiansicht.text(), "Zürich\r\n1\t2\t3\r\n");
     EXPECT_TRUE(e.Frame5.sichtbar());
     EXPECT_TRUE(v.HScroll1.sichtbar());
+    for (const std::string& getippt : {pfadtext(probe.ordner.schreibe("zweite.txt", "2")), std::string()}) {
+        e.DateinameBox.tippe(getippt);
+        e.DateinameBox.bestaetige();
+        EXPECT_EQ(e.Dateiansicht.text(), "2\r\n");
+        EXPECT_THAT(probe.plattform.meldungen, IsEmpty());
+    }
     for (const auto& [zeilen, bytes] : {std::pair{249U, 499U}, {250, 504}, {300, 504}}) {
         probe.oeffne("Quelle.txt", std::string(zeilen, '\n').insert(0, "z"));
         EXPECT_EQ(e.Dateiansicht.text().size(), bytes) << zeilen;
@@ -164,6 +170,10 @@ TEST_F(Klimaimport, DieVorschauRolltUeberZeilenUndSpalten) {
     EXPECT_THAT(texte(v.Zelle[2]), ElementsAre("91", "92", "93", "94", "95", "96"));
     EXPECT_THAT(texte(v.Zelle[3]), ElementsAre("xxxxxxxxxx", "", "", "", "", ""));
     EXPECT_EQ(v.Zeilenzaehler[3].text(), "11");
+    probe.oeffne("lang.txt", std::string(41, 'x'));
+    e.Kopfzeilen.tippe("0");
+    EXPECT_EQ(v.Zelle[0][0].text(), std::string(40, 'x') + "...");
+    probe.oeffne("raster.txt", text);
     e.Kopfzeilen.tippe("99999999999999999999");
     EXPECT_EQ(v.Zelle[0][0].text(), "xxxxxxxxxx");
     EXPECT_EQ(v.HScroll1.maximum(), 1);
@@ -293,17 +303,15 @@ TEST_F(Klimaimport, EineVeraenderteQuelleWirdNeuGezeigt) {
 
 TEST_F(Klimaimport, ZeigtDenFortschrittUndLaesstSichAbbrechen) {
     probe.oeffne("bern.epw", Quellbau{}.epw());
-    for (const double grenze : {0.0, 0.3, 0.8, 1.0}) {
-        // By the callback's answer, and by the button meanwhile.
-        for (const bool knopf : {false, true}) {
-            e.fortschritt = [&](double anteil) {
-                if (anteil >= grenze && knopf) e.Command3.druecke();
-                return anteil < grenze || knopf;
-            };
-            EXPECT_EQ(probe.importiere("bern").text, "") << grenze;
-            EXPECT_THAT(probe.dateien(), IsEmpty()) << grenze;
-            EXPECT_TRUE(e.ebene.sichtbar());
-        }
+    // Cancelled by the callback's answer, and by the button meanwhile.
+    for (const auto& [grenze, knopf] : {std::pair{0.0, true}, {0.3, false}, {0.8, true}, {1.0, false}}) {
+        e.fortschritt = [&](double anteil) {
+            if (anteil >= grenze && knopf) e.Command3.druecke();
+            return anteil < grenze || knopf;
+        };
+        EXPECT_EQ(probe.importiere("bern").text, "") << grenze;
+        EXPECT_THAT(probe.dateien(), IsEmpty()) << grenze;
+        EXPECT_TRUE(e.ebene.sichtbar());
     }
     std::vector<double> anteile;
     e.fortschritt = [&](double anteil) {
@@ -315,11 +323,9 @@ TEST_F(Klimaimport, ZeigtDenFortschrittUndLaesstSichAbbrechen) {
         e.Command2.druecke();
         return true;
     };
-    probe.importiere("");
+    probe.importiere("bern");
     EXPECT_FALSE(e.Fortschritt.sichtbar());
     EXPECT_TRUE(e.Command2.aktiv());
-    anteile.clear();
-    probe.importiere("bern");
     EXPECT_TRUE(std::is_sorted(anteile.begin(), anteile.end()));
     EXPECT_GT(anteile.size(), 50U);
     EXPECT_EQ(anteile.front(), 0);

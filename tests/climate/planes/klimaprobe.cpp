@@ -2,7 +2,7 @@
 
 #include "climate/regionen.h"
 #include "language/c_Sprache.h"
-#include "tests/climate/stationskopf.h"
+#include "tests/climate/stationsdatei.h"
 #include "toolkit/text.h"
 
 namespace velmaris::test {
