@@ -134,21 +134,12 @@ double RekorderFlaeche::textbreite(std::string_view text) const {
 
 Farbe RekorderFlaeche::lies_punkt(double x, double y) const {
     const std::optional<Pixelkasten> ort = pixelkasten(x, y, x, y);
-    if (!ort || !enthaelt(ort->links, ort->oben)) return hintergrund();
-    return raster_[stelle(ort->links, ort->oben)];
+    return ort && enthaelt(ort->links, ort->oben) ? raster_[stelle(ort->links, ort->oben)] : hintergrund();
 }
 
 void RekorderFlaeche::merke(Zeichnung zeichnung) {
     zeichnung.schrift = schrift_;
     zeichnungen.push_back(std::move(zeichnung));
-}
-
-bool RekorderFlaeche::enthaelt(int x, int y) const {
-    return x >= 0 && x < spalten_ && y >= 0 && y < zeilen_;
-}
-
-std::size_t RekorderFlaeche::stelle(int x, int y) const {
-    return static_cast<std::size_t>(y) * static_cast<std::size_t>(spalten_) + static_cast<std::size_t>(x);
 }
 
 void RekorderFlaeche::faerbe(int x, int y, Farbe farbe) {

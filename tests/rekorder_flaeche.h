@@ -21,8 +21,8 @@ struct Zeichnung {
     Schrift schrift = {};  ///< font in force
 };
 
-/// A chart surface that writes down what is drawn and keeps its pixels, texts left out. Each character of
-/// a text is 6 pixels wide and 13 high, whatever the font.
+/// A chart surface that writes down what is drawn and keeps its pixels, texts left out. Each
+/// character of a text is 6 pixels wide and 13 high, whatever the font.
 class RekorderFlaeche : public Zeichenflaeche {
   public:
     using Art = Zeichnung::Art;
@@ -56,8 +56,12 @@ class RekorderFlaeche : public Zeichenflaeche {
 
   private:
     void merke(Zeichnung zeichnung);
-    [[nodiscard]] bool enthaelt(int x, int y) const;
-    [[nodiscard]] std::size_t stelle(int x, int y) const;
+    [[nodiscard]] bool enthaelt(int x, int y) const {
+        return x >= 0 && x < spalten_ && y >= 0 && y < zeilen_;
+    }
+    [[nodiscard]] std::size_t stelle(int x, int y) const {
+        return static_cast<std::size_t>(y * spalten_ + x);
+    }
     void faerbe(int x, int y, Farbe farbe);
     void faerbe(const std::optional<Pixelkasten>& kasten, Farbe farbe);
 
