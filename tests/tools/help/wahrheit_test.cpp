@@ -17,7 +17,8 @@ using testing::HasSubstr;
 
 /// Rows of a page's tables, cells joined by " | ".
 std::vector<std::string> tabellenzeilen(const std::string& sprache, const std::string& seite) {
-    return elemente(ersetzt(hilfeseiten(sprache).at(seite), "</td><td>", " | "), "tr");
+    const std::string text = ersetzt(hilfeseiten(sprache).at(seite), "</td><td>", " | ");
+    return elemente(ersetzt(text, "</th><th>", " | "), "tr");
 }
 
 TEST(HilfeTabellen, NennenWasDieTabellenDesProgrammsSagen) {
@@ -32,6 +33,12 @@ TEST(HilfeTabellen, NennenWasDieTabellenDesProgrammsSagen) {
         {"e", "E_Gebaeude", "indoor set temperature | &minus;10.0 to 40.0 | 2.0 | 20.0 | °C | 20.0"},
         {"d", "Eingaben", "g-Wert | 0,00 bis 1,00 | 0,05 | 0,20 | &ndash; | 0,58 | gfn, gfs, gfo, gfw"},
         {"e", "Eingaben", "U-value of the door | 0.0 to 20.0 | 1.0 | 1.5 | W/(m² K) | 1.5 | kt"},
+        {"d", "E_Gebaeude", "Eingabe | Bereich | kleiner Schritt | großer Schritt | Einheit | neues Projekt"},
+        {"e", "Eingaben", "Input | Range | Small step | Large step | Unit | New project | Name"},
+        {"e", "E_Fenster",
+         "No. | Window type | U-value glazingin W/(m² K) | g-value | U-value framein W/(m² K)"},
+        {"d", "E_Energie", "Nr. | Heizungssystem | Energieträger (Primärenergiefaktor) | Aufwandszahl"},
+        {"e", "Dateien", "Line | Quantity | Line | Quantity | Line | Quantity | Line | Quantity"},
         // From the catalogues; lines of a project file stand below each other, four columns of 17.
         {"d", "E_Fenster", "0 | Einfachverglasung | 5,8 | 0,92 | 3,5"},
         {"e", "E_Energie", "8 | electric direct heating | 1 electricity (3.0) | 1.00"},

@@ -21,6 +21,11 @@ bool ist_land(Farbe f) {
     return f.g > f.b && f.r > 120;
 }
 
+/// A line of the graticule on the open sea.
+bool ist_netz(Farbe f) {
+    return ist_wasser(f) && f.r > 76;
+}
+
 /// Lighter than the land by a border line.
 bool ist_grenze(Farbe f) {
     return f.r > 151 && f.g > 169;
@@ -55,9 +60,9 @@ Punkt welt_gross(Punkt ort) {
     return {1.5 * welt(ort).x, 1.5 * welt(ort).y};
 }
 
-/// What a place must be: water, land, water and land close by, no water around it; on a border or away from
-/// it.
-enum class Art { wasser, land, kueste, binnen, grenze, inneres };
+/// What a place must be: open sea, on a line of the graticule there, land, water and land close by but no
+/// border, no water around it; on a border or away from it.
+enum class Art { wasser, netz, land, kueste, binnen, grenze, inneres };
 
 bool ist(Art art, const Karte& karte, const Bitmap& bild, Punkt p) {
     const double wasser = abstand(bild, p, ist_wasser), land = abstand(bild, p, ist_land);
@@ -65,10 +70,12 @@ bool ist(Art art, const Karte& karte, const Bitmap& bild, Punkt p) {
     switch (art) {
         case Art::wasser:
             return wasser < 1 && land > 1;
+        case Art::netz:
+            return abstand(bild, p, ist_netz) < 1 && land > 1;
         case Art::land:
             return land < 1 && wasser > 1;
         case Art::kueste:
-            return wasser <= karte.nah && land <= karte.nah;
+            return wasser <= karte.nah && land <= karte.nah && grenze > 1;
         case Art::binnen:
             return land <= karte.nah && wasser >= karte.weit;
         case Art::grenze:
@@ -98,12 +105,21 @@ const std::vector<Ort> orte_europas{
 };
 
 const std::vector<Ort> orte_der_welt{
-    {"Atlantic", Art::wasser, {-35, 25}},      {"Hudson Bay", Art::wasser, {-86, 59}},
-    {"Caspian Sea", Art::wasser, {51, 41}},    {"beyond 180 E", Art::wasser, {190, 0}},
-    {"Sahara", Art::land, {10, 23}},           {"Siberia", Art::land, {100, 60}},
-    {"Antarctica", Art::land, {90, -72}},      {"beyond 180 W", Art::land, {-188, 67}},
-    {"USA - Canada", Art::grenze, {-107, 49}}, {"Alaska - Canada", Art::grenze, {-141, 65}},
-    {"Egypt - Sudan", Art::grenze, {29, 22}},  {"Sudan", Art::inneres, {29, 17}},
+    {"Atlantic", Art::wasser, {-35, 25}},
+    {"Hudson Bay", Art::wasser, {-86, 59}},
+    {"Caspian Sea", Art::wasser, {51, 41}},
+    {"beyond 180 E", Art::wasser, {190, 0}},
+    {"equator", Art::netz, {-135, 0}},
+    {"30 degrees south", Art::netz, {-135, -30}},
+    {"150 degrees west", Art::netz, {-150, 10}},
+    {"Sahara", Art::land, {10, 23}},
+    {"Siberia", Art::land, {100, 60}},
+    {"Antarctica", Art::land, {90, -72}},
+    {"beyond 180 W", Art::land, {-188, 67}},
+    {"USA - Canada", Art::grenze, {-107, 49}},
+    {"Alaska - Canada", Art::grenze, {-141, 65}},
+    {"Egypt - Sudan", Art::grenze, {29, 22}},
+    {"Sudan", Art::inneres, {29, 17}},
     {"Australia", Art::inneres, {133, -24}},
 };
 

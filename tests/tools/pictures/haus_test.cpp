@@ -64,6 +64,11 @@ TEST(Hausbilder, ZeigenIhreDachform) {
         EXPECT_NE(bild->bei(110, 160), bild->bei(30, 130));
     }
     EXPECT_EQ(flach.bei(60, 50), grund);
+    // The facade is 10 m long at 10.8 pixels and 6.75 m high at 12; its edges are dark.
+    for (const auto& [x, y] : {std::pair{60, 130}, {168, 130}, {110, 169}, {110, 88}})
+        EXPECT_LT(flach.bei(x, y).r, 200) << x << ", " << y;
+    for (const Farbe anders : {grund, flach.bei(110, 160), flach.bei(30, 130)})
+        EXPECT_NE(flach.bei(87, 73), anders) << "the roof above the facades";
     EXPECT_TRUE(waermer_als_wand(nord_sued.bei(60, 50))) << "west slope";
     EXPECT_EQ(nord_sued.bei(115, 95), nord_sued.bei(110, 160)) << "gable over the south facade";
     EXPECT_TRUE(waermer_als_wand(ost_west.bei(115, 95))) << "south slope";
