@@ -26,96 +26,71 @@ auto box(double x1, double y1, double x2, double y2) {
 
 /// 100 m2 of usable floor and twelve months of 30 days whose values are all unlike.
 std::unique_ptr<Projekt> volles_projekt() {
+    using M = Monatswerte;
+    struct Feld {
+        float M::*feld;
+        float a, b;
+    };
     auto p = leeres_projekt();
     for (std::int16_t m = 1; m <= monate; ++m) {
-        Monatswerte& w = p->Monat(m);
+        M& w = p->Monat(m);
+        for (const Feld& f :
+             {Feld{&M::Qt, 300, 7}, Feld{&M::Qv, 200, 5}, Feld{&M::Qh, 400, -20},
+              Feld{&M::Qi_genutzt, 100, 3}, Feld{&M::Qi_brutto, 150, 4}, Feld{&M::Qs_genutzt, 50, 2},
+              Feld{&M::Qs_brutto, 130, 10}, Feld{&M::Kuehlbedarf, 20, 15}, Feld{&M::Kuehlgradstunden, 10, 3}})
+            w.*f.feld = f.a + f.b * static_cast<float>(m);
         w.Tage = 30;
-        w.Qt = 300.0F + 7 * m;
-        w.Qv = 200.0F + 5 * m;
-        w.Qh = 400.0F - 20 * m;
-        w.Qi_genutzt = 100.0F + 3 * m;
-        w.Qs_genutzt = 50.0F + 2 * m;
-        w.Qi_brutto = 150.0F + 4 * m;
-        w.Qs_brutto = 130.0F + 10 * m;
-        w.Kuehlbedarf = 20.0F + 15 * m;
-        w.Kuehlgradstunden = 10.0F + 3 * m;
         w.Stunden_kalt = static_cast<std::int16_t>(300 - m);
         w.Stunden_komfort = static_cast<std::int16_t>(200 + 2 * m);
         w.Stunden_heiss = static_cast<std::int16_t>(100 + 3 * m);
     }
-    p->qtrs = 40;
-    p->qinfs = 20;
-    p->qverl_s = 60;
-    p->qhs_sum = 30;
-    p->qis = 10;
-    p->qsols = 18;
+    p->qtrs = 40, p->qinfs = 20, p->qverl_s = 60, p->qhs_sum = 30, p->qis = 10, p->qsols = 18;
     return p;
 }
 
-/// One piece of the bar of every month: its colour, its place in the column, and its ends `a` + `b` m.
+/// One piece of the bar of every month: its colour, its place in the column, its ends `a` + `b` m, the foot
+/// of the bars and the height of 1 kWh, 1 h or 1 Kh.
 struct Schicht {
+    Zeichenroutine zeichne;
     Farbe farbe;
     double x, breite;
     double a_unten, b_unten, a_oben, b_oben;
-};
-
-struct Monatsbild {
-    Zeichenroutine zeichne;
-    double fuss;
-    double pixel;  ///< height of 1 kWh, 1 h or 1 Kh
-    std::vector<Schicht> schichten;
+    double fuss, pixel;
 };
 
 /// The scales take the largest value: 644 of losses in December the step 2, so that 99 pixels are 1000 kWh;
 /// 380 of demand in January and 250 of sun in December the step 1; 800 hours whatever the values; 136 hours
 /// in 30 days the step 2, so that 89 pixels are 8 hours a day; 46 degree hours the step 10.
-const std::vector<Monatsbild> monatsbilder{
-    {HeizbilanzZeichnen,
-     116,
-     0.099,
-     {{{0, 0, 136}, 0, 8, 0, 0, 300, 7},
-      {{102, 102, 255}, 0, 8, 300, 7, 500, 12},
-      {farben::rot, 10, 8, 0, 0, 400, -20},
-      {{255, 128, 0}, 10, 8, 400, -20, 500, -17},
-      {farben::gelb, 10, 8, 500, -17, 550, -15}}},
-    {MonatsbilanzZeichnen,
-     116,
-     0.198,
-     {{farben::rot, 0, 8, 0, 0, 400, -20}, {farben::blau, 10, 8, 0, 0, 20, 15}}},
-    {NutzungsgradMonatZeichnen,
-     116,
-     0.198,
-     {{farben::gelb, 0, 8, 0, 0, 50, 2},
-      {{192, 192, 0}, 0, 8, 50, 2, 130, 10},
-      {{255, 128, 0}, 10, 8, 0, 0, 100, 3},
-      {{200, 99, 0}, 10, 8, 100, 3, 150, 4}}},
-    {UeberGrafikZeichnen,
-     116,
-     0.12375,
-     {{farben::blau, 0, 18, 0, 0, 600, 4},
-      {farben::gelb, 0, 18, 0, 0, 500, 1},
-      {farben::rot, 0, 18, 0, 0, 300, -1}}},
-    {StundenProTagMonatZeichnen, 109, 11.125 / 30, {{{128, 0, 0}, 0, 18, 0, 0, 100, 3}}},
-    {KuehlBedarfMonatZeichnen, 109, 0.178, {{farben::blau, 0, 18, 0, 0, 20, 15}}},
-    {KuehlGradStundenMonatZeichnen, 109, 1.78, {{{64, 64, 0}, 0, 18, 0, 0, 10, 3}}},
-};
-
 TEST(Monatsbilder, JederMonatHatSeineBalken) {
     const auto p = volles_projekt();
-    for (const Monatsbild& b : monatsbilder) {
+    for (const Schicht& s : std::vector<Schicht>{
+             {HeizbilanzZeichnen, {0, 0, 136}, 0, 8, 0, 0, 300, 7, 116, 0.099},
+             {HeizbilanzZeichnen, {102, 102, 255}, 0, 8, 300, 7, 500, 12, 116, 0.099},
+             {HeizbilanzZeichnen, farben::rot, 10, 8, 0, 0, 400, -20, 116, 0.099},
+             {HeizbilanzZeichnen, {255, 128, 0}, 10, 8, 400, -20, 500, -17, 116, 0.099},
+             {HeizbilanzZeichnen, farben::gelb, 10, 8, 500, -17, 550, -15, 116, 0.099},
+             {MonatsbilanzZeichnen, farben::rot, 0, 8, 0, 0, 400, -20, 116, 0.198},
+             {MonatsbilanzZeichnen, farben::blau, 10, 8, 0, 0, 20, 15, 116, 0.198},
+             {NutzungsgradMonatZeichnen, farben::gelb, 0, 8, 0, 0, 50, 2, 116, 0.198},
+             {NutzungsgradMonatZeichnen, {192, 192, 0}, 0, 8, 50, 2, 130, 10, 116, 0.198},
+             {NutzungsgradMonatZeichnen, {255, 128, 0}, 10, 8, 0, 0, 100, 3, 116, 0.198},
+             {NutzungsgradMonatZeichnen, {200, 99, 0}, 10, 8, 100, 3, 150, 4, 116, 0.198},
+             {UeberGrafikZeichnen, farben::blau, 0, 18, 0, 0, 600, 4, 116, 0.12375},
+             {UeberGrafikZeichnen, farben::gelb, 0, 18, 0, 0, 500, 1, 116, 0.12375},
+             {UeberGrafikZeichnen, farben::rot, 0, 18, 0, 0, 300, -1, 116, 0.12375},
+             {StundenProTagMonatZeichnen, {128, 0, 0}, 0, 18, 0, 0, 100, 3, 109, 11.125 / 30},
+             {KuehlBedarfMonatZeichnen, farben::blau, 0, 18, 0, 0, 20, 15, 109, 0.178},
+             {KuehlGradStundenMonatZeichnen, {64, 64, 0}, 0, 18, 0, 0, 10, 3, 109, 1.78}}) {
         RekorderFlaeche bild;
-        b.zeichne(*p, bild);
-        EXPECT_EQ(bild.alle(Zeichnung::Art::flaeche).size(), 12 * b.schichten.size());
-        for (const Schicht& s : b.schichten) {
-            const auto balken = flaechen(bild, s.farbe);
-            ASSERT_EQ(balken.size(), 12U);
-            for (int m = 1; m <= monate; ++m) {
-                const double x = 35 + 24 * (m - 1) + s.x;
-                EXPECT_THAT(balken[static_cast<std::size_t>(m - 1)],
-                            box(x, b.fuss - b.pixel * (s.a_unten + s.b_unten * m), x + s.breite,
-                                b.fuss - b.pixel * (s.a_oben + s.b_oben * m)))
-                    << m;
-            }
+        s.zeichne(*p, bild);
+        const auto balken = flaechen(bild, s.farbe);
+        ASSERT_EQ(balken.size(), 12U);
+        for (int m = 1; m <= monate; ++m) {
+            const double x = 35 + 24 * (m - 1) + s.x;
+            EXPECT_THAT(balken[static_cast<std::size_t>(m - 1)],
+                        box(x, s.fuss - s.pixel * (s.a_unten + s.b_unten * m), x + s.breite,
+                            s.fuss - s.pixel * (s.a_oben + s.b_oben * m)))
+                << m;
         }
     }
     RekorderFlaeche bild;
@@ -166,23 +141,6 @@ TEST(Balken, WoNichtsIstBleibtDieFlaecheLeer) {
         RekorderFlaeche bild;
         zeichne(*p, bild);
         EXPECT_THAT(bild.alle(Zeichnung::Art::flaeche), IsEmpty());
-    }
-}
-
-TEST(Fassadenbalken, TeilenDenMassstabDesGroessten) {
-    for (float Projekt::*groesster :
-         {&Projekt::Fenstergewinn_N, &Projekt::Fenstergewinn_S, &Projekt::Fenstergewinn_O,
-          &Projekt::Fenstergewinn_W, &Projekt::Fensterverlust_N, &Projekt::Fensterverlust_S,
-          &Projekt::Fensterverlust_O, &Projekt::Fensterverlust_W}) {
-        const auto p = leeres_projekt();
-        p->Fenstergewinn_S = 100;
-        (*p).*groesster = 200;
-        const double oben = groesster == &Projekt::Fenstergewinn_S ? 0 : 25;
-        RekorderFlaeche bild(fassadenflaeche_breite, fassadenflaeche_hoehe);
-        FassadenbalkenZeichnen(*p, {&Projekt::Fenstergewinn_S, farben::gelb}, bild);
-        EXPECT_EQ(bild.zeichnungen.front().art, Zeichnung::Art::cls);
-        EXPECT_THAT(flaechen(bild, farben::gelb), ElementsAre(box(1, 49, 8, oben)));
-        EXPECT_THAT(bild.alle(Zeichnung::Art::kasten, farben::schwarz).at(0).zahlen, box(1, 49, 8, oben));
     }
 }
 

@@ -91,17 +91,10 @@ TEST(Gewichtbild, WaechstMitDerWurzelUeberDieFlaecheHinaus) {
     p->Cwirk = 144 * 3600 * 100;  // 80 and 35.6 pixels high on a base line at 57
     const Testflaeche bild(76, 60, [&](Zeichenflaeche& flaeche) { gewicht_zeichnen(*p, flaeche); });
     EXPECT_EQ(bild.zeichnungen.front().art, Art::cls);
-    for (const Art art : {Art::flaeche, Art::kasten}) {
-        const auto stuecke = bild.alle(art);
-        ASSERT_EQ(stuecke.size(), 2U);
-        EXPECT_EQ(stuecke[1].farbe, art == Art::flaeche ? Farbe(112, 118, 126) : farben::schwarz);
-        EXPECT_EQ(stuecke[1].zahlen, (Ecken{8, -23, 68, 57}));
-        EXPECT_EQ(stuecke[0].zahlen[0], 24);
-        EXPECT_EQ(stuecke[0].zahlen[2], 52);
-        EXPECT_NEAR(stuecke[0].zahlen[1], -23 + 10 / 15. - 35.5556, 1e-3);
-        EXPECT_NEAR(stuecke[0].zahlen[3], -23 + 10 / 15., 1e-3);
-    }
-    EXPECT_EQ(bild.alle(Art::linie, farben::schwarz).at(0).zahlen, (Ecken{0, 57, 76, 57}));
+    EXPECT_EQ(test::formen(bild),
+              "24 -57.8889 52 -22.3333|24 -57.8889 52 -22.3333|"
+              "8 -23 68 57|8 -23 68 57|0 57 76 57");
+    EXPECT_EQ(test::flaechen(bild, {112, 118, 126}).size(), 2U);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <sstream>
 
 namespace velmaris::test {
 namespace {
@@ -34,6 +35,17 @@ std::vector<Ecken> flaechen(const RekorderFlaeche& bild, Farbe farbe) {
     for (const Zeichnung& z : bild.alle(Zeichnung::Art::flaeche, farbe))
         ergebnis.push_back(z.zahlen);
     return ergebnis;
+}
+
+std::string formen(const RekorderFlaeche& bild) {
+    std::ostringstream text;
+    for (const Zeichnung& z : bild.zeichnungen) {
+        if (z.art == Zeichnung::Art::text || z.art == Zeichnung::Art::cls) continue;
+        text << (text.tellp() > 0 ? "|" : "");
+        for (std::size_t i = 0; i < z.zahlen.size(); ++i)
+            text << (i > 0 ? " " : "") << z.zahlen[i];
+    }
+    return text.str();
 }
 
 int hoch(const RekorderFlaeche& bild, int x, int y) {

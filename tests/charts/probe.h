@@ -19,6 +19,9 @@ using Ecken = std::vector<double>;
 /// The filled boxes of a colour, in the order of drawing.
 std::vector<Ecken> flaechen(const RekorderFlaeche& bild, Farbe farbe);
 
+/// Lines, boxes and circles in the order of drawing: their numbers with six digits, a bar between two shapes.
+std::string formen(const RekorderFlaeche& bild);
+
 /// Pixels in a row that have the colour at (x, y), from there upward or to the right.
 int hoch(const RekorderFlaeche& bild, int x, int y);
 int quer(const RekorderFlaeche& bild, int x, int y);

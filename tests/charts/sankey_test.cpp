@@ -95,20 +95,6 @@ TEST(Sankey, BogenIstKuchenMitWeisserScheibe) {
     EXPECT_EQ(zeile(14)[14], '.') << "the disk erases what was there";
 }
 
-TEST(Sankey, BogenUeberDieNullUndOhneInneres) {
-    Probe probe(40, 40);
-    Sankey_Bogen(probe.blatt, 10, 30, 360, 90, 4, 10);
-    const auto ist_band = [&](int x, int y) { return probe.bild.lies_punkt(x, y) == bandfarbe; };
-    EXPECT_TRUE(ist_band(24, 30) && ist_band(10, 16) && ist_band(19, 21));
-    EXPECT_FALSE(ist_band(9, 31) || ist_band(10, 34));
-    for (const int radius : {0, 1}) {
-        Probe voll(20, 20);
-        Sankey_Bogen(voll.blatt, 2, 2, 270, 360, 8, radius);
-        EXPECT_EQ(voll.bild.lies_punkt(2, 2), bandfarbe) << radius;
-        EXPECT_EQ(voll.bild.lies_punkt(10, 2), bandfarbe) << radius;
-    }
-}
-
 /// The band in one column, {upper, lower} row.
 std::pair<std::size_t, std::size_t> band(const Zeilen& zeilen, std::size_t x) {
     std::string spalte;
@@ -127,19 +113,6 @@ TEST(Sankey, SchraegbandHatUeberallSeineHoehe) {
     // Each line aims one pixel beyond its end: 30 - 11 * 30 / 31 = 19.4 in the last column.
     EXPECT_EQ(band(probe.zeilen(), 33).second, 19U);
     EXPECT_EQ(probe.zeilen()[30][2], '.');
-}
-
-TEST(Sankey, SchwungradiusHalbZumGeraden) {
-    struct Fall {
-        int breite;
-        int radius;
-    };
-    const Fall faelle[] = {{1, 24}, {2, 24}, {5, 22}, {20, 15}, {47, 2}, {48, 1}, {49, 0}, {60, -5}};
-    for (const Fall& f : faelle)
-        EXPECT_EQ(schwung(f.breite).radius, f.radius) << f.breite;
-    // For an even width the radii add up to 50: a triangle of 30, 40 and 50.
-    for (const int breite : {2, 20, 48})
-        EXPECT_NEAR(schwung(breite).winkel, 36.8699, 0.001) << breite;
 }
 
 TEST(Sankey, SchwungbandVerbindetBeideEnden) {

@@ -45,13 +45,6 @@ TEST(Extreme, UeberAlleStundenDesMonats) {
     EXPECT_EQ(min_suchen(reihe, 2), -4);
 }
 
-TEST(Pixelort, RundetHalbeZumGeraden) {
-    EXPECT_EQ(X_(0.25, 30, 10), 32);
-    EXPECT_EQ(X_(0.35, 30, 10), 34);
-    EXPECT_EQ(Y_(1, 100.5, 2), 98);
-    EXPECT_EQ(Y_(-1, 100, 2), 102);
-}
-
 /// Outdoor air 10, room 20 with one hour of 15 in July, on a surface that gives ten pixels to the day and
 /// to the kelvin.
 class Temperaturdiagramm : public ::testing::Test {
