@@ -52,24 +52,24 @@ std::unique_ptr<Projekt> datensatz(const std::string& sprache) {
 }
 
 Energietexte energietexte() {
-    return {.name = {"Träger", "carrier"},
-            .System = "<Heizung mit einem sehr langen Namen, der nicht auf eine Zeile passt>",
-            .Uebergabe = "<Übergabe>",
-            .Energietraeger = "<Energieträger>",
-            .qhs_sum = "<qhs_sum>",
-            .q_s = "<q_s>",
-            .q_d = "<q_d>",
-            .q_ce = "<q_ce>",
-            .e_g = "<e_g>",
-            .q_s_he = "<q_s_he>",
-            .q_d_he = "<q_d_he>",
-            .q_g_he = "<q_g_he>",
-            .q_HE_Energietraeger = "<q_HE>",
-            .q_HE_Strom = "<q_HE_Strom>",
-            .Primaerenergiefaktor_Energietraeger = "<f_p>",
-            .Primaerenergiefaktor_Strom = "<f_p_Strom>",
-            .q_PE_Energietraeger = "<q_PE>",
-            .q_PE_Strom = "<q_PE_Strom>"};
+    return {{"Träger", "carrier"},
+            "<Heizung mit einem sehr langen Namen, der nicht auf eine Zeile passt>",
+            "<Übergabe>",
+            "<Energieträger>",
+            "<qhs_sum>",
+            "<q_s>",
+            "<q_d>",
+            "<q_ce>",
+            "<e_g>",
+            "<q_s_he>",
+            "<q_d_he>",
+            "<q_g_he>",
+            "<q_HE>",
+            "<q_HE_Strom>",
+            "<f_p>",
+            "<f_p_Strom>",
+            "<q_PE>",
+            "<q_PE_Strom>"};
 }
 
 Gebaeudetexte gebaeudetexte() {

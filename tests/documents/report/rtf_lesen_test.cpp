@@ -1,6 +1,5 @@
 #include "documents/report/rtf_lesen.h"
 
-#include <array>
 #include <gtest/gtest.h>
 
 namespace velmaris {
@@ -11,31 +10,6 @@ std::string text(const Absatz& absatz) {
     for (const Textstueck& stueck : absatz.stuecke)
         alles += stueck.text;
     return alles;
-}
-
-TEST(RtfLesen, StileGeltenBisSieEnden) {
-    const auto absaetze = rtf_lesen(
-        R"({\rtf1\ansi{\fonttbl{\f0\froman Times New Roman;}}\qc\plain\b\i\fs60 VELM\plain\b\fs60 aris \plain \par )"
-        R"(\pard\tx4300\tx900      a\tab {\sub b}\ul c\ul0 d\par })");
-    ASSERT_EQ(absaetze.size(), 2U);
-    ASSERT_EQ(absaetze[0].stuecke.size(), 2U);
-    EXPECT_TRUE(absaetze[0].zentriert);
-    EXPECT_EQ(
-        absaetze[0].stuecke[0],
-        (Textstueck{
-            .text = "VELM", .schrift = "Times New Roman", .groesse = 30, .fett = true, .kursiv = true}));
-    EXPECT_EQ(absaetze[0].stuecke[1],
-              (Textstueck{.text = "aris ", .schrift = "Times New Roman", .groesse = 30, .fett = true}));
-    EXPECT_EQ(absaetze[0].groesse, 12);
-    const auto& zweiter = absaetze[1];
-    EXPECT_FALSE(zweiter.zentriert);
-    EXPECT_EQ(zweiter.tabstopps, (std::vector<double>{215, 45}));
-    ASSERT_EQ(zweiter.stuecke.size(), 4U);
-    EXPECT_EQ(zweiter.stuecke[0].text, "     a\t");
-    EXPECT_TRUE(zweiter.stuecke[1].tiefgestellt);
-    EXPECT_TRUE(zweiter.stuecke[2].unterstrichen);
-    EXPECT_EQ(zweiter.stuecke[3].text, "d");
-    EXPECT_FALSE(zweiter.stuecke[3].unterstrichen);
 }
 
 TEST(RtfLesen, SeitenUndZeichen) {
