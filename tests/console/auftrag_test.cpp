@@ -104,6 +104,7 @@ TEST_F(Konsole, RichtigeUndFalscheAufrufe) {
         EXPECT_THAT(fehler, StartsWith(fall.fehler)) << fall.worte;
         EXPECT_EQ(aus.empty(), fall.aus.empty()) << fall.worte << aus;
         EXPECT_EQ(fehler.empty(), fall.fehler.empty()) << fall.worte << fehler;
+        EXPECT_EQ(aus.find("[]"), std::string::npos) << fall.worte;
         EXPECT_FALSE(fs::exists("x")) << fall.worte;
     }
     for (const std::string angabe : {"--temperaturen", "--neu", "--speichern", "--diagramme", "--bericht",

@@ -81,13 +81,16 @@ TEST_F(Fileio, DerFehlerSagtWennNichtsMehrBerechnetWird) {
     scheitert("", "", true, false);
     scheitert(fremd, "l: Wert außerhalb", true, true);
     scheitert(haus, "", true, false, 1);
-    programm.haupt->sitzung.alles_berechnen = [] {
-        throw Laufzeitfehler({"Division durch 0", "division by 0"});
+    programm.haupt->sitzung.alles_berechnen = [this] {
+        if (p().FormLoadGuard == 0) throw Laufzeitfehler({"Division durch 0", "division by 0"});
     };
     scheitert(haus, pfadtext(haus), true, true);
     programm.haupt->sitzung.alles_berechnen = [this] { programm.haupt->alles_berechnen(); };
     EXPECT_EQ(plattform().dialoge.back().filter, "Alle Dateien (*.*)|*.*|VELM Dateien (*.vel)|*.vel");
     EXPECT_EQ(plattform().dialoge.back().filterindex, 2);
+    p().Geaendert = 1;
+    oeffne(programm.ordner.schreibe("kurz.vel", test::inhalt(haus).substr(0, 60)));
+    EXPECT_EQ(p().Geaendert, 0) << "the changes of the former project are given up";
     oeffne(weit);
     plattform().dateien = {programm.ordner / "mischung.vel"};
     EXPECT_THROW(datei().datei_speichern(), Dateifehler) << "told, and the program goes on";
