@@ -197,7 +197,8 @@ TEST_F(Energieebene, WasDieZeileNichtBietetIstKeineWahl) {
                              {&E_Energie::Command3, 1, 4, 2},  // another text in the same place
                              {&E_Energie::Command2, 1, 8, 2},
                              {&E_Energie::Command2, 8, 8, 1},  // no list at all
-                             {&E_Energie::Command3, 1, 12, 1}}) {
+                             {&E_Energie::Command3, 1, 12, 1},
+                             {&E_Energie::Command3, 1, 0, 1}}) {
         waehle(fall.davor, 1, 1);
         ((*ebene).*fall.knopf).druecke();
         p->Heizsystem = fall.jetzt;
