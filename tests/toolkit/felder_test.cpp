@@ -2,7 +2,10 @@
 
 #include "toolkit/fehler.h"
 
+#include <cstring>
+#include <functional>
 #include <gtest/gtest.h>
+#include <string>
 
 namespace velmaris {
 namespace {
@@ -22,14 +25,25 @@ TEST(Scrollfeld, FeuertNurBeiAndererStellung) {
 }
 
 TEST(Scrollfeld, AusserhalbDesBereichsNenntDieGroesse) {
-    Scrollfeld feld("WRG_Sb", 0, 100, 5, 1);
-    try {
-        feld.setze(101);
-        FAIL();
-    } catch (const Laufzeitfehler& fehler) {
-        EXPECT_EQ(fehler.feld(), "WRG");
+    for (const char* name : {"WRG_Sb", "l_sb", "_sb"}) {
+        Scrollfeld feld(name, 10, 100, 5, 1);
+        for (const int falsch : {9, 101}) {
+            try {
+                feld.setze(falsch);
+                FAIL();
+            } catch (const Laufzeitfehler& fehler) {
+                EXPECT_EQ(fehler.feld(), name[0] == '_' ? "_sb" : std::string(name, std::strlen(name) - 3));
+                EXPECT_EQ(fehler.grund().de,
+                          "Stellung außerhalb des Bereichs: " + std::to_string(falsch) + " (10 .. 100)");
+                EXPECT_TRUE(fehler.text("e").starts_with(fehler.feld() + ": position out of range: "));
+            }
+        }
+        EXPECT_EQ(feld.position(), 10);
+        feld.setze(100);
+        feld.bereich(20, 15);
+        EXPECT_EQ(feld.position(), 20);
+        EXPECT_EQ(feld.maximum(), 20);
     }
-    EXPECT_EQ(feld.position(), 0);
 }
 
 TEST(Auswahlliste, SetzenLaeuftImmerMarkierenNie) {
@@ -62,6 +76,7 @@ TEST(Optionsgruppe, FeuertNurWennDieOptionNochNichtGesetztIst) {
     gruppe.markiere(std::nullopt);
     EXPECT_FALSE(gruppe.gesetzt(2));
     EXPECT_THROW(gruppe.setze(3), Laufzeitfehler);
+    EXPECT_THROW(gruppe.setze(0), Laufzeitfehler);
 }
 
 TEST(Pruefeld, NimmtNurNullUndEins) {
@@ -71,19 +86,43 @@ TEST(Pruefeld, NimmtNurNullUndEins) {
     feld.setze(0);
     feld.setze(1);
     EXPECT_EQ(gefeuert, 1);
-    EXPECT_THROW(feld.setze(-4), Laufzeitfehler);
+    feld.setze_verneint(1);
+    EXPECT_EQ(feld.wert(), 0);
+    for (const int falsch : {-1, 2}) {
+        EXPECT_THROW(feld.setze(falsch), Laufzeitfehler);
+        EXPECT_THROW(feld.setze_verneint(falsch), Laufzeitfehler);
+    }
+}
+
+/// How often a control told its view while the same was done to it twice.
+template <class Feldart>
+int meldungen(Feldart&& feld, const std::function<void(Feldart&)>& tu) {
+    int zahl = 0;
+    feld.ansicht = [&] { ++zahl; };
+    tu(feld);
+    tu(feld);
+    return zahl;
 }
 
 TEST(Feld, MeldetDerAnsichtNurAenderungen) {
-    Anzeige anzeige("l_anz");
-    int gezeigt = 0;
-    anzeige.ansicht = [&] { ++gezeigt; };
-    anzeige.schreibe(" 10.0 m");
-    anzeige.schreibe(" 10.0 m");
-    anzeige.zeige(true);
-    EXPECT_EQ(gezeigt, 1);
-    anzeige.zeige(false);
-    EXPECT_EQ(gezeigt, 2);
+    EXPECT_EQ(meldungen<Anzeige>(Anzeige("a"), [](Anzeige& a) { a.schreibe("10.0 m"); }), 1);
+    EXPECT_EQ(meldungen<Anzeige>(Anzeige("a"), [](Anzeige& a) { a.faerbe(farben::rot); }), 1);
+    EXPECT_EQ(meldungen<Anzeige>(Anzeige("a"), [](Anzeige& a) { a.verberge(true); }), 1);
+    EXPECT_EQ(meldungen<Anzeige>(Anzeige("a"), [](Anzeige& a) { a.setze({1, 2}); }), 1);
+    EXPECT_EQ(meldungen<Anzeige>(Anzeige("a"), [](Anzeige& a) { a.zeige(false); }), 1);
+    EXPECT_EQ(meldungen<Anzeige>(Anzeige("a"), [](Anzeige& a) { a.zeige(true); }), 0);
+    EXPECT_EQ(meldungen<Anzeige>(Anzeige("a"), [](Anzeige& a) { a.aktiviere(false); }), 1);
+    EXPECT_EQ(meldungen<Anzeige>(Anzeige("a"), [](Anzeige& a) { a.lege({1, 2, 3, 4}); }), 1);
+    EXPECT_EQ(meldungen<Knopf>(Knopf("k"), [](Knopf& k) { k.schreibe("OK"); }), 1);
+    EXPECT_EQ(meldungen<Pruefeld>(Pruefeld("p"), [](Pruefeld& p) { p.markiere(1); }), 1);
+    EXPECT_EQ(meldungen<Menuepunkt>(Menuepunkt("m"), [](Menuepunkt& m) { m.kreuze_an(true); }), 1);
+    EXPECT_EQ(meldungen<Bildfeld>(Bildfeld("b"), [](Bildfeld& b) { b.lade("karte.bmp"); }), 1);
+    EXPECT_EQ(meldungen<Scrollfeld>(Scrollfeld("s", 0, 9, 1, 2), [](Scrollfeld& s) { s.setze(5); }), 1);
+    // A list and a group tell each time, since the view may show another choice.
+    EXPECT_EQ(meldungen<Auswahlliste>(Auswahlliste("l"), [](Auswahlliste& l) { l.schreibe("x"); }), 2);
+    EXPECT_EQ(meldungen<Auswahlliste>(Auswahlliste("l"), [](Auswahlliste& l) { l.fuelle({"x"}); }), 2);
+    EXPECT_EQ(meldungen<Optionsgruppe>(Optionsgruppe("o", 0, 2), [](Optionsgruppe& o) { o.markiere(1); }), 2);
+    EXPECT_EQ(meldungen<Scrollfeld>(Scrollfeld("s", 0, 9, 1, 2), [](Scrollfeld& s) { s.bereich(0, 5); }), 2);
 }
 
 TEST(Knopf, DruecktNurWennErAktivIst) {

@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <numbers>
+#include <sstream>
 #include <string>
 
 namespace velmaris {
@@ -56,15 +57,41 @@ TEST(Pixellinie, LaesstIhrLetztesPixelAus) {
     EXPECT_FALSE(pixellinie(1, 1, 4, keine_zahl, 1));
 }
 
-TEST(Schriftmasse, BreitenDerPublizierteTabelle) {
-    const Schrift zehn_pixel{.groesse = 7.5};
-    const Schrift fett{.groesse = 7.5, .fett = true};
-    EXPECT_NEAR(schriftbreite("Mai", zehn_pixel), 16.11, 1e-9);    // 833 + 556 + 222
-    EXPECT_NEAR(schriftbreite("Mai", fett), 16.67, 1e-9);          // 833 + 556 + 278
-    EXPECT_NEAR(schriftbreite(" 10", zehn_pixel), 13.9, 1e-9);     // 278 + 556 + 556
-    EXPECT_NEAR(schriftbreite("°C m²", zehn_pixel), 25.66, 1e-9);  // 400 + 722 + 278 + 833 + 333
-    EXPECT_NEAR(schriftbreite("Wärme", zehn_pixel), 32.22, 1e-9);  // 944 + 556 + 333 + 833 + 556
-    EXPECT_EQ(schriftbreite("Ω", zehn_pixel), schriftbreite("?", zehn_pixel));
+/// The characters of a width in thousandths of the em, as the metrics of Helvetica, Helvetica-Bold and
+/// Times-Roman were published.
+constexpr std::array<const char*, 3> breitentafeln{
+    "191 ' 222 ijl 260 | 278 !,./:;[\\]Ift 333 ()-`r 334 {} 355 \" 389 * 469 ^ 500 Jcksvxyz 556 "
+    "#$0123456789?L_"
+    "abdeghnopqu 584 +<=>~ 611 FTZ 667 &ABEKPSVXY 722 CDHNRUw 778 GOQ 833 Mm 889 % 944 W 1015 @",
+    "238 ' 278 ,./Iijl\\ 280 | 333 !()-:;[]ft` 389 *r{} 474 \" 500 z 556 #$0123456789J_aceksvxy 584 +<=>^~ "
+    "611 ?FLTZbdghnopqu 667 EPSVXY 722 &ABCDHKNRU 778 GOQw 833 M 889 %m 944 W 975 @",
+    "180 ' 200 | 250 ,. 278 /:;\\ijlt 333 !()-I[]`fr 389 Js 408 \" 444 ?acez 469 ^ 480 {} 500 #$0123456789*_"
+    "bdghknopquvxy 541 ~ 556 FPS 564 +<=> 611 ELTZ 667 BCR 722 ADGHKNOQUVXYw 778 &m 833 % 889 M 921 @ 944 W"};
+
+TEST(Schriftmasse, BreitenDerPubliziertenTabellen) {
+    const std::array<Schrift, 3> schriften{Schrift{.groesse = 7.5}, Schrift{.groesse = 7.5, .fett = true},
+                                           Schrift{.name = "Times New Roman", .groesse = 7.5}};
+    for (std::size_t i = 0; i < schriften.size(); ++i) {
+        const Schrift& schrift = schriften[i];
+        std::istringstream tafel(breitentafeln[i]);
+        double tausendstel = 0;
+        std::string zeichen;
+        std::size_t gezaehlt = 0;
+        while (tafel >> tausendstel >> zeichen) {
+            gezaehlt += zeichen.size();
+            for (const char eines : zeichen)
+                EXPECT_NEAR(schriftbreite(std::string(1, eines), schrift), tausendstel / 100, 1e-9) << eines;
+        }
+        EXPECT_GE(gezaehlt, 94U);
+        EXPECT_NEAR(schriftbreite("a b", schrift) - schriftbreite("ab", schrift), i == 2 ? 2.5 : 2.78, 1e-9);
+        for (const std::string reihe : {"AÀÁÂÃÄÅ", "EÈÉÊË", "IÌÍÎÏ", "OÒÓÔÕÖ", "UÙÚÛÜ", "aàáâãäå", "eèéêë",
+                                        "oòóôõö", "uùúûü", "nñ", "cç", "CÇ", "NÑ", "YÝŸ", "yýÿ"})
+            for (std::size_t k = 1; k < reihe.size(); k += 2)
+                EXPECT_EQ(schriftbreite(reihe.substr(k, 2), schrift),
+                          schriftbreite(reihe.substr(0, 1), schrift));
+    }
+    EXPECT_NEAR(schriftbreite("°C m²", schriften[0]), 25.66, 1e-9);  // 400 + 722 + 278 + 833 + 333
+    EXPECT_EQ(schriftbreite("Ω\n", schriften[0]), schriftbreite("?", schriften[0]));
     EXPECT_EQ(schrifthoehe({}), 13);
 }
 
@@ -106,9 +133,19 @@ TEST(SvgFlaeche, RundesUndSchraegesUndWasKeineZahlIst) {
                 HasSubstr("<circle cx=\"4.5\" cy=\"4.5\" r=\"2\" fill=\"none\" stroke=\"#000000\"/>"));
     bild.linie(0, 0, 4, 8, farben::blau, 2);
     EXPECT_THAT(bild.svg(), HasSubstr("stroke-width=\"2\" stroke-linecap=\"square\" d=\"M .5 .5l 3.5 7\""));
+    EXPECT_TRUE(bild.umriss({.ecken = {{1, 1}, {4, 1}, {4, 4, 3}, {1, 4, -3}}}, farben::rot));
+    EXPECT_THAT(bild.svg(), HasSubstr("d=\"M 1 1L 4 1A 3 3 0 0 0 4 4A 3 3 0 0 1 1 4Z\""));
+    bild.sektor(10, 10, 5, 0, -1.5 * std::numbers::pi, farben::rot);
+    EXPECT_THAT(bild.svg(), HasSubstr("A 5 5 0 1 1 10.5 5.5Z"));
+    bild.sektor(2, 2, 1, 0, 2 * std::numbers::pi, farben::rot);
+    EXPECT_THAT(bild.svg(), HasSubstr("cx=\"2.5\" cy=\"2.5\" r=\"1\" fill=\"#ff0000\""));
+    bild.kasten(3, 5, 6, 9, farben::gelb);
+    EXPECT_THAT(bild.svg(), HasSubstr("M 3 5h 4v 1h-4zM 3 9h 4v 1h-4zM 3 5h 1v 5h-1zM 6 5h 1v 5h-1z"));
     const std::string vorher = bild.svg();
     bild.flaeche(0, 0, 4, keine_zahl, farben::rot);
     bild.kreis(4, keine_zahl, 2, farben::rot, farben::rot);
+    bild.kreis(4, 4, 0, farben::rot, farben::rot);
+    bild.sektor(4, 4, 2, 0, INFINITY, farben::rot);
     bild.text(keine_zahl, 0, "x", farben::rot);
     EXPECT_EQ(bild.svg(), vorher);
 }

@@ -24,8 +24,30 @@ TEST(Windows1252, KenntDieUmlauteUndErsetztFremdes) {
     EXPECT_EQ(nach_windows1252("Łódź 🏠"),
               "?\xF3"
               "d? ?");
+    std::string obere;
+    for (char byte = '\x80'; byte < '\xA0'; ++byte)
+        obere += byte;
+    EXPECT_EQ(aus_windows1252(obere), "€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ");
+    EXPECT_TRUE(in_windows1252("Größe €"));
+    EXPECT_FALSE(in_windows1252("Łódź"));
     EXPECT_EQ(nach_windows1252("\xC3"), "?");
     EXPECT_EQ(nach_windows1252("\xE2\x82z"), "??z");
+}
+
+TEST(Text, KenntGanzeZeichen) {
+    for (const char* gut : {"", "az", "\u0080", "\u07FF", "\u0800", "\uFFFD", "\U0010FFFF"})
+        EXPECT_TRUE(ist_utf8(gut)) << gut;
+    for (const char* schlecht : {"\xC3", "\x80", "\xC1\x81", "\xF5\x80\x80\x80", "\xE2\x82z", "a\xFF"})
+        EXPECT_FALSE(ist_utf8(schlecht)) << schlecht;
+}
+
+TEST(Text, MachtSteuerzeichenSichtbar) {
+    for (const char* steuernd : {"\x1F", "\x7F", "\u0080", "\u009F"}) {
+        EXPECT_TRUE(hat_steuerzeichen(std::string("a") + steuernd));
+        EXPECT_EQ(lesbar(steuernd), "\uFFFD");
+    }
+    EXPECT_FALSE(hat_steuerzeichen(" ~\u00A0€"));
+    EXPECT_EQ(lesbar(" ~\u00A0€🏠\xC3"), " ~\u00A0€🏠\uFFFD");
 }
 
 TEST(Text, ZaehltUndFuelltNachZeichen) {
@@ -37,7 +59,8 @@ TEST(Text, ZaehltUndFuelltNachZeichen) {
 TEST(Text, GrossUndKleinMitUmlauten) {
     EXPECT_EQ(kleinschreiben("WÜRZBURG.MET"), "würzburg.met");
     EXPECT_EQ(grossschreiben("straße übung.vel"), "STRAßE ÜBUNG.VEL");
-    EXPECT_EQ(kleinschreiben("A×B÷C 🏠"), "a×b÷c 🏠");
+    EXPECT_EQ(kleinschreiben("@AZ[ ÀÖ×ØÞß÷ 🏠"), "@az[ àö×øþß÷ 🏠");
+    EXPECT_EQ(grossschreiben("`az{ àö÷øþÿ× 🏠"), "`AZ{ ÀÖ÷ØÞÿ× 🏠");
 }
 
 TEST(Pfad, NimmtBeideTrenner) {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -15,27 +15,12 @@ TEST(Muster, RundetDenBinaerwertVonNullWeg) {
         int stellen;
         std::string text;
     };
-    const std::vector<Fall> faelle{
-        {0, 1, "0.0"},
-        {2.5, 0, "3"},
-        {-2.5, 0, "-3"},
-        {3.5, 0, "4"},
-        {0.125, 2, "0.13"},
-        {-0.125, 2, "-0.13"},
-        {0.375, 2, "0.38"},
-        {0.25, 1, "0.3"},
-        {2.675, 2, "2.67"},
-        {1.005, 2, "1.00"},
-        {-0.04, 1, "0.0"},
-        {-0.05, 1, "-0.1"},
-        {-0.0, 0, "0"},
-        {1234567.0, 1, "1234567.0"},
-        {static_cast<double>(0.05F), 1, "0.1"},
-        {0.5, 0, "1"},
-        {0.49999999999999994, 0, "0"},
-        {1e22, 0, "10000000000000000000000"},
-    };
-    for (const Fall& fall : faelle)
+    for (const Fall& fall :
+         {Fall{0, 1, "0.0"}, Fall{2.5, 0, "3"}, Fall{-2.5, 0, "-3"}, Fall{3.5, 0, "4"},
+          Fall{0.125, 2, "0.13"}, Fall{-0.125, 2, "-0.13"}, Fall{0.375, 2, "0.38"}, Fall{0.25, 1, "0.3"},
+          Fall{2.675, 2, "2.67"}, Fall{1.005, 2, "1.00"}, Fall{-0.04, 1, "0.0"}, Fall{-0.05, 1, "-0.1"},
+          Fall{-0.0, 0, "0"}, Fall{1234567.0, 1, "1234567.0"}, Fall{static_cast<double>(0.05F), 1, "0.1"},
+          Fall{0.5, 0, "1"}, Fall{0.49999999999999994, 0, "0"}, Fall{1e22, 0, "10000000000000000000000"}})
         EXPECT_EQ(muster(fall.wert, fall.stellen), fall.text) << fall.wert;
 }
 
@@ -47,47 +32,22 @@ TEST(Muster, NimmtDasDezimalzeichenDerUmgebung) {
 }
 
 TEST(Zahltext, FolgtDerSchreibweiseOhneNullVorDemPunkt) {
-    const std::vector<std::pair<double, std::string>> faelle{
-        {5.2F, " 5.2"},
-        {0.2F, " .2"},
-        {10, " 10"},
-        {-15, "-15"},
-        {0, " 0"},
-        {-0.5, "-.5"},
-        {1234567, " 1234567"},
-        {12345678, " 1.234568E+07"},
-        {0.001, " .001"},
-        {1e-10, " 1E-10"},
-        {123.4567F, " 123.4567"},
-        {1.0 / 3, " .3333333"},
-        {100, " 100"},
-        {0.58F, " .58"},
-        {-1e20, "-1E+20"},
-    };
-    for (const auto& [wert, text] : faelle)
+    using Fall = std::pair<double, const char*>;
+    for (const auto& [wert, text] :
+         {Fall{5.2F, " 5.2"}, Fall{0.2F, " .2"}, Fall{10, " 10"}, Fall{-15, "-15"}, Fall{0, " 0"},
+          Fall{-0.5, "-.5"}, Fall{1234567, " 1234567"}, Fall{12345678, " 1.234568E+07"}, Fall{0.001, " .001"},
+          Fall{1e-10, " 1E-10"}, Fall{123.4567F, " 123.4567"}, Fall{1.0 / 3, " .3333333"}, Fall{100, " 100"},
+          Fall{0.58F, " .58"}, Fall{-1e20, "-1E+20"}})
         EXPECT_EQ(zahltext(wert), text);
 }
 
 TEST(ZahlLesen, ScheitertNie) {
-    const std::vector<std::pair<std::string, double>> faelle{
-        {"  12.5", 12.5},
-        {" -0.4", -0.4},
-        {"", 0},
-        {"abc", 0},
-        {"1.2.3", 1.2},
-        {"7,5", 7},
-        {"- 3", -3},
-        {"+4", 4},
-        {"1 2", 12},
-        {".5", 0.5},
-        {"5.", 5},
-        {"-", 0},
-        {"3-4", 3},
-        {"1e5", 1},
-        {"0.000000000000000000125", 1.25e-19},
-        {"123456789012345678", 123456789012345000.0},
-    };
-    for (const auto& [text, wert] : faelle)
+    using Fall = std::pair<const char*, double>;
+    for (const auto& [text, wert] :
+         {Fall{"  12.5", 12.5}, Fall{" -0.4", -0.4}, Fall{"", 0}, Fall{"abc", 0}, Fall{"1.2.3", 1.2},
+          Fall{"7,5", 7}, Fall{"- 3", -3}, Fall{"+4", 4}, Fall{"1 2", 12}, Fall{".5", 0.5}, Fall{"5.", 5},
+          Fall{"-", 0}, Fall{"3-4", 3}, Fall{"1e5", 1}, Fall{"0.000000000000000000125", 1.25e-19},
+          Fall{"123456789012345678", 123456789012345000.0}})
         EXPECT_DOUBLE_EQ(zahl_lesen(text), wert) << '"' << text << '"';
 }
 
