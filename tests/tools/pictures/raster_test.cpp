@@ -70,28 +70,5 @@ TEST(Linien, SindSoDickWieVerlangt) {
     EXPECT_EQ(linie.anteil(1, 5), 0);
 }
 
-TEST(Auftragen, MischtNachDeckungUndDeckkraft) {
-    Bild bild(3, 1, {100, 200, 0});
-    Deckung deckung(3, 1);
-    deckung.anteil(1, 0) = 0.5;
-    deckung.anteil(2, 0) = 1;
-    auftragen(bild, deckung, {200, 100, 10});
-    EXPECT_EQ(bild.pixel(0, 0), (Farbe{100, 200, 0}));
-    EXPECT_EQ(bild.pixel(1, 0), (Farbe{150, 150, 5}));
-    EXPECT_EQ(bild.pixel(2, 0), (Farbe{200, 100, 10}));
-    auftragen(bild, deckung, {0, 0, 0}, 0.5);
-    EXPECT_EQ(bild.pixel(2, 0), (Farbe{100, 50, 5}));
-}
-
-TEST(Bmp, SchreibtKopfUndZeilenVonUnten) {
-    Bild bild(1, 2, {1, 2, 3});
-    bild.pixel(0, 1) = {250, 128, 7};
-    const std::vector<unsigned char> erwartet{
-        'B',  'M',  62, 0, 0, 0, 0, 0,  0, 0, 54, 0, 0, 0,   40,  0, 0, 0,    1,    0, 0,
-        0,    2,    0,  0, 0, 1, 0, 24, 0, 0, 0,  0, 0, 8,   0,   0, 0, 0xC4, 0x0E, 0, 0,
-        0xC4, 0x0E, 0,  0, 0, 0, 0, 0,  0, 0, 0,  0, 7, 128, 250, 0, 3, 2,    1,    0};
-    EXPECT_EQ(bild.bmp(), std::string(erwartet.begin(), erwartet.end()));
-}
-
 }  // namespace
 }  // namespace velmaris::bilder
