@@ -2,6 +2,7 @@
 
 #include "tests/testprogramm.h"
 
+#include <QPushButton>
 #include <QTest>
 
 namespace velmaris::test {
@@ -26,7 +27,27 @@ QAction& Programmprobe::menue(const char* name) {
 }
 
 void Programmprobe::klicke(QAbstractButton& knopf) {
-    QTest::mouseClick(&knopf, Qt::LeftButton);
+    const bool marke = knopf.isCheckable() && qobject_cast<QPushButton*>(&knopf) == nullptr;
+    QTest::mouseClick(&knopf, Qt::LeftButton, {}, marke ? QPoint(8, knopf.height() / 2) : QPoint());
+}
+
+void Programmprobe::taste(int key, Qt::KeyboardModifiers dazu) {
+    QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), dazu);
+}
+
+std::string Programmprobe::fokus() {
+    const QWidget* ort = QApplication::focusWidget();
+    return ort == nullptr ? "" : ort->objectName().toStdString();
+}
+
+bool Programmprobe::aktiv(const QWidget& fenster) {
+    return QTest::qWaitFor([&] { return QApplication::activeWindow() == &fenster; });
+}
+
+void Programmprobe::tippe(QLineEdit& zeile, const char* text) {
+    QTest::mouseClick(&zeile, Qt::LeftButton);
+    zeile.selectAll();
+    QTest::keyClicks(&zeile, QString::fromUtf8(text));
 }
 
 void Programmprobe::fuer_jede_ebene(const std::function<void(QWidget& ebene)>& tu) {

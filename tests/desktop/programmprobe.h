@@ -6,6 +6,11 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -21,7 +26,8 @@ class Programmprobe : public testing::Test {
     /// Starts as a command line does that names the language.
     void starte(const std::string& sprache);
 
-    [[nodiscard]] Projekt& p() { return programm->haupt().p; }
+    [[nodiscard]] Haupt& haupt() { return programm->haupt(); }
+    [[nodiscard]] Projekt& p() { return haupt().p; }
 
     /// The widget of that name on a plane or bar (both by record name); fails the test if there is none.
     template <typename Fenster = QWidget>
@@ -34,8 +40,19 @@ class Programmprobe : public testing::Test {
     }
     [[nodiscard]] QAction& menue(const char* name);
 
-    /// A left click in the middle of a button.
+    /// A left click in the middle of a button, or on the mark of a check or option field.
     static void klicke(QAbstractButton& knopf);
+    void klicke(const char* ebene, const char* knopf) { klicke(such<QAbstractButton>(ebene, knopf)); }
+
+    /// A key where the focus is, and the name of what has it.
+    static void taste(int key, Qt::KeyboardModifiers dazu = {});
+    [[nodiscard]] static std::string fokus();
+
+    /// Waits until a window has the keys.
+    [[nodiscard]] static bool aktiv(const QWidget& fenster);
+
+    /// Types a text in place of what a field holds.
+    static void tippe(QLineEdit& zeile, const char* text);
 
     /// Shows each plane once and looks at it.
     void fuer_jede_ebene(const std::function<void(QWidget& ebene)>& tu);

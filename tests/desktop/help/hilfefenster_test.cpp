@@ -3,10 +3,6 @@
 #include "desktop/widgets/nebenfenster.h"
 #include "tests/desktop/programmprobe.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QWindow>
@@ -29,7 +25,7 @@ class HilfefensterTest : public test::Programmprobe {
 
     Hilfefenster& fenster() { return programm->hilfefenster(); }
     QTextBrowser& seite() { return *fenster().findChild<QTextBrowser*>(QStringLiteral("Seite")); }
-    QAction& taste(const char* name) { return *fenster().findChild<QAction*>(QLatin1String(name)); }
+    QAction& eintrag(const char* name) { return *fenster().findChild<QAction*>(QLatin1String(name)); }
 
     /// Path of the page on show, empty while the window is closed.
     std::string gezeigt() {
@@ -70,9 +66,8 @@ TEST_F(HilfefensterTest, F1OeffnetDieSeiteJederEbeneInBeidenSprachen) {
         starte(sprache);
         fuer_jede_ebene([&](QWidget& ebene) {
             f1(ebene);
-            const std::string name = ebene.objectName().toStdString();
-            EXPECT_EQ(gezeigt(), "/" + name + ".html") << sprache;
-            EXPECT_GT(seite().document()->characterCount(), 300) << name;
+            EXPECT_EQ(gezeigt(), "/" + ebene.objectName().toStdString() + ".html") << sprache;
+            EXPECT_GT(seite().document()->characterCount(), 300) << gezeigt();
         });
         EXPECT_EQ(fenster().windowTitle(), *sprache == 'd'
                                                ? QString::fromUtf8("Energieflüsse - Velmaris-Hilfe")
@@ -81,115 +76,129 @@ TEST_F(HilfefensterTest, F1OeffnetDieSeiteJederEbeneInBeidenSprachen) {
     }
 }
 
-TEST_F(HilfefensterTest, F1FolgtDemFokus) {
+TEST_F(HilfefensterTest, F1KenntDieNebenfenster) {
     starte("d");
-    klicke(such<QAbstractButton>("E_Menue", "Daemmung"));
-    struct Fall {
-        const char* auf;
-        const char* ort;
-        const char* seite;
-    };
-    for (const Fall& fall : {Fall{"E_Daemmung", "kwn_sb", "/E_Daemmung.html"},
-                             {"A_Uebersicht", "Monatsbutton3", "/A_Uebersicht.html"},
-                             {"E_Menue", "Klima", "/E_Daemmung.html"},
-                             {"A_Menue", "Klima", "/E_Daemmung.html"}}) {
-        f1(such(fall.auf, fall.ort));
-        EXPECT_EQ(gezeigt(), fall.seite) << fall.ort;
-    }
-    f1(programm->fenster());
+    klicke("E_Menue", "Daemmung");
+    f1(such("A_Menue", "Klima"));
     EXPECT_EQ(gezeigt(), "/E_Daemmung.html");
-
-    QTest::mouseClick(&such("A_Uebersicht", "UeberGrafik"), Qt::LeftButton);
-    f1(*QApplication::focusWidget());
-    EXPECT_EQ(gezeigt(), "/A_Uebersicht.html") << "a click on a chart is a click on its plane";
-
-    const auto nebenfenster = programm->fenster().findChildren<Nebenfenster*>(Qt::FindDirectChildrenOnly);
-    EXPECT_GE(nebenfenster.size(), 2) << "both enlarged pictures at least";
-    for (Nebenfenster* neben : nebenfenster) {
+    for (Nebenfenster* neben : programm->fenster().findChildren<Nebenfenster*>(Qt::FindDirectChildrenOnly)) {
         f1(*neben);
         EXPECT_EQ(gezeigt(), "/" + neben->objectName().toStdString() + ".html");
     }
+    fenster().close();
+    QTest::keyClick(&such("E_Daemmung", "kwn_sb"), Qt::Key_F1, Qt::ShiftModifier);
+    EXPECT_EQ(gezeigt(), "");
 }
 
 TEST_F(HilfefensterTest, BlaettertInSeinenSeiten) {
     starte("d");
     menue("mnuQuestHilfe").trigger();
     EXPECT_EQ(gezeigt(), "/index.html");
-    EXPECT_FALSE(taste("Zurueck").isEnabled());
+    EXPECT_FALSE(eintrag("Zurueck").isEnabled());
     klicke_verweis("Monatsbilanz");
     EXPECT_EQ(gezeigt(), "/Monatsbilanz.html");
     EXPECT_EQ(fenster().windowTitle(), QStringLiteral("Die Monatsbilanz - Velmaris-Hilfe"));
-    EXPECT_FALSE(taste("Vor").isEnabled());
+    EXPECT_FALSE(eintrag("Vor").isEnabled());
     QTest::keyClick(&seite(), Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(gezeigt(), "/index.html");
-    taste("Vor").trigger();
+    eintrag("Vor").trigger();
     EXPECT_EQ(gezeigt(), "/Monatsbilanz.html");
-    taste("Startseite").trigger();
+    eintrag("Startseite").trigger();
     EXPECT_EQ(gezeigt(), "/index.html");
-    EXPECT_TRUE(taste("Zurueck").isEnabled());
+    EXPECT_TRUE(eintrag("Zurueck").isEnabled());
     ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster()));
     QTest::keyClick(&seite(), Qt::Key_Escape);
     EXPECT_FALSE(fenster().isVisible());
 }
 
 TEST_F(HilfefensterTest, SuchtAufDerSeite) {
-    struct Fall {
-        const char* sprache;
-        const char* fehlt;
-        const char* vom_anfang;
-        const char* vom_ende;
+    starte("d");
+    menue("mnuQuestHilfe").trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster()));
+    Q_EMIT seite().anchorClicked(QUrl(QStringLiteral("chm:/Dateien.html")));
+    auto& feld = *fenster().findChild<QLineEdit*>(QStringLiteral("Suchtext"));
+    const auto& meldung = *fenster().findChild<QLabel*>(QStringLiteral("Suchmeldung"));
+    const auto druecke = [this](const char* name) {
+        klicke(*fenster().findChild<QAbstractButton*>(QLatin1String(name)));
     };
-    for (const Fall& fall :
-         {Fall{"d", "Nicht gefunden", "Weiter vom Anfang der Seite", "Weiter vom Ende der Seite"},
-          {"e", "Not found", "Continued from the top of the page", "Continued from the end of the page"}}) {
-        starte(fall.sprache);
-        menue("mnuQuestHilfe").trigger();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster()));
-        Q_EMIT seite().anchorClicked(QUrl(QStringLiteral("chm:/Dateien.html")));
-        auto& feld = *fenster().findChild<QLineEdit*>(QStringLiteral("Suchtext"));
-        auto& meldung = *fenster().findChild<QLabel*>(QStringLiteral("Suchmeldung"));
-        const auto stelle = [&] { return seite().textCursor().selectionStart(); };
-        EXPECT_FALSE(feld.isVisible());
+    const auto stelle = [&] { return seite().textCursor().selectionStart(); };
+    EXPECT_FALSE(feld.isVisible());
+    taste(Qt::Key_F, Qt::ControlModifier);
+    ASSERT_EQ(QApplication::focusWidget(), &feld);
+    QTest::keyClicks(&feld, "PLZ.tx");
+    const int getippt = stelle();
+    QTest::keyClicks(&feld, "t");
+    EXPECT_EQ(stelle(), getippt) << "a word that grows stays at its place";
+    EXPECT_EQ(seite().textCursor().selectedText(), "plz.txt");
+    const QPalette farben = seite().palette();
+    EXPECT_EQ(farben.color(QPalette::Inactive, QPalette::Highlight),
+              farben.color(QPalette::Active, QPalette::Highlight));
+    taste(Qt::Key_Escape);
+    taste(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(feld.selectedText(), "plz.txt") << "what is selected on the page";
+    QTest::keyClicks(&feld, "klima");
+    const auto zahl = seite().toPlainText().count(QStringLiteral("klima"), Qt::CaseInsensitive);
+    ASSERT_GE(zahl, 5);
+    const QString vom_anfang = "Weiter vom Anfang der Seite";
+    for (int i = 0; i <= 2 * zahl && meldung.text() != vom_anfang; ++i)
+        taste(i % 2 == 0 ? Qt::Key_Return : Qt::Key_F3);
+    EXPECT_EQ(meldung.text(), vom_anfang);
+    std::vector<int> stellen;
+    for (int i = 0; i < zahl; ++i) {
+        stellen.push_back(stelle());
+        EXPECT_TRUE(seite().viewport()->rect().contains(seite().cursorRect())) << i;
+        druecke("SucheVor");
+    }
+    EXPECT_TRUE(std::is_sorted(stellen.begin(), stellen.end(), std::less_equal<>()));
+    EXPECT_EQ(stelle(), stellen.front());
+    EXPECT_EQ(meldung.text(), vom_anfang);
+    QTest::keyClick(&feld, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(meldung.text(), "Weiter vom Ende der Seite");
+    QTest::keyClick(&feld, Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(stelle(), stellen.at(stellen.size() - 2));
+    EXPECT_EQ(meldung.text(), "");
+    QTest::keyClicks(&feld, "xyz");
+    EXPECT_EQ(meldung.text(), "Nicht gefunden");
+    druecke("SucheZurueck");
+    EXPECT_EQ(meldung.text(), "Nicht gefunden");
+    feld.clear();
+    taste(Qt::Key_F3);
+    EXPECT_EQ(meldung.text(), "") << "nothing is sought";
+    druecke("SucheSchliessen");
+    EXPECT_FALSE(feld.isVisible());
+    EXPECT_TRUE(seite().hasFocus());
+    taste(Qt::Key_F3);
+    EXPECT_TRUE(feld.isVisible());
+    taste(Qt::Key_Escape);
+    taste(Qt::Key_Escape);
+    EXPECT_FALSE(fenster().isVisible());
+}
 
-        QTest::keyClick(&seite(), Qt::Key_F, Qt::ControlModifier);
-        ASSERT_EQ(QApplication::focusWidget(), &feld);
-        QTest::keyClicks(&feld, "PLZ.tx");
-        const int getippt = stelle();
-        QTest::keyClicks(&feld, "t");
-        EXPECT_EQ(stelle(), getippt) << "a word that grows stays at its place";
-        EXPECT_EQ(seite().textCursor().selectedText(), "plz.txt");
-        feld.clear();
-        QTest::keyClicks(&feld, "klima");
-        const auto zahl = seite().toPlainText().count(QStringLiteral("klima"), Qt::CaseInsensitive);
-        ASSERT_GE(zahl, 5);
-        std::vector<int> stellen;
-        for (int i = 0; i <= 2 * zahl && meldung.text() != QLatin1String(fall.vom_anfang); ++i)
-            QTest::keyClick(&feld, i % 2 == 0 ? Qt::Key_Return : Qt::Key_F3);
-        EXPECT_EQ(meldung.text(), fall.vom_anfang);
-        for (int i = 0; i < zahl; ++i) {
-            stellen.push_back(stelle());
-            EXPECT_TRUE(seite().viewport()->rect().contains(seite().cursorRect())) << i;
-            QTest::keyClick(&feld, Qt::Key_F3);
+/// What stands on the window, with its keys.
+TEST_F(HilfefensterTest, SprichtDieSprache) {
+    for (const auto& [sprache, erwartet] :
+         {std::pair{"d",
+                    "← Zurück (Alt+Left)|→ Vor (Alt+Right)|Startseite (Alt+Home)|Suchen (Ctrl+F)|"
+                    "Nächste Stelle (F3, Eingabe)|Vorige Stelle (Umschalt+F3, Umschalt+Eingabe)|"
+                    "Schließen (Esc)|Auf dieser Seite suchen:"},
+          {"e",
+           "← Back (Alt+Left)|→ Forward (Alt+Right)|Start page (Alt+Home)|Find (Ctrl+F)|"
+           "Next (F3, Enter)|Previous (Shift+F3, Shift+Enter)|Close (Esc)|Find on this page:"}}) {
+        starte(sprache);
+        std::string texte;
+        for (const char* name :
+             {"Zurueck", "Vor", "Startseite", "Suchen", "SucheVor", "SucheZurueck", "SucheSchliessen"}) {
+            const auto* teil = fenster().findChild<QObject*>(QLatin1String(name));
+            const QString text = teil->property("text").toString();
+            const QString hilfe = teil->property("toolTip").toString();
+            const QString kurz = teil->property("shortcut").value<QKeySequence>().toString();
+            texte +=
+                (text + (kurz.isEmpty() ? hilfe.mid(hilfe.indexOf(" (")) : " (" + kurz + ")")).toStdString();
+            texte += "|";
+            EXPECT_TRUE(text.endsWith(hilfe.section(" (", 0, 0))) << hilfe.toStdString();
         }
-        EXPECT_TRUE(std::is_sorted(stellen.begin(), stellen.end(), std::less_equal<>()));
-        EXPECT_EQ(stelle(), stellen.front());
-        EXPECT_EQ(meldung.text(), fall.vom_anfang);
-        QTest::keyClick(&feld, Qt::Key_Return, Qt::ShiftModifier);
-        EXPECT_EQ(meldung.text(), fall.vom_ende);
-        QTest::keyClick(&feld, Qt::Key_F3, Qt::ShiftModifier);
-        EXPECT_EQ(stelle(), stellen.at(stellen.size() - 2));
-        EXPECT_EQ(meldung.text(), "");
-
-        QTest::keyClicks(&feld, "xyz");
-        EXPECT_EQ(meldung.text(), fall.fehlt);
-        klicke(*fenster().findChild<QAbstractButton*>(QStringLiteral("SucheZurueck")));
-        EXPECT_EQ(meldung.text(), fall.fehlt);
-        QTest::keyClick(&feld, Qt::Key_Escape);
-        EXPECT_FALSE(feld.isVisible());
-        EXPECT_TRUE(fenster().isVisible());
-        EXPECT_TRUE(seite().hasFocus());
-        QTest::keyClick(&seite(), Qt::Key_Escape);
-        EXPECT_FALSE(fenster().isVisible());
+        texte += fenster().findChild<QLineEdit*>("Suchtext")->accessibleName().toStdString();
+        EXPECT_EQ(texte, erwartet);
     }
 }
 
@@ -241,74 +250,42 @@ class HilfedateiTest : public HilfefensterTest {
 };
 
 TEST_F(HilfedateiTest, FehlendeUndBeschaedigteDateienWerdenGenannt) {
-    starte("e");
     const std::string deutsch = test::inhalt(ordner / "Velmaris_d.chm");
     const std::string deutsche_zeile = test::inhalt(ordner / "Velmaris_d.chm.sha256");
-    struct Fall {
-        const char* name;
-        std::optional<std::string> bytes;
-        std::optional<std::string> pruefzeile;
-        const char* grund;
-    };
-    for (const Fall& fall :
-         {Fall{"empty", "", zeile, "The help file is damaged."},
-          {"cut off", ganz.substr(0, ganz.size() - 1), zeile, "The help file is damaged."},
-          {"longer", ganz + '\0', zeile, "The help file is damaged."},
-          {"the other language", deutsch, zeile, "The help file is damaged."},
-          {"the other language as a whole", deutsch, deutsche_zeile, "The help file is damaged."},
-          {"empty checksum", ganz, "", "The help file is damaged."},
-          {"checksum and more", ganz, zeile + zeile, "The help file is damaged."},
-          {"no checksum", ganz, std::nullopt,
-           "The help file counts as damaged, since the file with its checksum is missing: "
-           "Velmaris_e.chm.sha256"},
-          {"no file", std::nullopt, zeile, "The help file was not found."}}) {
-        for (const auto& [ort, bytes] : {std::pair(datei, fall.bytes), std::pair(summe, fall.pruefzeile)}) {
+    const std::string beschaedigt = "The help file is damaged.";
+    const std::string ohne_summe =
+        "The help file counts as damaged, since the file with its checksum is missing: "
+        "Velmaris_e.chm.sha256";
+    using Bytes = std::optional<std::string>;
+    for (const auto& [bytes, pruefzeile, grund] :
+         {std::tuple<Bytes, Bytes, std::string>{"", zeile, beschaedigt},
+          {ganz.substr(0, ganz.size() - 1), zeile, beschaedigt},
+          {deutsch, deutsche_zeile, beschaedigt},
+          {ganz, zeile + zeile, beschaedigt},
+          {ganz, std::nullopt, ohne_summe},
+          {std::nullopt, zeile, "The help file was not found."}}) {
+        for (const auto& [ort, inhalt] : {std::pair(datei, bytes), std::pair(summe, pruefzeile)}) {
             std::filesystem::remove(ort);
-            if (bytes) std::ofstream(ort, std::ios::binary) << *bytes;
+            if (inhalt) std::ofstream(ort, std::ios::binary) << *inhalt;
         }
-        EXPECT_EQ(meldung_bei([&] { f1(such("E_Geometrie", "l_sb")); }), datei.string() + ": " + fall.grund)
-            << fall.name;
-        EXPECT_FALSE(fenster().isVisible()) << fall.name;
+        try {
+            (void)Hilfedatei(datei);
+            ADD_FAILURE() << grund;
+        } catch (const Dateifehler& fehler) {
+            EXPECT_EQ(fehler.text("e"), datei.string() + ": " + grund);
+            EXPECT_NE(fehler.text("d"), fehler.text("e"));
+        }
     }
+    starte("e");
+    EXPECT_EQ(meldung_bei([&] { f1(such("E_Geometrie", "l_sb")); }),
+              datei.string() + ": The help file was not found.");
+    EXPECT_FALSE(fenster().isVisible());
     std::ofstream(datei, std::ios::binary) << ganz;
     f1(such("E_Geometrie", "l_sb"));
     EXPECT_EQ(gezeigt(), "/E_Geometrie.html") << "once the file is back, so is the help";
-}
-
-TEST_F(HilfedateiTest, KeinVeraendertesByteKommtZumLeser) {
-    for (std::size_t ort = 0; ort < ganz.size(); ort += ort < 256 ? 1 : 499) {
-        std::string bytes = ganz;
-        bytes[ort] = static_cast<char>(bytes[ort] ^ (1 << ort % 8));
-        std::ofstream(datei, std::ios::binary) << bytes;
-        EXPECT_THROW((void)Hilfedatei(datei), Dateifehler) << ort;
-    }
-}
-
-TEST_F(HilfedateiTest, EineOffeneHilfeBleibtWieSieGeprueftWurde) {
-    starte("e");
-    menue("mnuQuestHilfe").trigger();
     std::ofstream(datei, std::ios::binary) << std::string(ganz.size(), '\x7f');
-    for (const char* name : {"/Sonne.html", "/Dateien.html", "/E_Klima.html", "/Stundensimulation.html"}) {
-        Q_EMIT seite().anchorClicked(QUrl(QLatin1String("chm:") + QLatin1String(name)));
-        EXPECT_EQ(gezeigt(), name);
-        EXPECT_GT(seite().document()->characterCount(), 300) << name;
-    }
-    const std::string zuletzt = gezeigt();
-    EXPECT_EQ(meldung_bei([&] { f1(such("E_Geometrie", "l_sb")); }),
-              datei.string() + ": The help file is damaged.");
-    EXPECT_EQ(gezeigt(), zuletzt);
-}
-
-TEST_F(HilfedateiTest, OhneOrtFuerDieKopieWirdDieserGenannt) {
-    const QByteArray vorher = qgetenv("TMPDIR");
-    qputenv("TMPDIR", summe.string().c_str());
-    try {
-        (void)Hilfedatei(datei);
-        ADD_FAILURE() << "this is no folder";
-    } catch (const Dateifehler& fehler) {
-        EXPECT_EQ(fehler.datei(), summe.string());
-    }
-    qputenv("TMPDIR", vorher);
+    Q_EMIT seite().anchorClicked(QUrl(QStringLiteral("chm:/Sonne.html")));
+    EXPECT_GT(seite().document()->characterCount(), 300) << "an open help stays as it was checked";
 }
 
 }  // namespace

@@ -1,18 +1,10 @@
 #include "climate/planes/E_Klimaimport.h"
-#include "desktop/platform/qt_text.h"
 #include "tests/climate/import/importprobe.h"
 #include "tests/desktop/programmprobe.h"
-#include "toolkit/text.h"
 
-#include <QComboBox>
 #include <QInputDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QRadioButton>
-#include <QTemporaryDir>
-#include <QTest>
 #include <gmock/gmock.h>
 
 namespace velmaris {
@@ -36,10 +28,11 @@ class KlimaimportTest : public test::Programmprobe {
 
     /// The window gets the keys, as window managers see to.
     void aktiviere() {
-        QWidget& fenster = such("Haupt", ebene);
-        fenster.activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &fenster; }));
+        fenster().activateWindow();
+        ASSERT_TRUE(aktiv(fenster()));
     }
+
+    [[nodiscard]] QWidget& fenster() { return such("Haupt", ebene); }
 
     /// Picks a source in the file dialog, by the mouse and the keyboard.
     void waehle_quelle(const std::string& name, const std::string& bytes) {
@@ -49,29 +42,12 @@ class KlimaimportTest : public test::Programmprobe {
     }
 
     void tippe(const char* feld, const char* text) {
-        auto& zeile = such<QLineEdit>(ebene, feld);
-        QTest::mouseClick(&zeile, Qt::LeftButton);
-        zeile.selectAll();
-        QTest::keyClicks(&zeile, QString::fromUtf8(text));
+        Programmprobe::tippe(such<QLineEdit>(ebene, feld), text);
     }
 
     void waehle(const char* liste, int zeile) { test::waehle_zeile(such<QComboBox>(ebene, liste), zeile); }
 
-    /// Presses the start button; the input box gets that name.
-    void starte_import(const QString& name) {
-        am_naechsten_dialog<QInputDialog>([=](QInputDialog& box) {
-            box.setTextValue(name);
-            QTest::keyClick(box.findChild<QLineEdit*>(), Qt::Key_Return);
-        });
-        klicke(such<QAbstractButton>(ebene, "Command2"));
-    }
-
-    [[nodiscard]] E_Klimaimport& e() { return programm->haupt().e_klimaimport; }
-
-    [[nodiscard]] std::string station(const std::string& name) const {
-        const auto datei = ordner / ("klima/" + name + ".met");
-        return std::filesystem::exists(datei) ? test::inhalt(datei) : std::string();
-    }
+    [[nodiscard]] E_Klimaimport& e() { return haupt().e_klimaimport; }
 };
 
 /// Columns with tabs between them: temperature, something else, total, diffuse.
@@ -82,255 +58,164 @@ std::string tabelle() {
     });
 }
 
-/// Columns with blanks between them, right-aligned.
-std::string spaltendatei() {
-    return "  Ta   Gh   Dh\n" + Quellbau{}.reihen([](const test::Quellwerte& w) {
-        std::string zeile;
-        for (const std::string& text : {test::dezimal(w.Ta), std::to_string(w.G_Gh), std::to_string(w.G_Dh)})
-            zeile += std::string(6 - text.size(), ' ') + text;
-        return zeile;
-    });
-}
-
 /// A source whose longitude and time zone do not fit each other.
 std::string ferne_zeitzone() {
     std::string text = Quellbau{}.epw();
     return text.replace(text.find("7.50,1.0"), 8, "-17.5,11");
 }
 
-/// The pictures are kept in the folder that VELMARIS_BILDER names, to be looked at.
-TEST_F(KlimaimportTest, NichtsIstAbgeschnitten) {
-    const QTemporaryDir fluechtig;
-    const QString zielordner = qEnvironmentVariable("VELMARIS_BILDER", fluechtig.path());
+TEST_F(KlimaimportTest, NichtsIstAbgeschnittenUndAllesAufDemSchirm) {
     struct Fall {
-        const char* bild;
         std::string quelle;
         const char* ort;
         int spalte;
     };
-    const std::vector<Fall> faelle{{"leer", "", "", 1},
-                                   {"tabulator", tabelle(), "Łódź, Zoo", 1},
-                                   {"spalten", spaltendatei(), "", 1},
-                                   {"meteonorm", Quellbau{}.meteonorm(), "", 1},
-                                   {"epw", Quellbau{}.epw(), "", 13},
-                                   {"zeitzone", ferne_zeitzone(), "Łódź, Zoo", 7}};
+    const std::vector<Fall> faelle{{"", "", 1},
+                                   {tabelle(), "Łódź, Zoo", 1},
+                                   {Quellbau{}.epw(), "", 13},
+                                   {ferne_zeitzone(), "Łódź, Zoo", 7}};
     for (const char* sprache : {"d", "e"}) {
         oeffne_fenster(sprache);
-        QWidget& fenster = such("Haupt", ebene);
+        const QPoint mitte = fenster().geometry().center();
+        EXPECT_LE(std::abs(mitte.x() - programm->fenster().geometry().center().x()), 120);
         for (const Fall& fall : faelle) {
             if (!fall.quelle.empty()) waehle_quelle("quelle.txt", fall.quelle);
-            if (fall.bild == std::string("spalten")) e().Datentrennung.setze(2);
             if (e().Kopfzeilen.text().empty()) e().Kopfzeilen.tippe("1");
             if (*fall.ort != '\0') e().Standortname.schreibe(fall.ort);
             e().AlleEingabenTesten();
             e().vorschau.HScroll1.bewege(fall.spalte);
             e().Fortschritt.zeige(fall.spalte > 1);
-            QTest::qWait(50);
-            EXPECT_LE(fenster.width(), 1024) << fall.bild;
-            EXPECT_LE(fenster.height(), 700) << fall.bild;
-            test::pruefe_platz(fenster, std::string(sprache) + " " + fall.bild);
-            const QString datei =
-                QStringLiteral("import_%1_%2.png").arg(QLatin1String(fall.bild), QLatin1String(sprache));
-            EXPECT_TRUE(fenster.grab().save(zielordner + QLatin1Char('/') + datei));
+            QApplication::processEvents();
+            EXPECT_EQ(fenster().width(), 1010);
+            EXPECT_LE(fenster().height(), 680);
+            EXPECT_TRUE(fenster().x() >= 0 && fenster().y() >= 0);
+            test::pruefe_platz(fenster(), sprache);
         }
     }
 }
 
+/// From above to below, each frame from the left.
 TEST_F(KlimaimportTest, DerFokusGehtVonObenNachUnten) {
     oeffne_fenster("d");
     waehle_quelle("quelle.txt", tabelle());
     e().Kopfzeilen.tippe("1");
     such<QLineEdit>(ebene, "DateinameBox").setFocus();
     std::vector<std::string> folge;
-    for (int i = 0; i < 30; ++i) {
-        const std::string name = utf8(QApplication::focusWidget()->objectName());
-        if (!folge.empty() && folge.front() == name) break;
-        folge.push_back(name);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    while (folge.size() < 30 && (folge.empty() || fokus() != folge.front())) {
+        folge.push_back(fokus());
+        taste(Qt::Key_Tab);
     }
     EXPECT_THAT(folge, ElementsAre("DateinameBox", "Command1", "Dateiansicht", "Datentrennung0", "Kopfzeilen",
                                    "Dezimalzeichen", "Standortname", "Land", "Breitengrad", "Breitezusatz",
                                    "Laengengrad", "Laengezusatz", "GMT", "Zeitzone", "Datenreihe1",
                                    "Datenreihe2", "Datenreihe3", "Datenreihe4", "Datenreihe5", "Datenreihe6",
                                    "VScroll1", "HScroll1", "Command3"));
+    for (const char* wort :
+         {"Kopfzeilen", "Dezimalzeichen", "Standortname", "Land", "Breitengrad", "Laengengrad"}) {
+        const QWidget& teil = such(ebene, wort);
+        const auto& schild = such<QLabel>(ebene, (std::string("Label_") + wort).c_str());
+        EXPECT_EQ(teil.accessibleName(), schild.text()) << wort;
+        EXPECT_LE(std::abs(teil.geometry().center().y() - schild.geometry().center().y()), 2) << wort;
+        EXPECT_GT(teil.x(), schild.geometry().right()) << wort;
+    }
+    EXPECT_TRUE(such(ebene, "Datenreihe2").accessibleName().endsWith(" 2"));
+    for (int i = 1; i <= 6; ++i) {
+        const std::string n = std::to_string(i);
+        const QRect liste = such(ebene, ("Datenreihe" + n).c_str()).geometry();
+        const QRect kopf = such(ebene, ("Spalte" + n).c_str()).geometry();
+        const QRect zelle = such(ebene, ("Zelle1_" + n).c_str()).geometry();
+        EXPECT_TRUE(kopf.bottom() < liste.top() && liste.bottom() < zelle.top()) << i;
+        EXPECT_TRUE(kopf.x() == liste.x() && liste.x() == zelle.x()) << i;
+        const QRect nummer = such(ebene, ("Zeilenzaehler" + n).c_str()).geometry();
+        const QRect erste = such(ebene, ("Zelle" + n + "_1").c_str()).geometry();
+        EXPECT_EQ(nummer.topRight() + QPoint(1, 0), erste.topLeft()) << i;
+    }
 }
 
 TEST_F(KlimaimportTest, JedesBedienelementWirkt) {
     oeffne_fenster("e");
     EXPECT_FALSE(such(ebene, "Frame2").isVisible());
-    EXPECT_FALSE(such(ebene, "Fortschritt").isVisible());
     waehle_quelle("quelle.txt", tabelle());
-    EXPECT_TRUE(such(ebene, "Frame2").isVisible());
     EXPECT_TRUE(such<QPlainTextEdit>(ebene, "Dateiansicht").toPlainText().startsWith("Kopf\n-15.0\tx\t0"));
-    EXPECT_EQ(p().Datei, pfadtext(ordner / "quelle.txt"));
-
     tippe("Kopfzeilen", "1x");
     EXPECT_EQ(such<QLineEdit>(ebene, "Kopfzeilen").text(), "1");
-    EXPECT_EQ(such<QLabel>(ebene, "Zelle1_1").text(), "-15.0");
-    EXPECT_EQ(such<QLabel>(ebene, "Zeilenzaehler1").text(), "2");
     for (const char* leiste : {"VScroll1", "HScroll1"}) {
         auto& feld = such<Scrollleiste>(ebene, leiste);
         QTest::mouseClick(&feld, Qt::LeftButton, {}, test::teil(feld, QStyle::SC_ScrollBarAddLine));
     }
     EXPECT_EQ(such<QLabel>(ebene, "Zeilenzaehler1").text(), "3");
-    EXPECT_EQ(such<QLabel>(ebene, "Spalte1").text(), "2");
     EXPECT_EQ(such<QLabel>(ebene, "Zelle1_2").text(), "42");
     waehle("Datenreihe6", 4);
     EXPECT_EQ(e().vorschau.Spaltenbelegung(7), 4);
-    QTest::keyClick(&such(ebene, "HScroll1"), Qt::Key_Left);
-    EXPECT_EQ(such<QComboBox>(ebene, "Datenreihe6").currentIndex(), 0);
-
-    for (const int option : {1, 2, 0}) {
-        auto& knopf = such<QRadioButton>(ebene, ("Datentrennung" + std::to_string(option)).c_str());
-        QTest::mouseClick(&knopf, Qt::LeftButton, {}, QPoint(8, knopf.height() / 2));
-        EXPECT_EQ(e().Datentrennung.gesetzt(), option);
-        EXPECT_EQ(e().vorschau.Spaltenzahl, option == 0 ? 8 : 1);
-    }
+    klicke(ebene, "Datentrennung1");
+    EXPECT_EQ(e().vorschau.Spaltenzahl, 1);
     for (const char* liste : {"Dezimalzeichen", "Breitezusatz", "Laengezusatz", "GMT"})
         waehle(liste, 1);
-    EXPECT_EQ(
-        e().Dezimalzeichen.index() + e().Breitezusatz.index() + e().Laengezusatz.index() + e().GMT.index(),
-        4);
-    const auto& start = such(ebene, "Command2");
-    for (const auto& [feld, text] : {std::pair{"Standortname", "Bern, Zoo"},
-                                     {"Land", "Schweiz"},
-                                     {"Breitengrad", "4a7-,3"},
-                                     {"Laengengrad", "8.5"},
-                                     {"Zeitzone", "1"}}) {
-        EXPECT_FALSE(start.isEnabled()) << feld;
-        tippe(feld, text);
+    const int gewaehlt = e().Dezimalzeichen.index() + e().Breitezusatz.index() + e().Laengezusatz.index();
+    EXPECT_EQ(gewaehlt + e().GMT.index(), 4);
+    for (const char* feld : {"Standortname", "Land", "Breitengrad", "Laengengrad", "Zeitzone"}) {
+        EXPECT_FALSE(such(ebene, "Command2").isEnabled()) << feld;
+        tippe(feld, "7a,3");
     }
-    EXPECT_TRUE(start.isEnabled());
+    EXPECT_TRUE(such(ebene, "Command2").isEnabled());
     auto& breite = such<QLineEdit>(ebene, "Breitengrad");
-    EXPECT_EQ(breite.text(), "47,3");
     QTest::keyClick(&breite, Qt::Key_Left);
     QTest::keyClicks(&breite, QStringLiteral("x5"));
-    EXPECT_EQ(breite.text(), "47,53") << "the cursor stays where it was";
-    EXPECT_TRUE(such<QLabel>(ebene, "Ortshinweis").text().startsWith("A comma in the name"));
-
+    EXPECT_EQ(breite.text(), "7,53") << "the cursor stays where it was";
     tippe("DateinameBox", (ordner / "fehlt.txt").string().c_str());
     antworte(QMessageBox::Ok, [](QMessageBox& box) {
-        EXPECT_EQ(box.windowTitle(), "Error");
         EXPECT_EQ(box.parentWidget()->objectName(), ebene) << "above the window that asks";
     });
     QTest::keyClick(&such(ebene, "DateinameBox"), Qt::Key_Return);
-    klicke(such<QAbstractButton>(ebene, "Command3"));
-    EXPECT_FALSE(such("Haupt", ebene).isVisible());
+    klicke(ebene, "Command3");
+    EXPECT_FALSE(fenster().isVisible());
 }
 
-TEST_F(KlimaimportTest, EineTabellenDateiWirdEineStation) {
+TEST_F(KlimaimportTest, EineErkannteDateiWirdEineStationDesNaechstenLaufs) {
     oeffne_fenster("d");
-    waehle_quelle("Mein Ort.txt", tabelle());
-    tippe("Kopfzeilen", "1");
-    for (const auto& [feld, text] : {std::pair{"Standortname", "Ort"},
-                                     {"Land", "Land"},
-                                     {"Breitengrad", "0.5"},
-                                     {"Laengengrad", "7"},
-                                     {"Zeitzone", "1"}})
-        tippe(feld, text);
-    antworte(QMessageBox::Ok, [](QMessageBox& box) {
-        EXPECT_EQ(box.text(), "Benötigt werden entweder Daten zur Gestamt- oder zur Direktstrahlung");
-    });
-    klicke(such<QAbstractButton>(ebene, "Command2"));
-    waehle("Datenreihe1", 1);
-    waehle("Datenreihe3", 2);
-    waehle("Datenreihe4", 4);
-    am_naechsten_dialog<QInputDialog>([](QInputDialog& box) {
-        EXPECT_EQ(box.textValue(), "Mein Ort");
-        EXPECT_TRUE(box.labelText().contains("'Ort (Land)'"));
-        antworte(QMessageBox::Ok, [](QMessageBox& meldung) {
-            EXPECT_EQ(meldung.text(),
-                      "Klimadatenimport beendet! Biite starten Sie Velmaris neu, um die gerade importierten "
-                      "Daten verwenden zu können.");
-        });
-        QTest::keyClick(box.findChild<QLineEdit*>(), Qt::Key_Return);
-    });
-    klicke(such<QAbstractButton>(ebene, "Command2"));
-    EXPECT_FALSE(such("Haupt", ebene).isVisible());
-    EXPECT_TRUE(
-        station("Mein Ort")
-            .starts_with("Ort (Land)\r\nBreitengrad:   0.5\r\nL\xE4ngengrad:   -7\r\nZeitzone:     -1\r\n\r\n"
-                         "   dy   Ta G_Gh G_Dh\r\n    1-15.0    0    0\r\n    1-11.3   42   13\r\n"));
-    EXPECT_EQ(test::zeilen(station("Mein Ort")).size(), 8766U);
-}
-
-TEST_F(KlimaimportTest, ErkannteDateienBrauchenWenigUndDerNeustartBietetSieAn) {
-    oeffne_fenster("d");
-    waehle_quelle("bern.dat", Quellbau{}.meteonorm());
-    tippe("Land", "Schweiz");
-    antworte(QMessageBox::Ok);
-    starte_import("Bern");
-    menue("mnuKlimaImportieren").trigger();
-    EXPECT_EQ(such<QLineEdit>(ebene, "Land").text(), "");
     waehle_quelle("bern.epw", Quellbau{}.epw());
     EXPECT_EQ(such<QLabel>(ebene, "Erkannt").text(),
               "Die Datei wurde als EnergyPlus-Wetterdatei (.epw) erkannt.");
-    const std::string meteonorm = station("Bern");
-    antworte(QMessageBox::No,
-             [](QMessageBox& box) { EXPECT_TRUE(box.text().startsWith("Der angegebene Dateiname wird")); });
-    starte_import("Bern");
-    EXPECT_EQ(station("Bern"), meteonorm);
-    EXPECT_TRUE(such("Haupt", ebene).isVisible());
-    antworte(QMessageBox::Ok);
-    starte_import("bümpliz");
-    EXPECT_NE(station("bümpliz"), "");
-
+    am_naechsten_dialog<QInputDialog>([&](QInputDialog& box) {
+        EXPECT_GE(box.findChild<QLineEdit*>()->width(), 400);
+        box.setTextValue("bümpliz");
+        antworte(QMessageBox::Ok, [&](QMessageBox& meldung) {
+            EXPECT_TRUE(meldung.text().startsWith("Klimadatenimport beendet!"));
+        });
+        QTest::keyClick(box.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    klicke(ebene, "Command2");
+    EXPECT_FALSE(fenster().isVisible());
     starte("e");
-    const double alt = p().qh;
-    klicke(such<QAbstractButton>("E_Menue", "Klima"));
-    programm->haupt().e_klima.Option.setze(nummer(Klimabereich::welt));
-    auto& liste = such<QComboBox>("E_Klima", "Klimaregionwahl2");
-    ASSERT_GE(liste.findText("Bern (CHE)"), 0);
-    test::waehle_zeile(liste, liste.findText("Bern (CHE)"));
+    haupt().e_klima.Option.setze(nummer(Klimabereich::welt));
+    const auto& liste = such<QComboBox>("E_Klima", "Klimaregionwahl2");
+    haupt().e_klima.Klimaregionwahl2.setze(liste.findText("Bern (CHE)"));
     EXPECT_EQ(p().Klimadatei, "bümpliz.met");
-    const double neu = p().qh;
-    EXPECT_NE(neu, alt);
-    test::waehle_datei(ordner / "haus.vel");
-    menue("mnuFileunter").trigger();
-    menue("mnuFileNeu").trigger();
-    EXPECT_EQ(p().Klimadatei, "trier.met");
-    test::waehle_datei(ordner / "haus.vel");
-    menue("mnuFileOeffnen").trigger();
-    EXPECT_EQ(p().Klimadatei, "bümpliz.met");
-    EXPECT_EQ(p().qh, neu);
 }
 
 TEST_F(KlimaimportTest, EinAbbruchLaesstKeineDatei) {
     oeffne_fenster("d");
     waehle_quelle("bern.epw", Quellbau{}.epw());
-    auto& fenster = such("Haupt", ebene);
     for (const bool schliessen : {false, true}) {
         bool gesehen = false;
-        QTimer::singleShot(0, &fenster, [&] {
+        QTimer::singleShot(0, &fenster(), [&] {
             gesehen = true;
-            EXPECT_TRUE(such<QProgressBar>(ebene, "Fortschritt").isVisible());
+            const auto& balken = such<QProgressBar>(ebene, "Fortschritt");
+            EXPECT_TRUE(balken.isVisible() && balken.value() >= 0 && balken.value() < balken.maximum());
             for (const char* gesperrt :
-                 {"DateinameBox", "Command1", "Datentrennung0", "Kopfzeilen", "Dezimalzeichen", "Land", "GMT",
-                  "Datenreihe1", "VScroll1", "HScroll1", "Command2"})
+                 {"DateinameBox", "Command1", "Datentrennung0", "Land", "GMT", "Datenreihe1", "Command2"})
                 EXPECT_FALSE(such(ebene, gesperrt).isEnabled()) << gesperrt;
-            schliessen ? static_cast<void>(fenster.close())
-                       : klicke(such<QAbstractButton>(ebene, "Command3"));
+            schliessen ? static_cast<void>(fenster().close()) : klicke(ebene, "Command3");
         });
-        klicke(such<QAbstractButton>(ebene, "Command2"));
+        klicke(ebene, "Command2");
         EXPECT_TRUE(gesehen);
-        EXPECT_TRUE(fenster.isVisible());
+        EXPECT_TRUE(fenster().isVisible());
         EXPECT_FALSE(such(ebene, "Fortschritt").isVisible());
         EXPECT_TRUE(such(ebene, "Command2").isEnabled());
-        EXPECT_TRUE(such(ebene, "Datenreihe1").isEnabled());
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ordner / "klima"), {}), 2);
-    QTest::keyClick(&fenster, Qt::Key_Escape);
-    EXPECT_FALSE(fenster.isVisible());
-}
-
-TEST_F(KlimaimportTest, F1ZeigtSeineHilfe) {
-    oeffne_fenster("d");
-    std::string gezeigt;
-    programm->plattform().hilfe_zeigen = [&](const std::filesystem::path&, const std::string& seite) {
-        gezeigt = seite;
-    };
-    QTest::keyClick(&such("Haupt", ebene), Qt::Key_F1);
-    EXPECT_EQ(gezeigt, ebene);
+    QTest::keyClick(&fenster(), Qt::Key_Escape);
+    EXPECT_FALSE(fenster().isVisible());
 }
 
 }  // namespace

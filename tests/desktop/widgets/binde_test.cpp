@@ -4,17 +4,13 @@
 #include "tests/desktop/bedienung.h"
 
 #include <QAbstractItemView>
-#include <QAction>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
-#include <memory>
 
 namespace velmaris {
 namespace {
@@ -40,41 +36,22 @@ TEST_F(Binde, ScrollfeldInBeideRichtungenOhneSchleife) {
     Scrollfeld feld("l_sb", 20, 500, 10, 20);
     Scrollleiste leiste(Qt::Horizontal, &fenster);
     std::vector<int> stellungen;
-    feld.geaendert = [&] { stellungen.push_back(feld.position()); };
+    feld.geaendert = [&] {
+        stellungen.push_back(feld.position());
+        if (feld.position() == 490) feld.setze(470);  // as the set temperature does at its limit
+    };
     binder.binde(leiste, feld);
-    EXPECT_EQ(leiste.objectName(), "l_sb");
     EXPECT_EQ(leiste.accessibleName(), "l_sb");
     EXPECT_EQ(leiste.value(), 20);
-
     feld.setze(100);
-    EXPECT_EQ(leiste.value(), 100);
-    QTest::keyClick(&leiste, Qt::Key_Right);
-    QTest::keyClick(&leiste, Qt::Key_End);
-    QTest::keyClick(&leiste, Qt::Key_Right);
-    EXPECT_EQ(stellungen, (std::vector{100, 110, 500}));
-
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_End, Qt::Key_Right, Qt::Key_Left})
+        QTest::keyClick(&leiste, key);
+    EXPECT_EQ(stellungen, (std::vector{100, 110, 500, 490, 470}));
+    EXPECT_EQ(leiste.sliderPosition(), 470);
     feld.bereich(0, 50);
     EXPECT_EQ(leiste.maximum(), 50);
     EXPECT_EQ(leiste.value(), 50);
-    feld.aktiviere(false);
-    EXPECT_FALSE(leiste.isEnabled());
-    feld.zeige(false);
-    EXPECT_TRUE(leiste.isHidden());
-    EXPECT_EQ(stellungen.size(), 3U);
-}
-
-TEST_F(Binde, HandlerDerSeinFeldZurueckstelltBehaeltRecht) {
-    Scrollfeld feld("Troom_sb", -100, 400, 20, 200);
-    Scrollleiste leiste(Qt::Horizontal, &fenster);
-    feld.geaendert = [&] {
-        if (feld.position() >= 270) feld.setze(269);
-    };
-    binder.binde(leiste, feld);
-    feld.setze(260);
-    QTest::keyClick(&leiste, Qt::Key_Right);
-    EXPECT_EQ(feld.position(), 269);
-    EXPECT_EQ(leiste.value(), 269);
-    EXPECT_EQ(leiste.sliderPosition(), 269);
+    EXPECT_EQ(stellungen.size(), 5U);
 }
 
 TEST_F(Binde, FehlerImHandlerKommtAnUndDieBedienungGehtWeiter) {
@@ -89,14 +66,16 @@ TEST_F(Binde, FehlerImHandlerKommtAnUndDieBedienungGehtWeiter) {
     binder.binde(leiste, feld);
     binder.binde(schalter, knopf);
     QTest::keyClick(&leiste, Qt::Key_Right);
-    ASSERT_EQ(fehlertexte.size(), 1U);
-    EXPECT_EQ(fehlertexte[0], Laufzeitfehler({"Überlauf", "overflow"}, "h").text("d"));
     EXPECT_EQ(leiste.value(), feld.position());
     QTest::keyClick(&leiste, Qt::Key_Right);
     EXPECT_EQ(feld.position(), 2);
-    QTest::mouseClick(&schalter, Qt::LeftButton);
-    ASSERT_EQ(fehlertexte.size(), 2U);
+    schalter.click();
+    knopf.gedrueckt = [] { throw std::bad_alloc(); };
+    schalter.click();
+    ASSERT_EQ(fehlertexte.size(), 3U);
+    EXPECT_EQ(fehlertexte[0], Laufzeitfehler({"Überlauf", "overflow"}, "h").text("d"));
     EXPECT_EQ(fehlertexte[1], "unforeseen");
+    EXPECT_TRUE(fehlertexte[2].find("Speicher") != std::string::npos) << fehlertexte[2];
 }
 
 TEST_F(Binde, AuswahllisteMeldetAuchDieWahlDerSelbenZeile) {
@@ -109,25 +88,17 @@ TEST_F(Binde, AuswahllisteMeldetAuchDieWahlDerSelbenZeile) {
     kasten.show();
     EXPECT_EQ(kasten.count(), 3);
     EXPECT_EQ(kasten.currentIndex(), -1);
-
-    const auto waehle = [&](int zeile) {
-        kasten.showPopup();
-        QAbstractItemView* ansicht = kasten.view();
-        ansicht->setCurrentIndex(kasten.model()->index(zeile, 0));
-        QTest::keyClick(ansicht, Qt::Key_Return);
-    };
-    waehle(1);
-    waehle(1);
-    EXPECT_EQ(gewaehlt, (std::vector{1, 1}));
+    EXPECT_EQ(kasten.accessibleName(), "ugd");
+    test::waehle_zeile(kasten, 1);
+    test::waehle_zeile(kasten, 1);
     QTest::keyClick(&kasten, Qt::Key_Down);
     EXPECT_EQ(gewaehlt, (std::vector{1, 1, 2}));
-
     liste.markiere(0);
     EXPECT_EQ(kasten.currentText(), "eins");
-    EXPECT_EQ(gewaehlt.size(), 3U);
+    EXPECT_EQ(kasten.placeholderText(), "");
     liste.fuelle({"neu"});
     EXPECT_EQ(kasten.count(), 1);
-    EXPECT_EQ(gewaehlt.size(), 3U) << "filling is no choice";
+    EXPECT_EQ(gewaehlt.size(), 3U) << "neither marking nor filling is a choice";
 }
 
 TEST_F(Binde, AuswahllisteZeigtFremdenTextUndLangeZeilenGanz) {
@@ -141,56 +112,29 @@ TEST_F(Binde, AuswahllisteZeigtFremdenTextUndLangeZeilenGanz) {
     EXPECT_EQ(kasten.currentIndex(), -1);
     EXPECT_EQ(kasten.placeholderText(), "Reykjavik");
     EXPECT_EQ(kasten.toolTip(), "Reykjavik");
+    EXPECT_EQ(kasten.palette().color(QPalette::PlaceholderText),
+              kasten.palette().color(QPalette::ButtonText));
     kasten.show();
     kasten.showPopup();
-    EXPECT_GE(kasten.view()->viewport()->width(),
-              kasten.fontMetrics().horizontalAdvance(QString::fromStdString(lang)));
+    const int noetig = kasten.fontMetrics().horizontalAdvance(QString::fromStdString(lang));
+    EXPECT_GE(kasten.view()->viewport()->width(), noetig);
+    EXPECT_LE(kasten.view()->width(), noetig + 60);
     EXPECT_EQ(kasten.width(), 90);
-    kasten.hidePopup();
-    liste.markiere(1);
-    EXPECT_EQ(kasten.currentText().toStdString(), lang);
-}
-
-TEST_F(Binde, PruefeldMitMausUndLeertaste) {
-    Pruefeld feld("Check_Dachgeschoss");
-    QCheckBox kasten("Dach", &fenster);
-    kasten.show();
-    int gefeuert = 0;
-    feld.geklickt = [&] { ++gefeuert; };
-    binder.binde(kasten, feld);
-    QTest::mouseClick(&kasten, Qt::LeftButton, {}, QPoint(8, kasten.height() / 2));
-    EXPECT_EQ(feld.wert(), 1);
-    QTest::keyClick(&kasten, Qt::Key_Space);
-    EXPECT_EQ(feld.wert(), 0);
-    feld.setze(1);
-    EXPECT_TRUE(kasten.isChecked());
-    feld.markiere(0);
-    EXPECT_FALSE(kasten.isChecked());
-    EXPECT_EQ(gefeuert, 3);
 }
 
 TEST_F(Binde, OptionenSindEineOderKeine) {
     Optionsgruppe gruppe("Option_Dachfirst", 1, 2);
-    QRadioButton erste("NS", &fenster);
-    QRadioButton zweite("OW", &fenster);
-    erste.show();
-    zweite.move(0, 30);
-    zweite.show();
+    QRadioButton erste(&fenster);
+    QRadioButton zweite(&fenster);
     std::vector<int> geklickt;
     gruppe.geklickt = [&](int option) { geklickt.push_back(option); };
     const std::array knoepfe{&erste, &zweite};
     binder.binde(knoepfe, gruppe);
-    EXPECT_EQ(erste.objectName(), "Option_Dachfirst1");
-    EXPECT_EQ(zweite.objectName(), "Option_Dachfirst2");
     EXPECT_FALSE(erste.isChecked() || zweite.isChecked());
-
-    QTest::mouseClick(&zweite, Qt::LeftButton, {}, QPoint(8, zweite.height() / 2));
-    EXPECT_EQ(gruppe.gesetzt(), 2);
-    QTest::mouseClick(&zweite, Qt::LeftButton, {}, QPoint(8, zweite.height() / 2));
-    QTest::keyClick(&zweite, Qt::Key_Up);
-    EXPECT_EQ(geklickt, (std::vector{2, 1}));
+    zweite.click();
+    zweite.click();
+    erste.click();
     EXPECT_TRUE(erste.isChecked() && !zweite.isChecked());
-
     gruppe.markiere(std::nullopt);
     EXPECT_FALSE(erste.isChecked() || zweite.isChecked());
     gruppe.setze(1);
@@ -204,7 +148,6 @@ TEST_F(Binde, AnzeigeMitTextFarbeUndPlatz) {
     Anzeige anzeige("av_anz", "0.62 ");
     QLabel schild(&fenster);
     binder.binde(schild, anzeige, 1.0 / 15);
-    EXPECT_EQ(schild.text(), "0.62 ");
     anzeige.schreibe("Monat: Mai\r1.0 <b>\r\n2.0");
     EXPECT_EQ(schild.text(), "Monat: Mai\n1.0 <b>\n2.0");
     EXPECT_EQ(schild.textFormat(), Qt::PlainText);
@@ -213,7 +156,6 @@ TEST_F(Binde, AnzeigeMitTextFarbeUndPlatz) {
     const auto schriftfarbe = [&] { return schild.palette().color(schild.foregroundRole()); };
     EXPECT_EQ(schriftfarbe(), gewoehnlich);
     anzeige.faerbe(farben::rot);
-    EXPECT_EQ(schriftfarbe(), QColor(255, 0, 0));
     anzeige.verberge(true);
     EXPECT_EQ(schriftfarbe(), fenster.palette().color(QPalette::Window));
     anzeige.verberge(false);
@@ -226,57 +168,6 @@ TEST_F(Binde, AnzeigeMitTextFarbeUndPlatz) {
     const int schmal = schild.width();
     anzeige.schreibe("ein viel längerer Text als zuvor, damit das Schild wächst");
     EXPECT_GT(schild.width(), schmal);
-    anzeige.zeige(false);
-    EXPECT_TRUE(schild.isHidden());
-}
-
-TEST_F(Binde, KnopfRahmenUndFenster) {
-    Knopf knopf("Command_HR0");
-    QPushButton schalter("Nord", &fenster);
-    schalter.show();
-    int gedrueckt = 0;
-    knopf.gedrueckt = [&] { ++gedrueckt; };
-    binder.binde(schalter, knopf);
-    EXPECT_EQ(schalter.text(), "Nord");
-    knopf.schreibe("north");
-    EXPECT_EQ(schalter.text(), "north");
-    QTest::mouseClick(&schalter, Qt::LeftButton);
-    QTest::keyClick(&schalter, Qt::Key_Space);
-    EXPECT_EQ(gedrueckt, 2);
-    knopf.aktiviere(false);
-    QTest::mouseClick(&schalter, Qt::LeftButton);
-    EXPECT_EQ(gedrueckt, 2);
-
-    Anzeige titel("Frame8", "mittlerer g-Wert");
-    QGroupBox rahmen(&fenster);
-    binder.binde(rahmen, titel);
-    EXPECT_EQ(rahmen.title(), "mittlerer g-Wert");
-    Feld ebene("E_Fenster");
-    QWidget flaeche(&fenster);
-    binder.binde(flaeche, ebene);
-    EXPECT_FALSE(flaeche.isHidden());
-    ebene.zeige(false);
-    EXPECT_TRUE(flaeche.isHidden());
-    EXPECT_EQ(flaeche.objectName(), "E_Fenster");
-}
-
-TEST_F(Binde, MenuepunktMitHaekchen) {
-    Menuepunkt punkt("mnuSpracheDeutsch");
-    QAction eintrag;
-    int gedrueckt = 0;
-    punkt.gedrueckt = [&] { ++gedrueckt; };
-    punkt.schreibe("&Deutsch");
-    binder.binde(eintrag, punkt);
-    EXPECT_EQ(eintrag.objectName(), "mnuSpracheDeutsch");
-    EXPECT_EQ(eintrag.text(), "&Deutsch");
-    EXPECT_FALSE(eintrag.isChecked());
-    punkt.kreuze_an(true);
-    EXPECT_TRUE(eintrag.isChecked());
-    eintrag.trigger();
-    EXPECT_EQ(gedrueckt, 1);
-    EXPECT_TRUE(eintrag.isChecked()) << "the click itself changes no mark";
-    punkt.aktiviere(false);
-    EXPECT_FALSE(eintrag.isEnabled());
 }
 
 TEST_F(Binde, FelderUeberlebenIhreWidgets) {
@@ -285,11 +176,9 @@ TEST_F(Binde, FelderUeberlebenIhreWidgets) {
     Optionsgruppe gruppe("Option1", 0, 2);
     {
         QWidget ebene(&fenster);
-        auto* leiste = new Scrollleiste(Qt::Horizontal, &ebene);
-        auto* kasten = new QComboBox(&ebene);
         const std::array knoepfe{new QRadioButton(&ebene), new QRadioButton(&ebene)};
-        binder.binde(*leiste, feld);
-        binder.binde(*kasten, liste);
+        binder.binde(*new Scrollleiste(Qt::Horizontal, &ebene), feld);
+        binder.binde(*new QComboBox(&ebene), liste);
         binder.binde(knoepfe, gruppe);
     }
     EXPECT_FALSE(feld.ansicht);
@@ -309,7 +198,6 @@ TEST_F(Binde, FokusstellungIstDieDesBenutztenFeldes) {
     std::optional<int> im_handler;
     feld.geaendert = [&] { im_handler = fokusstellung(fenster); };
     anderes.setFocus();
-    EXPECT_EQ(fokusstellung(fenster), std::nullopt);
     feld.setze(30);
     EXPECT_EQ(im_handler, std::nullopt);
     QTest::mouseClick(&leiste, Qt::LeftButton, {}, test::teil(leiste, QStyle::SC_ScrollBarAddLine));
