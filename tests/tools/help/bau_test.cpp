@@ -25,7 +25,7 @@ class Hilfebau : public testing::Test {
     Hilfebau() {
         ordner.schreibe("inhalt.txt", "index\n# Ebenen | Planes\nTuer\r\nDach\n");
         ordner.schreibe("d/index.html", quelle("Start", "Anfang", "<!-- inhalt --><!-- blaettern -->"));
-        ordner.schreibe("d/Tuer.html", quelle("Tür", "Überstand; Zarge", "<!-- blaettern -->"));
+        ordner.schreibe("d/Tuer.html", quelle("Tür", "Überstand; Zarge; Öffnung", "<!-- blaettern -->"));
         ordner.schreibe("d/Dach.html", quelle("Dach", "Traufe; Änderung", "<!-- blaettern -->"));
     }
 
@@ -46,7 +46,7 @@ TEST_F(Hilfebau, OrdnetDieSeitenNachDemInhalt) {
     EXPECT_EQ(inhalt[1].titel, "Ebenen");
     ASSERT_EQ(inhalt[1].seiten.size(), 2U);
     EXPECT_EQ(inhalt[1].seiten[0].titel, "Tür");
-    EXPECT_THAT(inhalt[1].seiten[0].stichworte, testing::ElementsAre("Überstand", "Zarge"));
+    EXPECT_THAT(inhalt[1].seiten[0].stichworte, testing::ElementsAre("Überstand", "Zarge", "Öffnung"));
     const std::string baum = chm_inhalt(inhalt);
     const std::size_t kapitel = baum.find("value=\"Ebenen\"></object>\n<ul>\n");
     EXPECT_NE(kapitel, std::string::npos);
@@ -65,7 +65,7 @@ TEST_F(Hilfebau, VerbindetNachbarnUndInhalt) {
 
 TEST_F(Hilfebau, ReihtStichworteNachDemAlphabetDerLeser) {
     std::string index = chm_stichworte(inhalt_lesen(ordner.pfad(), "d"));
-    for (const char* wort : {"Änderung", "Anfang", "Traufe", "Überstand", "Zarge"}) {
+    for (const char* wort : {"Änderung", "Anfang", "Öffnung", "Traufe", "Überstand", "Zarge"}) {
         const std::size_t stelle = index.find(wort);
         ASSERT_NE(stelle, std::string::npos) << wort;
         index.erase(0, stelle);

@@ -30,6 +30,7 @@ TEST(HilfeTabellen, NennenWasDieTabellenDesProgrammsSagen) {
         {"e", "E_Geometrie", "number of floors | 1 to 20 | 1 | 2 * | &ndash; | 2"},
         {"e", "E_Geometrie", "deviation from south direction | &minus;45 to 45 | 5 | 1 | ° | 0"},
         {"d", "E_Fenster", "Wandanteil | 0 bis 100 | 5 | 5 | % | 5 / 40 / 5 / 5"},
+        {"e", "E_Fenster", "shading | 0 to 100 | 5 | 20 | % | 20"},
         {"e", "E_Gebaeude", "indoor set temperature | &minus;10.0 to 40.0 | 2.0 | 20.0 | °C | 20.0"},
         {"d", "Eingaben", "g-Wert | 0,00 bis 1,00 | 0,05 | 0,20 | &ndash; | 0,58 | gfn, gfs, gfo, gfw"},
         {"e", "Eingaben", "U-value of the door | 0.0 to 20.0 | 1.0 | 1.5 | W/(m² K) | 1.5 | kt"},
@@ -42,11 +43,22 @@ TEST(HilfeTabellen, NennenWasDieTabellenDesProgrammsSagen) {
         // From the catalogues; lines of a project file stand below each other, four columns of 17.
         {"d", "E_Fenster", "0 | Einfachverglasung | 5,8 | 0,92 | 3,5"},
         {"e", "E_Energie", "8 | electric direct heating | 1 electricity (3.0) | 1.00"},
+        {"e", "E_Energie",
+         "6 | district heat, boiler and distribution inside the thermal zone | 1 heat from combined heat and "
+         "power "
+         "system, fossil fuels (0.7)2 heat from combined heat and power system, renew. energy (0.0)3 heat "
+         "from "
+         "thermal power station, fossil fuels (1.3)4 heat from thermal power station, renewable energy (0.1) "
+         "| 1.01"},
         {"d", "Dateien", "2 | l | 19 | fensterw_typ | 36 | verschn | 53 | gfs"},
         {"d", "Dateien", "18 | fenstero_typ | 35 | fw | 52 | gfn | 69 | Waermebruecken"},
     };
     for (const auto& [sprache, seite, zeile] : faelle)
         EXPECT_THAT(tabellenzeilen(sprache, seite), Contains(zeile));
+    for (const std::string& zeile : tabellenzeilen("e", "Eingaben")) {
+        for (const char* deutsch : {"ä", "ö", "ü", "Ü", "ß"})
+            EXPECT_THAT(zeile, testing::Not(HasSubstr(deutsch)));
+    }
 }
 
 TEST(HilfeErgebnisse, NennenNurGroessenDieEsGibt) {
