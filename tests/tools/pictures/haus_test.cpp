@@ -64,8 +64,10 @@ TEST(Hausbilder, ZeigenIhreDachform) {
         EXPECT_NE(bild->bei(110, 160), bild->bei(30, 130));
     }
     EXPECT_EQ(flach.bei(60, 50), grund);
-    // The facade is 10 m long at 10.8 pixels and 6.75 m high at 12; its edges are dark.
-    for (const auto& [x, y] : {std::pair{60, 130}, {168, 130}, {110, 169}, {110, 88}})
+    // The edges are dark: the facade is 10 m long at 10.8 pixels and 6.75 m high at 12, and the depth of 10 m
+    // goes 5.5 pixels to the left and 3 upward.
+    for (const auto& [x, y] :
+         {std::pair{60, 130}, {168, 130}, {110, 169}, {110, 88}, {5, 100}, {60, 58}, {33, 154}, {141, 73}})
         EXPECT_LT(flach.bei(x, y).r, 200) << x << ", " << y;
     for (const Farbe anders : {grund, flach.bei(110, 160), flach.bei(30, 130)})
         EXPECT_NE(flach.bei(87, 73), anders) << "the roof above the facades";
