@@ -1,6 +1,5 @@
 #include "planes/E_Fenster.h"
 
-#include "project/feldtabelle.h"
 #include "project/projektdatei.h"
 #include "tests/testprogramm.h"
 #include "toolkit/text.h"
@@ -32,30 +31,27 @@ class EFenster : public testing::Test {
 };
 
 TEST_F(EFenster, TypSetztDieDreiWerteUndDenGesamtwert) {
+    const std::array<std::array<float, 4>, 8> werte{{{5.8F, 0.92F, 3.5F, 5.34F},  // 0.8 x 5.8 + 0.2 x 3.5
+                                                     {3, 0.8F, 2.8F, 2.96F},
+                                                     {1.9F, 0.7F, 2, 1.92F},
+                                                     {1.4F, 0.58F, 1.5F, 1.42F},
+                                                     {1, 0.52F, 1.5F, 1.1F},
+                                                     {0.7F, 0.51F, 0.7F, 0.7F},
+                                                     {0.5F, 0.51F, 0.7F, 0.54F},
+                                                     {0.5F, 0.51F, 0.7F, 0.54F}}};
     e().Option1.setze(1);
-    rechnungen = 0;
-    e().nord.typ.setze(5);
-    EXPECT_EQ(rechnungen, 1);
-    EXPECT_EQ(p().fenstern_typ, 5);
-    EXPECT_EQ(p().kfgn, 0.7F);
-    EXPECT_EQ(p().gfn, 0.51F);
-    EXPECT_EQ(p().kfrn, 0.7F);
-    EXPECT_FLOAT_EQ(p().kfn, 0.7F);
+    for (std::size_t zeile = 0; zeile < werte.size(); ++zeile) {
+        rechnungen = 0;
+        e().nord.typ.setze(static_cast<int>(zeile));
+        EXPECT_EQ(rechnungen, 1);
+        EXPECT_EQ(p().FormLoadGuard, 0);
+        EXPECT_EQ(p().fenstern_typ, static_cast<int>(zeile));
+        EXPECT_EQ((std::array{p().kfgn, p().gfn, p().kfrn}),
+                  (std::array{werte[zeile][0], werte[zeile][1], werte[zeile][2]}));
+        EXPECT_FLOAT_EQ(p().kfn, werte[zeile][3]);
+    }
     EXPECT_EQ(p().kfgs, 1.4F);
-    EXPECT_EQ(e().nord.kfg.anz.text(), "0.70");
-    EXPECT_EQ(p().FormLoadGuard, 0);
-}
-
-TEST_F(EFenster, GesamtwertMischtGlasUndRahmen) {
-    e().Option1.setze(1);
-    e().ost.kfg.sb.setze(200);
-    e().ost.kfr.sb.setze(300);
-    e().ost.ra.sb.setze(30);
-    EXPECT_NEAR(p().kfo, 0.7 * 2.0 + 0.3 * 3.0, 1e-6);
-    e().ost.ra.sb.setze(0);
-    EXPECT_FLOAT_EQ(p().kfo, 2.0F);
-    e().ost.ra.sb.setze(100);
-    EXPECT_FLOAT_EQ(p().kfo, 3.0F);
+    EXPECT_EQ(e().nord.typ.text(), "Sonstiges");
 }
 
 TEST_F(EFenster, GleicheFensterFolgenDerSuedseiteInEinerRechnung) {
@@ -69,15 +65,6 @@ TEST_F(EFenster, GleicheFensterFolgenDerSuedseiteInEinerRechnung) {
     for (const std::int16_t typ : {p().fenstern_typ, p().fenstero_typ, p().fensterw_typ})
         EXPECT_EQ(typ, 0);
     EXPECT_EQ(p().kfgw, 5.8F);
-}
-
-TEST_F(EFenster, EinzelneFensterKopierenNichts) {
-    e().Option1.setze(1);
-    rechnungen = 0;
-    e().sued.versch.sb.setze(50);
-    EXPECT_EQ(rechnungen, 1);
-    EXPECT_EQ(p().verschs, 0.5F);
-    EXPECT_EQ(p().verschn, 0.2F);
 }
 
 TEST_F(EFenster, VonHandBewegtHeisstSonstiges) {
@@ -95,39 +82,23 @@ TEST_F(EFenster, VonHandBewegtHeisstSonstiges) {
 
 /// The scroll field with the focus follows the project that comes, as all others do.
 TEST_F(EFenster, LadenIstKeineBewegungVonHand) {
-    constexpr std::array typzeilen{"fenstern_typ", "fensters_typ", "fenstero_typ", "fensterw_typ"};
-    using Typen = std::array<std::int16_t, 4>;
+    const auto neu = test::projektzeilen(p());
+    auto andere = neu;
+    for (const auto& [zeile, typ] : {std::pair(16, "0"), {17, "1"}, {18, "5"}, {19, "6"}, {62, "1"}})
+        andere[static_cast<std::size_t>(zeile - 1)] = typ;
+    const auto haus = programm.ordner.schreibe("haus.vel", test::projekttext(andere));
     const auto typen = [this] {
-        return Typen{p().fenstern_typ, p().fensters_typ, p().fenstero_typ, p().fensterw_typ};
+        return std::array{p().fenstern_typ, p().fensters_typ, p().fenstero_typ, p().fensterw_typ};
     };
-    const auto lade = [this](const std::function<void()>& tu) {
-        e().ebene.zeige(true);
-        tu();
-    };
-    FILEIO& datei = programm.haupt->datei;
-    const std::vector<std::string> neu = test::projektzeilen(p());
-    for (int fall = 0; fall < 2 * typ_sonstiges; ++fall) {
-        const int modus = fall % 2;
-        std::vector<std::string> zeilen = neu;
-        const auto setze = [&](std::string_view feld, int wert) {
-            zeilen[static_cast<std::size_t>(feld_suchen(feld)->zeile) - 1] = std::to_string(wert);
-        };
-        setze("Option1", modus);
-        Typen erwartet{};
-        for (std::size_t i = 0; i < typzeilen.size(); ++i) {
-            const auto versatz = modus == 1 ? static_cast<int>(i) : 0;
-            erwartet[i] = static_cast<std::int16_t>((fall / 2 + versatz) % typ_sonstiges);
-            setze(typzeilen[i], erwartet[i]);
-        }
-        const auto haus = programm.ordner.schreibe("haus.vel", test::projekttext(zeilen));
-        for (const Fensterseite* seite : {&e().nord, &e().sued, &e().ost, &e().west}) {
-            for (const Fensterschieber* schieber : {&seite->gf, &seite->kfg, &seite->kfr}) {
-                e().fokusstellung = [schieber] { return std::optional(schieber->sb.position()); };
-                lade([&] { datei.datei_oeffnen(pfadtext(haus)); });
-                EXPECT_EQ(typen(), erwartet) << schieber->sb.name << " " << fall;
-                lade([&] { datei.datei_neu(); });
-                EXPECT_EQ(typen(), (Typen{3, 3, 3, 3})) << schieber->sb.name << " " << fall;
-            }
+    for (const Fensterseite* seite : {&e().nord, &e().sued, &e().ost, &e().west}) {
+        for (const Fensterschieber* schieber : {&seite->gf, &seite->kfg, &seite->kfr}) {
+            e().fokusstellung = [schieber] { return std::optional(schieber->sb.position()); };
+            e().ebene.zeige(true);
+            programm.haupt->datei.datei_oeffnen(pfadtext(haus));
+            EXPECT_EQ(typen(), (std::array<std::int16_t, 4>{0, 1, 5, 6})) << schieber->sb.name;
+            e().ebene.zeige(true);
+            programm.haupt->datei.datei_neu();
+            EXPECT_EQ(typen(), (std::array<std::int16_t, 4>{3, 3, 3, 3})) << schieber->sb.name;
         }
     }
 }
@@ -142,30 +113,52 @@ TEST_F(EFenster, NachGescheitertemOeffnenBleibtDieHandEineHand) {
     EXPECT_EQ(p().fensters_typ, typ_sonstiges);
 }
 
-TEST_F(EFenster, ModuswechselRechnetDasJahrEinmal) {
+TEST_F(EFenster, ModuswechselGibtAllenDieFensterDesSuedensInEinerRechnung) {
     e().Option1.setze(1);
-    e().sued.typ.setze(6);
-    e().west.ra.sb.setze(55);
+    for (Fensterseite* seite : {&e().nord, &e().ost, &e().west}) {
+        seite->typ.setze(6);
+        for (Fensterschieber* schieber : {&seite->ra, &seite->versch, &seite->f})
+            schieber->sb.setze(55);
+    }
+    e().sued.typ.setze(0);
+    e().sued.kfg.sb.setze(570);
+    e().sued.kfr.sb.setze(340);
+    e().sued.gf.sb.setze(91);
     p().Geaendert = 0;
     rechnungen = 0;
     e().Option1.setze(0);
     EXPECT_EQ(rechnungen, 1);
-    EXPECT_EQ(p().raw, 0.2F);
-    EXPECT_EQ(p().fensterw_typ, 6);
     EXPECT_EQ(p().Geaendert, 1);
     EXPECT_FALSE(e().Command_HR[0].sichtbar());
+    for (Fensterseite* seite : {&e().nord, &e().ost, &e().west}) {
+        EXPECT_EQ(seite->typ.index(), 0);
+        EXPECT_EQ((std::array{p().*seite->kfg_feld, p().*seite->kfr_feld, p().*seite->gf_feld,
+                              p().*seite->ra_feld}),
+                  (std::array{5.7F, 3.4F, 0.91F, 0.2F}));
+        EXPECT_EQ(seite->versch.sb.position(), 20);
+        EXPECT_EQ(seite->f.sb.position(), 55) << "the share is each facade's own";
+    }
 }
 
 TEST_F(EFenster, ReiterZeigenEinenRahmen) {
+    const auto gezeigt = [this](std::size_t reiter) {
+        const std::array<const Fensterseite*, 4> seiten{&e().nord, &e().sued, &e().ost, &e().west};
+        for (std::size_t i = 0; i < seiten.size(); ++i) {
+            EXPECT_EQ(seiten[i]->rahmen.sichtbar(), i == reiter) << i;
+            EXPECT_EQ(e().Command_HR[i].aktiv(), i != reiter) << i;
+        }
+    };
     e().Option1.setze(1);
-    EXPECT_FALSE(e().Command_HR[1].aktiv());
+    gezeigt(1);
     rechnungen = 0;
-    e().Command_HR[3].druecke();
+    for (const std::size_t reiter : {3U, 2U, 0U, 1U, 3U}) {
+        e().Command_HR[reiter].druecke();
+        gezeigt(reiter);
+    }
     EXPECT_EQ(rechnungen, 0);
-    EXPECT_TRUE(e().west.rahmen.sichtbar());
-    EXPECT_FALSE(e().sued.rahmen.sichtbar());
-    EXPECT_FALSE(e().Command_HR[3].aktiv());
-    EXPECT_TRUE(e().Command_HR[1].aktiv());
+    e().Option1.setze(0);
+    EXPECT_TRUE(e().sued.rahmen.sichtbar());
+    EXPECT_FALSE(e().west.rahmen.sichtbar());
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 #include <set>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace velmaris {
@@ -30,22 +32,69 @@ class Hauptprogramm : public testing::Test {
         return namen;
     }
 
+    /// The names of a menu, those below an entry in brackets, a dash for a separator.
+    static std::string baum(const std::vector<Menueknoten>& ebene) {
+        std::string text;
+        for (const Menueknoten& knoten : ebene)
+            text += (knoten.punkt ? knoten.punkt->name : "-") +
+                    (knoten.kinder.empty() ? " " : "(" + baum(knoten.kinder) + ") ");
+        return text;
+    }
+
     Testprogramm programm;
 };
 
 TEST_F(Hauptprogramm, JedeLeisteZeigtEineEbene) {
     using Namen = std::set<std::string>;
-    EXPECT_EQ(gezeigt(haupt().e_menue), Namen{"E_Geometrie"});
-    EXPECT_EQ(gezeigt(haupt().a_menue), Namen{"A_Uebersicht"});
-    haupt().menue.punkt("mnuWinFens").druecke();
-    haupt().menue.punkt("mnuWinFens").druecke();
-    EXPECT_EQ(gezeigt(haupt().e_menue), Namen{"E_Fenster"});
-    for (const auto& eintrag : haupt().a_menue.eintraege()) {
-        eintrag.knopf->druecke();
-        EXPECT_EQ(gezeigt(haupt().a_menue), Namen{eintrag.ebene->name});
+    std::string beschriftet;
+    for (Ebenenleiste* leiste : {&haupt().e_menue, &haupt().a_menue}) {
+        EXPECT_TRUE(leiste->leiste.sichtbar());
+        EXPECT_EQ(gezeigt(*leiste), Namen{leiste->eintraege().front().ebene->name});
+        for (const auto& eintrag : leiste->eintraege()) {
+            beschriftet += eintrag.knopf->text() + "|";
+            haupt().e_energie.Command1.druecke();
+            eintrag.knopf->druecke();
+            EXPECT_EQ(gezeigt(*leiste), Namen{eintrag.ebene->name});
+            const bool schon_da = &eintrag == &leiste->eintraege().front();
+            EXPECT_EQ(haupt().e_energie.Auswahl.offen(), schon_da) << "an open list closes with the plane";
+            haupt().e_energie.Auswahl.schliesse();
+        }
+    }
+    EXPECT_EQ(beschriftet,
+              "Geometrie|Fenster|Dämmung|Gebäude|Klima|Energie|"
+              "Übersicht|Klima / Gebäude|Heizen|Kühlen|Energieflüsse|");
+    for (const auto& [punkt, ebene] : {std::pair("mnuWinFens", "E_Fenster"),
+                                       {"mnuWinFens", "E_Fenster"},
+                                       {"mnuWinDaem", "E_Daemmung"},
+                                       {"mnuWinGeb", "E_Gebaeude"},
+                                       {"mnuWinKlima", "E_Klima"},
+                                       {"mnuWinEnerg", "E_Energie"},
+                                       {"mnuWinGeo", "E_Geometrie"}}) {
+        haupt().menue.punkt(punkt).druecke();
+        EXPECT_EQ(gezeigt(haupt().e_menue), Namen{ebene});
     }
     haupt().erste_ebenen();
-    EXPECT_EQ(gezeigt(haupt().e_menue), Namen{"E_Geometrie"});
+    EXPECT_EQ(gezeigt(haupt().a_menue), Namen{"A_Uebersicht"});
+}
+
+/// What changed while a plane was hidden is drawn as its button brings it up.
+TEST_F(Hauptprogramm, EineEbeneIstMitIhremKnopfAufDemStand) {
+    Haupt& h = haupt();
+    const std::vector<std::tuple<Ebenenleiste*, const char*, Feld*>> knoepfe{
+        {&h.e_menue, "Geometrie", &h.e_geometrie.Picture1},
+        {&h.e_menue, "Energie", &h.e_energie.Picture2},
+        {&h.a_menue, "Uebersicht", &h.a_uebersicht.Monatsbilanz},
+        {&h.a_menue, "Klima", &h.a_klima.anz_Heizlast},
+        {&h.a_menue, "Heizen", &h.a_heizen.Heizbilanz},
+        {&h.a_menue, "Kuehlen", &h.a_kuehlen.KuehlbedarfMonat},
+        {&h.a_menue, "Sankey", &h.a_sankey.Sankey}};
+    for (const auto& [leiste, knopf, feld] : knoepfe) {
+        int gezeichnet = 0;
+        feld->ansicht = [&gezeichnet] { ++gezeichnet; };
+        leiste->klicke(knopf);
+        EXPECT_GT(gezeichnet, 0) << knopf;
+        feld->ansicht = {};
+    }
 }
 
 TEST_F(Hauptprogramm, EineRechnungZeichnetDasSichtbareInIhrerReihenfolge) {
@@ -99,19 +148,56 @@ TEST_F(Hauptprogramm, EineRechnungZeichnetDasSichtbareInIhrerReihenfolge) {
 }
 
 TEST_F(Hauptprogramm, MenueKenntJedenEintragInBeidenSprachen) {
-    EXPECT_EQ(haupt().menue.menues().size(), 5U);
+    EXPECT_EQ(
+        baum(haupt().menue.menues()),
+        "mnuFile(mnuFileNeu mnuFileOeffnen mnuFileSpeichern mnuFileunter - mnuFileDrucken - mnuFileExit ) "
+        "mnuAusgaben(mnuBerechnungsergebnisseExportieren mnuTemperaturExport ) "
+        "mnuWin(mnuWinGeo mnuWinFens mnuWinDaem mnuWinGeb mnuWinKlima mnuWinEnerg ) "
+        "mnuExtras(mnuKlimaImportieren mnuSprache(mnuSpracheDeutsch mnuSpracheEnglisch ) ) "
+        "mnuQuest(mnuQuestHilfe mnuQuestInfo ) ");
     EXPECT_EQ(haupt().menue.punkt("mnuFileunter").text(), "Speichern &unter...");
     EXPECT_EQ(Testprogramm("e").haupt->menue.punkt("mnuFileunter").text(), "Save as ...");
     EXPECT_THROW(haupt().menue.punkt("mnuFehlt").druecke(), std::out_of_range);
-    haupt().menue.punkt("mnuFileDrucken").druecke();
+    const auto druecke = [this](const char* name) { haupt().menue.punkt(name).druecke(); };
+    druecke("mnuFileDrucken");
     EXPECT_TRUE(haupt().drucken.fenster.sichtbar());
-    haupt().menue.punkt("mnuTemperaturExport").druecke();
+    druecke("mnuBerechnungsergebnisseExportieren");
+    EXPECT_TRUE(haupt().a_report.Report1.sichtbar());
+    druecke("mnuTemperaturExport");
     EXPECT_TRUE(haupt().a_report.fenster.sichtbar());
     EXPECT_FALSE(haupt().a_report.Report1.sichtbar());
-    haupt().menue.punkt("mnuKlimaImportieren").druecke();
+    druecke("mnuKlimaImportieren");
     EXPECT_TRUE(haupt().e_klimaimport.ebene.sichtbar());
-    haupt().menue.punkt("mnuQuestHilfe").druecke();
+    druecke("mnuQuestHilfe");
     EXPECT_EQ(programm.plattform.hilfeseiten.size(), 1U);
+    int info = 0;
+    druecke("mnuQuestInfo");
+    haupt().info_zeigen = [&info] { ++info; };
+    druecke("mnuQuestInfo");
+    EXPECT_EQ(info, 1);
+    for (const char* name : {"mnuFileSpeichern", "mnuFileunter", "mnuFileOeffnen"})
+        druecke(name);
+    using Art = Dateidialog::Art;
+    std::vector<Art> arten;
+    for (const Dateidialog& dialog : programm.plattform.dialoge)
+        arten.push_back(dialog.art);
+    EXPECT_EQ(arten, (std::vector{Art::speichern, Art::speichern, Art::oeffnen}));
+    haupt().e_geometrie.l_sb.setze(300);
+    programm.plattform.antworten = {Antwort::nein};
+    druecke("mnuFileNeu");
+    EXPECT_EQ(p().l, 10);
+    druecke("mnuFileExit");
+    EXPECT_TRUE(programm.plattform.beendet);
+}
+
+TEST_F(Hauptprogramm, MerktSichDenDruckerDesStarts) {
+    programm.plattform.drucker = {"Blatt", "Rolle", "Karte"};
+    programm.plattform.druckername = "Karte";
+    haupt().laden();
+    EXPECT_EQ(p().Druckerindex, 2);
+    programm.plattform.druckername = "fort";
+    haupt().laden();
+    EXPECT_EQ(p().Druckerindex, 2);
 }
 
 TEST_F(Hauptprogramm, SpracheGiltErstBeimNaechstenStart) {

@@ -1,11 +1,18 @@
+#include "calc/gebaeudekennwerte.h"
+#include "calc/heizgrenze.h"
+#include "energy/energiebilanz.h"
 #include "planes/Haupt.h"
+#include "planes/dokumentquelle.h"
 #include "project/feldtabelle.h"
 #include "tests/testprogramm.h"
 #include "toolkit/text.h"
+#include "toolkit/zahlen.h"
 
+#include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
 #include <map>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,16 +22,6 @@ namespace {
 
 using test::projektzeilen;
 using test::Testprogramm;
-
-/// Range, small and large step of a scroll field, in positions.
-using Bereich = std::array<int, 4>;
-
-/// A move of a scroll field, the value that its quantity gets, and what its display shows then.
-struct Zug {
-    int stellung;
-    double wert;
-    std::string anzeige;
-};
 
 /// All scroll fields with their displays, by the name of the field.
 std::map<std::string, std::pair<Eingabefeld*, Anzeige*>> schieber(Haupt& h) {
@@ -49,10 +46,12 @@ std::map<std::string, std::pair<Eingabefeld*, Anzeige*>> schieber(Haupt& h) {
     return alle;
 }
 
-double wert(const Projekt& p, const std::string& groesse) {
-    const Feldzeiger& zeiger = feld_suchen(groesse)->zeiger;
-    if (const auto* gleitzahl = std::get_if<float Projekt::*>(&zeiger)) return p.*(*gleitzahl);
-    return p.*std::get<std::int16_t Projekt::*>(zeiger);
+/// The lines of the project file that the program would write, each with a bar behind it.
+std::string datei_mit_strichen(const Projekt& p) {
+    std::string text;
+    for (const std::string& zeile : projektzeilen(p))
+        text += zeile + "|";
+    return text;
 }
 
 /// The program of a new project, and how its user changes every input of it.
@@ -61,66 +60,57 @@ class Eingaben : public testing::Test {
     Haupt& h() { return *programm.haupt; }
     Projekt& p() { return programm.p(); }
 
-    void ziehe(const std::string& feld, const Bereich& bereich, const Zug& zug) {
-        const auto [sb, anzeige] = schieber(h()).at(feld);
-        p().Geaendert = 0;
-        EXPECT_NE(sb->position(), zug.stellung) << feld;
-        sb->setze(zug.stellung);
-        EXPECT_EQ((Bereich{sb->minimum(), sb->maximum(), sb->kleiner_schritt(), sb->grosser_schritt()}),
-                  bereich)
-            << feld;
-        EXPECT_NEAR(wert(p(), feld.substr(0, feld.size() - 3)), zug.wert, 1e-6) << feld;
-        EXPECT_EQ(anzeige->text(), zug.anzeige) << feld;
-        EXPECT_EQ(p().Geaendert, 1) << feld;
+    /// Moves each scroll field once. A row: minimum, maximum, small step, large step; then each field with
+    /// its position and what its display shows.
+    void alle_schieber() {
+        std::istringstream tabelle(R"(20 500 10 20: l_sb 125 Länge: 12.5 m; b_sb 84 Breite: 8.4 m;
+-500 -20 2 -20: h_sb -72 7.2 m;
+-50 0 2 -10: hd_sb -34 3.4 m;
+-20 -1 1 -2: ag_sb -3  3;
+-45 45 5 1: orient_sb -15 15°;
+1 150 10 20: kwn_sb 31 0.31; kws_sb 42 0.42; kwo_sb 53 0.53; kww_sb 134 1.34;
+0 150 10 20: kd_sb 15 0.15; kk_sb 47 0.47;
+0 500 10 20: ft_sb 21 2.1;
+0 200 10 15: kt_sb 18 1.8;
+0 100 10 50: absfaktor_sb 70 0.70;
+-100 400 20 200: Troom_sb 215 21.5;
+100 400 10 100: Tueber_sb 225 22.5;
+0 800 10 50: intg_sb 61 30.5;
+0 1000 20 60: infiltration_sb 45 0.45; lw_sb 120 1.20;
+0 100 5 1: WRG_Sb 85 85;
+5 80 10 25: Klimaeffizienz_sb 35 3.5;
+0 100 5 5: fn_sb 10 10; fs_sb 35 35; fo_sb 15 15; fw_sb 20 20;
+0 100 5 20: gfn_sb 75 0.75; gfs_sb 71 0.71; gfo_sb 97 0.97; gfw_sb 32 0.32;
+0 600 5 20: kfgn_sb 305 3.05; kfgs_sb 45 0.45; kfgo_sb 560 5.60; kfgw_sb 110 1.10;
+0 600 5 20: kfrn_sb 300 3.00; kfrs_sb 75 0.75; kfro_sb 355 3.55; kfrw_sb 145 1.45;
+0 100 5 20: ran_sb 10 10; ras_sb 25 25; rao_sb 30 30; raw_sb 15 15;
+0 100 5 20: verschn_sb 25 25; verschs_sb 40 40; verscho_sb 5 5; verschw_sb 55 55;
+)");
+        std::size_t gezogen = 0;
+        for (std::string bereich, zuege;
+             std::getline(tabelle, bereich, ':') && std::getline(tabelle, zuege);) {
+            std::istringstream zeile(zuege);
+            std::string feld, anzeige;
+            for (int stellung = 0;
+                 zeile >> feld >> stellung && zeile.get() && std::getline(zeile, anzeige, ';');)
+                gezogen += ziehe(feld, bereich, stellung, anzeige);
+        }
+        EXPECT_EQ(gezogen, schieber(h()).size());
     }
 
-    void alle_schieber() {
-        const std::vector<std::pair<std::string, std::pair<Bereich, Zug>>> einzelne{
-            {"l_sb", {{20, 500, 10, 20}, {125, 12.5, "Länge: 12.5 m"}}},
-            {"b_sb", {{20, 500, 10, 20}, {84, 8.4, "Breite: 8.4 m"}}},
-            {"h_sb", {{-500, -20, 2, -20}, {-72, 7.2, "7.2 m"}}},
-            {"hd_sb", {{-50, 0, 2, -10}, {-34, 3.4, "3.4 m"}}},
-            {"ag_sb", {{-20, -1, 1, -2}, {-3, 3, " 3"}}},
-            {"orient_sb", {{-45, 45, 5, 1}, {-15, 15, "15°"}}},
-            {"kwn_sb", {{1, 150, 10, 20}, {31, 0.31, "0.31"}}},
-            {"kws_sb", {{1, 150, 10, 20}, {42, 0.42, "0.42"}}},
-            {"kwo_sb", {{1, 150, 10, 20}, {53, 0.53, "0.53"}}},
-            {"kww_sb", {{1, 150, 10, 20}, {134, 1.34, "1.34"}}},
-            {"kd_sb", {{0, 150, 10, 20}, {15, 0.15, "0.15"}}},
-            {"kk_sb", {{0, 150, 10, 20}, {47, 0.47, "0.47"}}},
-            {"ft_sb", {{0, 500, 10, 20}, {21, 2.1, "2.1"}}},
-            {"kt_sb", {{0, 200, 10, 15}, {18, 1.8, "1.8"}}},
-            {"absfaktor_sb", {{0, 100, 10, 50}, {70, 0.7, "0.70"}}},
-            {"Troom_sb", {{-100, 400, 20, 200}, {215, 21.5, "21.5"}}},
-            {"Tueber_sb", {{100, 400, 10, 100}, {225, 22.5, "22.5"}}},
-            {"intg_sb", {{0, 800, 10, 50}, {61, 30.5, "30.5"}}},
-            {"infiltration_sb", {{0, 1000, 20, 60}, {45, 0.45, "0.45"}}},
-            {"lw_sb", {{0, 1000, 20, 60}, {120, 1.2, "1.20"}}},
-            {"WRG_Sb", {{0, 100, 5, 1}, {85, 0.85, "85"}}},
-            {"Klimaeffizienz_sb", {{5, 80, 10, 25}, {35, 3.5, "3.5"}}},
-        };
-        for (const auto& [feld, fall] : einzelne)
-            ziehe(feld, fall.first, fall.second);
-        const std::vector<std::pair<std::string, std::pair<Bereich, std::array<Zug, 4>>>> je_fassade{
-            {"f", {{0, 100, 5, 5}, {{{10, 10, "10"}, {35, 35, "35"}, {15, 15, "15"}, {20, 20, "20"}}}}},
-            {"gf",
-             {{0, 100, 5, 20},
-              {{{75, 0.75, "0.75"}, {71, 0.71, "0.71"}, {97, 0.97, "0.97"}, {32, 0.32, "0.32"}}}}},
-            {"kfg",
-             {{0, 600, 5, 20},
-              {{{305, 3.05, "3.05"}, {45, 0.45, "0.45"}, {560, 5.6, "5.60"}, {110, 1.1, "1.10"}}}}},
-            {"kfr",
-             {{0, 600, 5, 20},
-              {{{300, 3, "3.00"}, {75, 0.75, "0.75"}, {355, 3.55, "3.55"}, {145, 1.45, "1.45"}}}}},
-            {"ra",
-             {{0, 100, 5, 20}, {{{10, 0.1, "10"}, {25, 0.25, "25"}, {30, 0.3, "30"}, {15, 0.15, "15"}}}}},
-            {"versch",
-             {{0, 100, 5, 20}, {{{25, 0.25, "25"}, {40, 0.4, "40"}, {5, 0.05, "5"}, {55, 0.55, "55"}}}}},
-        };
-        for (const auto& [groesse, fall] : je_fassade) {
-            for (std::size_t i = 0; i < 4; ++i)
-                ziehe(groesse + "nsow"[i] + "_sb", fall.first, fall.second[i]);
-        }
+    std::size_t ziehe(const std::string& feld, const std::string& bereich, int stellung,
+                      const std::string& text) {
+        const auto [sb, anzeige] = schieber(h()).at(feld);
+        std::ostringstream grenzen;
+        grenzen << sb->minimum() << ' ' << sb->maximum() << ' ' << sb->kleiner_schritt() << ' '
+                << sb->grosser_schritt();
+        EXPECT_EQ(grenzen.str(), bereich) << feld;
+        EXPECT_NE(sb->position(), stellung) << feld;
+        p().Geaendert = 0;
+        sb->setze(stellung);
+        EXPECT_EQ(anzeige->text(), text) << feld;
+        EXPECT_EQ(p().Geaendert, 1) << feld;
+        return 1;
     }
 
     void listen_und_optionen() {
@@ -129,7 +119,10 @@ class Eingaben : public testing::Test {
         h().e_daemmung.ogd.setze(1);
         EXPECT_EQ(p().Geaendert, 0) << "a row of these lists is no change of the project";
         h().e_daemmung.cbk_hDach.setze(1);
-        h().e_daemmung.Waermebruecken_opt.setze(3);
+        for (const auto& [option, zuschlag] : {std::pair(1, 0.0F), {2, 0.1F}, {3, 0.05F}}) {
+            h().e_daemmung.Waermebruecken_opt.setze(option);
+            EXPECT_EQ(p().Waermebruecken, zuschlag);
+        }
         EXPECT_EQ(p().Geaendert, 1);
         h().e_fenster.nord.typ.setze(1);
         h().e_fenster.sued.typ.setze(7);
@@ -242,14 +235,11 @@ std::map<std::string, std::string> stellungen(Haupt& h) {
 }
 
 TEST_F(Eingaben, EinNeuesProjektHatDieseWerte) {
-    const std::string text =
+    EXPECT_EQ(
+        datei_mit_strichen(p()),
         "Velmaris Version 3.2| 10| 10| 5.2| 2| 0| 0| 0| 25| 20| 27| 1| 1| 1| 1| 3| 3| 3| 3| .2| .2| .2| .2"
         "| .2| .2| 0| 1.5| 0| 0| .5| 1| 5| 40| 5| 5| .2| .2| .2| .2| .2| .2| .2| .2| 1.4| 1.4| 1.4| 1.4"
-        "| 1.5| 1.5| 1.5| 1.5| .58| .58| .58| .58|trier.met| 1| 1| 0|1| 2|0| 2.5| 2| 1| 1| 1| .6| .1|";
-    std::string zeilen;
-    for (const std::string& zeile : projektzeilen(p()))
-        zeilen += zeile + "|";
-    EXPECT_EQ(zeilen, text);
+        "| 1.5| 1.5| 1.5| 1.5| .58| .58| .58| .58|trier.met| 1| 1| 0|1| 2|0| 2.5| 2| 1| 1| 1| .6| .1|");
     for (const float kf : {p().kfn, p().kfs, p().kfo, p().kfw})
         EXPECT_EQ(kf, 1.42F);
     EXPECT_EQ(p().Geaendert, 0);
@@ -294,28 +284,126 @@ TEST_F(Eingaben, JederSchieberStelltSeinenWertUndJedesErgebnisFolgt) {
 
 /// A house with no line of a new project in its file, opened by a program that knows nothing of it.
 TEST_F(Eingaben, OeffnenGibtWiederWasGesichertWurde) {
-    const auto neu = projektzeilen(p());
     alles_bewegen();
     waende_zum_nachbarn();
-    const auto zeilen = projektzeilen(p());
-    for (std::size_t i = 1; i < zeilen.size(); ++i)
-        EXPECT_NE(zeilen[i], neu[i]) << feld_der_zeile(static_cast<int>(i) + 1).name;
+    EXPECT_EQ(
+        datei_mit_strichen(p()),
+        "Velmaris Version 3.2| 12.5| 8.4| 7.2| 3| 1.2| .85| 15| 30.5| 21.5| 22.5| 0| 0| 0| 0| 1| 7| 5| 7"
+        "| .31| .42| .53| 1.34| .15| .47| 2.1| 1.8| 1| 3| .7| 0| 10| 35| 15| 20| .25| .4| .05| .55| .1| .25"
+        "| .3| .15| 3| .45| .7| 1.1| 2.8| .75| .7| 1.45| .8| .71| .51| .32|fern.met| 0| 2| 1|2| 3.4|1| 3.5"
+        "| 3| 6| 2| 3| .45| .05|");
     Testprogramm frisch;
     zeige_alle(*frisch.haupt);
-    const auto haus = frisch.ordner.schreibe("haus.vel", test::projekttext(zeilen));
+    const auto haus = frisch.ordner.schreibe("haus.vel", test::projekttext(projektzeilen(p())));
     const std::string bytes = test::inhalt(haus);
     frisch.haupt->datei.datei_oeffnen(pfadtext(haus));
     EXPECT_TRUE(frisch.plattform.meldungen.empty());
     EXPECT_EQ(frisch.p().Geaendert, 0);
-    EXPECT_EQ(projektzeilen(frisch.p()), zeilen);
+    EXPECT_EQ(projektzeilen(frisch.p()), projektzeilen(p()));
     for (const Feldzeile& feld : felder()) {
-        if (std::holds_alternative<std::string Projekt::*>(feld.zeiger)) continue;
-        EXPECT_EQ(wert(frisch.p(), std::string(feld.name)), wert(p(), std::string(feld.name))) << feld.name;
+        std::visit([&](auto zeiger) { EXPECT_EQ(frisch.p().*zeiger, p().*zeiger) << feld.name; },
+                   feld.zeiger);
     }
     EXPECT_EQ(stellungen(*frisch.haupt), stellungen(h()));
     EXPECT_EQ(ergebnisse(*frisch.haupt), ergebnisse(h()));
     frisch.haupt->datei.datei_speichern();
     EXPECT_EQ(test::inhalt(haus), bytes);
+}
+
+TEST_F(Eingaben, EinLeererDachraumUndEinFremderZuschlagBleibenUndZeigenNichts) {
+    p().Dachraum_typ = 3;
+    p().Waermebruecken = 0.07F;
+    h().eingaben_anzeigen();
+    EXPECT_EQ(p().Dachraum_typ, 3);
+    EXPECT_EQ(h().e_daemmung.ogd.index(), -1);
+    EXPECT_FALSE(h().e_daemmung.Waermebruecken_opt.gesetzt().has_value());
+    EXPECT_EQ(p().Waermebruecken, 0.07F);
+}
+
+TEST_F(Eingaben, DieDokumenteBekommenWasDieEbenenZeigen) {
+    alles_bewegen();
+    const Kennwerte k = energ_refresh(p());
+    const Gebaeudekennwerte g = gebaeudekennwerte(p());
+    const Heizgrenze grenze = heizgrenze(p());
+    const Dokumentquelle q = dokumentquelle(h());
+    const double je_flaeche = 1000 / double{p().f_nutz};
+    using Texte = std::vector<std::string>;
+    EXPECT_EQ((Texte{q.auswahl.Dachraum, q.auswahl.untere_Decke, q.auswahl.Waermebruecken,
+                     q.auswahl.Aussenwandart, q.auswahl.Innenwandart, q.energie.Energietraeger}),
+              (Texte{"Teilgedämmtes Dach", "Erdreich (ohne Randdämmung)",
+                     "U-Werte aller Umfassungsflächen um 0,05 W/(m² K) erhöhen", "Leichte Bauweise",
+                     "Schwere Bauweise", "Wärme aus Heizkraftwerken, fossiler Brennstoff"}));
+    EXPECT_EQ(q.auswahl.Fensterart,
+              (std::array<std::string, 4>{"Doppelverglasung", "Sonstiges",
+                                          "Wärmeschutz-Dreifachverglasung (U = 0,7 W/(m² K))", "Sonstiges"}));
+    EXPECT_TRUE(q.energie.System.starts_with("Nah- oder Fernwärme"));
+    EXPECT_TRUE(q.energie.Uebergabe.ends_with("Systemtemperatur: 35/28°C"));
+    EXPECT_EQ(q.energie.name.in("d"), k.name.in("d"));
+    const auto m = [](double wert, int stellen = 1) { return muster(wert, stellen); };
+    EXPECT_EQ(
+        (Texte{q.gebaeude.Umittel, q.gebaeude.Tspez, q.gebaeude.Vspez, q.gebaeude.TVspez, q.gebaeude.tau,
+               q.gebaeude.Heizlast, q.gebaeude.heizlast_spez, q.gebaeude.kuehllast, q.gebaeude.kuehllast_spez,
+               q.gebaeude.Heizgrenztemp, q.gebaeude.Heiztage}),
+        (Texte{m(g.Umittel, 2), m(g.Tspez), m(g.Vspez), m(g.TVspez), m(g.tau), m(p().Heizlast_max),
+               m(p().Heizlast_max * je_flaeche), m(p().Kuehllast_max), m(p().Kuehllast_max * je_flaeche),
+               m(grenze.Temperatur), std::to_string(grenze.Heiztage)}));
+    EXPECT_EQ(
+        (Texte{q.energie.qhs_sum, q.energie.q_s, q.energie.q_d, q.energie.q_ce, q.energie.e_g,
+               q.energie.q_s_he, q.energie.q_d_he, q.energie.q_g_he, q.energie.q_HE_Energietraeger,
+               q.energie.q_HE_Strom, q.energie.Primaerenergiefaktor_Energietraeger,
+               q.energie.Primaerenergiefaktor_Strom, q.energie.q_PE_Energietraeger, q.energie.q_PE_Strom}),
+        (Texte{m(p().qhs_sum), m(k.q_s), m(k.q_d), m(k.q_ce), m(k.e_g, 2), m(k.q_s_he), m(k.q_d_he),
+               m(k.q_g_he), m(p().q_HE_Energietraeger), m(p().q_HE_Strom), m(k.f_p), "3.0",
+               m(p().q_PE_Energietraeger), m(p().q_PE_Strom)}));
+    p().Waermebruecken = 0.07F;
+    h().eingaben_anzeigen();
+    EXPECT_EQ(dokumentquelle(h()).auswahl.Waermebruecken, "0.07 W/(m² K)");
+}
+
+TEST_F(Eingaben, SollwertUndUeberwaermungsgrenzeHaltenAbstand) {
+    E_Gebaeude& e = h().e_gebaeude;
+    e.Troom_sb.setze(270);
+    EXPECT_EQ(p().Troom, 26.9F);
+    EXPECT_EQ(e.Troom_sb.position(), 269);
+    EXPECT_EQ(e.troom_anz.text(), "26.9");
+    e.Troom_sb.setze(400);
+    EXPECT_EQ(p().Troom, 26.9F);
+    e.Troom_sb.setze(200);
+    e.Tueber_sb.setze(200);
+    EXPECT_EQ(p().Tueber, 20.1F);
+    e.Tueber_sb.setze(100);
+    EXPECT_EQ(p().Tueber, 20.1F);
+}
+
+TEST_F(Eingaben, WandGegenNachbarnSperrtDasFensterUndBehaeltDenAnteil) {
+    E_Gebaeude& e = h().e_gebaeude;
+    E_Fenster& fenster = h().e_fenster;
+    e.aws_cb.setze(1);
+    EXPECT_EQ(p().aws, 0);
+    EXPECT_EQ(p().fs, 40);
+    EXPECT_EQ(p().f_sf, 0);
+    EXPECT_FALSE(fenster.sued.f.sb.aktiv());
+    EXPECT_TRUE(fenster.sued.f.anz.verborgen());
+    EXPECT_TRUE(fenster.sued.gf.sb.aktiv());
+    e.aws_cb.setze(0);
+    EXPECT_EQ(p().aws, 1);
+    EXPECT_GT(p().f_sf, 0);
+    EXPECT_TRUE(fenster.sued.f.sb.aktiv());
+    EXPECT_FALSE(fenster.sued.f.anz.verborgen());
+}
+
+TEST_F(Eingaben, OhneGlasOderFensterSindDieMittelwerteLeer) {
+    E_Fenster& e = h().e_fenster;
+    EXPECT_EQ(e.kf_anz.text(), " 1.42");
+    e.sued.ra.sb.setze(100);
+    EXPECT_EQ(e.kf_anz.text(), " 1.50") << "the frame's";
+    EXPECT_EQ(e.gfm_anz.text(), "");
+    for (Fensterseite* seite : {&e.nord, &e.sued, &e.ost, &e.west})
+        seite->f.sb.setze(0);
+    EXPECT_EQ(e.f_gf_anz.text(), "0.0");
+    EXPECT_EQ(e.kf_anz.text(), "");
+    EXPECT_EQ(Testprogramm("e").haupt->e_geometrie.l_anz.text(), "length: 10.0 m");
+    EXPECT_EQ(Testprogramm("e").haupt->e_geometrie.b_anz.text(), "width: 10.0 m");
 }
 
 }  // namespace
