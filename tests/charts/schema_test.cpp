@@ -172,22 +172,20 @@ TEST(Beschriftung, EinheitUndNameAnJedemBild) {
         const char* name;  ///< under the axis, of a chart by months that of May
         double x_name, y_name = 124;
     };
-    for (const Fall& f : {
-             Fall{HeizbilanzZeichnen, "d", "kWh/(m² Monat)", 3, "Mai", 134},
-             Fall{MonatsbilanzZeichnen, "e", "kWh/(m² month)", 3, "May", 134},
-             Fall{NutzungsgradMonatZeichnen, "d", "kWh/(m² Monat)", 3, "Mai", 134},
-             Fall{UeberGrafikZeichnen, "e", "h/month", 10, "May", 134, 123},
-             Fall{StundenProTagMonatZeichnen, "d", "Std. / Tag", 3, "Mai", 134},
-             Fall{KuehlBedarfMonatZeichnen, "e", "kWh/(m² month)", 3, "May", 134},
-             Fall{KuehlGradStundenMonatZeichnen, "d", "Kh", 3, "Mai", 134},
-             Fall{JahrBilanzZeichnen, "e", "kWh/(m²a)", 5, "yearly balance", -1},
-             Fall{JahresbedarfZeichnen, "d", "kWh/(m²a)", 5, "Jahresbilanz", 11},
-             Fall{NutzungsgradJahrZeichnen, "d", "kWh/(m²a)", 5, "Jahresbilanz", 11},
-             Fall{UeberJahrZeichnen, "d", "Std.", 10, "Jahressumme", 22, 123},
-             Fall{StundenProTagJahrZeichnen, "e", "h / d", 5, "yearly mean", 17},
-             Fall{KuehlBedarfJahrZeichnen, "d", "kWh/(m²a)", 5, "Jahresbilanz", 11},
-             Fall{KuehlGradStundenJahrZeichnen, "e", "Kh", 5, "yearly sum", 23},
-         }) {
+    for (const Fall& f : {Fall{HeizbilanzZeichnen, "d", "kWh/(m² Monat)", 3, "Mai", 134},
+                          Fall{MonatsbilanzZeichnen, "e", "kWh/(m² month)", 3, "May", 134},
+                          Fall{NutzungsgradMonatZeichnen, "d", "kWh/(m² Monat)", 3, "Mai", 134},
+                          Fall{UeberGrafikZeichnen, "e", "h/month", 10, "May", 134, 123},
+                          Fall{StundenProTagMonatZeichnen, "d", "Std. / Tag", 3, "Mai", 134},
+                          Fall{KuehlBedarfMonatZeichnen, "e", "kWh/(m² month)", 3, "May", 134},
+                          Fall{KuehlGradStundenMonatZeichnen, "d", "Kh", 3, "Mai", 134},
+                          Fall{JahrBilanzZeichnen, "e", "kWh/(m²a)", 5, "yearly balance", -1},
+                          Fall{JahresbedarfZeichnen, "d", "kWh/(m²a)", 5, "Jahresbilanz", 11},
+                          Fall{NutzungsgradJahrZeichnen, "d", "kWh/(m²a)", 5, "Jahresbilanz", 11},
+                          Fall{UeberJahrZeichnen, "d", "Std.", 10, "Jahressumme", 22, 123},
+                          Fall{StundenProTagJahrZeichnen, "e", "h / d", 5, "yearly mean", 17},
+                          Fall{KuehlBedarfJahrZeichnen, "d", "kWh/(m²a)", 5, "Jahresbilanz", 11},
+                          Fall{KuehlGradStundenJahrZeichnen, "e", "Kh", 5, "yearly sum", 23}}) {
         RekorderFlaeche bild;
         f.zeichne(*leeres_projekt(f.sprache), bild);
         EXPECT_TRUE(test::steht(bild, f.einheit, f.x, 0)) << f.einheit;

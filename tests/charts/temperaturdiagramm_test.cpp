@@ -14,19 +14,11 @@ TEST(Temperaturachse, SchritteUndEnden) {
     struct Fall {
         double T_min, T_max, schritt, unten, oben;
     };
-    for (const Fall& f : {
-             Fall{0, 0, 1, 0, 0},
-             Fall{0, 9, 1, 0, 10},
-             Fall{-12, 0, 2, -14, 0},
-             Fall{0.5, 2, 1, 0, 3},   // -0.5 rounds to 0
-             Fall{5, 15, 2, 4, 16},   // 10 is not below 10; 8.5 and 1.5 go to the even number
-             Fall{-5, 8, 2, -8, 10},  // -3.5 goes to -4
-             Fall{10, 35, 5, 5, 40},
-             Fall{-8, 12, 5, -15, 15},    // 20 is not below 20; -2.6, 3.4
-             Fall{-20, 35, 10, -30, 40},  // 4.5 goes to 4
-             Fall{-10, 40, 10, -20, 50},  // 50 is not below 50
-             Fall{0, 1000, 200, 0, 1200},
-         }) {
+    // 10, 20 and 50 are not below themselves; halves go to the even number of steps, and -0.5 to 0.
+    for (const Fall& f :
+         {Fall{0, 0, 1, 0, 0}, Fall{0, 9, 1, 0, 10}, Fall{-12, 0, 2, -14, 0}, Fall{0.5, 2, 1, 0, 3},
+          Fall{5, 15, 2, 4, 16}, Fall{-5, 8, 2, -8, 10}, Fall{10, 35, 5, 5, 40}, Fall{-8, 12, 5, -15, 15},
+          Fall{-20, 35, 10, -30, 40}, Fall{-10, 40, 10, -20, 50}, Fall{0, 1000, 200, 0, 1200}}) {
         const Temperaturachse achse = temperaturachse(f.T_min, f.T_max);
         EXPECT_EQ(achse.schritt, f.schritt) << f.T_min << " " << f.T_max;
         EXPECT_EQ(achse.unten, f.unten) << f.T_min << " " << f.T_max;
