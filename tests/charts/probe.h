@@ -1,5 +1,6 @@
 #pragma once
 
+#include "charts/c_sankey.h"
 #include "project/c_glob.h"
 #include "tests/rekorder_flaeche.h"
 #include "tests/testplattform.h"
@@ -12,6 +13,11 @@ namespace velmaris::test {
 
 /// A record with texts of a language and 100 m2 of usable floor, all results zero.
 std::unique_ptr<Projekt> leeres_projekt(const std::string& sprache = "d");
+
+/// A white surface of the size of the energy flows.
+struct Sankeyprobe : RekorderFlaeche {
+    Sankeyprobe() : RekorderFlaeche(sankey_breite, sankey_hoehe, farben::weiss) {}
+};
 
 /// A bar or box as it was drawn, {x1, y1, x2, y2}.
 using Ecken = std::vector<double>;

@@ -1,6 +1,5 @@
 #include "charts/sankey_heizen.h"
 
-#include "charts/c_sankey.h"
 #include "tests/charts/probe.h"
 
 #include <gtest/gtest.h>
@@ -15,12 +14,8 @@ namespace {
 
 using test::hoch;
 using test::quer;
+using Probe = test::Sankeyprobe;
 using Masse = std::vector<int>;
-
-/// A white surface of the plane's size.
-struct Probe : RekorderFlaeche {
-    Probe() : RekorderFlaeche(sankey_breite, sankey_hoehe, farben::weiss) {}
-};
 
 constexpr Farbe bandfarbe{255, 180, 180};
 
