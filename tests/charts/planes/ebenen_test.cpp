@@ -226,8 +226,13 @@ TEST(A_Uebersicht, JederKnopfWaehltSeinenMonatInBeidenFenstern) {
     EXPECT_EQ(e.u.monatsleiste.knopf(12).lage(), (Rechteck{401, 163, 37, 20}));  // 8 + 393.25 to 8 + 429
     EXPECT_EQ(e.z.monatsleiste.knopf(12).lage(), (Rechteck{917, 0, 84, 22}));    // 916.67 to 1000
     EXPECT_EQ(e.berechnet, 0);
+    e.p->Monat_Uebersicht = 2;
     e.u.aktiviert();
     EXPECT_EQ(e.berechnet, 1);
+    EXPECT_EQ(e.u.monatsleiste.AktiverMonat1.text(), "Feb.");
+    e.p->Monat_Uebersicht = 3;
+    e.u.laden();
+    EXPECT_EQ(e.u.monatsleiste.AktiverMonat1.text(), "Mar.");
 }
 
 TEST(A_Zoom, OeffnetMitDemStandDerUebersicht) {
