@@ -112,7 +112,8 @@ const std::vector<Kurve> kurven{
 /// Area and value pairs that follow from a curve: its points, a quarter and the middle of the way between
 /// two, and places below the first and above the last.
 std::vector<Punkt> proben(const std::vector<Punkt>& kurve) {
-    std::vector<Punkt> ergebnis{{kurve.front().flaeche * 0.99, kurve.front().wert}, {1e6, kurve.back().wert}};
+    std::vector<Punkt> ergebnis{{kurve.front().flaeche * 0.99, kurve.front().wert},
+                                {kurve.back().flaeche * 1.25, kurve.back().wert}};
     for (std::size_t i = 0; i < kurve.size(); ++i) {
         const Punkt& vorher = kurve[i == 0 ? 0 : i - 1];
         for (const double anteil : {0.25, 0.5, 1.0}) {

@@ -140,31 +140,6 @@ TEST_F(Energieebene, FalscherIndexLaesstDieEbeneStehen) {
     EXPECT_NO_THROW(ebene->aktiviert()) << "what a failed opening has left";
 }
 
-/// How many entries the open list shows.
-int eintraege(Auswahlrahmen& rahmen) {
-    int zahl = 0;
-    for (int i = 1; i <= 9; ++i)
-        zahl += rahmen.Label_Auswahl(i).sichtbar() ? 1 : 0;
-    return zahl;
-}
-
-TEST_F(Energieebene, ListenBietenNurWasEsGibt) {
-    struct Fall {
-        std::int16_t system;
-        int uebergaben, traeger;
-    };
-    for (const Fall& f :
-         std::vector<Fall>{{1, 2, 2}, {4, 2, 2}, {5, 2, 1}, {6, 2, 4}, {7, 2, 1}, {8, 0, 1}, {9, 0, 1}}) {
-        waehle(f.system, 1, 1);
-        ebene->Command1.druecke();
-        EXPECT_EQ(eintraege(ebene->Auswahl), 9);
-        ebene->Command2.druecke();
-        EXPECT_EQ(eintraege(ebene->Auswahl), f.uebergaben);
-        ebene->Command3.druecke();
-        EXPECT_EQ(eintraege(ebene->Auswahl), f.traeger);
-    }
-}
-
 TEST_F(Energieebene, WahlSpeichertUndRechnetOhneDenMerkerGeaendert) {
     klicke(&E_Energie::Command1, 6);
     EXPECT_EQ(wahl(), "611");
@@ -245,6 +220,8 @@ TEST_F(Energieebene, MarkeBeginntBeiDerWahlUndBleibtInDerListe) {
         rahmen.ruecke(schritte);
         EXPECT_EQ(rahmen.marke(), marke) << schritte;
     }
+    EXPECT_TRUE(rahmen.Label_Auswahl(4).sichtbar());
+    EXPECT_FALSE(rahmen.Label_Auswahl(5).sichtbar());
     rahmen.markiere(5);
     EXPECT_EQ(rahmen.marke(), 4) << "a hidden entry";
     ebene->Command2.druecke();
