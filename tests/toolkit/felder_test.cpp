@@ -2,10 +2,10 @@
 
 #include "toolkit/fehler.h"
 
-#include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -24,26 +24,29 @@ TEST(Scrollfeld, FeuertNurBeiAndererStellung) {
     EXPECT_EQ(gefeuert, 2);
 }
 
-TEST(Scrollfeld, AusserhalbDesBereichsNenntDieGroesse) {
-    for (const char* name : {"WRG_Sb", "l_sb", "_sb"}) {
-        Scrollfeld feld(name, 10, 100, 5, 1);
-        for (const int falsch : {9, 101}) {
-            try {
-                feld.setze(falsch);
-                FAIL();
-            } catch (const Laufzeitfehler& fehler) {
-                EXPECT_EQ(fehler.feld(), name[0] == '_' ? "_sb" : std::string(name, std::strlen(name) - 3));
-                EXPECT_EQ(fehler.grund().de,
-                          "Stellung außerhalb des Bereichs: " + std::to_string(falsch) + " (10 .. 100)");
-                EXPECT_TRUE(fehler.text("e").starts_with(fehler.feld() + ": position out of range: "));
-            }
-        }
-        EXPECT_EQ(feld.position(), 10);
-        feld.setze(100);
-        feld.bereich(20, 15);
-        EXPECT_EQ(feld.position(), 20);
-        EXPECT_EQ(feld.maximum(), 20);
+/// The English message of the fault that an act must end in.
+std::string verweigert(const std::function<void()>& tu) {
+    try {
+        tu();
+    } catch (const Laufzeitfehler& fehler) {
+        return fehler.text("e");
     }
+    return "nothing";
+}
+
+TEST(Scrollfeld, AusserhalbDesBereichsNenntDieGroesse) {
+    for (const auto& [name, groesse] : {std::pair{"WRG_Sb", "WRG"}, {"awn_cb", "awn"}, {"_sb", "_sb"}}) {
+        Scrollfeld feld(name, 10, 100, 5, 1);
+        const std::string anfang = std::string(groesse) + ": position out of range: ";
+        EXPECT_EQ(verweigert([&] { feld.setze(9); }), anfang + "9 (10 .. 100)");
+        EXPECT_EQ(verweigert([&] { feld.setze(101); }), anfang + "101 (10 .. 100)");
+        EXPECT_EQ(feld.position(), 10);
+    }
+    Scrollfeld feld("l_sb", 10, 100, 5, 1);
+    feld.setze(100);
+    feld.bereich(20, 15);
+    EXPECT_EQ(feld.position(), 20);
+    EXPECT_EQ(feld.maximum(), 20);
 }
 
 TEST(Auswahlliste, SetzenLaeuftImmerMarkierenNie) {
@@ -60,8 +63,8 @@ TEST(Auswahlliste, SetzenLaeuftImmerMarkierenNie) {
     EXPECT_EQ(gefeuert, 2);
     EXPECT_EQ(liste.index(), -1);
     EXPECT_EQ(liste.text(), "fremd");
-    EXPECT_THROW(liste.setze(2), Laufzeitfehler);
-    EXPECT_THROW(liste.setze(-1), Laufzeitfehler);
+    EXPECT_EQ(verweigert([&] { liste.setze(2); }), "ugd: position out of range: 2 (0 .. 1)");
+    EXPECT_EQ(verweigert([&] { liste.setze(-1); }), "ugd: position out of range: -1 (0 .. 1)");
 }
 
 TEST(Optionsgruppe, FeuertNurWennDieOptionNochNichtGesetztIst) {
@@ -75,8 +78,8 @@ TEST(Optionsgruppe, FeuertNurWennDieOptionNochNichtGesetztIst) {
     EXPECT_EQ(zuletzt, 0);
     gruppe.markiere(std::nullopt);
     EXPECT_FALSE(gruppe.gesetzt(2));
-    EXPECT_THROW(gruppe.setze(3), Laufzeitfehler);
-    EXPECT_THROW(gruppe.setze(0), Laufzeitfehler);
+    EXPECT_EQ(verweigert([&] { gruppe.setze(3); }), "Option_Dachfirst: position out of range: 3 (1 .. 2)");
+    EXPECT_EQ(verweigert([&] { gruppe.setze(0); }), "Option_Dachfirst: position out of range: 0 (1 .. 2)");
 }
 
 TEST(Pruefeld, NimmtNurNullUndEins) {
@@ -88,10 +91,8 @@ TEST(Pruefeld, NimmtNurNullUndEins) {
     EXPECT_EQ(gefeuert, 1);
     feld.setze_verneint(1);
     EXPECT_EQ(feld.wert(), 0);
-    for (const int falsch : {-1, 2}) {
-        EXPECT_THROW(feld.setze(falsch), Laufzeitfehler);
-        EXPECT_THROW(feld.setze_verneint(falsch), Laufzeitfehler);
-    }
+    EXPECT_EQ(verweigert([&] { feld.setze(2); }), "cbk_hDach: position out of range: 2 (0 .. 1)");
+    EXPECT_EQ(verweigert([&] { feld.setze_verneint(-1); }), "cbk_hDach: position out of range: -1 (0 .. 1)");
 }
 
 /// How often a control told its view while the same was done to it twice.

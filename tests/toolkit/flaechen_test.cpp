@@ -97,6 +97,7 @@ TEST(Schriftmasse, BreitenDerPubliziertenTabellen) {
 
 TEST(SvgFlaeche, GleicheFarbeTeiltEinenPfad) {
     SvgFlaeche bild(20, 10);
+    bild.flaeche(7, 7, 8, 8, farben::gelb);
     bild.Cls();
     bild.flaeche(1, 2, 3, 4, farben::rot);
     bild.linie(5, 9, 5, 6, farben::rot, 1);

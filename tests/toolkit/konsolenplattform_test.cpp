@@ -2,11 +2,13 @@
 
 #include "toolkit/fehler.h"
 
+#include <cstdlib>
 #include <functional>
 #include <gtest/gtest.h>
 #include <new>
 #include <sstream>
 #include <stdexcept>
+#include <string>
 
 namespace velmaris {
 namespace {
@@ -32,6 +34,31 @@ TEST(Konsolenplattform, JederFehlerNenntSeineDateiInEinerZeile) {
         EXPECT_EQ(fehler.str(), fall.zeile);
     }
 }
+
+TEST(Konsolenplattform, VerneintJedeFrageUndBleibtStumm) {
+    Konsolenplattform plattform;
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(plattform.melde({.text = "eins\rzwei"}), Antwort::ok);
+    EXPECT_EQ(plattform.melde({.text = "?", .knoepfe = Knoepfe::ja_nein}), Antwort::nein);
+    EXPECT_EQ(plattform.melde({.text = "?", .knoepfe = Knoepfe::ja_nein_abbrechen}), Antwort::abbrechen);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "eins zwei\n?\n?\n");
+    EXPECT_FALSE(plattform.eingabe("?", "", "vorgabe") || plattform.dateidialog({}));
+    EXPECT_EQ(plattform.zufall(), 0) << "the first of all stations";
+}
+
+#ifdef __linux__
+TEST(Konsolenplattform, DatenordnerNachDerUmgebung) {
+    struct Fall {
+        const char *daten, *heim, *ordner;
+    };
+    for (const Fall& fall : {Fall{"/d", "/h", "/d/Velmaris"}, Fall{"neben", "/h", "/h/.local/share/Velmaris"},
+                             Fall{"", "", ""}}) {
+        ::setenv("XDG_DATA_HOME", fall.daten, 1);
+        ::setenv("HOME", fall.heim, 1);
+        EXPECT_EQ(Konsolenplattform().datenordner(), fall.ordner);
+    }
+}
+#endif
 
 }  // namespace
 }  // namespace velmaris

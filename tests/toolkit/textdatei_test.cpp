@@ -49,14 +49,22 @@ TEST(Spalten, SchneidetAmZeilenende) {
 
 TEST(BytesLesen, NenntDateiUndGrund) {
     const Testordner ordner;
-    EXPECT_THROW(inhalt(ordner.pfad()), Dateifehler);
-    try {
-        inhalt(ordner / "fehlt.vel");
-        FAIL();
-    } catch (const Dateifehler& fehler) {
-        EXPECT_NE(std::string(fehler.what()).find("fehlt.vel: Datei nicht gefunden"), std::string::npos);
-        EXPECT_NE(fehler.text("e").find("file not found"), std::string::npos);
+    struct Fall {
+        const char *name, *de, *en;
+    };
+    for (const Fall& fall : {Fall{"fehlt.vel", "Datei nicht gefunden", "file not found"},
+                             Fall{".", "ist ein Ordner, keine Datei", "is a folder, not a file"}}) {
+        try {
+            inhalt(ordner / fall.name);
+            FAIL();
+        } catch (const Dateifehler& fehler) {
+            EXPECT_EQ(fehler.what(), pfadtext(ordner / fall.name) + ": " + fall.de);
+            EXPECT_EQ(fehler.text("e"), pfadtext(ordner / fall.name) + ": " + fall.en);
+        }
     }
+    const Dateifehler genau("a.met", {"leer", "empty"}, 7, "Ta");
+    EXPECT_EQ(genau.text("d"), "a.met, Zeile 7 (Ta): leer");
+    EXPECT_EQ(genau.text("e"), "a.met, line 7 (Ta): empty");
     ordner.schreibe("lang.txt", std::string(100000, 'x'));
     for (const std::size_t laenge : {10U, 65537U, 70000U})
         EXPECT_EQ(anfang_lesen(ordner / "lang.txt", laenge).size(), laenge);
