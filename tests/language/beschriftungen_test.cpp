@@ -17,22 +17,18 @@ namespace {
 /// What stands in a German caption if and only if the other stands in the English one; capitals do not count.
 constexpr const char* wortpaare =
     "fenster=window;klima(?!anlage)=climat;geometrie=geometry;dämmung=insulation;süd=south;nord=north;"
-    "ost\\b|ost-=east;west=west;dachhöhe=height of roof;dach=roof;volumen=volume;grund=ground;"
-    "wänd|wand(?!sz)=wall;u-wert=u-value;g-wert=g-value;rahmen=frame;glas=glazing;schatt=shading;mech=mech;"
-    "lüft=vent;innenw=interior;außenw=exterior;interne=internal;gewinne= gains;verlust=loss;"
-    "kühl=cool|overheated h;heiz|wärm|nutzfl|speicherf=heat;nicht=non;nutzbar=usable|useful;solar=solar;"
-    "strom=electr;temp=temp;jahr=year;monat|durchschn=month;stunden=hours;tage=days;daten=data;"
-    "format=format;druck=print;seite=page;bedarf=demand;primär=primary;energiefl=energy flow;spez=spec;"
-    "transm=transm;max=max;min=min;mittlere|mittelt|mittelw=mean;trägheit=inertia;absorption=absorption;"
-    "fassade=facade;individuell=individual;obere=upper;untere=lower;gesamt|gebäudev=total;brücken=bridges;"
-    "ignorieren=ignore;0,10=0.10;0,05=0.05;normale=normal;freie=nearly|natural;postl=zip;region=region;"
-    "station=station;last=load;grad=degree|itude;breiteng=latitude;würfel=cube;kugel=sphere;"
-    "effizienz=efficiency;°c=°c;1/h=1/h;%=%;m²=m²;m³=m³;kwh m=kwh m;kw\\b=kw\\b;w/=w/;diagramm=chart|diagram;"
-    "bilanz=balance;report=report;anzeigen=show ;datei\\b=file\\b;quelld=source f|select;spalten=columns;"
-    "zeilen\\b=rows|heading lines;linksb=left;rechtsb=right;name=name;standort=location;zeit=time;"
-    "deutschl=germany;europa=europe;welt=world;import=import;abbrechen=cancel|abort;sprache=language;"
-    "speichern=save;unter[.]= as [.];schließen=close;hilfe=help;neu=new;ändern=change;auswählen=select;"
-    "ebene|umfassung=planes;english=english";
+    "ost\\b|ost-=east;west=west;dachhöhe=height of roof;dach=roof;volumen=volume;wänd|wand(?!sz)=wall;"
+    "u-wert=u-value;g-wert=g-value;rahmen=frame;glas=glazing;lüft=vent;innenw=interior;außenw=exterior;"
+    "interne=internal;gewinne= gains;verlust=loss;kühl=cool|overheated h;heiz|wärm|nutzfl|speicherf=heat;"
+    "nicht=non;nutzbar=usable|useful;solar=solar;strom=electr;temp=temp;jahr=year;monat|durchschn=month;"
+    "stunden=hours;tage=days;daten=data;druck=print;seite=page;bedarf=demand;primär=primary;"
+    "energiefl=energy flow;spez=spec;transm=transm;max=max;min=min;mittlere|mittelt|mittelw=mean;"
+    "trägheit=inertia;fassade=facade;obere=upper;untere=lower;gesamt|gebäudev=total;brücken=bridges;"
+    "0,10=0.10;0,05=0.05;region=region;last=load;grad=degree|itude;breiteng=latitude;°c=°c;1/h=1/h;%=%;"
+    "m²=m²;m³=m³;kwh m=kwh m;kw\\b=kw\\b;w/=w/;diagramm=chart|diagram;bilanz=balance;report=report;"
+    "anzeigen=show ;datei\\b=file\\b;spalten=columns;zeilen\\b=rows|heading lines;deutschl=germany;"
+    "europa=europe;welt=world;import=import;abbrechen=cancel|abort;sprache=language;speichern=save;"
+    "unter[.]= as [.];ebene|umfassung=planes";
 
 /// The first word pair that a caption breaks, empty if it keeps all. Names that stay as they are keep them.
 std::string gebrochen(const Wort& text) {
