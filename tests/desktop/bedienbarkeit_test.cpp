@@ -171,21 +171,9 @@ TEST_F(EbenenfokusTest, LiegtInDerGewaehltenEbeneUndBleibtBeiTastenInDerLeiste) 
     }
 }
 
-/// New leaves the planes and the focus, opening goes back to the first plane and its first control.
-TEST_F(EbenenfokusTest, BleibtBeiNeuUndGehtBeimOeffnenAufDieErsteEbene) {
+/// Also where the bar or a chart is clicked.
+TEST_F(EbenenfokusTest, MerktSichDieEbeneInGebrauch) {
     starte("e");
-    p().Datei = (ordner / "haus.vel").string();
-    haupt().datei.projekt_sichern();
-    for (const Weg weg : {Weg::maus, Weg::leertaste}) {
-        gehe(eingabefaelle[2], weg);
-        const std::string davor = fokus();
-        menue("mnuFileNeu").trigger();
-        EXPECT_EQ(fokus(), davor);
-        EXPECT_EQ(f1(), "E_Gebaeude");
-        haupt().datei.datei_oeffnen((ordner / "haus.vel").string());
-        EXPECT_EQ(fokus(), "h_sb");
-        EXPECT_EQ(f1(), "E_Geometrie");
-    }
     for (const auto& [leiste, knopf, ebene] :
          {std::tuple{"A_Menue", "Uebersicht", "A_Uebersicht"}, {"E_Menue", "Geometrie", "E_Geometrie"}}) {
         const QWidget& gewaehlter = such(leiste, knopf);

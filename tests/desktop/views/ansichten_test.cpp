@@ -114,22 +114,5 @@ TEST_F(AnsichtenTest, TooltipKommtWennDerZeigerRuhtUndBleibtNicht) {
     }
 }
 
-TEST_F(AnsichtenTest, ZoomZeigtDenMonatDerUebersicht) {
-    starte("d");
-    klicke(such<QAbstractButton>("A_Uebersicht", "Monatsbutton2"));
-    EXPECT_EQ(p().Monat_Uebersicht, 2);
-    EXPECT_EQ(such("A_Uebersicht", "AktiverMonat").geometry(),
-              such("A_Uebersicht", "Monatsbutton2").geometry());
-    QTest::mouseClick(&such("A_Uebersicht", "Temperaturen"), Qt::LeftButton);
-    auto& zoom = such("Haupt", "A_Zoom");
-    ASSERT_TRUE(zoom.isVisible());
-    zoom.resize(1000, 600);
-    QApplication::processEvents();
-    EXPECT_EQ(such("A_Zoom", "Temperaturen").size(), QSize(984, 544));
-    EXPECT_EQ(such<QLabel>("A_Zoom", "AktiverMonat1").text(), "Feb.");
-    QTest::keyClick(&zoom, Qt::Key_Escape);
-    EXPECT_FALSE(zoom.isVisible());
-}
-
 }  // namespace
 }  // namespace velmaris

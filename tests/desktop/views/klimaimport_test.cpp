@@ -2,7 +2,6 @@
 #include "tests/climate/import/importprobe.h"
 #include "tests/desktop/programmprobe.h"
 
-#include <QInputDialog>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <gmock/gmock.h>
@@ -10,7 +9,6 @@
 namespace velmaris {
 namespace {
 
-using test::am_naechsten_dialog;
 using test::antworte;
 using test::Quellbau;
 using testing::ElementsAre;
@@ -169,28 +167,6 @@ TEST_F(KlimaimportTest, JedesBedienelementWirkt) {
     QTest::keyClick(&such(ebene, "DateinameBox"), Qt::Key_Return);
     klicke(ebene, "Command3");
     EXPECT_FALSE(fenster().isVisible());
-}
-
-TEST_F(KlimaimportTest, EineErkannteDateiWirdEineStationDesNaechstenLaufs) {
-    oeffne_fenster("d");
-    waehle_quelle("bern.epw", Quellbau{}.epw());
-    EXPECT_EQ(such<QLabel>(ebene, "Erkannt").text(),
-              "Die Datei wurde als EnergyPlus-Wetterdatei (.epw) erkannt.");
-    am_naechsten_dialog<QInputDialog>([&](QInputDialog& box) {
-        EXPECT_GE(box.findChild<QLineEdit*>()->width(), 400);
-        box.setTextValue("bümpliz");
-        antworte(QMessageBox::Ok, [&](QMessageBox& meldung) {
-            EXPECT_TRUE(meldung.text().startsWith("Klimadatenimport beendet!"));
-        });
-        QTest::keyClick(box.findChild<QLineEdit*>(), Qt::Key_Return);
-    });
-    klicke(ebene, "Command2");
-    EXPECT_FALSE(fenster().isVisible());
-    starte("e");
-    haupt().e_klima.Option.setze(nummer(Klimabereich::welt));
-    const auto& liste = such<QComboBox>("E_Klima", "Klimaregionwahl2");
-    haupt().e_klima.Klimaregionwahl2.setze(liste.findText("Bern (CHE)"));
-    EXPECT_EQ(p().Klimadatei, "bümpliz.met");
 }
 
 TEST_F(KlimaimportTest, EinAbbruchLaesstKeineDatei) {

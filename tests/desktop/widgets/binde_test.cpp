@@ -6,7 +6,6 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -122,28 +121,6 @@ TEST_F(Binde, AuswahllisteZeigtFremdenTextUndLangeZeilenGanz) {
     EXPECT_EQ(kasten.width(), 90);
 }
 
-TEST_F(Binde, OptionenSindEineOderKeine) {
-    Optionsgruppe gruppe("Option_Dachfirst", 1, 2);
-    QRadioButton erste(&fenster);
-    QRadioButton zweite(&fenster);
-    std::vector<int> geklickt;
-    gruppe.geklickt = [&](int option) { geklickt.push_back(option); };
-    const std::array knoepfe{&erste, &zweite};
-    binder.binde(knoepfe, gruppe);
-    EXPECT_FALSE(erste.isChecked() || zweite.isChecked());
-    zweite.click();
-    zweite.click();
-    erste.click();
-    EXPECT_TRUE(erste.isChecked() && !zweite.isChecked());
-    gruppe.markiere(std::nullopt);
-    EXPECT_FALSE(erste.isChecked() || zweite.isChecked());
-    gruppe.setze(1);
-    EXPECT_TRUE(erste.isChecked());
-    gruppe.aktiviere(false);
-    EXPECT_FALSE(erste.isEnabled() || zweite.isEnabled());
-    EXPECT_EQ(geklickt, (std::vector{2, 1, 1}));
-}
-
 TEST_F(Binde, AnzeigeMitTextFarbeUndPlatz) {
     Anzeige anzeige("av_anz", "0.62 ");
     QLabel schild(&fenster);
@@ -186,22 +163,6 @@ TEST_F(Binde, FelderUeberlebenIhreWidgets) {
     liste.fuelle({"a"});
     gruppe.setze(1);
     EXPECT_EQ(feld.position(), 5);
-}
-
-TEST_F(Binde, FokusstellungIstDieDesBenutztenFeldes) {
-    Scrollfeld feld("gfn_sb", 0, 100, 5, 20);
-    Scrollleiste leiste(Qt::Horizontal, &fenster);
-    QLineEdit anderes(&fenster);
-    leiste.show();
-    anderes.show();
-    binder.binde(leiste, feld);
-    std::optional<int> im_handler;
-    feld.geaendert = [&] { im_handler = fokusstellung(fenster); };
-    anderes.setFocus();
-    feld.setze(30);
-    EXPECT_EQ(im_handler, std::nullopt);
-    QTest::mouseClick(&leiste, Qt::LeftButton, {}, test::teil(leiste, QStyle::SC_ScrollBarAddLine));
-    EXPECT_EQ(im_handler, 35) << "the click brings the focus before the value";
 }
 
 }  // namespace
