@@ -11,7 +11,8 @@ TEST(Klimaregionen, StehenInZweiZeilen) {
     test::Unterlagen u("d");
     int region = 0;
     for (const std::string& zeilen : test::seite(u, "regionen", 1)) {
-        u.p->Klimadatei = u.p->Regionsdatei(++region) = std::to_string(region);
+        u.p->Klimadatei = std::to_string(++region);
+        u.p->Regionsdatei(region) = u.p->Klimadatei;
         std::string report = report_schreiben(u.quelle, 1);
         report.erase(0, report.find("Klimaregion"));
         const std::string erste = zeilen.substr(0, zeilen.find('|'));
