@@ -2,20 +2,20 @@
 
 #include "energy/katalog_werte.h"
 #include "project/c_glob.h"
+#include "project/wandseite.h"
 
-#include <array>
 #include <string>
 
 namespace velmaris {
 
 /// What the documents show of the lists and options of the input planes.
 struct Auswahltexte {
-    std::string Dachraum;                   ///< what lies above the upper closure, without heated attic
-    std::string untere_Decke;               ///< what lies below the lower floor
-    std::string Waermebruecken;             ///< surcharge for heat bridges
-    std::string Aussenwandart;              ///< construction of the outer walls
-    std::string Innenwandart;               ///< construction of the inner walls
-    std::array<std::string, 4> Fensterart;  ///< window types: north, south, east, west
+    std::string Dachraum;                 ///< what lies above the upper closure, without heated attic
+    std::string untere_Decke;             ///< what lies below the lower floor
+    std::string Waermebruecken;           ///< surcharge for heat bridges
+    std::string Aussenwandart;            ///< construction of the outer walls
+    std::string Innenwandart;             ///< construction of the inner walls
+    JeWandseite<std::string> Fensterart;  ///< window types
 };
 
 /// The figures of the building as the climate plane shows them, without their units.

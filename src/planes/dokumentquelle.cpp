@@ -23,8 +23,8 @@ Auswahltexte auswahltexte(const Haupt& haupt) {
             .Waermebruecken = waermebruecken(haupt),
             .Aussenwandart = haupt.e_gebaeude.Aussenwandart.text(),
             .Innenwandart = haupt.e_gebaeude.Innenwandart.text(),
-            .Fensterart = {fenster.nord.typ.text(), fenster.sued.typ.text(), fenster.ost.typ.text(),
-                           fenster.west.typ.text()}};
+            .Fensterart = {{{fenster.nord.typ.text(), fenster.sued.typ.text(), fenster.ost.typ.text(),
+                             fenster.west.typ.text()}}}};
 }
 
 Gebaeudetexte gebaeudetexte(const A_Klima& k) {

@@ -137,7 +137,7 @@ Unterlagen::Unterlagen(const std::string& sprache)
                          "<Brücken>",
                          "<außen>",
                          "<innen>",
-                         {"<Fenster N>", "<Fenster S>", "<Fenster O>", "<Fenster W>"}},
+                         {{{"<Fenster N>", "<Fenster S>", "<Fenster O>", "<Fenster W>"}}}},
              .gebaeude = gebaeudetexte(),
              .energie = energietexte()} {}
 

@@ -2,11 +2,11 @@
 
 #include "calc/jahressummen.h"
 #include "charts/stufen.h"
+#include "documents/fassadenwerte.h"
 #include "documents/print/druckachsen.h"
 #include "energy/energiebilanz.h"
 
 #include <algorithm>
-#include <array>
 #include <functional>
 
 namespace velmaris {
@@ -143,29 +143,19 @@ void Legende_Bilanz(Blatt& blatt) {
 }
 
 void Diagramm_Fenster(Blatt& blatt, const Projekt& p) {
-    struct Seite {
-        Wort name;
-        double x;
-        float gewinn;
-        float verlust;
-    };
-    const std::array<Seite, 4> seiten{{
-        {{"Nord", "North"}, 54, p.Fenstergewinn_N, p.Fensterverlust_N},
-        {{"Süd", "South"}, 84, p.Fenstergewinn_S, p.Fensterverlust_S},
-        {{"Ost", "East"}, 114, p.Fenstergewinn_O, p.Fensterverlust_O},
-        {{"West", "West"}, 144, p.Fenstergewinn_W, p.Fensterverlust_W},
-    }};
     constexpr double breite = 10;
     constexpr double zweiter = 12;
+    const JeWandseite<double> gewinne = fenstergewinne(p);
+    const JeWandseite<double> verluste = fensterverluste(p);
     double hoechster = 1;
-    for (const Seite& seite : seiten)
-        hoechster = std::max({hoechster, double{seite.gewinn}, double{seite.verlust}});
+    for (const Wandseite seite : wandseiten)
+        hoechster = std::max({hoechster, gewinne[seite], verluste[seite]});
     const Druckdiagramm diagramm(blatt, fenster, schritt_absolut(hoechster), fuenf, "kWh/a");
-    for (const Seite& seite : seiten) {
-        diagramm.stapel(seite.x, seite.x + breite, {{seite.gewinn, druckfarben::solar}});
-        diagramm.stapel(seite.x + zweiter, seite.x + zweiter + breite,
-                        {{seite.verlust, druckfarben::transmission}});
-        blatt.mitte(seite.x + (zweiter + breite) / 2, fenster.unten + 1, seite.name.in(blatt.sprache()));
+    for (const Wandseite seite : wandseiten) {
+        const double x = 54 + 30.0 * static_cast<double>(platz(seite));
+        diagramm.stapel(x, x + breite, {{gewinne[seite], druckfarben::solar}});
+        diagramm.stapel(x + zweiter, x + zweiter + breite, {{verluste[seite], druckfarben::transmission}});
+        blatt.mitte(x + (zweiter + breite) / 2, fenster.unten + 1, fassadennamen[seite].in(blatt.sprache()));
     }
     blatt.drucker().kasten(rahmen::links, 220, rahmen::rechts, 245, farben::schwarz);
     blatt.text(30, 222, Wort{"Legende:", "Legend:"});

@@ -1,4 +1,5 @@
 #include "calc/jahressummen.h"
+#include "documents/fassadenwerte.h"
 #include "documents/print/druckdiagramme.h"
 #include "documents/print/druckseiten.h"
 #include "documents/print/drucktabelle.h"
@@ -116,9 +117,9 @@ void bilanztabelle(Blatt& blatt, double y, const Projekt& p) {
 
 // --- The table of the windows' balance, a column for each facade ---
 
-/// Right edge of the column of facade i (0..3), over its bars in the diagram.
-constexpr double fensteranker(std::size_t i) {
-    return 76 + 30.0 * static_cast<double>(i);
+/// Right edge of the column of a facade, over its bars in the diagram.
+constexpr double fensteranker(Wandseite seite) {
+    return 76 + 30.0 * static_cast<double>(platz(seite));
 }
 
 void fensterbilanz(Blatt& blatt, double y, const Projekt& p) {
@@ -126,23 +127,19 @@ void fensterbilanz(Blatt& blatt, double y, const Projekt& p) {
     constexpr double name = 26;
     struct Zeile {
         Wort name;
-        std::array<double, 4> werte;
+        JeWandseite<double> werte;
     };
-    const std::array<double, 4> gewinne{p.Fenstergewinn_N, p.Fenstergewinn_S, p.Fenstergewinn_O,
-                                        p.Fenstergewinn_W};
-    const std::array<double, 4> verluste{p.Fensterverlust_N, p.Fensterverlust_S, p.Fensterverlust_O,
-                                         p.Fensterverlust_W};
-    std::array<double, 4> bilanz{};
-    for (std::size_t i = 0; i < bilanz.size(); ++i)
-        bilanz[i] = gewinne[i] - verluste[i];
-    constexpr std::array<Wort, 4> fassaden{
-        {{"Nord", "North"}, {"Süd", "South"}, {"Ost", "East"}, {"West", "West"}}};
+    const JeWandseite<double> gewinne = fenstergewinne(p);
+    const JeWandseite<double> verluste = fensterverluste(p);
+    JeWandseite<double> bilanz;
+    for (const Wandseite seite : wandseiten)
+        bilanz[seite] = gewinne[seite] - verluste[seite];
     blatt.schrift({});
     blatt.regel(y);
     y += 0.6;
     blatt.text(name, y, "in kWh/a");
-    for (std::size_t i = 0; i < fassaden.size(); ++i)
-        blatt.DruckeText(fassaden[i].in(blatt.sprache()), fensteranker(i), y);
+    for (const Wandseite seite : wandseiten)
+        blatt.DruckeText(fassadennamen[seite].in(blatt.sprache()), fensteranker(seite), y);
     y += zeilenhoehe;
     blatt.doppelregel(y);
     y += 1.6;
@@ -150,8 +147,8 @@ void fensterbilanz(Blatt& blatt, double y, const Projekt& p) {
                                {{"Transm.-Verluste", "Transm. losses"}, verluste},
                                {{"Bilanz", "Balance"}, bilanz}}) {
         blatt.text(name, y, zeile.name);
-        for (std::size_t i = 0; i < zeile.werte.size(); ++i)
-            blatt.DruckeWert(zeile.werte[i], fensteranker(i), 0, y);
+        for (const Wandseite seite : wandseiten)
+            blatt.DruckeWert(zeile.werte[seite], fensteranker(seite), 0, y);
         y += zeilenhoehe;
     }
     blatt.regel(y);

@@ -1,5 +1,6 @@
 #include "calc/fassaden.h"
 #include "climate/regionen.h"
+#include "documents/fassadenwerte.h"
 #include "documents/klimaregionen.h"
 #include "documents/nachbarwaende.h"
 #include "documents/print/druckseiten.h"
@@ -7,9 +8,6 @@
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
-#include <array>
-#include <cstddef>
-#include <cstdint>
 #include <functional>
 
 namespace velmaris {
@@ -111,35 +109,37 @@ constexpr double erste_spalte = 26;
 constexpr double spaltenbreite = 27;
 constexpr double textbreite_der_spalte = 25.5;
 
-/// Right edge of the column of facade i (0..3).
-constexpr double fassadenanker(std::size_t i) {
-    return 93 + spaltenbreite * static_cast<double>(i);
+/// Right edge of the column of a facade.
+constexpr double fassadenanker(Wandseite seite) {
+    return 93 + spaltenbreite * static_cast<double>(platz(seite));
 }
 
 /// A row of numbers, one for each facade.
 struct Fensterzeile {
     Wort name;
-    std::array<double, 4> werte;
+    JeWandseite<double> werte;
     int stellen;
 };
 
-std::array<double, 4> je_fassade(const Projekt& p, const std::function<double(const Fassade&)>& wert) {
-    const auto seiten = fassaden(p);
-    using enum Wandseite;
-    return {wert(seiten[nord]), wert(seiten[sued]), wert(seiten[ost]), wert(seiten[west])};
+JeWandseite<double> je_fassade(const Projekt& p, const std::function<double(const Fassade&)>& wert) {
+    const JeWandseite<Fassade> seiten = fassaden(p);
+    JeWandseite<double> werte;
+    for (const Wandseite seite : wandseiten)
+        werte[seite] = wert(seiten[seite]);
+    return werte;
 }
 
 /// A row of texts, broken into their columns. Returns the y below it.
-double textzeile(Blatt& blatt, double y, const Wort& name, const std::array<std::string, 4>& texte) {
+double textzeile(Blatt& blatt, double y, const Wort& name, const JeWandseite<std::string>& texte) {
     constexpr double hoehe = 3.6;
     blatt.text(erste_spalte, y, name);
     double unten = y + zeilenhoehe;
-    for (std::size_t i = 0; i < texte.size(); ++i) {
+    for (const Wandseite seite : wandseiten) {
         double zeile = y;
-        for (std::string teil : blatt.ZeilenUmbruch(texte[i], textbreite_der_spalte)) {
+        for (std::string teil : blatt.ZeilenUmbruch(texte[seite], textbreite_der_spalte)) {
             while (teil.ends_with(' '))
                 teil.pop_back();
-            blatt.DruckeText(blatt.gekuerzt(teil, textbreite_der_spalte), fassadenanker(i), zeile);
+            blatt.DruckeText(blatt.gekuerzt(teil, textbreite_der_spalte), fassadenanker(seite), zeile);
             zeile += hoehe;
         }
         unten = std::max(unten, zeile + zeilenhoehe - hoehe);
@@ -150,8 +150,8 @@ double textzeile(Blatt& blatt, double y, const Wort& name, const std::array<std:
 double zahlenzeilen(Blatt& blatt, double y, std::initializer_list<Fensterzeile> zeilen) {
     for (const Fensterzeile& zeile : zeilen) {
         blatt.text(erste_spalte, y, zeile.name);
-        for (std::size_t i = 0; i < zeile.werte.size(); ++i)
-            blatt.DruckeWert(zeile.werte[i], fassadenanker(i), zeile.stellen, y);
+        for (const Wandseite seite : wandseiten)
+            blatt.DruckeWert(zeile.werte[seite], fassadenanker(seite), zeile.stellen, y);
         y += zeilenhoehe;
     }
     return y;
@@ -159,12 +159,10 @@ double zahlenzeilen(Blatt& blatt, double y, std::initializer_list<Fensterzeile> 
 
 double fenstertabelle(Blatt& blatt, double y, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
-    constexpr std::array<Wort, 4> namen{
-        {{"Nord", "North"}, {"Süd", "South"}, {"Ost", "East"}, {"West", "West"}}};
     blatt.regel(y);
     y += 0.7;
-    for (std::size_t i = 0; i < namen.size(); ++i)
-        blatt.DruckeText(namen[i].in(blatt.sprache()), fassadenanker(i), y);
+    for (const Wandseite seite : wandseiten)
+        blatt.DruckeText(fassadennamen[seite].in(blatt.sprache()), fassadenanker(seite), y);
     y += zeilenhoehe;
     blatt.doppelregel(y);
     y += 1.7;
@@ -173,13 +171,17 @@ double fenstertabelle(Blatt& blatt, double y, const Dokumentquelle& quelle) {
                        je_fassade(p, [](const Fassade& f) { return f.f_fenster; }),
                        1},
                       {{"Anteil der Fassade in %", "Fraction of the facade in %"},
-                       {1.0 * p.fn, 1.0 * p.fs, 1.0 * p.fo, 1.0 * p.fw},
+                       {{{1.0 * p.fn, 1.0 * p.fs, 1.0 * p.fo, 1.0 * p.fw}}},
                        0}});
     y = textzeile(blatt, y, {"Fensterart", "Kind of windows"}, quelle.auswahl.Fensterart);
     y = zahlenzeilen(
         blatt, y,
-        {{{"U-Wert Glas in W/(m² K)", "U value glazing in W/(m² K)"}, {p.kfgn, p.kfgs, p.kfgo, p.kfgw}, 2},
-         {{"U-Wert Rahmen in W/(m² K)", "U value frame in W/(m² K)"}, {p.kfrn, p.kfrs, p.kfro, p.kfrw}, 2},
+        {{{"U-Wert Glas in W/(m² K)", "U value glazing in W/(m² K)"},
+          {{{p.kfgn, p.kfgs, p.kfgo, p.kfgw}}},
+          2},
+         {{"U-Wert Rahmen in W/(m² K)", "U value frame in W/(m² K)"},
+          {{{p.kfrn, p.kfrs, p.kfro, p.kfrw}}},
+          2},
          {{"g-Wert Verglasung", "g value glazing"}, je_fassade(p, [](const Fassade& f) { return f.g; }), 2},
          {{"Rahmenanteil in %", "Fraction of frame in %"},
           je_fassade(p, [](const Fassade& f) { return f.rahmen * 100; }),

@@ -1,13 +1,12 @@
 #include "calc/fassaden.h"
 #include "climate/regionen.h"
+#include "documents/fassadenwerte.h"
 #include "documents/klimaregionen.h"
 #include "documents/nachbarwaende.h"
 #include "documents/report/reportseiten.h"
 #include "language/beschriftungen.h"
 #include "toolkit/zahlen.h"
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
 
 namespace velmaris {
@@ -135,33 +134,32 @@ void klima(Reporttext& text, const Projekt& p) {
 
 /// What a facade's rows show that `Fassade` does not hold.
 struct Fensterreihe {
-    Wort seite;
     Wort flaeche;
     std::int16_t Projekt::*anteil;
     float Projekt::*kfg;
     float Projekt::*kfr;
 };
 
-constexpr std::array<Fensterreihe, 4> fensterreihen{{
-    {{"Nord", "North"}, {"Fensterfläche", "Windows area"}, &Projekt::fn, &Projekt::kfgn, &Projekt::kfrn},
-    {{"Süd", "South"}, {"Fensterfläche", "Window area"}, &Projekt::fs, &Projekt::kfgs, &Projekt::kfrs},
-    {{"Ost", "East"}, {"Fensterfläche", "Window area"}, &Projekt::fo, &Projekt::kfgo, &Projekt::kfro},
-    {{"West", "West"}, {"Fensterfläche", "Window area"}, &Projekt::fw, &Projekt::kfgw, &Projekt::kfrw},
-}};
+constexpr JeWandseite<Fensterreihe> fensterreihen{{{
+    {{"Fensterfläche", "Windows area"}, &Projekt::fn, &Projekt::kfgn, &Projekt::kfrn},
+    {{"Fensterfläche", "Window area"}, &Projekt::fs, &Projekt::kfgs, &Projekt::kfrs},
+    {{"Fensterfläche", "Window area"}, &Projekt::fo, &Projekt::kfgo, &Projekt::kfro},
+    {{"Fensterfläche", "Window area"}, &Projekt::fw, &Projekt::kfgw, &Projekt::kfrw},
+}}};
 
 void fenster(Reporttext& text, const Dokumentquelle& quelle) {
     const Projekt& p = quelle.p;
     const auto seiten = fassaden(p);
     text.abschnitt({"Fenster", "Windows"});
     text.block(tabstopps::werte);
-    for (std::size_t i = 0; i < seiten.size(); ++i) {
-        const Fensterreihe& reihe = fensterreihen[i];
-        const Fassade& seite = seiten[i];
-        text.gruppe(reihe.seite);
+    for (const Wandseite wand : wandseiten) {
+        const Fensterreihe& reihe = fensterreihen[wand];
+        const Fassade& seite = seiten[wand];
+        text.gruppe(fassadennamen[wand]);
         text.unterreihe(reihe.flaeche, muster(seite.f_fenster, 1), quadratmeter);
         text.unterreihe({"Fensteranteil der Fassade", "Fraction of windows area at the facade"},
                         muster(p.*reihe.anteil, 1), prozent);
-        text.textunterreihe({"Fensterart", "Kind of windows"}, quelle.auswahl.Fensterart[i]);
+        text.textunterreihe({"Fensterart", "Kind of windows"}, quelle.auswahl.Fensterart[wand]);
         text.unterreihe({"U-Wert Glas", "U value glazing"}, muster(p.*reihe.kfg, 2), uwert);
         text.unterreihe({"U-Wert Rahmen", "U value frame"}, muster(p.*reihe.kfr, 2), uwert);
         text.unterreihe({"g-Wert Verglasung", "g value glazing"}, muster(seite.g, 2));
