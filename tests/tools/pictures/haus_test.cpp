@@ -3,6 +3,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -75,6 +76,36 @@ TEST(Hausbilder, ZeigenIhreDachform) {
     EXPECT_EQ(nord_sued.bei(115, 95), nord_sued.bei(110, 160)) << "gable over the south facade";
     EXPECT_TRUE(waermer_als_wand(ost_west.bei(115, 95))) << "south slope";
     EXPECT_EQ(ost_west.bei(25, 75), ost_west.bei(30, 130)) << "gable over the west facade";
+}
+
+/// What a place of a flag or of the program's own picture shows: a letter for its colour.
+char farbname(Farbe f) {
+    if (f.r > 240 && f.g > 240) return 'w';
+    if (f.r > 240) return 'y';
+    if (f.r > 170) return 'r';
+    if (f.b > 100) return 'b';
+    return f.g > 120 ? 'g' : 's';
+}
+
+TEST(Sinnbilder, ZeigenFlaggenUndHaus) {
+    const struct {
+        const char* bild;
+        std::vector<std::pair<int, int>> orte;
+        std::string farben;
+    } faelle[] = {
+        // Three bands; a red cross with white edges over diagonals on blue; sky, sun, roof, wall, window,
+        // meadow.
+        {"sprache_d.bmp", {{48, 10}, {48, 32}, {48, 55}}, "sry"},
+        {"sprache_e.bmp", {{48, 5}, {10, 32}, {56, 8}, {30, 6}, {21, 14}, {21, 49}}, "rrwbrr"},
+        {"velmaris.bmp", {{10, 10}, {60, 60}, {144, 100}, {80, 200}, {110, 180}, {128, 250}}, "byrwbg"},
+    };
+    for (const auto& [name, orte, farben] : faelle) {
+        const Bitmap bild = test::grafik(name);
+        std::string gefunden;
+        for (const auto& [x, y] : orte)
+            gefunden += farbname(bild.bei(x, y));
+        EXPECT_EQ(gefunden, farben) << name;
+    }
 }
 
 }  // namespace
