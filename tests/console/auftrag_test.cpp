@@ -134,6 +134,11 @@ TEST_F(Konsole, SchreibtWasVerlangtWird) {
     EXPECT_GT(std::count(jahr.begin(), jahr.end(), '\n'), 8760);
     EXPECT_THAT(inhalt("b.rtf"), StartsWith("{\\rtf"));
     EXPECT_EQ(std::distance(fs::directory_iterator("svg"), {}), 30);
+    for (const auto& bild : fs::directory_iterator("svg")) {
+        const std::string text = inhalt(bild.path());
+        EXPECT_GT(std::count(text.begin(), text.end(), '<'), 3)
+            << bild.path() << " has more than its background";
+    }
     EXPECT_TRUE(fs::exists(pfad("svg/A_Sankey_Sankey_Kühlen.svg")));
     EXPECT_THAT(inhalt("svg/E_Geometrie_AV_Picture.svg"), HasSubstr("0 0 140 132\""));
     EXPECT_THAT(inhalt("svg/E_Geometrie_Picture1.svg"), HasSubstr("0 0 80 80\""));

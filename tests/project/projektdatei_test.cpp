@@ -136,7 +136,8 @@ TEST(Projektdatei, FehlerNennenZeileUndFeld) {
     for (const Fall& fall :
          {Fall{2, "zehn", "(l): not a number: \"zehn\""},
           {4, "5.2m", "(h): not a number"},
-          {5, "a\tb" + std::string(50, 'c'), "(ag): not a number: \"a?b" + std::string(37, 'c') + "\""},
+          {5, std::string("a\0b", 3) + std::string(50, 'c'),
+           "(ag): not a number: \"a?b" + std::string(37, 'c') + "\""},
           {8, "40000", "(orient): overflow, the value 40000 does not fit a 16-bit number"},
           {20, "", "(kwn): not a number: \"\""},
           {24, "1E+39", "(kd): number too large: 1E+39"},
