@@ -199,7 +199,7 @@ TEST(Klimadatei, WarntVorWertenDieEsNirgendsGibt) {
         {nord, ost, mez, 0, 8760, {"-95.1"}, "7: outdoor air temperature -95.1 °C. 8760" + viele},
         {nord, ost, mez, 8759, 8760, {"1", "1501"}, "8766: total radiation 1501 W/m²"},
         {nord, ost, mez, 1, 2, {"1", "0", "-51"}, "8: diffuse radiation -51 W/m²"},
-        {nord, ost, mez, 3, 4, {"warm", "hell"}, "10: outdoor air temperature \"warm\" is not a number. One"},
+        {nord, ost, mez, 3, 4, {"x  ", "hell"}, "10: outdoor air temperature \"x\" is not a number. One"},
         {nord, ost, mez, 3, 4, {"0", "*****"}, "10: total radiation \"*****\" is not a number"},
         {nord, ost, mez, 3, 4, {"1.0", "2", ""}, "10: diffuse radiation is missing"},
         {nord, ost, mez, 3, 4, {"-", "2", "1"}, "10: outdoor air temperature \"-\" is not a number"}};

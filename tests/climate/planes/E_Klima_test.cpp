@@ -48,10 +48,10 @@ TEST(EKlima, EineFehlendeStationWirdErsetzt) {
     };
     const std::string deutsch = "   Klimadatensatz nicht gefunden!\rDefault-Klimadatensatz wird geladen!";
     const std::string englisch = "     Climatic data not found!\rDefault climatic data will be loaded!";
-    for (const Fall& fall :
-         {Fall{"d", deutschland, 0.9, "trier.met"}, Fall{"e", deutschland, 0.9, "trier.met"},
-          Fall{"d", europa, 0.74, "passau.met"}, Fall{"e", europa, 0.75, "trier.met"},
-          Fall{"d", welt, 0.17, "honolulu.met"}, Fall{"d", welt, 0.999, "trier.met"}}) {
+    for (const Fall& fall : {Fall{"d", deutschland, 0.9, "trier.met"},
+                             Fall{"e", deutschland, 0.9, "trier.met"}, Fall{"d", europa, 0.74, "passau.met"},
+                             Fall{"e", europa, 0.75, "trier.met"}, Fall{"d", welt, 0.17, "honolulu.met"},
+                             Fall{"d", welt, 0.34, "paris.met"}, Fall{"d", welt, 0.999, "trier.met"}}) {
         Klimaprobe probe(fall.sprache);
         probe.plattform.lose = {fall.los};
         probe.p->Klimadatei = "atlantis.met";
@@ -68,6 +68,7 @@ TEST(EKlima, EineFehlendeStationWirdErsetzt) {
         EXPECT_THAT(meldung.hinweis, HasSubstr("atlantis.met: "));
         EXPECT_EQ(probe.p->Geaendert, 1);
         EXPECT_EQ(probe.e->Klimaregionwahl.index(), fall.bereich == deutschland ? 3 : -1);
+        EXPECT_EQ(probe.e->HScroll1.position(), fall.bereich == welt && fall.los > 0.5 ? 4800 : 0);
     }
 }
 
