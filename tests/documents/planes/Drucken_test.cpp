@@ -82,6 +82,7 @@ TEST(Drucken, FragtNachDerPdfDatei) {
     d.drucken.Command1.druecke();
     ASSERT_EQ(d.plattform.dialoge.size(), 1U);
     EXPECT_EQ(d.plattform.dialoge[0].dateiname, "Müller.pdf");
+    EXPECT_EQ(d.plattform.dialoge[0].filter, "PDF-Dateien (*.pdf)|*.pdf");
     EXPECT_TRUE(d.ziele.empty()) << "cancelled";
     EXPECT_TRUE(d.plattform.meldungen.empty());
     EXPECT_TRUE(d.drucken.fenster.sichtbar());

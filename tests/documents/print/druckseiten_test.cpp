@@ -6,6 +6,8 @@
 #include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sstream>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -26,20 +28,32 @@ bool im_textteil(const Druckzeichen& z) {
     return !skizze && !plan;
 }
 
-/// The rows of a page from the top down; texts whose tops differ by less than half a millimetre share one.
+/// The rows of a page from the top down, an underscore for a rule over the whole frame. Texts whose tops
+/// differ by less than half a millimetre share a row; where size or weight change they stand in front.
 Zeilen gedruckt(const Dokumentquelle& quelle, int seite) {
     Testdrucker drucker;
     Ausdrucken(drucker, quelle, alles_drucken, "");
-    std::vector<Druckzeichen> texte = drucker.auf_seite(seite, Druckzeichen::Art::text);
-    std::erase_if(texte, [](const Druckzeichen& z) { return !im_textteil(z); });
-    std::stable_sort(texte.begin(), texte.end(), [](const auto& a, const auto& b) { return a.y1 < b.y1; });
+    std::vector<Druckzeichen> alles = drucker.zeichen;
+    const auto regel = [](const Druckzeichen& z) { return z.x1 == 25 && z.x2 == 175 && z.y1 == z.y2; };
+    std::erase_if(alles, [&](const Druckzeichen& z) {
+        const bool text = z.art == Druckzeichen::Art::text;
+        return z.seite != seite || !im_textteil(z) || z.y1 == 260 || !(text || regel(z));
+    });
+    std::stable_sort(alles.begin(), alles.end(), [](const auto& a, const auto& b) { return a.y1 < b.y1; });
     Zeilen zeilen;
-    for (auto von = texte.begin(); von != texte.end();) {
-        const auto bis = std::find_if(von, texte.end(), [&](const auto& z) { return z.y1 > von->y1 + 0.5; });
+    std::string vorher;
+    for (auto von = alles.begin(); von != alles.end();) {
+        const auto bis = std::find_if(von + 1, alles.end(), [&](const auto& z) {
+            return regel(*von) || regel(z) || z.y1 > von->y1 + 0.5;
+        });
         std::stable_sort(von, bis, [](const auto& a, const auto& b) { return a.x2 < b.x2; });
         Zeilen zellen;
-        std::transform(von, bis, std::back_inserter(zellen), [](const auto& z) { return z.text; });
-        zeilen.push_back(test::zeile(zellen));
+        std::transform(von, bis, std::back_inserter(zellen),
+                       [&](const auto& z) { return regel(z) ? "_" : z.text; });
+        std::ostringstream form;
+        form << '[' << von->schrift.groesse << (von->schrift.fett ? "b]" : "]");
+        const bool neu = !regel(*von) && std::exchange(vorher, form.str()) != form.str();
+        zeilen.push_back((neu ? vorher : "") + test::zeile(zellen));
         von = bis;
     }
     return zeilen;

@@ -47,8 +47,10 @@ Zeilen report(const Dokumentquelle& quelle, int seite) {
     std::string vorher;
     for (const Absatz& absatz : rtf_lesen(report_in_sprache(quelle, seite))) {
         std::string text;
-        for (const Textstueck& stueck : absatz.stuecke)
+        for (const Textstueck& stueck : absatz.stuecke) {
+            EXPECT_EQ(stueck.schrift, "Times New Roman");
             text += (stueck.tiefgestellt ? "_" : "") + stueck.text;
+        }
         const bool neu = !absatz.stuecke.empty() && std::exchange(vorher, form(absatz)) != form(absatz);
         zeilen.push_back((neu ? "[" + vorher + "]" : "") + zellen(text));
     }
