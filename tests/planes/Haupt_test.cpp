@@ -5,6 +5,7 @@
 #include "toolkit/text.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 #include <set>
 #include <tuple>
 #include <utility>
@@ -47,6 +48,8 @@ class Hauptprogramm : public testing::Test {
 TEST_F(Hauptprogramm, JedeLeisteZeigtEineEbene) {
     using Namen = std::set<std::string>;
     std::string beschriftet;
+    std::string zugewandt;
+    haupt().e_menue.zugewandt = [&](const Feld& ebene) { zugewandt = ebene.name; };
     for (Ebenenleiste* leiste : {&haupt().e_menue, &haupt().a_menue}) {
         EXPECT_TRUE(leiste->leiste.sichtbar());
         EXPECT_EQ(gezeigt(*leiste), Namen{leiste->eintraege().front().ebene->name});
@@ -72,6 +75,7 @@ TEST_F(Hauptprogramm, JedeLeisteZeigtEineEbene) {
                                        {"mnuWinGeo", "E_Geometrie"}}) {
         haupt().menue.punkt(punkt).druecke();
         EXPECT_EQ(gezeigt(haupt().e_menue), Namen{ebene});
+        EXPECT_EQ(zugewandt, ebene);
     }
     haupt().erste_ebenen();
     EXPECT_EQ(gezeigt(haupt().a_menue), Namen{"A_Uebersicht"});
@@ -212,6 +216,18 @@ TEST_F(Hauptprogramm, SpracheGiltErstBeimNaechstenStart) {
     EXPECT_EQ(programm.plattform.meldungen.size(), 1U);
     EXPECT_EQ(p().Sprache, "d");
     EXPECT_EQ(test::inhalt(programm.ordner / "klima/typ.dat").front(), 'e');
+}
+
+TEST(HauptOhneProjekt, KenntSeineOrdner) {
+    const test::Testordner ordner;
+    test::Testplattform plattform;
+    plattform.daten = ordner / "eigene";
+    const auto haupt = std::make_unique<Haupt>(plattform, ordner / "fehlt", "d");
+    EXPECT_EQ(haupt->p.AppPfad, ordner / "fehlt");
+    EXPECT_EQ(haupt->p.InitDir, ordner / "fehlt");
+    EXPECT_EQ(haupt->p.Datenordner, plattform.daten);
+    EXPECT_EQ(haupt->p.Datei, "default.vel");
+    EXPECT_TRUE(haupt->e_geometrie.Option_Dachfirst.gesetzt(1));
 }
 
 }  // namespace

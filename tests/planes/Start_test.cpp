@@ -90,11 +90,19 @@ TEST_F(Programmstart, SonstWartetDasStartfensterZehnSekundenOderAufDenKnopf) {
     const auto& sanduhren = plattform.sanduhren;
     EXPECT_EQ(std::count(sanduhren.begin(), sanduhren.end(), true),
               std::count(sanduhren.begin(), sanduhren.end(), false));
-    fenster->laden();
-    EXPECT_TRUE(fenster->fenster.sichtbar());
-    fenster->OK_Button.druecke();
-    EXPECT_FALSE(fenster->fenster.sichtbar());
+    for (const bool knopf : {true, false}) {
+        fenster->laden();
+        EXPECT_TRUE(fenster->fenster.sichtbar());
+        knopf ? fenster->OK_Button.druecke() : fenster->schliessen();
+        EXPECT_FALSE(fenster->fenster.sichtbar());
+    }
+    EXPECT_FALSE(plattform.beendet);
     EXPECT_EQ(gezeigt, 1);
+}
+
+TEST_F(Programmstart, DasGeschlosseneStartfensterBeendetDasProgramm) {
+    start("")->schliessen();
+    EXPECT_TRUE(plattform.beendet);
 }
 
 TEST_F(Programmstart, OeffnetDasProjektDerBefehlszeile) {

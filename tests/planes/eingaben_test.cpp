@@ -322,6 +322,8 @@ TEST_F(Eingaben, EinLeererDachraumUndEinFremderZuschlagBleibenUndZeigenNichts) {
 
 TEST_F(Eingaben, DieDokumenteBekommenWasDieEbenenZeigen) {
     alles_bewegen();
+    h().a_klima.ebene.zeige(false);
+    h().e_daemmung.kd_sb.setze(60);
     const Kennwerte k = energ_refresh(p());
     const Gebaeudekennwerte g = gebaeudekennwerte(p());
     const Heizgrenze grenze = heizgrenze(p());
@@ -404,6 +406,26 @@ TEST_F(Eingaben, OhneGlasOderFensterSindDieMittelwerteLeer) {
     EXPECT_EQ(e.kf_anz.text(), "");
     EXPECT_EQ(Testprogramm("e").haupt->e_geometrie.l_anz.text(), "length: 10.0 m");
     EXPECT_EQ(Testprogramm("e").haupt->e_geometrie.b_anz.text(), "width: 10.0 m");
+}
+
+TEST(Listen, SprechenEnglisch) {
+    const Testprogramm programm("e");
+    const Haupt& h = *programm.haupt;
+    std::string texte;
+    for (const Auswahlliste* liste : {&h.e_fenster.west.typ, &h.e_daemmung.ugd, &h.e_daemmung.ogd,
+                                      &h.e_daemmung.ogd_Dach, &h.e_gebaeude.Innenwandart}) {
+        for (const std::string& eintrag : liste->eintraege())
+            texte += eintrag + "|";
+    }
+    EXPECT_EQ(
+        texte,
+        "single glazing|double glazing|heat protection double glazing (U = 1.9 W/(m² K))|"
+        "heat protection double glazing (U = 1.4 W/(m² K))|heat protection double glazing (U = 1.0 W/(m² K))|"
+        "heat protection triple glazing (U = 0.7 W/(m² K))|heat protection triple glazing (U = 0.5 W/(m² K))|"
+        "others|non-heated cellar (with insulation)|non-heated cellar (without insulation)|"
+        "soil (with border insulation)|soil (without border insulation)|outside air|"
+        "outside or non-insulated roof|partly insulated roof|totally insulated roof|outside air|"
+        "heavy construction|medium construction|light construction|");
 }
 
 }  // namespace

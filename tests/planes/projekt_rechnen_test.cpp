@@ -4,6 +4,7 @@
 #include "toolkit/text.h"
 
 #include <gtest/gtest.h>
+#include <string>
 
 namespace velmaris {
 namespace {
@@ -15,7 +16,8 @@ TEST(ProjektRechnen, RechnetEineDateiOderNenntIhrenFehler) {
         const char* inhalt;
         std::string fehler;  ///< empty where the project is calculated
     };
-    for (const Fall& fall : {Fall{2, " 14", ""},
+    for (const Fall& fall : {Fall{2, " 50", ""},
+                             {2, " 2", ""},
                              {1, "Velmaris Version 9", "line 1 names no known version"},
                              {56, "fehlt.met", "fehlt.met"},
                              {2, " 60", "line 2 (l): value out of range: 60 (2.0 .. 50.0)"},
@@ -28,7 +30,7 @@ TEST(ProjektRechnen, RechnetEineDateiOderNenntIhrenFehler) {
         try {
             const auto haupt = projekt_rechnen(plattform, vorlage.ordner.pfad(), "e", pfadtext(datei));
             EXPECT_EQ(fall.fehler, "");
-            EXPECT_EQ(haupt->p.l, 14);
+            EXPECT_EQ(haupt->p.l, std::stof(fall.inhalt));
             EXPECT_GT(haupt->p.qh, 0);
             EXPECT_NE(haupt->a_klima.anz_Heizlast.text(), "");
         } catch (const Dateifehler& fehler) {
