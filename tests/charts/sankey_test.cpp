@@ -2,7 +2,6 @@
 #include "tests/rekorder_flaeche.h"
 #include "toolkit/svg_flaeche.h"
 
-#include <array>
 #include <gtest/gtest.h>
 #include <string>
 #include <utility>
@@ -60,26 +59,6 @@ TEST(Sankey, LinieReichtBisZumLetztenPixel) {
     }
 }
 
-TEST(Sankey, SpitzePixelFuerPixel) {
-    struct Fall {
-        std::array<double, 4> ecken;
-        const char* bild;  ///< rows from the top
-    };
-    for (const Fall& f : {Fall{{1, 5, 1, 1}, "......|.#....|.##...|.###..|.##...|.#....|......|"},
-                          Fall{{1, 4, 1, 1}, "......|.#....|.##...|.##...|.#....|......|......|"},
-                          Fall{{0, 1, 4, 1}, "......|#####.|.###..|..#...|......|......|......|"},
-                          Fall{{4, 5, 0, 5}, "......|......|......|..#...|.###..|#####.|......|"},
-                          Fall{{2, 3, 2, 3}, "......|......|......|..#...|......|......|......|"},
-                          Fall{{1.5, 5, 1.5, 1}, "......|..#...|..##..|..###.|..##..|..#...|......|"}}) {
-        Probe probe(6, 7);
-        Sankey_Spitze(probe.bild, f.ecken[0], f.ecken[1], f.ecken[2], f.ecken[3], bandfarbe);
-        std::string bild;
-        for (const std::string& zeile : probe.zeilen())
-            bild += zeile + "|";
-        EXPECT_EQ(bild, f.bild) << f.ecken[0] << " " << f.ecken[1];
-    }
-}
-
 TEST(Sankey, BogenIstKuchenMitWeisserScheibe) {
     Probe probe(40, 40);
     probe.bild.flaeche(0, 0, 39, 39, farben::gelb);
@@ -102,17 +81,6 @@ std::pair<std::size_t, std::size_t> band(const Zeilen& zeilen, std::size_t x) {
         spalte += zeile[x];
     EXPECT_EQ(spalte.find('.', spalte.find('#')), spalte.rfind('#') + 1) << "a hole at " << x;
     return {spalte.find('#'), spalte.rfind('#')};
-}
-
-TEST(Sankey, SchraegbandHatUeberallSeineHoehe) {
-    Probe probe(40, 40);
-    Sankey_Schraegband(probe.blatt, 3, 30, 33, 20, 8);
-    for (std::size_t x = 3; x <= 33; ++x)
-        EXPECT_EQ(band(probe.zeilen(), x).second - band(probe.zeilen(), x).first, 8U) << x;
-    EXPECT_EQ(band(probe.zeilen(), 3).second, 30U);
-    // Each line aims one pixel beyond its end: 30 - 11 * 30 / 31 = 19.4 in the last column.
-    EXPECT_EQ(band(probe.zeilen(), 33).second, 19U);
-    EXPECT_EQ(probe.zeilen()[30][2], '.');
 }
 
 TEST(Sankey, SchwungbandVerbindetBeideEnden) {
