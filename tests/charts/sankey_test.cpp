@@ -1,5 +1,5 @@
 #include "charts/c_sankey.h"
-#include "tests/rekorder_flaeche.h"
+#include "tests/charts/probe.h"
 #include "toolkit/svg_flaeche.h"
 
 #include <gtest/gtest.h>
@@ -12,32 +12,6 @@ namespace {
 
 constexpr Farbe bandfarbe{255, 180, 180};
 using Art = Zeichnung::Art;
-using Zeilen = std::vector<std::string>;
-
-/// A white surface, its pixels as rows of text: '#' for the band, '.' for white, '?' for anything else.
-struct Probe {
-    explicit Probe(int breite = 9, int hoehe = 9) : bild(breite, hoehe, farben::weiss) {}
-
-    [[nodiscard]] Zeilen zeilen() const {
-        Zeilen ergebnis;
-        for (int y = 0; y < bild.hoehe(); ++y) {
-            ergebnis.emplace_back();
-            for (int x = 0; x < bild.breite(); ++x) {
-                const Farbe farbe = bild.lies_punkt(x, y);
-                ergebnis.back() += farbe == bandfarbe ? '#' : farbe == farben::weiss ? '.' : '?';
-            }
-        }
-        return ergebnis;
-    }
-
-    RekorderFlaeche bild;
-    Sankeyblatt blatt{bild, bandfarbe};
-};
-
-TEST(Sankey, MassstabLaesstKopfUndRandFrei) {
-    const RekorderFlaeche bild(440, 232);
-    EXPECT_DOUBLE_EQ(Sankey_Massstab(bild, 324, 20), 2);
-}
 
 TEST(Sankey, LinieReichtBisZumLetztenPixel) {
     struct Fall {
@@ -50,53 +24,37 @@ TEST(Sankey, LinieReichtBisZumLetztenPixel) {
         {{1, 6, 4, 1}, {1, 6, 5, 0}}, {{4, 1, 1, 6}, {1, 6, 5, 0}},
     };
     for (const Fall& f : faelle) {
-        Probe probe;
-        Sankey_Linie(probe.bild, f.ecken[0], f.ecken[1], f.ecken[2], f.ecken[3], bandfarbe);
-        const std::vector<Zeichnung> linien = probe.bild.alle(Art::linie, bandfarbe);
+        RekorderFlaeche bild(9, 9);
+        Sankey_Linie(bild, f.ecken[0], f.ecken[1], f.ecken[2], f.ecken[3], bandfarbe);
+        const std::vector<Zeichnung> linien = bild.alle(Art::linie, bandfarbe);
         ASSERT_EQ(linien.size(), 1U);
         EXPECT_EQ(linien[0].zahlen, f.gezogen) << f.ecken[0] << " " << f.ecken[1];
-        EXPECT_EQ(probe.bild.lies_punkt(f.ecken[2], f.ecken[3]), bandfarbe);
+        EXPECT_EQ(bild.lies_punkt(f.ecken[2], f.ecken[3]), bandfarbe);
     }
 }
 
-TEST(Sankey, BogenIstKuchenMitWeisserScheibe) {
-    Probe probe(40, 40);
-    probe.bild.flaeche(0, 0, 39, 39, farben::gelb);
-    Sankey_Bogen(probe.blatt, 20, 20, 270, 360, 5, 10);
-    const auto zeile = [&](int y) { return probe.zeilen()[static_cast<std::size_t>(y)]; };
-    EXPECT_EQ(zeile(20), "???????????...................######????");
-    EXPECT_EQ(zeile(19).find('#'), std::string::npos) << "the sector begins at its radius";
-    std::string spalte;
-    for (int y = 0; y < 40; ++y)
-        spalte += zeile(y)[20];
-    EXPECT_EQ(spalte, "???????????...................######????");
-    EXPECT_EQ(zeile(12)[12], '?') << "outside the disk nothing is erased";
-    EXPECT_EQ(zeile(14)[14], '.') << "the disk erases what was there";
-}
-
 /// The band in one column, {upper, lower} row.
-std::pair<std::size_t, std::size_t> band(const Zeilen& zeilen, std::size_t x) {
-    std::string spalte;
-    for (const std::string& zeile : zeilen)
-        spalte += zeile[x];
-    EXPECT_EQ(spalte.find('.', spalte.find('#')), spalte.rfind('#') + 1) << "a hole at " << x;
-    return {spalte.find('#'), spalte.rfind('#')};
+std::pair<int, int> band(const RekorderFlaeche& bild, int x) {
+    int oben = 0;
+    while (bild.lies_punkt(x, oben) != bandfarbe)
+        ++oben;
+    int unten = static_cast<int>(bild.hoehe()) - 1;
+    while (bild.lies_punkt(x, unten) != bandfarbe)
+        --unten;
+    EXPECT_EQ(test::hoch(bild, x, unten), unten - oben + 1) << "a hole at " << x;
+    return {oben, unten};
 }
 
 TEST(Sankey, SchwungbandVerbindetBeideEnden) {
     for (const int breite : {1, 2, 7, 20, 47, 49, 60}) {
         for (const int versatz : {10, -10}) {
-            Probe probe(60, 120);
-            Sankey_Schwungband(probe.blatt, {40, 80}, {10, 80 + versatz}, breite);
-            EXPECT_EQ(probe.bild.alle(Art::sektor).size(), breite < 49 ? 2U : 0U) << breite;
-            band(probe.zeilen(), 25);
+            RekorderFlaeche bild(60, 120, farben::weiss);
+            Sankey_Schwungband({bild, bandfarbe}, {40, 80}, {10, 80 + versatz}, breite);
+            EXPECT_EQ(bild.alle(Art::sektor).size(), breite < 49 ? 2U : 0U) << breite;
+            band(bild, 25);
             const int schraeg = breite < 49 ? 0 : versatz > 0 ? -1 : 1;  // lines aim beyond their end
-            for (const auto& [x, unten] : {std::pair{10, 80 + versatz}, {40, 80 + schraeg}}) {
-                const auto kante = static_cast<std::size_t>(unten);
-                EXPECT_EQ(band(probe.zeilen(), static_cast<std::size_t>(x)),
-                          std::pair(kante - static_cast<std::size_t>(breite), kante))
-                    << breite << " " << x;
-            }
+            EXPECT_EQ(band(bild, 10), std::pair(80 + versatz - breite, 80 + versatz)) << breite;
+            EXPECT_EQ(band(bild, 40), std::pair(80 + schraeg - breite, 80 + schraeg)) << breite;
         }
     }
 }
@@ -127,19 +85,6 @@ TEST(Sankey, SvgBekommtUmrisse) {
     EXPECT_EQ(letzter_verlauf(bild),
               "M 10 61L 10.5 61A 39.5 39.5 0 0 0 34.2 53.1A 10.5 10.5 0 0 1 40.5 51L 41 51L 41 22L 40.5 22"
               "A 39.5 39.5 0 0 0 16.8 29.9A 10.5 10.5 0 0 1 10.5 32L 10 32Z");
-}
-
-TEST(Sankey, TextBeginntNichtLinksDerFlaeche) {
-    RekorderFlaeche bild(100, 50);
-    Sankey_Text(bild, Buendig::links, 5, 0, {"ab", "abc"});
-    Sankey_Text(bild, Buendig::mitte, 50, 0, {"ab", "abcd"});
-    Sankey_Text(bild, Buendig::rechts, 90, 20, {"ab"});
-    Sankey_Text(bild, Buendig::rechts, 10, 30, {"abcdef"});
-    std::vector<std::vector<double>> orte;
-    for (const Zeichnung& z : bild.alle(Art::text))
-        orte.push_back(z.zahlen);
-    const std::vector<std::vector<double>> erwartet{{5, 0}, {5, 12}, {44, 0}, {38, 12}, {78, 20}, {0, 30}};
-    EXPECT_EQ(orte, erwartet);
 }
 
 }  // namespace

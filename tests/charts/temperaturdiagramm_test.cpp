@@ -26,17 +26,6 @@ TEST(Temperaturachse, SchritteUndEnden) {
     }
 }
 
-TEST(Extreme, UeberAlleStundenDesMonats) {
-    Stundentabelle<float> T;
-    T(2, 28, 24) = 3;
-    T(2, 1, 1) = -4;
-    T(2, 29, 1) = 99;  // a day that February does not have
-    T(3, 1, 1) = 98;
-    const Stundenreihe reihe = [&T](int m, int d, int h) { return T(m, d, h); };
-    EXPECT_EQ(max_suchen(reihe, 2), 3);
-    EXPECT_EQ(min_suchen(reihe, 2), -4);
-}
-
 /// Outdoor air 10, room 20 with one hour of 15 in July, on a surface that gives ten pixels to the day and
 /// to the kelvin.
 class Temperaturdiagramm : public ::testing::Test {
