@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
+#include <sys/stat.h>
 #include <thread>
 #include <vector>
 
@@ -67,6 +68,7 @@ TEST(DateiErsetzen, WeigertSichBeiZielenDieKeineSind) {
     fs::permissions(fest, fs::perms::owner_read | fs::perms::group_read);
     fs::create_symlink("nirgends.txt", ordner / "leer");
     fs::create_symlink("kreis", ordner / "kreis");
+    ASSERT_EQ(::mkfifo((ordner / "rohr").c_str(), 0600), 0);
     fs::create_symlink(fest, ordner / "zum_festen");
     struct Fall {
         fs::path ziel;
@@ -77,14 +79,14 @@ TEST(DateiErsetzen, WeigertSichBeiZielenDieKeineSind) {
                              {ordner / "zum_festen", "write-protected"},
                              {ordner / "leer", "a link that leads nowhere"},
                              {ordner / "kreis", "a link that leads nowhere"},
-                             {"/dev/null", "not a regular file"}}) {
+                             {ordner / "rohr", "not a regular file"}}) {
         const std::string meldung = fehler_beim_ersetzen(fall.ziel);
         EXPECT_NE(meldung.find(fall.grund), std::string::npos) << fall.ziel << ": " << meldung;
         EXPECT_EQ(meldung.find(pfadtext(fall.ziel)), 0U) << meldung;
     }
     EXPECT_EQ(inhalt(fest), "alt");
     EXPECT_FALSE(fs::exists(ordner / "nirgends.txt"));
-    EXPECT_EQ(dateien_in(ordner.pfad()), 4);
+    EXPECT_EQ(dateien_in(ordner.pfad()), 5);
 }
 
 TEST(DateiErsetzen, SchreibtDurchEinenVerweisInSeinZiel) {
