@@ -59,6 +59,7 @@ TEST(Auswahlliste, SetzenLaeuftImmerMarkierenNie) {
     liste.setze(1);
     EXPECT_EQ(gefeuert, 2);
     liste.markiere(0);
+    EXPECT_EQ(liste.text(), "a");
     liste.schreibe("fremd");
     EXPECT_EQ(gefeuert, 2);
     EXPECT_EQ(liste.index(), -1);

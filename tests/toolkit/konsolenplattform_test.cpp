@@ -38,10 +38,10 @@ TEST(Konsolenplattform, JederFehlerNenntSeineDateiInEinerZeile) {
 TEST(Konsolenplattform, VerneintJedeFrageUndBleibtStumm) {
     Konsolenplattform plattform;
     testing::internal::CaptureStderr();
-    EXPECT_EQ(plattform.melde({.text = "eins\rzwei"}), Antwort::ok);
+    EXPECT_EQ(plattform.melde({.text = "\neins\rzwei"}), Antwort::ok);
     EXPECT_EQ(plattform.melde({.text = "?", .knoepfe = Knoepfe::ja_nein}), Antwort::nein);
     EXPECT_EQ(plattform.melde({.text = "?", .knoepfe = Knoepfe::ja_nein_abbrechen}), Antwort::abbrechen);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "eins zwei\n?\n?\n");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), " eins zwei\n?\n?\n");
     EXPECT_FALSE(plattform.eingabe("?", "", "vorgabe") || plattform.dateidialog({}));
     EXPECT_EQ(plattform.zufall(), 0) << "the first of all stations";
 }

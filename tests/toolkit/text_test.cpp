@@ -37,7 +37,8 @@ TEST(Windows1252, KenntDieUmlauteUndErsetztFremdes) {
 TEST(Text, KenntGanzeZeichen) {
     for (const char* gut : {"", "az", "\u0080", "\u07FF", "\u0800", "\uFFFD", "\U0010FFFF"})
         EXPECT_TRUE(ist_utf8(gut)) << gut;
-    for (const char* schlecht : {"\xC3", "\x80", "\xC1\x81", "\xF5\x80\x80\x80", "\xE2\x82z", "a\xFF"})
+    for (const char* schlecht :
+         {"\xC3", "\xC3z", "\x80", "\xC1\x81", "\xF5\x80\x80\x80", "\xE2\x82z", "a\xFF"})
         EXPECT_FALSE(ist_utf8(schlecht)) << schlecht;
 }
 

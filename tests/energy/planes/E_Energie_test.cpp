@@ -79,6 +79,7 @@ TEST_F(Energieebene, ZeigtDieBilanz) {
     EXPECT_EQ(texte({&e.Label8, &e.Label21, &e.Label27}),
               "Heizenergiebedarf (Heizöl):|Primärenergiebedarf (Heizöl):|Heizöl:|");
     EXPECT_EQ(texte({&e.Label30, &e.Label_Energieträger}), "Verluste Verteilung && Speicherung:|Heizöl EL|");
+    EXPECT_EQ(e.kennwerte().q_d, 2.5F);
     EXPECT_FALSE(e.ebene.sichtbar());
     for (const Anzeige* anzeige : verdeckt)
         EXPECT_FALSE(anzeige->sichtbar()) << anzeige->name;
@@ -135,6 +136,9 @@ TEST_F(Energieebene, FalscherIndexLaesstDieEbeneStehen) {
     EXPECT_THROW(ebene->EnergRefresh(), Laufzeitfehler);
     EXPECT_EQ(ebene->anz_q_HE_Energieträger.text(), "57.9");
     EXPECT_EQ(ebene->Label_Energieträger.text(), "Heizöl EL");
+    waehle(1, 0, 1);
+    ebene->zeigen({});
+    EXPECT_EQ(ebene->Label_Übergabe.text(), "");
     p->FormLoadGuard = -1;
     sitzung.alles_berechnen = [] {};
     EXPECT_NO_THROW(ebene->aktiviert()) << "what a failed opening has left";
@@ -277,11 +281,9 @@ TEST(Tippplatz, BleibtAufDerEbene) {
     };
     // Main window at (100, 50), plane at (0, 25) in it, 500 pixels high, panel 200 wide and 72 high.
     const Ebenenlage lage{.haupt = {100, 50}, .ebene = {0, 25}, .hoehe = 500};
-    for (const Fall& f : std::vector<Fall>{{{400, 200}, {95, 105}},
-                                           {{305, 200}, {0, 105}},
-                                           {{250, 200}, {0, 105}},
-                                           {{400, 523}, {95, 428}},     // ends at 500, just inside
-                                           {{400, 524}, {95, 327}}}) {  // 449 - 50 - 72
+    // At 523 the panel ends at 500, just inside; at 524 it stands above, 449 - 50 - 72.
+    for (const Fall& f : {Fall{{400, 200}, {95, 105}}, Fall{{305, 200}, {0, 105}}, Fall{{250, 200}, {0, 105}},
+                          Fall{{400, 523}, {95, 428}}, Fall{{400, 524}, {95, 327}}}) {
         EXPECT_EQ(platz_neben_dem_zeiger(f.zeiger, lage, {200, 72}), f.platz)
             << f.zeiger.x << "," << f.zeiger.y;
     }
