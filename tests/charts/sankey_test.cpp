@@ -35,11 +35,12 @@ TEST(Sankey, LinieReichtBisZumLetztenPixel) {
 
 /// The band in one column, {upper, lower} row.
 std::pair<int, int> band(const RekorderFlaeche& bild, int x) {
+    const int hoehe = static_cast<int>(bild.hoehe());
     int oben = 0;
-    while (bild.lies_punkt(x, oben) != bandfarbe)
+    while (oben < hoehe && bild.lies_punkt(x, oben) != bandfarbe)
         ++oben;
-    int unten = static_cast<int>(bild.hoehe()) - 1;
-    while (bild.lies_punkt(x, unten) != bandfarbe)
+    int unten = hoehe - 1;
+    while (unten > oben && bild.lies_punkt(x, unten) != bandfarbe)
         --unten;
     EXPECT_EQ(test::hoch(bild, x, unten), unten - oben + 1) << "a hole at " << x;
     return {oben, unten};
