@@ -39,6 +39,7 @@ void in_die_skalen(Projekt& p) {
     p.qis = 120.5F;
     p.qsols = 90.25F;
     p.qhs_sum = 250;
+    p.Monat(12).Qt = 50000;  // the last bar alone needs the coarsest scale
     for (int m = 1; m <= monate; ++m) {
         p.Monat(m).Stunden_kalt = static_cast<std::int16_t>(300 + m);
         p.Monat(m).Stunden_komfort = static_cast<std::int16_t>(150 + 2 * m);

@@ -6,6 +6,7 @@
 #include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <map>
 #include <sstream>
 #include <utility>
 
@@ -70,6 +71,18 @@ TEST(Druckseiten, JedeZeileZeigtIhrenWertDesDatensatzes) {
         EXPECT_THAT(gedruckt(u.quelle, 7),
                     ElementsAreArray(test::seite(u, "print/seiten", strom_statt_seite_7)));
     }
+}
+
+TEST(Druckseiten, AbschnitteStehenAb) {
+    const Unterlagen u("d");
+    Testdrucker drucker;
+    Ausdrucken(drucker, u.quelle, {true}, "");
+    std::map<std::string, double> oben;
+    for (const auto& z : drucker.auf_seite(1, Druckzeichen::Art::text))
+        oben[z.text] = z.y1;
+    EXPECT_EQ(oben["Geometrie:"], 50);
+    EXPECT_GT(oben["Dämmung:"] - oben["A/V - Verhältnis"],
+              oben["A/V - Verhältnis"] - oben["Luftvolumen"] + 1);
 }
 
 TEST(Druckseiten, DachUndNachbarnNachDerWahl) {
