@@ -80,29 +80,6 @@ TEST_F(EFenster, VonHandBewegtHeisstSonstiges) {
     EXPECT_EQ(p().kfgs, 1.45F);
 }
 
-/// The scroll field with the focus follows the project that comes, as all others do.
-TEST_F(EFenster, LadenIstKeineBewegungVonHand) {
-    const auto neu = test::projektzeilen(p());
-    auto andere = neu;
-    for (const auto& [zeile, typ] : {std::pair(16, "0"), {17, "1"}, {18, "5"}, {19, "6"}, {62, "1"}})
-        andere[static_cast<std::size_t>(zeile - 1)] = typ;
-    const auto haus = programm.ordner.schreibe("haus.vel", test::projekttext(andere));
-    const auto typen = [this] {
-        return std::array{p().fenstern_typ, p().fensters_typ, p().fenstero_typ, p().fensterw_typ};
-    };
-    for (const Fensterseite* seite : {&e().nord, &e().sued, &e().ost, &e().west}) {
-        for (const Fensterschieber* schieber : {&seite->gf, &seite->kfg, &seite->kfr}) {
-            e().fokusstellung = [schieber] { return std::optional(schieber->sb.position()); };
-            e().ebene.zeige(true);
-            programm.haupt->datei.datei_oeffnen(pfadtext(haus));
-            EXPECT_EQ(typen(), (std::array<std::int16_t, 4>{0, 1, 5, 6})) << schieber->sb.name;
-            e().ebene.zeige(true);
-            programm.haupt->datei.datei_neu();
-            EXPECT_EQ(typen(), (std::array<std::int16_t, 4>{3, 3, 3, 3})) << schieber->sb.name;
-        }
-    }
-}
-
 /// The guard that a failed opening leaves set does not make the user's hand a load.
 TEST_F(EFenster, NachGescheitertemOeffnenBleibtDieHandEineHand) {
     e().fokusstellung = [this] { return std::optional(e().sued.gf.sb.position()); };

@@ -93,6 +93,7 @@ TEST_F(Programmstart, SonstWartetDasStartfensterZehnSekundenOderAufDenKnopf) {
     for (const bool knopf : {true, false}) {
         fenster->laden();
         EXPECT_TRUE(fenster->fenster.sichtbar());
+        EXPECT_TRUE(plattform.zeitgeber.empty());
         knopf ? fenster->OK_Button.druecke() : fenster->schliessen();
         EXPECT_FALSE(fenster->fenster.sichtbar());
     }

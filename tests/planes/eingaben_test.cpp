@@ -181,24 +181,12 @@ std::map<std::string, std::string> ergebnisse(Haupt& h) {
     const E_Geometrie& g = h.e_geometrie;
     const E_Fenster& f = h.e_fenster;
     const E_Gebaeude& b = h.e_gebaeude;
-    const E_Energie& e = h.e_energie;
-    std::vector<const Anzeige*> alle{&g.f_nfa_anz,        &g.f_wfa_anz,
-                                     &g.Giebel_anz,       &g.dachfläche_anz,
-                                     &g.f_nutz_anz,       &g.f_gd_anz,
-                                     &g.v_luft_anz,       &g.v_geb_anz,
-                                     &g.av_anz,           &g.AV_Kugel,
-                                     &g.AV_Wuerfel,       &g.AV_Tetraeder,
-                                     &f.nord.flaeche_anz, &f.sued.flaeche_anz,
-                                     &f.ost.flaeche_anz,  &f.west.flaeche_anz,
-                                     &f.f_gf_anz,         &f.f_vf_anz,
-                                     &f.kf_anz,           &f.gfm_anz,
-                                     &b.intg_anz2,        &b.cges_anz,
-                                     &b.Cwirk_anz,        &e.Label_System,
-                                     &e.Label_Übergabe,   &e.Label_Energieträger,
-                                     &e.anz_qhs_sum,      &e.anz_q_verlust,
-                                     &e.anz_e_g,          &e.anz_q_HE_Energieträger,
-                                     &e.anz_q_HE_Strom,   &e.anz_q_PE_Energieträger,
-                                     &e.anz_q_PE_Strom};
+    std::vector<const Anzeige*> alle{
+        &g.f_nfa_anz,        &g.f_wfa_anz,    &g.Giebel_anz,       &g.dachfläche_anz,   &g.f_nutz_anz,
+        &g.f_gd_anz,         &g.v_luft_anz,   &g.v_geb_anz,        &g.av_anz,           &g.AV_Kugel,
+        &g.AV_Wuerfel,       &g.AV_Tetraeder, &f.nord.flaeche_anz, &f.sued.flaeche_anz, &f.ost.flaeche_anz,
+        &f.west.flaeche_anz, &f.f_gf_anz,     &f.f_vf_anz,         &f.kf_anz,           &f.gfm_anz,
+        &b.intg_anz2,        &b.cges_anz,     &b.Cwirk_anz};
     const auto klima = h.a_klima.anzeigen();
     alle.insert(alle.end(), klima.begin(), klima.end());
     std::map<std::string, std::string> texte;
@@ -282,7 +270,8 @@ TEST_F(Eingaben, JederSchieberStelltSeinenWertUndJedesErgebnisFolgt) {
     EXPECT_FLOAT_EQ(p().kfw, 1.1525F);  // 0.85 x 1.1 + 0.15 x 1.45
 }
 
-/// A house with no line of a new project in its file, opened by a program that knows nothing of it.
+/// A house with no line of a new project in its file, opened by a program that knows nothing of it and has
+/// the focus on a scroll field that follows.
 TEST_F(Eingaben, OeffnenGibtWiederWasGesichertWurde) {
     alles_bewegen();
     waende_zum_nachbarn();
@@ -294,6 +283,8 @@ TEST_F(Eingaben, OeffnenGibtWiederWasGesichertWurde) {
         "| 3| 6| 2| 3| .45| .05|");
     Testprogramm frisch;
     zeige_alle(*frisch.haupt);
+    const Scrollfeld& fokus = frisch.haupt->e_fenster.nord.kfg.sb;
+    frisch.haupt->e_fenster.fokusstellung = [&fokus] { return std::optional(fokus.position()); };
     const auto haus = frisch.ordner.schreibe("haus.vel", test::projekttext(projektzeilen(p())));
     const std::string bytes = test::inhalt(haus);
     frisch.haupt->datei.datei_oeffnen(pfadtext(haus));
@@ -306,8 +297,12 @@ TEST_F(Eingaben, OeffnenGibtWiederWasGesichertWurde) {
     }
     EXPECT_EQ(stellungen(*frisch.haupt), stellungen(h()));
     EXPECT_EQ(ergebnisse(*frisch.haupt), ergebnisse(h()));
+    EXPECT_EQ(frisch.haupt->e_energie.Label_Übergabe.text(), h().e_energie.Label_Übergabe.text());
     frisch.haupt->datei.datei_speichern();
     EXPECT_EQ(test::inhalt(haus), bytes);
+    zeige_alle(*frisch.haupt);
+    frisch.haupt->datei.datei_neu();
+    EXPECT_EQ(frisch.p().fenstern_typ, 3);
 }
 
 TEST_F(Eingaben, EinLeererDachraumUndEinFremderZuschlagBleibenUndZeigenNichts) {
