@@ -2,6 +2,7 @@
 
 #include "toolkit/fehler.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <string>
 #include <utility>
@@ -49,6 +50,10 @@ TEST(ZahlLesen, ScheitertNie) {
           Fall{"-", 0}, Fall{"3-4", 3}, Fall{"1e5", 1}, Fall{"0.000000000000000000125", 1.25e-19},
           Fall{"123456789012345678", 123456789012345000.0}})
         EXPECT_DOUBLE_EQ(zahl_lesen(text), wert) << '"' << text << '"';
+    for (int stellen = 1; stellen < 20; ++stellen) {
+        const std::string nullen(static_cast<std::size_t>(stellen - 1), '0');
+        EXPECT_DOUBLE_EQ(zahl_lesen("0." + nullen + "7"), std::pow(10, -stellen) * 7) << stellen;
+    }
 }
 
 TEST(ZahlPruefen, NimmtNurGanzeZahlen) {
