@@ -51,32 +51,7 @@ std::unique_ptr<Projekt> datensatz(const std::string& sprache) {
     return p;
 }
 
-Energietexte energietexte() {
-    return {{"Träger", "carrier"},
-            "<Heizung mit einem sehr langen Namen, der nicht auf eine Zeile passt>",
-            "<Übergabe>",
-            "<Energieträger>",
-            "<qhs_sum>",
-            "<q_s>",
-            "<q_d>",
-            "<q_ce>",
-            "<e_g>",
-            "<q_s_he>",
-            "<q_d_he>",
-            "<q_g_he>",
-            "<q_HE>",
-            "<q_HE_Strom>",
-            "<f_p>",
-            "<f_p_Strom>",
-            "<q_PE>",
-            "<q_PE_Strom>"};
-}
-
-Gebaeudetexte gebaeudetexte() {
-    return {"<Umittel>",  "<Tspez>",         "<Vspez>",     "<TVspez>",         "<tau>",
-            "<Heizlast>", "<heizlast_spez>", "<kuehllast>", "<kuehllast_spez>", "<Heizgrenztemp>",
-            "<Heiztage>"};
-}
+constexpr Kurzname traeger{"Träger", "carrier"};
 
 /// The value of a field in the record or in a month, in month 0 of the year.
 template <class Satz, class Zeiger>
@@ -131,15 +106,21 @@ std::string mit_haelfte(const Projekt& p, const std::string& text) {
 
 Unterlagen::Unterlagen(const std::string& sprache)
     : p(datensatz(sprache)),
-      quelle{.p = *p,
-             .auswahl = {"<Dachraum>",
-                         "<Keller>",
-                         "<Brücken>",
-                         "<außen>",
-                         "<innen>",
-                         {{{"<Fenster N>", "<Fenster S>", "<Fenster O>", "<Fenster W>"}}}},
-             .gebaeude = gebaeudetexte(),
-             .energie = energietexte()} {}
+      quelle{
+          .p = *p,
+          .auswahl = {"<Dachraum>",
+                      "<Keller>",
+                      "<Brücken>",
+                      "<außen>",
+                      "<innen>",
+                      {{{"<Fenster N>", "<Fenster S>", "<Fenster O>", "<Fenster W>"}}}},
+          .gebaeude = {"<Umittel>", "<Tspez>", "<Vspez>", "<TVspez>", "<tau>", "<Heizlast>",
+                       "<heizlast_spez>", "<kuehllast>", "<kuehllast_spez>", "<Heizgrenztemp>", "<Heiztage>"},
+          .energie = {traeger, "", "<Übergabe>", "<Energieträger>", "<qhs_sum>", "<q_s>", "<q_d>", "<q_ce>",
+                      "<e_g>", "<q_s_he>", "<q_d_he>", "<q_g_he>", "<q_HE>", "<q_HE_Strom>", "<f_p>",
+                      "<f_p_Strom>", "<q_PE>", "<q_PE_Strom>"}} {
+    quelle.energie.System = "<Heizung mit einem sehr langen Namen, der nicht auf eine Zeile passt>";
+}
 
 double wert(const Projekt& p, int m, const std::string& formel) {
     static const std::regex glied(R"(([-+*/]?)([\w.]+))");
@@ -166,21 +147,28 @@ std::string zeile(const Zeilen& zellen) {
     return text;
 }
 
+std::string in_sprache(const Projekt& p, const std::string& zeile) {
+    static const std::regex paar(R"(([^|\]@]*) = ([^|]*))");
+    return std::regex_replace(zeile, paar, p.Sprache == "e" ? "$2" : "$1");
+}
+
 Zeilen seite(const Unterlagen& u, const std::string& datei, int nummer) {
-    std::istringstream text(inhalt(VELMARIS_SEITEN "/" + datei + "_" + u.p->Sprache + ".txt"));
+    std::istringstream text(inhalt(VELMARIS_SEITEN "/" + datei + ".txt"));
     Zeilen zeilen;
     bool gefunden = false;
     for (std::string eine; std::getline(text, eine);) {
-        if (eine.starts_with("# ")) {
-            gefunden = eine == "# " + std::to_string(nummer);
-        } else if (gefunden && eine.starts_with("@")) {
-            std::istringstream namen(eine.substr(1, eine.find('|') - 1));
-            int m = 0;
-            for (std::string name; namen >> name;)
-                zeilen.push_back(name + ausgerechnet(*u.p, ++m, eine.substr(eine.find('|'))));
-        } else if (gefunden) {
+        if (eine.starts_with("# ")) gefunden = eine == "# " + std::to_string(nummer);
+        if (!gefunden || eine.starts_with("# ") || eine.starts_with(u.p->Sprache == "e" ? "de>" : "en>"))
+            continue;
+        eine = in_sprache(*u.p, eine.find('>') == 2 ? eine.substr(3) : eine);
+        if (!eine.starts_with("@")) {
             zeilen.push_back(ausgerechnet(*u.p, 0, mit_haelfte(*u.p, eine)));
+            continue;
         }
+        std::istringstream namen(eine.substr(1, eine.find('|') - 1));
+        int m = 0;
+        for (std::string name; namen >> name;)
+            zeilen.push_back(name + ausgerechnet(*u.p, ++m, eine.substr(eine.find('|'))));
     }
     return zeilen;
 }

@@ -27,9 +27,10 @@ using Zeilen = std::vector<std::string>;
 /// worked out from left to right. In month 0 the field of a month is the sum of the year.
 [[nodiscard]] double wert(const Projekt& p, int m, const std::string& formel);
 
-/// The rows of page 1.. of `report/seiten` or `print/seiten`, which tell what a document must show. In braces
-/// stand values and their decimals. "@" and the months' names begin a row for each month, "1@" and "7@" a
-/// cell for each month of a half year.
+/// A row of a table in the record's language: of each cell "deutsch = english" one side.
+[[nodiscard]] std::string in_sprache(const Projekt& p, const std::string& zeile);
+
+/// The rows of page 1.. of `report/seiten.txt` or `print/seiten.txt`, whose heads tell how to read them.
 [[nodiscard]] Zeilen seite(const Unterlagen& u, const std::string& datei, int nummer);
 
 }  // namespace velmaris::test

@@ -205,8 +205,7 @@ class Vergleich {
     [[nodiscard]] std::string wort(std::istream& zeile) const {
         std::string beide;
         std::getline(zeile >> std::ws, beide);
-        const auto mitte = beide.find(" = ");
-        return u_.p->Sprache == "e" ? beide.substr(mitte + 3) : beide.substr(0, mitte);
+        return test::in_sprache(*u_.p, beide);
     }
 
     Unterlagen u_;
