@@ -46,7 +46,6 @@ TEST(ProgrammVorbereiten, HatDieEingabenEinesNeuenProjekts) {
     test::Testplattform plattform;
     const auto haupt = programm_vorbereiten(plattform, neu.ordner.pfad(), "d");
     EXPECT_EQ(test::projektzeilen(haupt->p), test::projektzeilen(neu.p()));
-    EXPECT_EQ(haupt->p.kfn, 1.42F);
     EXPECT_EQ(haupt->p.qh, 0) << "not calculated";
 }
 
