@@ -5,7 +5,6 @@
 #include "toolkit/text.h"
 
 #include <filesystem>
-#include <sstream>
 #include <string>
 
 namespace velmaris::test {
@@ -13,8 +12,6 @@ namespace velmaris::test {
 /// A program on a new project, and beside it "projekte/haus.vel", a house 12 m long.
 class Projektlauf {
   public:
-    explicit Projektlauf(const std::string& sprache = "d") : programm(sprache) {}
-
     FILEIO& datei() { return programm.haupt->datei; }
     Projekt& p() { return programm.p(); }
     Testplattform& plattform() { return programm.plattform; }
@@ -33,7 +30,9 @@ class Projektlauf {
         datei().datei_oeffnen(pfadtext(was));
     }
 
-    void speichere_unter(const std::filesystem::path& wohin) {
+    /// Saves under a name; a question about replacing is answered so.
+    void speichere_unter(const std::filesystem::path& wohin, Antwort antwort = Antwort::ja) {
+        plattform().antworten = {antwort};
         plattform().dateien = {wohin};
         datei().datei_speichern_unter();
     }
@@ -41,14 +40,8 @@ class Projektlauf {
     /// The user sets the length, in m.
     void laenge(int meter) { programm.haupt->e_geometrie.l_sb.setze(10 * meter); }
 
-    /// The length that stands in a project file, in m.
-    static int laenge_in(const std::filesystem::path& datei) {
-        std::istringstream text(inhalt(datei));
-        std::string version;
-        int meter = 0;
-        std::getline(text, version) >> meter;
-        return meter;
-    }
+    /// The length that stands in a project file behind the 20 letters of its version, in m.
+    static int laenge_in(const std::filesystem::path& datei) { return std::stoi(inhalt(datei).substr(20)); }
 
     Testprogramm programm;
     std::filesystem::path haus = schreibe("projekte/haus.vel", 2, " 12");
