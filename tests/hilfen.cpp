@@ -3,18 +3,14 @@
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
-#include <atomic>
+#include <cstdlib>
 #include <fstream>
-#include <random>
 
 namespace velmaris::test {
 
 Testordner::Testordner() {
-    static std::atomic<unsigned> zaehler{0};
-    std::random_device zufall;
-    const std::string name = "velmaris_" + std::to_string(zufall()) + "_" + std::to_string(++zaehler);
-    pfad_ = std::filesystem::temp_directory_path() / name;
-    std::filesystem::create_directories(pfad_);
+    std::string muster = (std::filesystem::temp_directory_path() / "velmaris_XXXXXX").string();
+    pfad_ = mkdtemp(muster.data());
 }
 
 Testordner::~Testordner() {

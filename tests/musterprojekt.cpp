@@ -46,50 +46,6 @@ void station_fertigstellen(Projekt& p) {
     monatsstrahlung_berechnen(p);
 }
 
-void glashaus(Projekt& p) {
-    p.fs = p.fw = p.fo = 90;
-    p.verschs = p.verschw = p.verscho = 0;
-    p.Aussenwandart = p.Innenwandart = 2;
-    p.orient = -35;
-}
-
-void dach_nord_sued(Projekt& p) {
-    p.Check_Dachgeschoss = 1;
-    p.Option_Dachfirst = 1;
-    p.hd = 3.5F;
-    p.ft = 2.2F;
-    p.Dachraum_typ = 2;
-}
-
-void dach_ost_west(Projekt& p) {
-    p.Check_Dachgeschoss = 1;
-    p.Option_Dachfirst = 2;
-    p.l = 14;
-    p.orient = 30;
-    p.absfaktor = 0.9F;
-}
-
-void reihenhaus(Projekt& p) {
-    p.awo = p.aww = 0;
-    p.l = 6;
-    p.ag = 3;
-    p.h = 8;
-    p.Aussenwandart = p.Innenwandart = 0;
-    p.lw = 0.4F;
-    p.WRG = 0.8F;
-    p.infiltration = 0.1F;
-    p.ugd_typ = 3;
-    p.Dachraum_typ = 1;
-    p.cbk_hDach = 0;
-}
-
-void grenze_unter_sollwert(Projekt& p) {
-    p.Tueber = 19;
-    p.Troom = 21;
-    p.kwn = p.kws = p.kwo = p.kww = 1.4F;
-    p.ugd_typ = 4;
-}
-
 }  // namespace
 
 const std::vector<Musterort>& musterorte() {
@@ -120,9 +76,51 @@ void gleiches_wetter(Projekt& p, const Wetterstunde& wetter) {
 
 const std::vector<Musterhaus>& musterhaeuser() {
     static const std::vector<Musterhaus> haeuser{
-        {"new project", [](Projekt&) {}},      {"glass house", glashaus},
-        {"ridge north-south", dach_nord_sued}, {"ridge east-west", dach_ost_west},
-        {"terraced house", reihenhaus},        {"limit below set point", grenze_unter_sollwert}};
+        {"new project", [](Projekt&) {}},
+        {"glass house",
+         [](Projekt& p) {
+             p.fs = p.fw = p.fo = 90;
+             p.verschs = p.verschw = p.verscho = 0;
+             p.Aussenwandart = p.Innenwandart = 2;
+             p.orient = -35;
+         }},
+        {"ridge north-south",
+         [](Projekt& p) {
+             p.Check_Dachgeschoss = p.Option_Dachfirst = 1;
+             p.hd = 3.5F;
+             p.ft = 2.2F;
+             p.Dachraum_typ = 2;
+         }},
+        {"ridge east-west",
+         [](Projekt& p) {
+             p.Check_Dachgeschoss = 1;
+             p.Option_Dachfirst = 2;
+             p.l = 14;
+             p.orient = 30;
+             p.absfaktor = 0.9F;
+         }},
+        {"terraced house",
+         [](Projekt& p) {
+             p.awo = p.aww = 0;
+             p.l = 6;
+             p.ag = 3;
+             p.h = 8;
+             p.Aussenwandart = p.Innenwandart = 0;
+             p.lw = 0.4F;
+             p.WRG = 0.8F;
+             p.infiltration = 0.1F;
+             p.ugd_typ = 3;
+             p.Dachraum_typ = 1;
+             p.cbk_hDach = 0;
+         }},
+        {"limit below set point",
+         [](Projekt& p) {
+             p.Tueber = 19;
+             p.Troom = 21;
+             p.kwn = p.kws = p.kwo = p.kww = 1.4F;
+             p.ugd_typ = 4;
+         }},
+    };
     return haeuser;
 }
 

@@ -1,61 +1,68 @@
 #include "tests/rekorder_flaeche.h"
 
+#include "toolkit/pixel.h"
 #include "toolkit/text.h"
 
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <numbers>
-#include <utility>
 
 namespace velmaris {
 namespace {
 
-constexpr double zeichenbreite = 6;
+using Art = Zeichnung::Art;
 
-/// Calls `tu(x, y, abstand)` with its distance from the centre for each pixel of the circle that lies on
-/// a surface of that many columns and rows.
-template <class Tu>
-void fuer_jeden_kreispunkt(double cx, double cy, double radius, int spalten, int zeilen, Tu&& tu) {
-    const std::optional<Pixelkasten> feld = pixelkasten(cx - radius, cy - radius, cx + radius, cy + radius);
-    if (!feld || radius <= 0) return;
-    for (int y = std::max(feld->oben, 0); y <= std::min(feld->unten, zeilen - 1); ++y) {
-        for (int x = std::max(feld->links, 0); x <= std::min(feld->rechts, spalten - 1); ++x) {
-            const double abstand = std::hypot(x - cx, y - cy);
-            if (abstand <= radius + 0.5) tu(x, y, abstand);
-        }
-    }
+bool enthaelt(const std::optional<Pixelkasten>& k, int x, int y) {
+    return k && x >= k->links && x <= k->rechts && y >= k->oben && y <= k->unten;
 }
 
-/// True if the pixel at (dx, dy) from the centre, y downward, lies between the two angles or on their radii.
-bool im_winkel(double dx, double dy, double abstand, double von, double bis) {
-    if (abstand < 0.5) return true;
+bool auf_linie(const Zeichnung& z, int x, int y) {
+    const std::optional<Pixellinie> l =
+        pixellinie(z.zahlen[0], z.zahlen[1], z.zahlen[2], z.zahlen[3], z.dicke);
+    if (!l || l->gerade) return l && enthaelt(l->gerade, x, y);
+    const int dx = l->x2 - l->x1;
+    const int dy = l->y2 - l->y1;
+    const int schritte = std::max(std::abs(dx), std::abs(dy));
+    const int i = std::abs(dx) == schritte ? std::abs(x - l->x1) : std::abs(y - l->y1);
+    const double anteil = static_cast<double>(i) / schritte;
+    return i < schritte && pixel(l->x1 + dx * anteil) == x && pixel(l->y1 + dy * anteil) == y;
+}
+
+/// True if the pixel at (dx, dy) from the centre, y downward, lies in the pie or on its radii.
+bool im_sektor(const std::vector<double>& n, double dx, double dy) {
+    const double abstand = std::hypot(dx, dy);
+    if (n[2] <= 0 || abstand > n[2] + 0.5) return false;
     const double rand = 0.5 / abstand;
     const double voll = 2 * std::numbers::pi;
-    const double ab_von = std::fmod(std::atan2(-dy, dx) - von + 2 * voll, voll);
-    return ab_von <= bis - von + rand || ab_von >= voll - rand;
+    const double ab_von = std::fmod(std::atan2(-dy, dx) - n[3] + 2 * voll, voll);
+    return abstand < 0.5 || ab_von <= n[4] - n[3] + rand || ab_von >= voll - rand;
+}
+
+std::optional<Farbe> im_kreis(const Zeichnung& z, double dx, double dy) {
+    const double radius = z.zahlen[2];
+    const double abstand = std::hypot(dx, dy);
+    if (radius <= 0 || abstand > radius + 0.5) return std::nullopt;
+    return abstand > radius - 0.5 ? z.farbe : z.fuellung;
+}
+
+/// The colour that a drawing gives to a pixel.
+std::optional<Farbe> farbe_bei(const Zeichnung& z, int x, int y) {
+    const std::vector<double>& n = z.zahlen;
+    if (z.art == Art::kreis) return im_kreis(z, x - n[0], y - n[1]);
+    const bool bedeckt = z.art == Art::cls || (z.art == Art::linie && auf_linie(z, x, y)) ||
+                         (z.art == Art::flaeche && enthaelt(pixelkasten(n[0], n[1], n[2], n[3]), x, y)) ||
+                         (z.art == Art::punkt && enthaelt(pixelkasten(n[0], n[1], n[0], n[1]), x, y)) ||
+                         (z.art == Art::sektor && im_sektor(n, x - n[0], y - n[1]));
+    return bedeckt ? std::optional(z.farbe) : std::nullopt;
 }
 
 }  // namespace
 
-RekorderFlaeche::RekorderFlaeche(double breite, double hoehe, Farbe hintergrund)
-    : breite_(breite),
-      hoehe_(hoehe),
-      hintergrund_(hintergrund),
-      spalten_(pixel(breite)),
-      zeilen_(pixel(hoehe)),
-      raster_(static_cast<std::size_t>(spalten_) * static_cast<std::size_t>(zeilen_), hintergrund) {}
-
-std::vector<Zeichnung> RekorderFlaeche::alle(Art art) const {
+std::vector<Zeichnung> RekorderFlaeche::alle(Art art, std::optional<Farbe> farbe) const {
     std::vector<Zeichnung> ergebnis;
     std::copy_if(zeichnungen.begin(), zeichnungen.end(), std::back_inserter(ergebnis),
-                 [&](const Zeichnung& z) { return z.art == art; });
-    return ergebnis;
-}
-
-std::vector<Zeichnung> RekorderFlaeche::alle(Art art, Farbe farbe) const {
-    std::vector<Zeichnung> ergebnis = alle(art);
-    std::erase_if(ergebnis, [&](const Zeichnung& z) { return z.farbe != farbe; });
+                 [&](const Zeichnung& z) { return z.art == art && (!farbe || z.farbe == *farbe); });
     return ergebnis;
 }
 
@@ -66,92 +73,18 @@ std::vector<std::string> RekorderFlaeche::texte() const {
     return ergebnis;
 }
 
-void RekorderFlaeche::Cls() {
-    merke({.art = Art::cls, .zahlen = {}, .farbe = hintergrund()});
-    std::fill(raster_.begin(), raster_.end(), hintergrund());
-}
-
-void RekorderFlaeche::linie(double x1, double y1, double x2, double y2, Farbe farbe, int dicke) {
-    merke({.art = Art::linie, .zahlen = {x1, y1, x2, y2}, .farbe = farbe, .dicke = dicke});
-    const std::optional<Pixellinie> linie = pixellinie(x1, y1, x2, y2, dicke);
-    if (!linie) return;
-    if (linie->gerade) {
-        faerbe(linie->gerade, farbe);
-        return;
-    }
-    const int dx = linie->x2 - linie->x1;
-    const int dy = linie->y2 - linie->y1;
-    const int schritte = std::max(std::abs(dx), std::abs(dy));
-    for (int i = 0; i < schritte; ++i) {
-        const double anteil = static_cast<double>(i) / schritte;
-        faerbe(pixel(linie->x1 + dx * anteil), pixel(linie->y1 + dy * anteil), farbe);
-    }
-}
-
-void RekorderFlaeche::kasten(double x1, double y1, double x2, double y2, Farbe farbe) {
-    merke({.art = Art::kasten, .zahlen = {x1, y1, x2, y2}, .farbe = farbe});
-    faerbe(pixelkasten(x1, y1, x2, y1), farbe);
-    faerbe(pixelkasten(x1, y2, x2, y2), farbe);
-    faerbe(pixelkasten(x1, y1, x1, y2), farbe);
-    faerbe(pixelkasten(x2, y1, x2, y2), farbe);
-}
-
-void RekorderFlaeche::flaeche(double x1, double y1, double x2, double y2, Farbe farbe) {
-    merke({.art = Art::flaeche, .zahlen = {x1, y1, x2, y2}, .farbe = farbe});
-    faerbe(pixelkasten(x1, y1, x2, y2), farbe);
-}
-
-void RekorderFlaeche::kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) {
-    merke({.art = Art::kreis, .zahlen = {cx, cy, radius}, .farbe = rand, .fuellung = fuellung});
-    fuer_jeden_kreispunkt(cx, cy, radius, spalten_, zeilen_, [&](int x, int y, double abstand) {
-        if (abstand > radius - 0.5) {
-            faerbe(x, y, rand);
-        } else if (fuellung) {
-            faerbe(x, y, *fuellung);
-        }
-    });
-}
-
-void RekorderFlaeche::sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) {
-    merke({.art = Art::sektor, .zahlen = {cx, cy, radius, von, bis}, .farbe = farbe});
-    fuer_jeden_kreispunkt(cx, cy, radius, spalten_, zeilen_, [&](int x, int y, double abstand) {
-        if (im_winkel(x - cx, y - cy, abstand, von, bis)) faerbe(x, y, farbe);
-    });
-}
-
-void RekorderFlaeche::punkt(double x, double y, Farbe farbe) {
-    merke({.art = Art::punkt, .zahlen = {x, y}, .farbe = farbe});
-    faerbe(pixelkasten(x, y, x, y), farbe);
-}
-
-void RekorderFlaeche::text(double x, double y, std::string_view text, Farbe farbe) {
-    merke({.art = Art::text, .zahlen = {x, y}, .farbe = farbe, .text = std::string(text)});
-}
-
 double RekorderFlaeche::textbreite(std::string_view text) const {
-    return zeichenbreite * static_cast<double>(zeichenzahl(text));
+    return 6.0 * static_cast<double>(zeichenzahl(text));
 }
 
 Farbe RekorderFlaeche::lies_punkt(double x, double y) const {
-    const std::optional<Pixelkasten> ort = pixelkasten(x, y, x, y);
-    return ort && enthaelt(ort->links, ort->oben) ? raster_[stelle(ort->links, ort->oben)] : hintergrund();
-}
-
-void RekorderFlaeche::merke(Zeichnung zeichnung) {
-    zeichnung.schrift = schrift_;
-    zeichnungen.push_back(std::move(zeichnung));
-}
-
-void RekorderFlaeche::faerbe(int x, int y, Farbe farbe) {
-    if (enthaelt(x, y)) raster_[stelle(x, y)] = farbe;
-}
-
-void RekorderFlaeche::faerbe(const std::optional<Pixelkasten>& kasten, Farbe farbe) {
-    if (!kasten) return;
-    for (int y = std::max(kasten->oben, 0); y <= std::min(kasten->unten, zeilen_ - 1); ++y) {
-        for (int x = std::max(kasten->links, 0); x <= std::min(kasten->rechts, spalten_ - 1); ++x)
-            faerbe(x, y, farbe);
-    }
+    const int spalte = pixel(x);
+    const int zeile = pixel(y);
+    const Pixelkasten ganz{0, 0, pixel(breite_) - 1, pixel(hoehe_) - 1};
+    if (!enthaelt(ganz, spalte, zeile)) return hintergrund_;
+    for (auto z = zeichnungen.rbegin(); z != zeichnungen.rend(); ++z)
+        if (const auto farbe = farbe_bei(*z, spalte, zeile)) return *farbe;
+    return hintergrund_;
 }
 
 }  // namespace velmaris

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "toolkit/pixel.h"
 #include "toolkit/zeichenflaeche.h"
 
-#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,57 +20,66 @@ struct Zeichnung {
     Schrift schrift = {};  ///< font in force
 };
 
-/// A chart surface that writes down what is drawn and keeps its pixels, texts left out. Each
-/// character of a text is 6 pixels wide and 13 high, whatever the font.
+/// A chart surface that writes down what is drawn. Each character of a text is 6 pixels wide and 13 high,
+/// whatever the font.
 class RekorderFlaeche : public Zeichenflaeche {
   public:
     using Art = Zeichnung::Art;
 
-    explicit RekorderFlaeche(double breite = 330, double hoehe = 140, Farbe hintergrund = {240, 240, 240});
+    explicit RekorderFlaeche(double breite = 330, double hoehe = 140, Farbe hintergrund = {240, 240, 240})
+        : breite_(breite), hoehe_(hoehe), hintergrund_(hintergrund) {}
+
+    /// A surface on which `zeichnen` has run.
+    RekorderFlaeche(double breite, double hoehe, const std::function<void(Zeichenflaeche&)>& zeichnen)
+        : RekorderFlaeche(breite, hoehe) {
+        zeichnen(*this);
+    }
 
     std::vector<Zeichnung> zeichnungen;
 
-    /// All operations of one kind, in their order.
-    [[nodiscard]] std::vector<Zeichnung> alle(Art art) const;
-    /// All operations of one kind in one colour.
-    [[nodiscard]] std::vector<Zeichnung> alle(Art art, Farbe farbe) const;
+    /// All operations of one kind, or of one kind in one colour, in their order.
+    [[nodiscard]] std::vector<Zeichnung> alle(Art art, std::optional<Farbe> farbe = std::nullopt) const;
     /// The texts alone, in their order.
     [[nodiscard]] std::vector<std::string> texte() const;
 
     [[nodiscard]] double breite() const override { return breite_; }
     [[nodiscard]] double hoehe() const override { return hoehe_; }
     [[nodiscard]] Farbe hintergrund() const override { return hintergrund_; }
-    void Cls() override;
-    void linie(double x1, double y1, double x2, double y2, Farbe farbe, int dicke) override;
-    void kasten(double x1, double y1, double x2, double y2, Farbe farbe) override;
-    void flaeche(double x1, double y1, double x2, double y2, Farbe farbe) override;
-    void kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) override;
-    void sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) override;
-    void punkt(double x, double y, Farbe farbe) override;
-    void text(double x, double y, std::string_view text, Farbe farbe) override;
+    void Cls() override { merke({.zahlen = {}, .farbe = hintergrund_}); }
+    void linie(double x1, double y1, double x2, double y2, Farbe farbe, int dicke) override {
+        merke({.art = Art::linie, .zahlen = {x1, y1, x2, y2}, .farbe = farbe, .dicke = dicke});
+    }
+    void kasten(double x1, double y1, double x2, double y2, Farbe farbe) override {
+        merke({.art = Art::kasten, .zahlen = {x1, y1, x2, y2}, .farbe = farbe});
+    }
+    void flaeche(double x1, double y1, double x2, double y2, Farbe farbe) override {
+        merke({.art = Art::flaeche, .zahlen = {x1, y1, x2, y2}, .farbe = farbe});
+    }
+    void kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) override {
+        merke({.art = Art::kreis, .zahlen = {cx, cy, radius}, .farbe = rand, .fuellung = fuellung});
+    }
+    void sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) override {
+        merke({.art = Art::sektor, .zahlen = {cx, cy, radius, von, bis}, .farbe = farbe});
+    }
+    void punkt(double x, double y, Farbe farbe) override {
+        merke({.art = Art::punkt, .zahlen = {x, y}, .farbe = farbe});
+    }
+    void text(double x, double y, std::string_view text, Farbe farbe) override {
+        merke({.art = Art::text, .zahlen = {x, y}, .farbe = farbe, .text = std::string(text)});
+    }
     [[nodiscard]] double textbreite(std::string_view text) const override;
     [[nodiscard]] double texthoehe(std::string_view) const override { return 13; }
     void schrift(const Schrift& schrift) override { schrift_ = schrift; }
+    /// The colour of the last drawing at the pixel; texts and outlines of boxes leave no pixels.
     [[nodiscard]] Farbe lies_punkt(double x, double y) const override;
 
   private:
-    void merke(Zeichnung zeichnung);
-    [[nodiscard]] bool enthaelt(int x, int y) const {
-        return x >= 0 && x < spalten_ && y >= 0 && y < zeilen_;
-    }
-    [[nodiscard]] std::size_t stelle(int x, int y) const {
-        return static_cast<std::size_t>(y * spalten_ + x);
-    }
-    void faerbe(int x, int y, Farbe farbe);
-    void faerbe(const std::optional<Pixelkasten>& kasten, Farbe farbe);
+    void merke(Zeichnung zeichnung) { zeichnungen.emplace_back(std::move(zeichnung)).schrift = schrift_; }
 
     double breite_;
     double hoehe_;
     Farbe hintergrund_;
     Schrift schrift_;
-    int spalten_;
-    int zeilen_;
-    std::vector<Farbe> raster_;  ///< row by row from the top
 };
 
 }  // namespace velmaris

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "toolkit/plattform.h"
+#include "toolkit/text.h"
 
 #include <functional>
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace velmaris::test {
@@ -37,24 +39,48 @@ class Testplattform : public Plattform {
     std::map<std::string, Zeitgeber> zeitgeber;  ///< those that run
 
     /// Lets a running timer fire.
-    void lasse_ablaufen(const std::string& name);
+    void lasse_ablaufen(const std::string& name) { zeitgeber.extract(name).mapped().ablauf(); }
 
-    Antwort melde(const Meldung& meldung) override;
-    std::optional<std::string> eingabe(const std::string& text, const std::string& titel,
-                                       const std::string& vorgabe) override;
-    std::optional<std::filesystem::path> dateidialog(const Dateidialog& dialog) override;
+    Antwort melde(const Meldung& meldung) override {
+        meldungen.push_back(meldung);
+        return naechste(antworten, Antwort::ok);
+    }
+    std::optional<std::string> eingabe(const std::string&, const std::string&, const std::string&) override {
+        const std::string text = naechste(eingaben);
+        return text.empty() ? std::nullopt : std::optional(text);
+    }
+    std::optional<std::filesystem::path> dateidialog(const Dateidialog& dialog) override {
+        dialoge.push_back(dialog);
+        std::filesystem::path datei = naechste(dateien);
+        if (datei.empty()) return std::nullopt;
+        return datei.has_extension() ? datei : datei += dialog.endung;
+    }
     void sanduhr(bool an) override { sanduhren.push_back(an); }
     void fenstertitel(const std::string& text) override { titel = text; }
     [[nodiscard]] Bildschirmpunkt zeiger() const override { return zeiger_ort; }
     double zufall() override { return zufallszahl; }
-    void zeitgeber_starten(const std::string& name, int millisekunden, std::function<void()> ablauf) override;
+    void zeitgeber_starten(const std::string& name, int millisekunden, std::function<void()> tu) override {
+        zeitgeber[name] = {millisekunden, std::move(tu)};
+    }
     void zeitgeber_stoppen(const std::string& name) override { zeitgeber.erase(name); }
-    void hilfe(const std::filesystem::path& datei, const std::string& seite) override;
+    void hilfe(const std::filesystem::path& datei, const std::string& seite) override {
+        hilfeseiten.push_back(pfadtext(datei.filename()) + "::" + seite);
+    }
     [[nodiscard]] std::vector<std::string> druckerliste() const override { return drucker; }
     [[nodiscard]] std::string aktueller_drucker() const override { return druckername; }
     void drucker_waehlen(const std::string& name) override { druckername = name; }
     [[nodiscard]] std::filesystem::path datenordner() const override { return daten; }
     void beenden() override { beendet = true; }
+
+  private:
+    /// Takes the first of the prepared answers.
+    template <class T>
+    static T naechste(std::vector<T>& vorrat, T sonst = {}) {
+        if (vorrat.empty()) return sonst;
+        sonst = vorrat.front();
+        vorrat.erase(vorrat.begin());
+        return sonst;
+    }
 };
 
 }  // namespace velmaris::test

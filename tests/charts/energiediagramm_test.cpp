@@ -1,7 +1,7 @@
 #include "charts/energiediagramm.h"
 
 #include "tests/charts/probe.h"
-#include "tests/testflaeche.h"
+#include "tests/rekorder_flaeche.h"
 #include "tests/textlage.h"
 #include "toolkit/svg_flaeche.h"
 
@@ -67,8 +67,8 @@ std::unique_ptr<Projekt> projekt(float primaer) {
 }
 
 TEST(Monatsverbrauch, ZeichnetSeineSaeulenUeberMonateUndSkala) {
-    const test::Testflaeche bild(330, 115,
-                                 [](Zeichenflaeche& b) { Monatsverbrauch_zeichnen(b, *projekt(20)); });
+    const RekorderFlaeche bild(330, 115,
+                               [](Zeichenflaeche& b) { Monatsverbrauch_zeichnen(b, *projekt(20)); });
     EXPECT_TRUE(test::steht(bild, "Jan.", 35, 98));
     EXPECT_TRUE(test::steht(bild, "Mai", 134, 98));
     EXPECT_TRUE(test::steht(bild, "Dez.", 299, 98));

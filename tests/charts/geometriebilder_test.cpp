@@ -2,7 +2,7 @@
 
 #include "charts/gewichtbild.h"
 #include "tests/charts/probe.h"
-#include "tests/testflaeche.h"
+#include "tests/rekorder_flaeche.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -12,14 +12,13 @@ namespace {
 
 using test::Ecken;
 using test::leeres_projekt;
-using test::Testflaeche;
-using Art = test::Zeichnung::Art;
+using Art = Zeichnung::Art;
 
 TEST(Geometriebilder, AvDiagrammStelltGleicheFormenGleichHoch) {
     const auto p = leeres_projekt();
     p->v_geb = 1000;
     p->AV = 0.6F;
-    Testflaeche flaeche(60, 130);
+    RekorderFlaeche flaeche(60, 130);
     av_diagramm_zeichnen(*p, flaeche);
     // A cube: 6 / 0.06 less 2.88 / 0.06 is 52 pixels up from 123.
     EXPECT_EQ(test::flaechen(flaeche, farben::rot), (std::vector<Ecken>{{44, 123, 50, 71}}));
@@ -30,7 +29,7 @@ TEST(Geometriebilder, AvDiagrammStelltGleicheFormenGleichHoch) {
     EXPECT_EQ(av_texte(*p).AV_Tetraeder, "0.72");
     EXPECT_EQ(av_texte(*p).av_anz, "0.60 ");
     p->AV = 5;
-    Testflaeche hoch(60, 130);
+    RekorderFlaeche hoch(60, 130);
     av_diagramm_zeichnen(*p, hoch);
     EXPECT_EQ(test::flaechen(hoch, farben::rot).at(0)[3], 7);
     EXPECT_TRUE(test::flaechen(hoch, farben::weiss).empty());
@@ -60,7 +59,7 @@ TEST(Geometriebilder, DerLageplanDrehtSichMitDerOrientierung) {
     for (const int grad : {0, 30, -110}) {
         const auto p = leeres_projekt();
         p->orient = static_cast<std::int16_t>(grad);
-        Testflaeche bild(80, 60);
+        RekorderFlaeche bild(80, 60);
         lageplan_zeichnen(*p, bild);
         EXPECT_EQ(bild.zeichnungen.front().art, Art::cls);
         const auto gezeichnet = bild.alle(Art::linie);
@@ -89,7 +88,7 @@ TEST(Gewichtbild, WaechstMitDerWurzelUeberDieFlaecheHinaus) {
     EXPECT_DOUBLE_EQ(g.Gewicht2.hoehe, 400);
     EXPECT_DOUBLE_EQ(g.Gewicht2.oben, 210);
     p->Cwirk = 144 * 3600 * 100;  // 80 and 35.6 pixels high on a base line at 57
-    const Testflaeche bild(76, 60, [&](Zeichenflaeche& flaeche) { gewicht_zeichnen(*p, flaeche); });
+    const RekorderFlaeche bild(76, 60, [&](Zeichenflaeche& flaeche) { gewicht_zeichnen(*p, flaeche); });
     EXPECT_EQ(bild.zeichnungen.front().art, Art::cls);
     EXPECT_EQ(test::formen(bild),
               "24 -57.8889 52 -22.3333|24 -57.8889 52 -22.3333|"

@@ -1,7 +1,7 @@
 #include "charts/traegerbild.h"
 
 #include "tests/charts/probe.h"
-#include "tests/testflaeche.h"
+#include "tests/rekorder_flaeche.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,6 @@ namespace velmaris {
 namespace {
 
 using test::formen;
-using test::Testflaeche;
 using Art = Zeichnung::Art;
 
 std::unique_ptr<Projekt> projekt(int system, int traeger, float energie, float strom = 0) {
@@ -23,11 +22,11 @@ std::unique_ptr<Projekt> projekt(int system, int traeger, float energie, float s
     return p;
 }
 
-Testflaeche haupttraeger(const Projekt& p) {
+RekorderFlaeche haupttraeger(const Projekt& p) {
     return {80, 52, [&](Zeichenflaeche& bild) { Energietraeger_zeichnen(bild, p); }};
 }
 
-Testflaeche hilfsstrom(const Projekt& p) {
+RekorderFlaeche hilfsstrom(const Projekt& p) {
     return {80, 52, [&](Zeichenflaeche& bild) { Hilfsstrom_zeichnen(bild, p); }};
 }
 
@@ -53,7 +52,7 @@ TEST(Traegerbild, NameUndMengeInBeidenSprachen) {
 }
 
 TEST(Traegerbild, TitelStehenMittigUeberDemBild) {
-    const Testflaeche bild = haupttraeger(*projekt(4, 1, 46));
+    const RekorderFlaeche bild = haupttraeger(*projekt(4, 1, 46));
     EXPECT_TRUE(test::steht(bild, "Holz:", 25, 10));      // 30 pixels wide
     EXPECT_TRUE(test::steht(bild, "2000 kg/a", 13, 30));  // 54
     EXPECT_EQ(bild.zeichnungen.front().art, Art::cls);
@@ -100,7 +99,7 @@ TEST(Traegerbild, FormenNachDerEnergie) {
 }
 
 TEST(Traegerbild, HilfsstromFehltBeiStrom) {
-    const Testflaeche leer = hilfsstrom(*projekt(9, 1, 20, 3));
+    const RekorderFlaeche leer = hilfsstrom(*projekt(9, 1, 20, 3));
     ASSERT_EQ(leer.zeichnungen.size(), 1U);
     EXPECT_EQ(leer.zeichnungen[0].art, Art::cls);
 

@@ -1,7 +1,7 @@
 #include "climate/planes/stationskarte.h"
 
 #include "tests/climate/planes/klimaprobe.h"
-#include "tests/testflaeche.h"
+#include "tests/rekorder_flaeche.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,7 @@ namespace velmaris {
 namespace {
 
 using test::Losplattform;
-using test::Testflaeche;
-using Art = test::Zeichnung::Art;
+using Art = Zeichnung::Art;
 
 /// A map with four stations: two at one place, one within reach of a click but not of the pointer, one far
 /// away.
@@ -53,7 +52,7 @@ class Karte : public testing::Test {
 };
 
 TEST_F(Karte, MaltGelbePunkteUndZuletztDenRoten) {
-    const auto punkte = [this] { return Testflaeche(100, 80, bild.zeichnen).alle(Art::kreis); };
+    const auto punkte = [this] { return RekorderFlaeche(100, 80, bild.zeichnen).alle(Art::kreis); };
     EXPECT_EQ(punkte().size(), 5U);
     EXPECT_EQ(punkte()[3].zahlen, (std::vector<double>{90, 70, 2}));
     for (const std::size_t i : {0U, 3U, 4U}) {
