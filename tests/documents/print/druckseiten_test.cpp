@@ -19,6 +19,7 @@ using test::Unterlagen;
 using test::Zeilen;
 using testing::Contains;
 using testing::ElementsAreArray;
+using testing::Not;
 
 /// The title and what stands above the diagrams and beside the drawings of a page.
 bool im_textteil(const Druckzeichen& z) {
@@ -91,14 +92,10 @@ TEST(Druckseiten, DachUndNachbarnNachDerWahl) {
     EXPECT_THAT(gedruckt(u.quelle, 1), Contains("Direction of roof ridge|east-west"));
     u.p->hd = 0;
     u.p->awn = u.p->aww = 1;
-    const Zeilen flach = gedruckt(u.quelle, 1);
-    EXPECT_THAT(flach, testing::Not(Contains(testing::HasSubstr("roof ridge"))));
-    EXPECT_THAT(flach, Contains("Height of roof|0.0 m"));
-    EXPECT_THAT(flach, Contains("Walls towards another heated area|none"));
+    EXPECT_THAT(gedruckt(u.quelle, 1), Not(Contains(testing::HasSubstr("roof ridge"))));
     u.p->Check_Dachgeschoss = 0;
-    const Zeilen ohne = gedruckt(u.quelle, 1);
-    EXPECT_THAT(ohne, Contains("Upper floor towards|<Dachraum>"));
-    EXPECT_THAT(ohne, Contains(testing::StartsWith("U value of the upper floor|")));
+    EXPECT_THAT(gedruckt(u.quelle, 1),
+                testing::IsSupersetOf({"Upper floor towards|<Dachraum>", "U value of the upper floor|0.37"}));
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "documents/report/temperaturverlauf.h"
 
 #include "tests/documents/unterlagen.h"
-#include "tests/hilfen.h"
 #include "toolkit/textdatei.h"
 
 #include <gtest/gtest.h>
@@ -47,14 +46,6 @@ TEST(Temperaturverlauf, KopfUndStunden) {
                              : "        31        12        24       7.3123456792.0");
         }
     }
-}
-
-TEST(Temperaturverlauf, DieDateiIstWindows1252) {
-    const test::Testordner ordner;
-    temperaturverlauf_exportieren(*test::Unterlagen("d").p, ordner / "jahr.txt");
-    const std::string bytes = test::inhalt(ordner / "jahr.txt");
-    EXPECT_NE(bytes.find("Jahres-Temperaturverl\xE4ufe\r\n"), std::string::npos);
-    EXPECT_TRUE(bytes.ends_with("\r\n"));
 }
 
 }  // namespace
