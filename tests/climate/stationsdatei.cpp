@@ -5,15 +5,12 @@
 namespace velmaris::test {
 
 std::string Stationsdatei::text() const {
-    std::string text;
-    for (const std::string& kopf :
-         {ort, breite, laenge, zone, std::string(), std::string("   dy   Ta G_Gh G_Dh")})
-        text += kopf + zeilenende;
+    std::string text =
+        ort + "\r\n" + breite + "\r\n" + laenge + "\r\n" + zone + "\r\n\r\n   dy   Ta G_Gh G_Dh\r\n";
     for (int i = 0; i < zeilen; ++i) {
         const Datenzeile werte = zeile(i);
         text += "    1" + rechtsbuendig(werte.Ta, 5) + rechtsbuendig(werte.G_Gh, 5) +
-                rechtsbuendig(werte.G_Dh, 5);
-        text += zeilenende;
+                rechtsbuendig(werte.G_Dh, 5) + "\r\n";
     }
     return text;
 }

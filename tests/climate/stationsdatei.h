@@ -9,9 +9,7 @@ namespace velmaris::test {
 
 /// The numbers of one data row as they stand in its columns of five characters.
 struct Datenzeile {
-    std::string Ta = "10.0";
-    std::string G_Gh = "0";
-    std::string G_Dh = "0";
+    std::string Ta = "10.0", G_Gh = "0", G_Dh = "0";
 };
 
 /// Text of a station file: the rows follow in the order of the file, `zeile(0)` being the last hour of the
@@ -22,7 +20,6 @@ struct Stationsdatei {
     std::string breite = "Breitengrad:  49.75";
     std::string laenge = "L\xE4ngengrad:   -6.66";
     std::string zone = "Zeitzone:     -1";
-    std::string zeilenende = "\r\n";
     int zeilen = stunden_im_jahr;
     std::function<Datenzeile(int)> zeile = [](int) { return Datenzeile{}; };
 

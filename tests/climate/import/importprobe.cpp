@@ -4,16 +4,15 @@
 #include "toolkit/zahlen.h"
 
 #include <cmath>
-#include <stdexcept>
 
 namespace velmaris::test {
 namespace {
 
 std::string epw_zeile(int m, int d, int h, const Quellwerte& w) {
-    std::string text = "1995," + std::to_string(m) + "," + std::to_string(d) + "," + std::to_string(h) +
-                       ",60,A7A7*9?9," + dezimal(w.Ta) + ",1.5,80,95000,0,1415,280,";
-    return text + std::to_string(w.G_Gh) + "," + std::to_string(w.G_Gh + 77) + "," + std::to_string(w.G_Dh) +
-           ",0,0,0,0,250,2.1,5,5,10,7777,9,999999999,0,0.05,0,88,0.2,0,0";
+    const auto t = [](int zahl) { return std::to_string(zahl) + ","; };
+    return "1995," + t(m) + t(d) + t(h) + "60,A7A7*9?9," + dezimal(w.Ta) + ",1.5,80,95000,0,1415,280," +
+           t(w.G_Gh) + t(w.G_Gh + 77) + t(w.G_Dh) +
+           "0,0,0,0,250,2.1,5,5,10,7777,9,999999999,0,0.05,0,88,0.2,0,0";
 }
 
 }  // namespace
@@ -51,25 +50,23 @@ std::string Quellbau::epw(bool schaltjahr) const {
                              "HOLIDAYS/DAYLIGHT SAVINGS,No,0,0,0", "COMMENTS 1,", "COMMENTS 2,",
                              "DATA PERIODS,1,1,Data,Sunday,1/1,12/31"})
         text += kopf + zeilenende;
-    int i = 0;
-    const auto zeile = [&](const std::string& neu) {
+    int i = 0, stunde = 0;
+    const auto zeile = [&](int m, int d, int h, const Quellwerte& werte) {
         if (++i > zeilen) return;
-        text += (ersetzt.contains(i) ? ersetzt.at(i) : neu) + zeilenende;
+        text += (ersetzt.contains(i) ? ersetzt.at(i) : epw_zeile(m, d, h, werte)) + zeilenende;
     };
-    int stunde = 0;
     fuer_jeden_tag([&](int m, int d, int) {
         for (int h = 1; h <= stunden; ++h)
-            zeile(epw_zeile(m, d, h, quellwerte(stunde++)));
+            zeile(m, d, h, quellwerte(stunde++));
         for (int h = 1; schaltjahr && m == 2 && d == 28 && h <= stunden; ++h)
-            zeile(epw_zeile(2, 29, h, {-77, 5000, 5000}));
+            zeile(2, 29, h, {-77, 5000, 5000});
     });
     return text;
 }
 
 std::optional<std::string> Importplattform::eingabe(const std::string& text, const std::string& name,
                                                     const std::string& vorgabe) {
-    fragen.push_back(text);
-    titel_der_fragen.push_back(name);
+    frage = name + ": " + text;
     vorgaben.push_back(vorgabe);
     return Testplattform::eingabe(text, name, vorgabe);
 }
@@ -113,17 +110,6 @@ std::vector<std::string> Importprobe::dateien() const {
     for (const auto& eintrag : std::filesystem::directory_iterator(ordner / "klima"))
         namen.push_back(pfadtext(eintrag.path().filename()));
     return namen;
-}
-
-std::vector<std::string> zeilen(const std::string& text) {
-    std::vector<std::string> alle;
-    for (std::size_t anfang = 0; anfang < text.size();) {
-        const std::size_t ende = text.find("\r\n", anfang);
-        if (ende == std::string::npos) throw std::runtime_error("a line without CR LF");
-        alle.push_back(text.substr(anfang, ende - anfang));
-        anfang = ende + 2;
-    }
-    return alle;
 }
 
 }  // namespace velmaris::test

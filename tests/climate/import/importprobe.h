@@ -16,8 +16,7 @@ namespace velmaris::test {
 /// The numbers of one hour as they stand in a source.
 struct Quellwerte {
     double Ta = 0;
-    int G_Gh = 0;
-    int G_Dh = 0;
+    int G_Gh = 0, G_Dh = 0;
 };
 
 /// Numbers that differ from hour to hour, for the hour `i` from 0 on: temperatures of one decimal between -15
@@ -44,10 +43,11 @@ struct Quellbau {
 /// A number with one decimal and that decimal mark.
 [[nodiscard]] std::string dezimal(double wert, char zeichen = '.');
 
-/// A scripted desktop that also notes what the input box asked and proposed.
+/// A scripted desktop that also notes what the input box asked last, and all that it proposed.
 class Importplattform : public Testplattform {
   public:
-    std::vector<std::string> fragen, titel_der_fragen, vorgaben;
+    std::string frage;
+    std::vector<std::string> vorgaben;
 
     std::optional<std::string> eingabe(const std::string& text, const std::string& name,
                                        const std::string& vorgabe) override;
@@ -81,8 +81,5 @@ class Importprobe {
   private:
     std::unique_ptr<Sitzung> sitzung_;
 };
-
-/// Lines of a text without their ends, which all must be CR LF.
-[[nodiscard]] std::vector<std::string> zeilen(const std::string& text);
 
 }  // namespace velmaris::test

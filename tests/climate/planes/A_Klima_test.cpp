@@ -4,7 +4,6 @@
 #include "climate/strahlung.h"
 #include "tests/testprogramm.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <memory>
@@ -13,8 +12,6 @@
 
 namespace velmaris {
 namespace {
-
-using testing::ElementsAre;
 
 /// A house without windows: walls 50 and a gable 20, roof 30, floor 40 and ventilation 215 W/K over an
 /// envelope of 300 m2; no internal gains.
@@ -37,14 +34,14 @@ std::unique_ptr<Projekt> haus() {
     return p;
 }
 
-std::vector<std::string> texte(std::initializer_list<const Anzeige*> anzeigen) {
-    std::vector<std::string> liste;
+std::string texte(std::initializer_list<const Anzeige*> anzeigen) {
+    std::string alle;
     for (const Anzeige* anzeige : anzeigen)
-        liste.push_back(anzeige->text());
-    return liste;
+        alle += anzeige->text() + " ";
+    return alle;
 }
 
-std::vector<std::string> kennwerte(const A_Klima& e) {
+std::string kennwerte(const A_Klima& e) {
     return texte({&e.anz_tau, &e.anz_Vspez, &e.anz_Tspez, &e.anz_Umittel, &e.anz_TVspez});
 }
 
@@ -52,29 +49,26 @@ TEST(AKlima, ZeigtGebaeudeLastenUndHeizgrenze) {
     const auto p = haus();
     p->Heizlast_max = 2;
     p->Kuehllast_max = 4.25F;
-    A_Klima ebene;
-    ebene.Ausfuellen(*p);
-    EXPECT_THAT(
-        texte({&ebene.anz_Heizlast, &ebene.anz_heizlast_spez, &ebene.anz_kuehllast, &ebene.anz_kuehllast_spez,
-               &ebene.anz_Heizgrenztemp, &ebene.anz_Heiztage, &ebene.anz_Heizgradtage}),
-        ElementsAre("2.0", "25.0", "4.3", "53.1", "20.0", "365", "5475"));
-    EXPECT_EQ(ebene.anz_tau.text(), "") << "another writer's label";
-    ebene.kennwerte_zeigen(*p);
-    EXPECT_THAT(kennwerte(ebene), ElementsAre("10.1", "215.0", "140.0", "0.40", "335.0"));
+    A_Klima e;
+    e.Ausfuellen(*p);
+    EXPECT_EQ(texte({&e.anz_Heizlast, &e.anz_heizlast_spez, &e.anz_kuehllast, &e.anz_kuehllast_spez,
+                     &e.anz_Heizgrenztemp, &e.anz_Heiztage, &e.anz_Heizgradtage}),
+              "2.0 25.0 4.3 53.1 20.0 365 5475 ");
+    e.kennwerte_zeigen(*p);
+    EXPECT_EQ(kennwerte(e), "10.1 215.0 140.0 0.40 335.0 ");
 }
 
 TEST(AKlima, JedeEingabeErneuertDieKennwerteDesGebaeudes) {
     const test::Testprogramm programm;
     Haupt& haupt = *programm.haupt;
-    const auto vorher = kennwerte(haupt.a_klima);
-    haupt.e_daemmung.kwn_sb.setze(haupt.e_daemmung.kwn_sb.maximum());
-    haupt.e_gebaeude.infiltration_sb.setze(haupt.e_gebaeude.infiltration_sb.maximum());
-    const auto nachher = kennwerte(haupt.a_klima);
-    for (std::size_t i = 0; i < vorher.size(); ++i)
-        EXPECT_NE(nachher[i], vorher[i]) << i;
-    A_Klima frisch;
-    frisch.kennwerte_zeigen(haupt.p);
-    EXPECT_EQ(nachher, kennwerte(frisch));
+    for (Scrollfeld* feld : {&haupt.e_daemmung.kwn_sb, &haupt.e_gebaeude.infiltration_sb}) {
+        const std::string vorher = kennwerte(haupt.a_klima);
+        feld->setze(feld->maximum());
+        EXPECT_NE(kennwerte(haupt.a_klima), vorher) << feld->name;
+        A_Klima frisch;
+        frisch.kennwerte_zeigen(haupt.p);
+        EXPECT_EQ(kennwerte(haupt.a_klima), kennwerte(frisch));
+    }
 }
 
 TEST(AKlima, NenntRegionOderStation) {
@@ -98,25 +92,18 @@ TEST(AKlima, ZeigtDieTemperaturenDesJahres) {
     const auto p = std::make_unique<Projekt>();
     const std::vector<float> mittel{-2, -2.5F, 4, 9, 14, 17, 19, 19, 15, 10, -2.5F, 2};  // sum 102
     for (int m = 1; m <= monate; ++m) {
-        p->Monat(m).Name = "Monat " + std::to_string(m);
-        p->Monat(m).Tmittel = mittel[static_cast<std::size_t>(m - 1)];
+        p->Monat(m).Name = "Monat" + std::to_string(m);
+        p->Monat(m).Tmittel = mittel.at(static_cast<std::size_t>(m - 1));
     }
     p->Wetter(7, 20, 15).Ta = 35.25F;
     p->Wetter(1, 20, 5).Ta = -18.75F;
     p->Wetter(2, 31, 5).Ta = -99;  // a day that does not exist
     station_uebernehmen(*p);
-    A_Klima ebene;
-    ebene.stationswerte_zeigen(*p);
-    EXPECT_THAT(texte({&ebene.anz_MaxMonatName, &ebene.anz_MinMonatName, &ebene.anz_MaxMonatTemp,
-                       &ebene.anz_MinMonatTemp, &ebene.anz_MittelJahrTemp, &ebene.anz_MaxJahrTemp,
-                       &ebene.anz_MinJahrTemp}),
-                ElementsAre("Monat 7", "Monat 2", "19.0", "-2.5", "8.5", "35.3", "-18.8"));
-    for (const float jenseits : {-1400.0F, 1400.0F}) {
-        for (int m = 1; m <= monate; ++m)
-            p->Monat(m).Tmittel = m == 1 ? jenseits * 1.1F : jenseits;
-        ebene.stationswerte_zeigen(*p);
-        EXPECT_EQ(ebene.anz_MaxMonatName.text() + ebene.anz_MinMonatName.text(), "Monat 1Monat 1");
-    }
+    A_Klima e;
+    e.stationswerte_zeigen(*p);
+    EXPECT_EQ(texte({&e.anz_MaxMonatName, &e.anz_MinMonatName, &e.anz_MaxMonatTemp, &e.anz_MinMonatTemp,
+                     &e.anz_MittelJahrTemp, &e.anz_MaxJahrTemp, &e.anz_MinJahrTemp}),
+              "Monat7 Monat2 19.0 -2.5 8.5 35.3 -18.8 ");
 }
 
 }  // namespace

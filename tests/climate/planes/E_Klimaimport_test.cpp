@@ -1,6 +1,7 @@
 #include "climate/planes/E_Klimaimport.h"
 
 #include "tests/climate/import/importprobe.h"
+#include "tests/verderber.h"
 #include "tests/volle_festplatte.h"
 #include "toolkit/text.h"
 
@@ -21,17 +22,26 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-/// Texts of a row of labels or lists.
-template <class Reihe>
-std::vector<std::string> texte(const Reihe& felder) {
-    std::vector<std::string> alle;
-    for (const auto& feld : felder)
-        alle.push_back(feld.text());
-    return alle;
-}
-
 class Klimaimport : public testing::Test {
   protected:
+    /// Texts of a row of labels or lists, with a stroke between them.
+    template <class Reihe>
+    static std::string texte(const Reihe& felder) {
+        std::string alle;
+        for (const auto& feld : felder)
+            alle += (alle.empty() ? "" : "|") + feld.text();
+        return alle;
+    }
+
+    /// The head of a source as the fields show it.
+    [[nodiscard]] std::string kopf() const {
+        std::string alle = e.Erkannt.text();
+        for (const Textfeld* feld :
+             {&e.Kopfzeilen, &e.Standortname, &e.Land, &e.Breitengrad, &e.Laengengrad, &e.Zeitzone})
+            alle += "|" + feld->text();
+        return alle;
+    }
+
     Importprobe probe;
     E_Klimaimport& e = *probe.e;
     Importvorschau& v = e.vorschau;
@@ -40,47 +50,26 @@ class Klimaimport : public testing::Test {
 TEST_F(Klimaimport, OeffnetLeer) {
     EXPECT_TRUE(e.ebene.sichtbar());
     EXPECT_EQ(e.ebene.text(), "Klimadaten importieren");
-    for (const auto& [sprache, listen] :
-         {std::pair{"d",
-                    "|Punkt (.)|Komma (,)|Nord|Süd|Ost|West|GMT + |GMT - |- unbenutzt -|Außenlufttemperatur"
-                    "|Gesamtstrahlung|Direktstrahlung|Diffusstrahlung"},
-          {"e",
-           "|Dot (.)|Comma (,)|North|South|East|West|GMT + |GMT - |- not used -|Outdoor air temperature"
-           "|Total radiation|Direct radiation|Diffuse radiation"}}) {
-        const Importprobe neu(sprache);
-        const E_Klimaimport& f = *neu.e;
-        std::string gefunden;
-        for (const Auswahlliste* liste :
-             {&f.Dezimalzeichen, &f.Breitezusatz, &f.Laengezusatz, &f.GMT, &f.vorschau.Datenreihe[5]}) {
-            for (const std::string& eintrag : liste->eintraege())
-                gefunden += "|" + eintrag;
-        }
-        EXPECT_EQ(gefunden, listen);
-    }
-    for (const Auswahlliste* liste : {&e.Dezimalzeichen, &e.Breitezusatz, &e.Laengezusatz, &e.GMT})
+    std::string listen;
+    for (const Auswahlliste* liste :
+         {&e.Dezimalzeichen, &e.Breitezusatz, &e.Laengezusatz, &e.GMT, &v.Datenreihe[5]}) {
         EXPECT_EQ(liste->index(), 0) << liste->name;
+        for (const std::string& eintrag : liste->eintraege())
+            listen += "|" + eintrag;
+    }
+    EXPECT_EQ(listen,
+              "|Punkt (.)|Komma (,)|Nord|Süd|Ost|West|GMT + |GMT - |- unbenutzt -|Außenlufttemperatur"
+              "|Gesamtstrahlung|Direktstrahlung|Diffusstrahlung");
     for (const Feld* feld : std::initializer_list<const Feld*>{&e.Frame2, &e.Frame3, &e.Frame4, &e.Frame5,
                                                                &v.HScroll1, &v.VScroll1, &e.Fortschritt})
         EXPECT_FALSE(feld->sichtbar()) << feld->name;
     EXPECT_FALSE(e.Command2.aktiv());
-    EXPECT_THAT(texte(v.Spalte), ElementsAre("1", "2", "3", "4", "5", "6"));
-}
-
-TEST_F(Klimaimport, EinAbgebrochenerDialogAendertNichts) {
-    probe.p->Datei = "haus.vel";
-    e.Command1.druecke();
-    EXPECT_EQ(probe.plattform.dialoge.at(0).filter, "Alle Dateien (*.*)|*.*");
-    probe.plattform.dateien = {probe.ordner / "fehlt.txt", probe.ordner / "klima"};
-    e.Command1.druecke();
-    e.Command1.druecke();
-    EXPECT_THAT(probe.plattform.meldungen.at(0).text, HasSubstr("fehlt.txt: Datei nicht gefunden"));
-    EXPECT_THAT(probe.plattform.meldungen.at(1).text, HasSubstr("ist ein Ordner"));
-    EXPECT_EQ(probe.p->Datei, "haus.vel");
-    EXPECT_EQ(e.DateinameBox.text(), "");
-    EXPECT_FALSE(e.Frame2.sichtbar());
+    EXPECT_EQ(texte(v.Spalte), "1|2|3|4|5|6");
 }
 
 TEST_F(Klimaimport, EineQuelleWirdGezeigtUndIhrPfadGemerkt) {
+    e.Command1.druecke();
+    EXPECT_EQ(probe.plattform.dialoge.at(0).filter, "Alle Dateien (*.*)|*.*");
     probe.oeffne("Quelle.txt", "Z\xFCrich\n1\t2\t3");
     EXPECT_EQ(probe.p->Datei, pfadtext(probe.ordner / "Quelle.txt"));
     EXPECT_EQ(e.DateinameBox.text(), probe.p->Datei);
@@ -101,25 +90,20 @@ TEST_F(Klimaimport, EineQuelleWirdGezeigtUndIhrPfadGemerkt) {
 }
 
 TEST_F(Klimaimport, ErkannteDateienFuellenDieFelder) {
-    const auto felder = [this] {
-        return std::vector<std::string>{e.Kopfzeilen.text(),  e.Standortname.text(), e.Land.text(),
-                                        e.Breitengrad.text(), e.Laengengrad.text(),  e.Zeitzone.text()};
-    };
     probe.oeffne("bern.dat", Quellbau{}.meteonorm());
-    EXPECT_EQ(e.Erkannt.text(), "Die Datei wurde als Meteonorm-Datei erkannt.");
-    EXPECT_THAT(felder(), ElementsAre("4", "Bern", "", "46.95", "7.43", "1"));
+    EXPECT_EQ(kopf(), "Die Datei wurde als Meteonorm-Datei erkannt.|4|Bern||46.95|7.43|1");
     EXPECT_TRUE(e.Datentrennung.gesetzt(0));
-    EXPECT_THAT(texte(v.Datenreihe), ElementsAre("- unbenutzt -", "- unbenutzt -", "Außenlufttemperatur",
-                                                 "Gesamtstrahlung", "Diffusstrahlung", "Direktstrahlung"));
-    EXPECT_THAT(texte(v.Zeilenzaehler), ElementsAre("5", "6", "7", "8", "9", "10"));
-    EXPECT_THAT(texte(v.Zelle[0]), ElementsAre("1", "1", "-15.0", "0", "0", "0"));
+    EXPECT_EQ(texte(v.Datenreihe),
+              "- unbenutzt -|- unbenutzt -|Außenlufttemperatur|"
+              "Gesamtstrahlung|Diffusstrahlung|Direktstrahlung");
+    EXPECT_EQ(texte(v.Zeilenzaehler), "5|6|7|8|9|10");
+    EXPECT_EQ(texte(v.Zelle[0]), "1|1|-15.0|0|0|0");
     EXPECT_FALSE(v.HScroll1.aktiv());
 
     std::string text = Quellbau{}.epw();
     probe.oeffne("bern.epw", text.replace(text.find("46.92,7.50,1.0"), 14, "-46.92,-7.50,-1.0"));
-    EXPECT_EQ(e.Erkannt.text(), "Die Datei wurde als EnergyPlus-Wetterdatei (.epw) erkannt.");
+    EXPECT_EQ(kopf(), "Die Datei wurde als EnergyPlus-Wetterdatei (.epw) erkannt.|8|Bern|CHE|46.92|7.50|1.0");
     EXPECT_FALSE(e.Datentrennung.gesetzt().has_value());
-    EXPECT_THAT(felder(), ElementsAre("8", "Bern", "CHE", "46.92", "7.50", "1.0"));
     EXPECT_EQ(e.Breitezusatz.text() + e.Laengezusatz.text() + e.GMT.text(), "SüdWestGMT - ");
     EXPECT_EQ(v.HScroll1.maximum(), v.Spaltenzahl - 5);
     EXPECT_EQ(v.HScroll1.position(), 7);
@@ -132,9 +116,8 @@ TEST_F(Klimaimport, ErkannteDateienFuellenDieFelder) {
     EXPECT_EQ(v.Datenreihe[2].text() + v.Zelle[0][2].text(), "Außenlufttemperatur5");
 
     probe.oeffne("frei.txt", "1\t2\n");
-    EXPECT_EQ(e.Erkannt.text(), "");
+    EXPECT_EQ(kopf(), "||||||");
     EXPECT_TRUE(e.Datentrennung.gesetzt(0));
-    EXPECT_THAT(felder(), testing::Each(""));
     EXPECT_EQ(v.HScroll1.position(), 1);
     EXPECT_EQ(v.Spaltenzahl, 0);
     EXPECT_EQ(v.Zelle[0][2].text() + v.Zeilenzaehler[0].text(), "");
@@ -156,10 +139,10 @@ TEST_F(Klimaimport, DieVorschauRolltUeberZeilenUndSpalten) {
     EXPECT_EQ(v.VScroll1.maximum(), 4);
     v.HScroll1.setze(3);
     v.VScroll1.setze(4);
-    EXPECT_THAT(texte(v.Spalte), ElementsAre("3", "4", "5", "6", "7", "8"));
-    EXPECT_THAT(texte(v.Zeilenzaehler), ElementsAre("5", "6", "7", "8", "9", "10"));
-    EXPECT_THAT(texte(v.Zelle[0]), ElementsAre("43", "44", "45", "46", "47", "48"));
-    EXPECT_THAT(texte(v.Zelle[5]), ElementsAre("93", "94", "95", "96", "97", "98"));
+    EXPECT_EQ(texte(v.Spalte), "3|4|5|6|7|8");
+    EXPECT_EQ(texte(v.Zeilenzaehler), "5|6|7|8|9|10");
+    EXPECT_EQ(texte(v.Zelle[0]), "43|44|45|46|47|48");
+    EXPECT_EQ(texte(v.Zelle[5]), "93|94|95|96|97|98");
     v.Datenreihe[5].setze(1);
     EXPECT_EQ(v.Spaltenbelegung(8), 1);
     v.HScroll1.setze(1);
@@ -167,9 +150,8 @@ TEST_F(Klimaimport, DieVorschauRolltUeberZeilenUndSpalten) {
 
     e.Kopfzeilen.tippe("7");
     EXPECT_EQ(v.VScroll1.position(), 1);
-    EXPECT_THAT(texte(v.Zelle[2]), ElementsAre("91", "92", "93", "94", "95", "96"));
-    EXPECT_THAT(texte(v.Zelle[3]), ElementsAre("xxxxxxxxxx", "", "", "", "", ""));
-    EXPECT_EQ(v.Zeilenzaehler[3].text(), "11");
+    EXPECT_EQ(texte(v.Zelle[2]), "91|92|93|94|95|96");
+    EXPECT_EQ(texte(v.Zelle[3]), "xxxxxxxxxx|||||");
     probe.oeffne("lang.txt", std::string(41, 'x'));
     e.Kopfzeilen.tippe("0");
     EXPECT_EQ(v.Zelle[0][0].text(), std::string(40, 'x') + "...");
@@ -180,7 +162,6 @@ TEST_F(Klimaimport, DieVorschauRolltUeberZeilenUndSpalten) {
     EXPECT_FALSE(v.HScroll1.aktiv());
     e.Kopfzeilen.tippe("1");
     e.Datentrennung.setze(1);
-    EXPECT_EQ(v.Spaltenzahl, 1);
     EXPECT_EQ(v.Zelle[0][0].text(), "11\t12\t13\t14\t15\t16\t17\t18");
 }
 
@@ -188,7 +169,6 @@ TEST_F(Klimaimport, DerImportWartetAufAlleFelder) {
     probe.oeffne("quelle.txt", "1\t2\t3\n");
     probe.ort_eintippen();
     e.Kopfzeilen.tippe("0");
-    EXPECT_TRUE(e.Command2.aktiv());
     for (Textfeld* feld : {&e.DateinameBox, &e.Standortname, &e.Land, &e.Kopfzeilen, &e.Breitengrad,
                            &e.Laengengrad, &e.Zeitzone}) {
         const std::string vorher = feld->text();
@@ -204,10 +184,8 @@ TEST_F(Klimaimport, DerImportWartetAufAlleFelder) {
     EXPECT_FALSE(e.Command2.aktiv());
     e.Standortname.tippe("Bern, Zoo");
     EXPECT_THAT(e.Ortshinweis.text(), StartsWith("Ein Komma im Namen"));
-    EXPECT_THAT(e.Ortshinweis.text(), Not(HasSubstr("Zeitzone")));
     e.Zeitzone.tippe("9,5");
-    EXPECT_THAT(e.Ortshinweis.text(),
-                HasSubstr(" Karten. Längengrad und Zeitzone liegen 9.0 Stunden auseinander."));
+    EXPECT_THAT(e.Ortshinweis.text(), HasSubstr(" Karten. Längengrad und Zeitzone liegen 9.0 Stunden"));
     e.Laengengrad.tippe("140");
     EXPECT_THAT(e.Ortshinweis.text(), Not(HasSubstr("Zeitzone")));
     for (Auswahlliste* zusatz : {&e.Laengezusatz, &e.GMT}) {
@@ -220,69 +198,55 @@ TEST_F(Klimaimport, FehlendeSpaltenWerdenDerReiheNachGemeldet) {
     probe.oeffne("quelle.txt", "1\t2\t3\n");
     probe.ort_eintippen();
     e.Kopfzeilen.tippe("0");
-    for (const auto& [groessen, text] : std::vector<std::pair<std::array<int, 3>, std::string>>{
-             {{0, 0, 4}, "Benötigt werden entweder Daten zur Gestamt- oder zur Direktstrahlung"},
-             {{3, 0, 0}, "Keine Temperaturdaten vorhanden!"},
-             {{2, 1, 0}, "Keine Daten zur Diffusstrahlung vorhanden!"}}) {
+    using Fall = std::pair<std::array<int, 3>, const char*>;
+    for (const auto& [groessen, text] :
+         {Fall{{0, 0, 4}, "Benötigt werden entweder Daten zur Gestamt- oder zur Direktstrahlung"},
+          Fall{{3, 0, 0}, "Keine Temperaturdaten vorhanden!"},
+          Fall{{2, 1, 0}, "Keine Daten zur Diffusstrahlung vorhanden!"}}) {
         for (std::size_t j = 0; j < groessen.size(); ++j)
             v.Datenreihe.at(j).setze(groessen.at(j));
         const Meldung meldung = probe.importiere("x");
-        EXPECT_EQ(meldung.text, text);
-        EXPECT_EQ(meldung.titel + meldung.hinweis, "Fehlerquelle.txt");
+        EXPECT_EQ(meldung.titel + meldung.hinweis + meldung.text, std::string("Fehlerquelle.txt") + text);
     }
     probe.oeffne("bern.epw", Quellbau{}.epw());
     v.HScroll1.setze(14);
     v.Datenreihe[0].setze(0);
     EXPECT_THAT(probe.importiere("x").text, HasSubstr("senkrecht zur Sonne"));
-    EXPECT_THAT(probe.dateien(), IsEmpty());
 }
 
-TEST_F(Klimaimport, DerNameWirdErfragtBisErGut) {
-    probe.oeffne("bern.epw", Quellbau{}.epw());
-    probe.plattform.eingaben = {"../bern", "con", "Łódź", "  bärn  "};
-    e.Command2.druecke();
-    EXPECT_THAT(probe.plattform.vorgaben, ElementsAre("bern", "../bern", "con", "Łódź"));
-    EXPECT_EQ(probe.plattform.meldungen.size(), 4U);
-    EXPECT_THAT(probe.plattform.meldungen.at(2).text,
-                HasSubstr("die eine Projektdatei nicht speichern kann"));
-    EXPECT_THAT(probe.dateien(), ElementsAre("bärn.met"));
-}
-
-TEST_F(Klimaimport, OhneNamenUndOhneErlaubnisBleibtAllesWieEsWar) {
-    probe.ordner.schreibe("klima/bern.met", "alt");
+TEST_F(Klimaimport, DerNameWirdErfragtBisErGutUndErlaubtIst) {
+    probe.ordner.schreibe("klima/bärn.met", "alt");
     probe.oeffne("bern.epw", Quellbau{}.epw());
     EXPECT_EQ(probe.importiere("   ").text, "");
-    EXPECT_EQ(
-        probe.plattform.fragen.at(0),
-        "Bitte geben Sie einen (beliebigen) Dateinamen ein, unter dem der neue Klimadatensatz 'Bern (CHE)' "
-        "gespeichert werden soll:");
-    EXPECT_EQ(probe.plattform.titel_der_fragen.at(0), "Klimadatensatz speichern unter ...");
+    EXPECT_EQ(probe.plattform.frage,
+              "Klimadatensatz speichern unter ...: Bitte geben Sie einen (beliebigen) Dateinamen ein, unter "
+              "dem der neue Klimadatensatz 'Bern (CHE)' gespeichert werden soll:");
     for (const Antwort antwort : {Antwort::nein, Antwort::ja}) {
         EXPECT_TRUE(e.ebene.sichtbar());
-        EXPECT_EQ(probe.station("bern"), "alt");
-        probe.plattform.antworten = {antwort};
-        probe.importiere("bern");
-        const Meldung& frage = probe.plattform.meldungen.at(0);
-        EXPECT_THAT(frage.text, StartsWith("Der angegebene Dateiname wird bereits verwendet."));
-        EXPECT_EQ(frage.knoepfe, Knoepfe::ja_nein);
-        EXPECT_EQ(frage.vorgabe, Antwort::nein);
-        EXPECT_EQ(probe.plattform.meldungen.size(), antwort == Antwort::nein ? 1U : 2U);
+        EXPECT_EQ(probe.station("bärn"), "alt");
+        probe.plattform.antworten = {Antwort::ok, Antwort::ok, antwort};
+        probe.plattform.vorgaben.clear();
+        probe.plattform.meldungen.clear();
+        probe.plattform.eingaben = {"../bern", "Łódź", "  bärn  "};
+        e.Command2.druecke();
+        EXPECT_THAT(probe.plattform.vorgaben, ElementsAre("bern", "../bern", "Łódź"));
+        ASSERT_EQ(probe.plattform.meldungen.size(), antwort == Antwort::nein ? 3U : 4U);
+        EXPECT_THAT(probe.plattform.meldungen[1].text, HasSubstr("eine Projektdatei nicht speichern kann"));
+        EXPECT_THAT(probe.plattform.meldungen[2].text, StartsWith("Der angegebene Dateiname wird bereits"));
+        EXPECT_EQ(probe.plattform.meldungen[2].knoepfe, Knoepfe::ja_nein);
+        EXPECT_EQ(probe.plattform.meldungen[2].vorgabe, Antwort::nein);
     }
-    EXPECT_NE(probe.station("bern"), "alt");
-    EXPECT_THAT(probe.dateien(), ElementsAre("bern.met"));
+    EXPECT_NE(probe.station("bärn"), "alt");
+    EXPECT_THAT(probe.dateien(), ElementsAre("bärn.met"));
 }
 
 TEST_F(Klimaimport, EinSchreibfehlerLaesstNichtsZurueck) {
     probe.oeffne("bern.epw", Quellbau{}.epw());
     {
         const test::VolleFestplatte voll(100000);
-        EXPECT_THAT(probe.importiere("bern").text,
-                    HasSubstr("bern.met: Datei kann nicht geschrieben werden"));
+        EXPECT_THAT(probe.importiere("bern").text, HasSubstr("bern.met: Datei kann nicht geschrieben"));
     }
     EXPECT_THAT(probe.dateien(), IsEmpty());
-    std::filesystem::remove_all(probe.ordner / "klima");
-    EXPECT_THAT(probe.importiere("bern").text, HasSubstr("bern.met: Datei kann nicht geschrieben werden"));
-    EXPECT_FALSE(std::filesystem::exists(probe.ordner / "klima"));
     EXPECT_TRUE(e.ebene.sichtbar());
     EXPECT_TRUE(e.Command2.aktiv());
 }
@@ -299,15 +263,18 @@ TEST_F(Klimaimport, EineVeraenderteQuelleWirdNeuGezeigt) {
     std::filesystem::remove(probe.ordner / "bern.txt");
     EXPECT_THAT(probe.importiere("bern").text, HasSubstr("bern.txt: Datei nicht gefunden"));
     EXPECT_THAT(probe.dateien(), IsEmpty());
+    probe.plattform.dateien = {probe.ordner / "bern.txt"};
+    e.Command1.druecke();
+    EXPECT_THAT(probe.plattform.meldungen.back().text, HasSubstr("bern.txt: Datei nicht gefunden"));
 }
 
 TEST_F(Klimaimport, ZeigtDenFortschrittUndLaesstSichAbbrechen) {
     probe.oeffne("bern.epw", Quellbau{}.epw());
     // Cancelled by the callback's answer, and by the button meanwhile.
     for (const auto& [grenze, knopf] : {std::pair{0.0, true}, {0.3, false}, {0.8, true}, {1.0, false}}) {
-        e.fortschritt = [&](double anteil) {
-            if (anteil >= grenze && knopf) e.Command3.druecke();
-            return anteil < grenze || knopf;
+        e.fortschritt = [&, g = grenze, k = knopf](double anteil) {
+            if (anteil >= g && k) e.Command3.druecke();
+            return anteil < g || k;
         };
         EXPECT_EQ(probe.importiere("bern").text, "") << grenze;
         EXPECT_THAT(probe.dateien(), IsEmpty()) << grenze;
@@ -334,6 +301,34 @@ TEST_F(Klimaimport, ZeigtDenFortschrittUndLaesstSichAbbrechen) {
     e.oeffnen();
     e.Command3.druecke();
     EXPECT_FALSE(e.ebene.sichtbar());
+}
+
+// An import ends either with a whole station or with a message and no file at all.
+TEST_F(Klimaimport, VerdorbeneQuellenSchadenNicht) {
+    test::Verderber zufall(20240229);
+    const std::string megabyte(1U << 20U, '7');
+    std::vector<std::string> quellen{
+        "", "LOCATION," + std::string(megabyte.size(), ','),
+        "a\nb\nc\nTa\tG_Gh\tG_Dh" + std::string(megabyte.size(), '\t') + "\n" + megabyte,
+        Quellbau{.ersetzt = {{400, "1\t1\t5\t3\t2\t" + megabyte}}}.meteonorm()};
+    for (int i = 0; i < 60; ++i)
+        quellen.push_back(zufall.verderbe(i % 2 == 0 ? Quellbau{}.meteonorm() : Quellbau{}.epw(true)));
+    for (const std::string& quelle : quellen) {
+        e.oeffnen();
+        probe.oeffne("quelle.txt", quelle);
+        if (e.Land.text().empty()) e.Land.tippe("Land");
+        if (e.Kopfzeilen.text().empty()) e.Kopfzeilen.tippe(std::to_string(zufall.los(12)));
+        if (zufall.los(3) == 0) e.Datentrennung.setze(static_cast<int>(zufall.los(3)));
+        v.HScroll1.bewege(static_cast<int>(zufall.los(200)));
+        v.VScroll1.bewege(static_cast<int>(zufall.los(20000)));
+        const bool bereit = e.Command2.aktiv();
+        const Meldung meldung = probe.importiere("neu");
+        const std::string station = probe.station("neu");
+        EXPECT_EQ(std::count(station.begin(), station.end(), '\n'), station.empty() ? 0 : 8766);
+        EXPECT_EQ(meldung.text.empty(), !bereit);
+        std::filesystem::remove(probe.ordner / "klima/neu.met");
+        EXPECT_THAT(probe.dateien(), IsEmpty());
+    }
 }
 
 }  // namespace
