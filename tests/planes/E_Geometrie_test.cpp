@@ -16,12 +16,13 @@ TEST(EGeometrie, OrientierungWirktAufDieStrahlung) {
     const test::Testprogramm programm;
     E_Geometrie& e = programm.haupt->e_geometrie;
     const std::int16_t west = programm.p().Monat(6).Strahlung_W;
-    bool lageplan = false;
-    e.Picture1.ansicht = [&] { lageplan = true; };
+    int lageplan = 0;
+    e.Picture1.ansicht = [&] { ++lageplan; };
     e.orient_sb.setze(-45);
     EXPECT_EQ(programm.p().orient, 45);
     EXPECT_NE(programm.p().Monat(6).Strahlung_W, west);
-    EXPECT_TRUE(lageplan);
+    programm.haupt->e_menue.klicke("Geometrie");
+    EXPECT_EQ(lageplan, 2);
 }
 
 TEST(EGeometrie, BeheiztesDachgeschoss) {
