@@ -46,6 +46,39 @@ std::map<std::string, std::pair<Eingabefeld*, Anzeige*>> schieber(Haupt& h) {
     return alle;
 }
 
+/// What all controls and all displays of results show.
+std::map<std::string, std::string> zustand(Haupt& h) {
+    std::map<std::string, std::string> alle;
+    for (const auto& [name, paar] : schieber(h)) {
+        alle[name] = std::to_string(paar.first->position()) + " " + paar.second->text() +
+                     (paar.first->sichtbar() ? "" : " hidden") + (paar.first->aktiv() ? "" : " locked");
+    }
+    E_Geometrie& g = h.e_geometrie;
+    E_Daemmung& d = h.e_daemmung;
+    E_Fenster& f = h.e_fenster;
+    E_Gebaeude& b = h.e_gebaeude;
+    for (const Auswahlliste* liste : {&d.ugd, &d.ogd, &f.nord.typ, &f.sued.typ, &f.ost.typ, &f.west.typ,
+                                      &b.Aussenwandart, &b.Innenwandart, &h.e_klima.Klimaregionwahl2})
+        alle[liste->name] = liste->text() + (liste->sichtbar() ? "" : " hidden");
+    for (const Pruefeld* feld :
+         {&g.Check_Dachgeschoss, &d.cbk_hDach, &b.awn_cb, &b.aws_cb, &b.awo_cb, &b.aww_cb})
+        alle[feld->name] = std::to_string(feld->wert());
+    for (const Optionsgruppe* gruppe :
+         {&g.Option_Dachfirst, &d.Waermebruecken_opt, &f.Option1, &h.e_klima.Option})
+        alle[gruppe->name] = std::to_string(gruppe->gesetzt().value_or(-1));
+    for (const Anzeige* anzeige :
+         {&g.f_nfa_anz, &g.f_wfa_anz, &g.Giebel_anz, &g.dachfläche_anz, &g.f_nutz_anz, &g.f_gd_anz,
+          &g.v_luft_anz, &g.v_geb_anz, &g.av_anz, &g.AV_Kugel, &g.AV_Wuerfel, &g.AV_Tetraeder})
+        alle[anzeige->name] = anzeige->text();
+    for (const Anzeige* anzeige : {&f.nord.flaeche_anz, &f.sued.flaeche_anz, &f.ost.flaeche_anz,
+                                   &f.west.flaeche_anz, &f.f_gf_anz, &f.f_vf_anz, &f.kf_anz, &f.gfm_anz,
+                                   &b.intg_anz2, &b.cges_anz, &b.Cwirk_anz, &h.e_energie.Label_Übergabe})
+        alle[anzeige->name] = anzeige->text();
+    for (const Anzeige* anzeige : h.a_klima.anzeigen())
+        alle[anzeige->name] = anzeige->text();
+    return alle;
+}
+
 /// The lines of the project file that the program would write, each with a bar behind it.
 std::string datei_mit_strichen(const Projekt& p) {
     std::string text;
@@ -103,7 +136,6 @@ class Eingaben : public testing::Test {
         grenzen << sb.minimum() << ' ' << sb.maximum() << ' ' << sb.kleiner_schritt() << ' '
                 << sb.grosser_schritt();
         EXPECT_EQ(grenzen.str(), bereich) << sb.name;
-        EXPECT_NE(sb.position(), stellung) << sb.name;
         p.Geaendert = 0;
         sb.setze(stellung);
         EXPECT_EQ(paar.second->text(), text) << sb.name;
@@ -176,47 +208,6 @@ class Eingaben : public testing::Test {
     Projekt& p = programm.p();
 };
 
-/// Displays that follow from the inputs, and nothing else.
-std::map<std::string, std::string> ergebnisse(Haupt& h) {
-    const E_Geometrie& g = h.e_geometrie;
-    const E_Fenster& f = h.e_fenster;
-    const E_Gebaeude& b = h.e_gebaeude;
-    std::vector<const Anzeige*> alle{
-        &g.f_nfa_anz,        &g.f_wfa_anz,    &g.Giebel_anz,       &g.dachfläche_anz,   &g.f_nutz_anz,
-        &g.f_gd_anz,         &g.v_luft_anz,   &g.v_geb_anz,        &g.av_anz,           &g.AV_Kugel,
-        &g.AV_Wuerfel,       &g.AV_Tetraeder, &f.nord.flaeche_anz, &f.sued.flaeche_anz, &f.ost.flaeche_anz,
-        &f.west.flaeche_anz, &f.f_gf_anz,     &f.f_vf_anz,         &f.kf_anz,           &f.gfm_anz,
-        &b.intg_anz2,        &b.cges_anz,     &b.Cwirk_anz};
-    const auto klima = h.a_klima.anzeigen();
-    alle.insert(alle.end(), klima.begin(), klima.end());
-    std::map<std::string, std::string> texte;
-    for (const Anzeige* anzeige : alle)
-        texte[anzeige->name] = anzeige->text();
-    return texte;
-}
-
-/// The state of all controls.
-std::map<std::string, std::string> stellungen(Haupt& h) {
-    std::map<std::string, std::string> alle;
-    for (const auto& [name, paar] : schieber(h)) {
-        alle[name] = std::to_string(paar.first->position()) + " " + paar.second->text() +
-                     (paar.first->sichtbar() ? "" : " hidden") + (paar.first->aktiv() ? "" : " locked");
-    }
-    E_Daemmung& d = h.e_daemmung;
-    E_Fenster& f = h.e_fenster;
-    E_Gebaeude& b = h.e_gebaeude;
-    for (const Auswahlliste* liste : {&d.ugd, &d.ogd, &f.nord.typ, &f.sued.typ, &f.ost.typ, &f.west.typ,
-                                      &b.Aussenwandart, &b.Innenwandart, &h.e_klima.Klimaregionwahl2})
-        alle[liste->name] = liste->text() + (liste->sichtbar() ? "" : " hidden");
-    for (const Pruefeld* feld :
-         {&h.e_geometrie.Check_Dachgeschoss, &d.cbk_hDach, &b.awn_cb, &b.aws_cb, &b.awo_cb, &b.aww_cb})
-        alle[feld->name] = std::to_string(feld->wert());
-    for (const Optionsgruppe* gruppe :
-         {&h.e_geometrie.Option_Dachfirst, &d.Waermebruecken_opt, &f.Option1, &h.e_klima.Option})
-        alle[gruppe->name] = std::to_string(gruppe->gesetzt().value_or(-1));
-    return alle;
-}
-
 TEST_F(Eingaben, EinNeuesProjektHatDieseWerte) {
     EXPECT_EQ(
         datei_mit_strichen(p),
@@ -232,12 +223,12 @@ TEST_F(Eingaben, EinNeuesProjektHatDieseWerte) {
 TEST_F(Eingaben, JederSchieberStelltSeinenWertUndJedesErgebnisFolgt) {
     zeige_alle(h);
     h.alles_berechnen();
-    const auto vorher = ergebnisse(h);
+    const auto vorher = zustand(h);
     alles_bewegen();
-    auto nachher = ergebnisse(h);
+    auto nachher = zustand(h);
     for (const auto& [name, text] : vorher) {
-        const bool vom_wetter = name.starts_with("anz_M") || name == "anz_Heizgradtage";
-        EXPECT_EQ(nachher[name] == text, vom_wetter) << name;
+        const bool bleibt = name.starts_with("anz_M") || name == "anz_Heizgradtage" || name.ends_with("_cb");
+        EXPECT_EQ(nachher[name] == text, bleibt) << name << ", of the weather or a neighbour";
     }
     const std::map<std::string, std::string> von_hand{
         {"f_nfa_anz", " 90.0"},          // 12.5 x 7.2
@@ -245,10 +236,6 @@ TEST_F(Eingaben, JederSchieberStelltSeinenWertUndJedesErgebnisFolgt) {
         {"Giebel_anz", " 14.3 m²"},      // 3.4 x 8.4 / 2
         {"dachfläche_anz", " 67.5 m²"},  // 12.5 x root of 4.2 x 4.2 + 3.4 x 3.4
         {"f_gd_anz", " 105.0"},
-        {"f_nf_anz", " 9.0"},
-        {"f_sf_anz", " 31.5"},
-        {"f_of_anz", " 9.1"},
-        {"f_wf_anz", " 12.1"},
         {"v_luft_anz", " 747.6"},
         {"f_nutz_anz", " 298.9"},  // 252 + 34.59 + 12.35
         {"v_geb_anz", " 934.5"},   // 756 + 178.5
@@ -259,6 +246,8 @@ TEST_F(Eingaben, JederSchieberStelltSeinenWertUndJedesErgebnisFolgt) {
         {"intg_anz2", "3.5"}};     // 30500 / 8760
     for (const auto& [name, text] : von_hand)
         EXPECT_EQ(nachher[name], text) << name;
+    EXPECT_EQ(nachher["f_nf_anz"] + nachher["f_sf_anz"] + nachher["f_of_anz"] + nachher["f_wf_anz"],
+              " 9.0 31.5 9.1 12.1");
     EXPECT_FLOAT_EQ(p.kfn, 2.98F);    // row 1: 0.9 x 3 + 0.1 x 2.8
     EXPECT_FLOAT_EQ(p.kfs, 0.525F);   // by hand: 0.75 x 0.45 + 0.25 x 0.75
     EXPECT_FLOAT_EQ(p.kfo, 0.7F);     // row 5
@@ -289,9 +278,7 @@ TEST_F(Eingaben, OeffnenGibtWiederWasGesichertWurde) {
     for (const Feldzeile& feld : felder()) {
         std::visit([&](auto zeiger) { EXPECT_EQ(frisch.p().*zeiger, p.*zeiger) << feld.name; }, feld.zeiger);
     }
-    EXPECT_EQ(stellungen(*frisch.haupt), stellungen(h));
-    EXPECT_EQ(ergebnisse(*frisch.haupt), ergebnisse(h));
-    EXPECT_EQ(frisch.haupt->e_energie.Label_Übergabe.text(), h.e_energie.Label_Übergabe.text());
+    EXPECT_EQ(zustand(*frisch.haupt), zustand(h));
     frisch.haupt->datei.datei_speichern();
     EXPECT_EQ(test::inhalt(haus), bytes);
     zeige_alle(*frisch.haupt);
@@ -308,33 +295,32 @@ TEST_F(Eingaben, DieDokumenteBekommenWasDieEbenenZeigen) {
     const Heizgrenze grenze = heizgrenze(p);
     const Dokumentquelle q = dokumentquelle(h);
     const double je_flaeche = 1000 / double{p.f_nutz};
-    using Texte = std::vector<std::string>;
-    EXPECT_EQ((Texte{q.auswahl.Dachraum, q.auswahl.untere_Decke, q.auswahl.Waermebruecken,
-                     q.auswahl.Aussenwandart, q.auswahl.Innenwandart, q.energie.Energietraeger}),
-              (Texte{"Teilgedämmtes Dach", "Erdreich (ohne Randdämmung)",
-                     "U-Werte aller Umfassungsflächen um 0,05 W/(m² K) erhöhen", "Leichte Bauweise",
-                     "Schwere Bauweise", "Wärme aus Heizkraftwerken, fossiler Brennstoff"}));
-    EXPECT_EQ(q.auswahl.Fensterart,
-              (std::array<std::string, 4>{"Doppelverglasung", "Sonstiges",
-                                          "Wärmeschutz-Dreifachverglasung (U = 0,7 W/(m² K))", "Sonstiges"}));
-    EXPECT_TRUE(q.energie.System.starts_with("Nah- oder Fernwärme"));
-    EXPECT_TRUE(q.energie.Uebergabe.ends_with("Systemtemperatur: 35/28°C"));
-    EXPECT_EQ(q.energie.name.in("d"), k.name.in("d"));
     const auto m = [](double wert, int stellen = 1) { return muster(wert, stellen); };
-    EXPECT_EQ((Texte{q.gebaeude.Umittel, q.gebaeude.Tspez, q.gebaeude.Vspez, q.gebaeude.TVspez,
-                     q.gebaeude.tau, q.gebaeude.Heizlast, q.gebaeude.heizlast_spez, q.gebaeude.kuehllast,
-                     q.gebaeude.kuehllast_spez, q.gebaeude.Heizgrenztemp, q.gebaeude.Heiztage}),
+    using Texte = std::vector<std::string>;
+    EXPECT_EQ(
+        (Texte{q.auswahl.Dachraum, q.auswahl.untere_Decke, q.auswahl.Waermebruecken, q.auswahl.Aussenwandart,
+               q.auswahl.Innenwandart, q.auswahl.Fensterart[Wandseite::nord],
+               q.auswahl.Fensterart[Wandseite::ost], q.energie.Energietraeger}),
+        (Texte{"Teilgedämmtes Dach", "Erdreich (ohne Randdämmung)",
+               "U-Werte aller Umfassungsflächen um 0,05 W/(m² K) erhöhen", "Leichte Bauweise",
+               "Schwere Bauweise", "Doppelverglasung", "Wärmeschutz-Dreifachverglasung (U = 0,7 W/(m² K))",
+               "Wärme aus Heizkraftwerken, fossiler Brennstoff"}));
+    const Gebaeudetexte& b = q.gebaeude;
+    EXPECT_EQ((Texte{b.Umittel, b.Tspez, b.Vspez, b.TVspez, b.tau, b.Heizlast, b.heizlast_spez, b.kuehllast,
+                     b.kuehllast_spez, b.Heizgrenztemp, b.Heiztage}),
               (Texte{m(g.Umittel, 2), m(g.Tspez), m(g.Vspez), m(g.TVspez), m(g.tau), m(p.Heizlast_max),
                      m(p.Heizlast_max * je_flaeche), m(p.Kuehllast_max), m(p.Kuehllast_max * je_flaeche),
                      m(grenze.Temperatur), std::to_string(grenze.Heiztage)}));
-    EXPECT_EQ(
-        (Texte{q.energie.qhs_sum, q.energie.q_s, q.energie.q_d, q.energie.q_ce, q.energie.e_g,
-               q.energie.q_s_he, q.energie.q_d_he, q.energie.q_g_he, q.energie.q_HE_Energietraeger,
-               q.energie.q_HE_Strom, q.energie.Primaerenergiefaktor_Energietraeger,
-               q.energie.Primaerenergiefaktor_Strom, q.energie.q_PE_Energietraeger, q.energie.q_PE_Strom}),
-        (Texte{m(p.qhs_sum), m(k.q_s), m(k.q_d), m(k.q_ce), m(k.e_g, 2), m(k.q_s_he), m(k.q_d_he),
-               m(k.q_g_he), m(p.q_HE_Energietraeger), m(p.q_HE_Strom), m(k.f_p), "3.0",
-               m(p.q_PE_Energietraeger), m(p.q_PE_Strom)}));
+    const Energietexte& e = q.energie;
+    EXPECT_EQ((Texte{e.qhs_sum, e.q_s, e.q_d, e.q_ce, e.e_g, e.q_s_he, e.q_d_he, e.q_g_he,
+                     e.q_HE_Energietraeger, e.q_HE_Strom, e.Primaerenergiefaktor_Energietraeger,
+                     e.Primaerenergiefaktor_Strom, e.q_PE_Energietraeger, e.q_PE_Strom}),
+              (Texte{m(p.qhs_sum), m(k.q_s), m(k.q_d), m(k.q_ce), m(k.e_g, 2), m(k.q_s_he), m(k.q_d_he),
+                     m(k.q_g_he), m(p.q_HE_Energietraeger), m(p.q_HE_Strom), m(k.f_p), "3.0",
+                     m(p.q_PE_Energietraeger), m(p.q_PE_Strom)}));
+    EXPECT_TRUE(q.energie.System.starts_with("Nah- oder Fernwärme"));
+    EXPECT_TRUE(q.energie.Uebergabe.ends_with("Systemtemperatur: 35/28°C"));
+    EXPECT_EQ(q.energie.name.in("d"), k.name.in("d"));
 }
 
 TEST_F(Eingaben, EinLeererDachraumUndEinFremderZuschlagBleibenUndZeigenNichts) {
