@@ -1,8 +1,6 @@
 #include "planes/E_Fenster.h"
 
-#include "project/projektdatei.h"
 #include "tests/testprogramm.h"
-#include "toolkit/text.h"
 
 #include <gtest/gtest.h>
 #include <utility>
@@ -20,11 +18,6 @@ class EFenster : public testing::Test {
             if (p.FormLoadGuard == 0) ++rechnungen;
             rechnen();
         };
-    }
-
-    /// The user's focus on a scroll field.
-    void fokus(const Scrollfeld& feld) {
-        e.fokusstellung = [&feld] { return std::optional(feld.position()); };
     }
 
     test::Testprogramm programm;
@@ -70,19 +63,9 @@ TEST_F(EFenster, GleicheFensterFolgenDerSuedseiteInEinerRechnung) {
     pruefe(0.7F, 1.4F, 3);
     e.sued.typ.setze(0);
     pruefe(0.92F, 5.8F, 0);
-    fokus(e.sued.kfg.sb);
+    e.fokusstellung = [this] { return std::optional(e.sued.kfg.sb.position()); };
     e.sued.kfg.sb.setze(145);
     pruefe(0.92F, 1.45F, 7);  // moved by hand
-}
-
-/// The guard that a failed opening leaves set does not make the user's hand a load.
-TEST_F(EFenster, NachGescheitertemOeffnenBleibtDieHandEineHand) {
-    fokus(e.sued.gf.sb);
-    programm.haupt->datei.datei_oeffnen(
-        pfadtext(programm.ordner.schreibe("halb.vel", test::projekttext({std::string(version_jetzt)}))));
-    EXPECT_EQ(p.FormLoadGuard, -1);
-    e.sued.gf.sb.setze(70);
-    EXPECT_EQ(p.fensters_typ, typ_sonstiges);
 }
 
 TEST_F(EFenster, ModuswechselGibtAllenDieFensterDesSuedensInEinerRechnung) {

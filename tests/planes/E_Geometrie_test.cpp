@@ -30,8 +30,7 @@ TEST(EGeometrie, BeheiztesDachgeschoss) {
     const Projekt& p = programm.p();
     const E_Daemmung& d = programm.haupt->e_daemmung;
     E_Geometrie& e = programm.haupt->e_geometrie;
-    const auto pruefe = [&](bool beheizt, const char* bild, const char* abschluss, double oben,
-                            double hoehe) {
+    const auto pruefe = [&](bool beheizt, const std::string& bild) {
         for (const Feld* feld :
              std::initializer_list<const Feld*>{&e.hd_sb, &e.Label9, &e.Label6, &e.Label4, &e.hd_anz,
                                                 &e.dachfläche_anz, &e.Giebel_anz, &d.ogd_Dach})
@@ -39,28 +38,28 @@ TEST(EGeometrie, BeheiztesDachgeschoss) {
         EXPECT_EQ(e.Option_Dachfirst.aktiv(), beheizt);
         EXPECT_EQ(e.Frame3.aktiv(), beheizt);
         EXPECT_EQ(d.ogd.sichtbar(), !beheizt);
-        EXPECT_EQ(d.liste2.text(), abschluss);
-        EXPECT_EQ(e.Picture3.bild(), programm.ordner / ("Grafiken/" + std::string(bild)));
-        EXPECT_EQ(e.h_sb.lage()->oben, oben);
-        EXPECT_EQ(e.h_sb.lage()->hoehe, hoehe);
+        EXPECT_EQ(d.liste2.text(), beheizt ? "Dach" : "Obere Geschoßdecke");
+        EXPECT_EQ(e.Picture3.bild(), programm.ordner / ("Grafiken/" + bild));
+        EXPECT_EQ(e.h_sb.lage()->oben, beheizt ? 128 : 111);  // 1665 twips
+        EXPECT_EQ(e.h_sb.lage()->hoehe, beheizt ? 80 : 97);   // 1455 twips
     };
     const float qh = p.qh;
     e.Option_Dachfirst.setze(2);
     EXPECT_EQ(p.Option_Dachfirst, 2);
     EXPECT_EQ(p.qh, qh) << "without a heated attic the ridge is only noted";
     EXPECT_EQ(p.Geaendert, 0);
-    pruefe(false, "haus0.bmp", "Obere Geschoßdecke", 111, 97);  // 1665 and 1455 twips
+    pruefe(false, "haus0.bmp");
     e.Check_Dachgeschoss.setze(1);
     EXPECT_EQ(p.hd, 1);
     EXPECT_EQ(p.Geaendert, 1);
     EXPECT_GT(p.f_dach_n, 0);
     EXPECT_EQ(p.f_dach_w, 0);
-    pruefe(true, "haus2.bmp", "Dach", 128, 80);
+    pruefe(true, "haus2.bmp");
     e.hd_sb.setze(-30);
     e.Check_Dachgeschoss.setze(0);
     EXPECT_EQ(p.hd, 0);
     EXPECT_FALSE(std::signbit(p.hd));
-    pruefe(false, "haus0.bmp", "Obere Geschoßdecke", 111, 97);
+    pruefe(false, "haus0.bmp");
 }
 
 /// A file and New move the ridge while the attic is off; once it is on, picture and captions are of one

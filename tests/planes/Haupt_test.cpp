@@ -18,14 +18,16 @@ class Hauptprogramm : public testing::Test {
   protected:
     Hauptprogramm() {
         h.laden();
-        for (const Zeichnung& z : zeichnungen)
-            z.feld.ansicht = [this, &z] { gezeichnet.push_back(&z.feld); };
+        for (const Zeichnung& z : zeichnungen) {
+            for (Feld* feld : z.felder)
+                feld->ansicht = [this, feld] { gezeichnet.push_back(feld); };
+        }
     }
 
-    /// What a plane draws.
+    /// What a plane draws, in its order.
     struct Zeichnung {
         Feld& ebene;
-        Feld& feld;
+        std::vector<Feld*> felder;
     };
 
     /// Names of the planes of a bar that are shown.
@@ -50,22 +52,19 @@ class Hauptprogramm : public testing::Test {
     Testprogramm programm;
     Haupt& h = *programm.haupt;
     Projekt& p = programm.p();
-    const std::vector<Zeichnung> zeichnungen{{h.e_geometrie.ebene, h.e_geometrie.AV_Picture},
-                                             {h.a_uebersicht.ebene, h.a_uebersicht.Monatsbilanz},
-                                             {h.a_uebersicht.ebene, h.a_uebersicht.UeberGrafik},
-                                             {h.a_uebersicht.ebene, h.a_uebersicht.Temperaturen},
-                                             {h.a_zoom.ebene, h.a_zoom.Temperaturen},
-                                             {h.a_sankey.ebene, h.a_sankey.Sankey},
-                                             {h.a_sankey.ebene, h.a_sankey.Sankey_Kühlen},
-                                             {h.a_heizen.ebene, h.a_heizen.qh_anz},
-                                             {h.a_heizen.ebene, h.a_heizen.Gewinne_N},
-                                             {h.a_heizen.ebene, h.a_heizen.JahrBilanz},
-                                             {h.a_heizen.ebene, h.a_heizen.Heizbilanz},
-                                             {h.a_heizen.ebene, h.a_heizen.NutzungsgradMonat},
-                                             {h.a_kuehlen.ebene, h.a_kuehlen.StundenProTagMonat},
-                                             {h.a_kuehlen.ebene, h.a_kuehlen.KuehlbedarfMonat},
-                                             {h.a_kuehlen.ebene, h.a_kuehlen.KuehlGradStundenMonat},
-                                             {h.a_klima.ebene, h.a_klima.anz_Heizlast}};
+    const std::vector<Zeichnung> zeichnungen{
+        {h.e_geometrie.ebene, {&h.e_geometrie.AV_Picture}},
+        {h.a_uebersicht.ebene,
+         {&h.a_uebersicht.Monatsbilanz, &h.a_uebersicht.UeberGrafik, &h.a_uebersicht.Temperaturen}},
+        {h.a_zoom.ebene, {&h.a_zoom.Temperaturen}},
+        {h.a_sankey.ebene, {&h.a_sankey.Sankey, &h.a_sankey.Sankey_Kühlen}},
+        {h.a_heizen.ebene,
+         {&h.a_heizen.qh_anz, &h.a_heizen.Gewinne_N, &h.a_heizen.JahrBilanz, &h.a_heizen.Heizbilanz,
+          &h.a_heizen.NutzungsgradMonat}},
+        {h.a_kuehlen.ebene,
+         {&h.a_kuehlen.StundenProTagMonat, &h.a_kuehlen.KuehlbedarfMonat,
+          &h.a_kuehlen.KuehlGradStundenMonat}},
+        {h.a_klima.ebene, {&h.a_klima.anz_Heizlast}}};
     std::vector<const Feld*> gezeichnet;  ///< since the last look
 };
 
@@ -105,9 +104,9 @@ TEST_F(Hauptprogramm, EineRechnungZeichnetDasSichtbareInIhrerReihenfolge) {
     int laenge = 200;
     for (const Zeichnung& verdeckt : zeichnungen) {
         std::vector<const Feld*> erwartet;
-        for (const Zeichnung& zeile : zeichnungen) {
-            zeile.ebene.zeige(&zeile.ebene != &verdeckt.ebene);
-            if (zeile.ebene.sichtbar()) erwartet.push_back(&zeile.feld);
+        for (const Zeichnung& z : zeichnungen) {
+            z.ebene.zeige(&z != &verdeckt);
+            if (&z != &verdeckt) erwartet.insert(erwartet.end(), z.felder.begin(), z.felder.end());
         }
         gezeichnet.clear();
         h.e_geometrie.l_sb.setze(laenge += 10);

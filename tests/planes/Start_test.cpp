@@ -118,7 +118,6 @@ TEST(Start, OhneVorgabestationKommtDasProgrammMitEinerAnderenHoch) {
         EXPECT_NE(s.plattform.meldungen[0].hinweis.find("trier.met: die Klimadatei endet"),
                   std::string::npos);
         EXPECT_EQ(p.FormLoadGuard, 0);
-        EXPECT_EQ(p.Geaendert, 0);
         EXPECT_EQ(p.l, projekt ? 14 : 10);
         haupt.laden();
         for (const auto& eintrag : haupt.a_menue.eintraege())

@@ -90,38 +90,28 @@ std::string datei_mit_strichen(const Projekt& p) {
 /// The program of a new project, and how its user changes every input of it.
 class Eingaben : public testing::Test {
   protected:
-    /// Moves each scroll field once. A row: minimum, maximum, small step, large step; then each field with
-    /// its position and what its display shows.
+    /// Moves each scroll field once. A group, up to a bar: minimum, maximum, small step, large step; then
+    /// each field with its position and what its display shows.
     void alle_schieber() {
-        std::istringstream tabelle(R"(20 500 10 20: l_sb 125 Länge: 12.5 m; b_sb 84 Breite: 8.4 m;
--500 -20 2 -20: h_sb -72 7.2 m;
--50 0 2 -10: hd_sb -34 3.4 m;
--20 -1 1 -2: ag_sb -3  3;
--45 45 5 1: orient_sb -15 15°;
-1 150 10 20: kwn_sb 31 0.31; kws_sb 42 0.42; kwo_sb 53 0.53; kww_sb 134 1.34;
-0 150 10 20: kd_sb 15 0.15; kk_sb 47 0.47;
-0 500 10 20: ft_sb 21 2.1;
-0 200 10 15: kt_sb 18 1.8;
-0 100 10 50: absfaktor_sb 70 0.70;
--100 400 20 200: Troom_sb 215 21.5;
-100 400 10 100: Tueber_sb 225 22.5;
-0 800 10 50: intg_sb 61 30.5;
-0 1000 20 60: infiltration_sb 45 0.45; lw_sb 120 1.20;
-0 100 5 1: WRG_Sb 85 85;
-5 80 10 25: Klimaeffizienz_sb 35 3.5;
-0 100 5 5: fn_sb 10 10; fs_sb 35 35; fo_sb 15 15; fw_sb 20 20;
+        std::istringstream tabelle(R"(
+20 500 10 20: l_sb 125 Länge: 12.5 m; b_sb 84 Breite: 8.4 m;|
+-500 -20 2 -20: h_sb -72 7.2 m;| -50 0 2 -10: hd_sb -34 3.4 m;| -20 -1 1 -2: ag_sb -3  3;|
+-45 45 5 1: orient_sb -15 15°;| 0 500 10 20: ft_sb 21 2.1;| 0 200 10 15: kt_sb 18 1.8;|
+1 150 10 20: kwn_sb 31 0.31; kws_sb 42 0.42; kwo_sb 53 0.53; kww_sb 134 1.34;|
+0 150 10 20: kd_sb 15 0.15; kk_sb 47 0.47;| 0 100 10 50: absfaktor_sb 70 0.70;|
+-100 400 20 200: Troom_sb 215 21.5;| 100 400 10 100: Tueber_sb 225 22.5;| 0 800 10 50: intg_sb 61 30.5;|
+0 1000 20 60: infiltration_sb 45 0.45; lw_sb 120 1.20;| 0 100 5 1: WRG_Sb 85 85;|
+5 80 10 25: Klimaeffizienz_sb 35 3.5;| 0 100 5 5: fn_sb 10 10; fs_sb 35 35; fo_sb 15 15; fw_sb 20 20;|
 0 100 5 20: gfn_sb 75 0.75; gfs_sb 71 0.71; gfo_sb 97 0.97; gfw_sb 32 0.32;
+            ran_sb 10 10; ras_sb 25 25; rao_sb 30 30; raw_sb 15 15;
+            verschn_sb 25 25; verschs_sb 40 40; verscho_sb 5 5; verschw_sb 55 55;|
 0 600 5 20: kfgn_sb 305 3.05; kfgs_sb 45 0.45; kfgo_sb 560 5.60; kfgw_sb 110 1.10;
-0 600 5 20: kfrn_sb 300 3.00; kfrs_sb 75 0.75; kfro_sb 355 3.55; kfrw_sb 145 1.45;
-0 100 5 20: ran_sb 10 10; ras_sb 25 25; rao_sb 30 30; raw_sb 15 15;
-0 100 5 20: verschn_sb 25 25; verschs_sb 40 40; verscho_sb 5 5; verschw_sb 55 55;
-)");
+            kfrn_sb 300 3.00; kfrs_sb 75 0.75; kfro_sb 355 3.55; kfrw_sb 145 1.45;|)");
         auto alle = schieber(h);
-        for (std::string bereich, zuege;
-             std::getline(tabelle, bereich, ':') && std::getline(tabelle, zuege);) {
-            std::istringstream zeile(zuege);
-            std::string feld, anzeige;
-            for (int ort = 0; zeile >> feld >> ort && zeile.get() && std::getline(zeile, anzeige, ';');) {
+        std::string bereich, zuege, feld, anzeige;
+        while (std::getline(tabelle >> std::ws, bereich, ':') && std::getline(tabelle, zuege, '|')) {
+            std::istringstream gruppe(zuege);
+            for (int ort = 0; gruppe >> feld >> ort && gruppe.get() && std::getline(gruppe, anzeige, ';');) {
                 ziehe(alle.at(feld), bereich, ort, anzeige);
                 alle.erase(feld);
             }
