@@ -1,13 +1,36 @@
 #include "tests/textlage.h"
 
 #include "planes/Haupt.h"
+#include "tests/rekorder_flaeche.h"
+
+#include <tuple>
 
 namespace velmaris::test {
+namespace {
 
-void Textprobe::schrift(const Schrift& schrift) {
-    RekorderFlaeche::schrift(schrift);
-    masse_.schrift(schrift);
+/// Records what is drawn, with the letters of another surface.
+struct Textprobe : RekorderFlaeche {
+    Textprobe(double breite, double hoehe, Zeichenflaeche& m) : RekorderFlaeche(breite, hoehe), masse(m) {}
+
+    void schrift(const Schrift& s) override { RekorderFlaeche::schrift(s), masse.schrift(s); }
+    [[nodiscard]] double textbreite(std::string_view text) const override { return masse.textbreite(text); }
+    [[nodiscard]] double texthoehe(std::string_view text) const override { return masse.texthoehe(text); }
+
+    Zeichenflaeche& masse;
+};
+
+struct Kasten {
+    double links, oben, rechts, unten;
+};
+
+bool beruehren(const Kasten& a, const Kasten& b) {
+    constexpr double ueberstand = 2;  // letters leave the edges of their lines free
+    return a.links < b.rechts + 1 && b.links < a.rechts + 1 && a.oben < b.unten - ueberstand &&
+           b.oben < a.unten - ueberstand;
 }
+
+/// A chart with the width and height of its surface.
+using Diagramm = std::tuple<const Bildfeld*, double, double>;
 
 std::vector<Diagramm> diagramme(Haupt& haupt) {
     A_Uebersicht& u = haupt.a_uebersicht;
@@ -24,35 +47,29 @@ std::vector<Diagramm> diagramme(Haupt& haupt) {
           &h.JahrBilanz, &h.NutzungsgradMonat, &h.NutzungsgradJahr, &k.StundenProTagMonat,
           &k.StundenProTagJahr, &k.KuehlbedarfMonat, &k.KuehlbedarfJahr, &k.KuehlGradStundenMonat,
           &k.KuehlGradStundenJahr, &haupt.a_sankey.Sankey, &haupt.a_sankey.Sankey_Kühlen})
-        alle.push_back({bild, bild->lage()->breite, bild->lage()->hoehe});
+        alle.emplace_back(bild, bild->lage()->breite, bild->lage()->hoehe);
     return alle;
 }
 
-std::vector<std::string> textfehler(const Diagramm& diagramm, Zeichenflaeche& masse) {
-    constexpr double ueberstand = 2;  // letters leave the edges of their lines free
-    struct Kasten {
-        double links, oben, rechts, unten;
-    };
-    Textprobe probe(diagramm.breite, diagramm.hoehe, masse);
-    diagramm.bild->zeichnen(probe);
+}  // namespace
+
+std::vector<std::string> textfehler(Haupt& haupt, Zeichenflaeche& masse) {
     std::vector<std::string> fehler;
-    std::vector<Kasten> kaesten;
-    for (const Zeichnung& z : probe.alle(Zeichnung::Art::text)) {
-        const auto melde = [&](const char* was) {
-            fehler.push_back(diagramm.bild->name + " \"" + z.text + "\" " + was);
-        };
-        masse.schrift(z.schrift);
-        const double x = z.zahlen[0];
-        const double y = z.zahlen[1];
-        const Kasten k{x, y, x + masse.textbreite(z.text), y + masse.texthoehe(z.text)};
-        if (k.links < 0 || k.rechts > diagramm.breite) melde("is cut at a side");
-        if (k.oben < 0 || k.unten > diagramm.hoehe) melde("is cut above or below");
-        for (const Kasten& a : kaesten) {
-            if (k.links < a.rechts + 1 && a.links < k.rechts + 1 && k.oben < a.unten - ueberstand &&
-                a.oben < k.unten - ueberstand)
-                melde("touches another");
+    for (const auto& [bild, breite, hoehe] : diagramme(haupt)) {
+        Textprobe probe(breite, hoehe, masse);
+        bild->zeichnen(probe);
+        std::vector<Kasten> kaesten;
+        for (const Zeichnung& z : probe.alle(Zeichnung::Art::text)) {
+            masse.schrift(z.schrift);
+            const double x = z.zahlen[0];
+            const double y = z.zahlen[1];
+            const Kasten k{x, y, x + masse.textbreite(z.text), y + masse.texthoehe(z.text)};
+            const std::string text = bild->name + " \"" + z.text + "\" ";
+            if (x < 0 || y < 0 || k.rechts > breite || k.unten > hoehe) fehler.push_back(text + "is cut");
+            for (const Kasten& anderer : kaesten)
+                if (beruehren(k, anderer)) fehler.push_back(text + "touches another");
+            kaesten.push_back(k);
         }
-        kaesten.push_back(k);
     }
     return fehler;
 }

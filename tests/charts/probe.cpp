@@ -3,7 +3,6 @@
 #include "language/c_Sprache.h"
 
 #include <algorithm>
-#include <cmath>
 #include <sstream>
 
 namespace velmaris::test {
@@ -12,9 +11,17 @@ namespace {
 int lauf(const RekorderFlaeche& bild, int x, int y, int dx, int dy) {
     const Farbe farbe = bild.lies_punkt(x, y);
     int n = 0;
-    for (; x >= 0 && y >= 0 && x < bild.breite() && y < bild.hoehe(); x += dx, y += dy, ++n)
-        if (bild.lies_punkt(x, y) != farbe) break;
+    for (; x >= 0 && y >= 0 && x < bild.breite() && bild.lies_punkt(x, y) == farbe; x += dx, y += dy)
+        ++n;
     return n;
+}
+
+/// Numbers with six digits and a blank between.
+std::string mit_luecken(const std::vector<double>& zahlen) {
+    std::ostringstream text;
+    for (std::size_t i = 0; i < zahlen.size(); ++i)
+        text << (i > 0 ? " " : "") << zahlen[i];
+    return text.str();
 }
 
 }  // namespace
@@ -38,14 +45,12 @@ std::vector<Ecken> flaechen(const RekorderFlaeche& bild, Farbe farbe) {
 }
 
 std::string formen(const RekorderFlaeche& bild) {
-    std::ostringstream text;
+    std::string text;
     for (const Zeichnung& z : bild.zeichnungen) {
-        if (z.art == Zeichnung::Art::text || z.art == Zeichnung::Art::cls) continue;
-        text << (text.tellp() > 0 ? "|" : "");
-        for (std::size_t i = 0; i < z.zahlen.size(); ++i)
-            text << (i > 0 ? " " : "") << z.zahlen[i];
+        if (z.art != Zeichnung::Art::text && z.art != Zeichnung::Art::cls)
+            text += (text.empty() ? "" : "|") + mit_luecken(z.zahlen);
     }
-    return text.str();
+    return text;
 }
 
 int hoch(const RekorderFlaeche& bild, int x, int y) {
@@ -56,11 +61,16 @@ int quer(const RekorderFlaeche& bild, int x, int y) {
     return lauf(bild, x, y, 1, 0);
 }
 
+std::vector<std::string> orte(const RekorderFlaeche& bild) {
+    std::vector<std::string> orte;
+    for (const Zeichnung& z : bild.alle(Zeichnung::Art::text))
+        orte.push_back(mit_luecken(z.zahlen) + " " + z.text);
+    return orte;
+}
+
 bool steht(const RekorderFlaeche& bild, const std::string& text, double x, double y) {
-    const std::vector<Zeichnung> texte = bild.alle(Zeichnung::Art::text);
-    return std::any_of(texte.begin(), texte.end(), [&](const Zeichnung& z) {
-        return z.text == text && std::fabs(z.zahlen[0] - x) < 1e-9 && std::fabs(z.zahlen[1] - y) < 1e-9;
-    });
+    const std::vector<std::string> alle = orte(bild);
+    return std::count(alle.begin(), alle.end(), mit_luecken({x, y}) + " " + text) > 0;
 }
 
 }  // namespace velmaris::test

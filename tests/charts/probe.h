@@ -32,6 +32,9 @@ std::string formen(const RekorderFlaeche& bild);
 int hoch(const RekorderFlaeche& bild, int x, int y);
 int quer(const RekorderFlaeche& bild, int x, int y);
 
+/// The texts with their top left, "x y text".
+std::vector<std::string> orte(const RekorderFlaeche& bild);
+
 /// True if the text stands with its top left at (x, y).
 bool steht(const RekorderFlaeche& bild, const std::string& text, double x, double y);
 

@@ -33,16 +33,10 @@ class AnsichtenTest : public test::Programmprobe {
         p().FormLoadGuard = 0;
         h.alles_berechnen();
     }
-
-    /// Looks at the texts of all charts in the letters of the screen.
-    void pruefe_diagramme(const std::string& wo) {
-        QtFlaeche masse(QSize(1, 1), 1, farben::weiss);
-        for (const test::Diagramm& diagramm : test::diagramme(haupt()))
-            EXPECT_THAT(test::textfehler(diagramm, masse), testing::IsEmpty()) << wo;
-    }
 };
 
 TEST_F(AnsichtenTest, KeinTextIstAbgeschnittenUndNichtsRagtHinaus) {
+    QtFlaeche masse(QSize(1, 1), 1, farben::weiss);  // the letters of the screen
     for (const char* sprache : {"d", "e"}) {
         for (const bool waagrecht : {false, true}) {
             for (const bool senkrecht : {false, true}) {
@@ -54,7 +48,7 @@ TEST_F(AnsichtenTest, KeinTextIstAbgeschnittenUndNichtsRagtHinaus) {
                 for (std::int16_t system = 1; system <= 9; ++system) {
                     p().Heizsystem = system;
                     haupt().alles_berechnen();
-                    pruefe_diagramme(wo);
+                    EXPECT_THAT(test::textfehler(haupt(), masse), testing::IsEmpty()) << wo;
                     test::pruefe_platz(such("Haupt", "E_Energie"), wo + " " + std::to_string(system));
                 }
             }
