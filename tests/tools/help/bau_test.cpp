@@ -1,7 +1,6 @@
 #include "tests/hilfen.h"
 #include "toolkit/fehler.h"
 #include "tools/help/chmprojekt.h"
-#include "tools/help/eingabentabelle.h"
 #include "tools/help/seitenbau.h"
 #include "tools/help/tabelle.h"
 
@@ -11,10 +10,9 @@
 namespace velmaris::hilfe {
 namespace {
 
-using test::Testordner;
 using testing::HasSubstr;
 
-std::string quelle(const std::string& titel, const std::string& stichworte, const std::string& rumpf = "") {
+std::string quelle(const std::string& titel, const std::string& stichworte, const std::string& rumpf) {
     return R"(<html><head><meta name="keywords" content=")" + stichworte + "\"><title>" + titel +
            "</title></head><body>" + rumpf + "</body></html>";
 }
@@ -23,77 +21,67 @@ std::string quelle(const std::string& titel, const std::string& stichworte, cons
 class Hilfebau : public testing::Test {
   protected:
     Hilfebau() {
-        ordner.schreibe("inhalt.txt", "index\n# Ebenen | Planes\nTuer\r\nDach\n");
+        ordner.schreibe("inhalt.txt", "index\n#Ebenen | Planes\nTuer\r\n Dach\n");
         ordner.schreibe("d/index.html", quelle("Start", "Anfang", "<!-- inhalt --><!-- blaettern -->"));
-        ordner.schreibe("d/Tuer.html", quelle("Tür", "Überstand; Zarge; Öffnung", "<!-- blaettern -->"));
-        ordner.schreibe("d/Dach.html", quelle("Dach", "Traufe; Änderung", "<!-- blaettern -->"));
+        ordner.schreibe("d/Tuer.html", quelle("Tür", "Überstand;Zarge; Öffnung ;Maß", "<!-- blaettern -->"));
+        ordner.schreibe("d/Dach.html", quelle("Dach", "Traufe; Änderung; Mast; Oase", "<!-- blaettern -->"));
     }
 
-    [[nodiscard]] std::string gebaut(const std::string& name) const {
-        const Inhalt inhalt = inhalt_lesen(ordner.pfad(), "d");
-        for (const Seite* seite : alle_seiten(inhalt)) {
-            if (seite->name == name) return seite_bauen(inhalt, *seite, "d");
-        }
-        return {};
+    [[nodiscard]] Inhalt gelesen() const { return inhalt_lesen(ordner.pfad(), "d"); }
+
+    [[nodiscard]] std::string gebaut(std::size_t seite) const {
+        const Inhalt inhalt = gelesen();
+        return seite_bauen(inhalt, *alle_seiten(inhalt).at(seite), "d");
     }
 
-    Testordner ordner;
+    test::Testordner ordner;
 };
 
 TEST_F(Hilfebau, OrdnetDieSeitenNachDemInhalt) {
-    const Inhalt inhalt = inhalt_lesen(ordner.pfad(), "d");
-    ASSERT_EQ(inhalt.size(), 2U);
-    EXPECT_EQ(inhalt[1].titel, "Ebenen");
-    ASSERT_EQ(inhalt[1].seiten.size(), 2U);
-    EXPECT_EQ(inhalt[1].seiten[0].titel, "Tür");
-    EXPECT_THAT(inhalt[1].seiten[0].stichworte, testing::ElementsAre("Überstand", "Zarge", "Öffnung"));
-    const std::string baum = chm_inhalt(inhalt);
-    const std::size_t kapitel = baum.find("value=\"Ebenen\"></object>\n<ul>\n");
-    EXPECT_NE(kapitel, std::string::npos);
-    EXPECT_GT(baum.find("value=\"Tuer.html\""), kapitel);
-}
-
-TEST_F(Hilfebau, VerbindetNachbarnUndInhalt) {
-    EXPECT_THAT(gebaut("index"),
-                HasSubstr("<p><b>Ebenen</b></p>\n<ul>\n<li><a href=\"Tuer.html\">Tür</a></li>\n"
-                          "<li><a href=\"Dach.html\">Dach</a></li>\n</ul>"));
-    const std::string mitte = gebaut("Tuer");
-    EXPECT_THAT(mitte, HasSubstr("&laquo; <a href=\"index.html\">Start</a>"));
-    EXPECT_THAT(mitte, HasSubstr("<a href=\"Dach.html\">Dach</a> &raquo;"));
-    EXPECT_THAT(gebaut("Dach"), testing::Not(HasSubstr("&raquo;")));
+    EXPECT_THAT(gelesen().at(1).seiten.at(0).stichworte,
+                testing::ElementsAre("Überstand", "Zarge", "Öffnung", "Maß"));
+    const std::string objekt = R"(<li><object type="text/sitemap"><param name="Name" value=")";
+    EXPECT_THAT(chm_inhalt(gelesen()), HasSubstr(R"(<param name="Local" value="index.html"></object>)"
+                                                 "\n" +
+                                                 objekt + "Ebenen\"></object>\n<ul>\n" + objekt +
+                                                 R"(Tür"><param name="Local" value="Tuer.html"></object>)"));
+    EXPECT_THAT(chm_projekt(gelesen(), "d"),
+                HasSubstr("Language=0x407 Deutsch (Deutschland)\nTitle=Velmaris Hilfe\n\n[FILES]\n"
+                          "index.html\nTuer.html\nDach.html\nstil.css\n"));
+    EXPECT_THAT(gebaut(0), HasSubstr("<p><b>Ebenen</b></p>\n<ul>\n<li><a href=\"Tuer.html\">Tür</a></li>\n"
+                                     "<li><a href=\"Dach.html\">Dach</a></li>\n</ul>"));
+    EXPECT_THAT(gebaut(1), HasSubstr("&laquo; <a href=\"index.html\">Start</a>"));
+    EXPECT_THAT(gebaut(1), HasSubstr("<a href=\"Dach.html\">Dach</a> &raquo;"));
+    EXPECT_THAT(gebaut(2), testing::Not(HasSubstr("&raquo;")));
 }
 
 TEST_F(Hilfebau, ReihtStichworteNachDemAlphabetDerLeser) {
-    std::string index = chm_stichworte(inhalt_lesen(ordner.pfad(), "d"));
-    for (const char* wort : {"Änderung", "Anfang", "Öffnung", "Traufe", "Überstand", "Zarge"}) {
+    std::string index = chm_stichworte(gelesen());
+    for (const char* wort :
+         {"Änderung", "Anfang", "Maß", "Mast", "Oase", "Öffnung", "Traufe", "Überstand", "Zarge"}) {
         const std::size_t stelle = index.find(wort);
         ASSERT_NE(stelle, std::string::npos) << wort;
         index.erase(0, stelle);
     }
 }
 
-TEST_F(Hilfebau, MeldetSeitenDieNichtStimmen) {
-    const auto meldung = [&](const char* sprache) {
+TEST_F(Hilfebau, MeldetWasNichtStimmt) {
+    const auto meldung = [&](const std::string& seite, const std::string& text) {
+        ordner.schreibe("d/" + seite + ".html", text);
         try {
-            (void)inhalt_lesen(ordner.pfad(), sprache);
+            (void)gebaut(2);
             return std::string("accepted");
-        } catch (const Dateifehler& fehler) {
+        } catch (const Laufzeitfehler& fehler) {
             return fehler.text("e");
         }
     };
-    ordner.schreibe("d/Fremd.html", quelle("Fremd", "fremd"));
-    EXPECT_THAT(meldung("d"), HasSubstr("Fremd.html: is not in the table of contents"));
-    EXPECT_THAT(meldung("e"), HasSubstr("index.html: file not found")) << "language without pages";
-    ordner.schreibe("d/Dach.html", "<html><head><title>Dach</title></head></html>");
-    EXPECT_THAT(meldung("d"), HasSubstr("content=\" is missing"));
-}
-
-TEST_F(Hilfebau, MeldetMarkenDieEsNichtGibt) {
-    for (const char* rumpf :
-         {"<!-- blättern -->", "<!---->", "<!-->", "<!-- offen", "<!-- eingaben A_Heizen -->"}) {
-        ordner.schreibe("d/Dach.html", quelle("Dach", "Dach", rumpf));
-        EXPECT_THROW((void)gebaut("Dach"), Laufzeitfehler) << rumpf;
-    }
+    for (const char* rumpf : {"<!-- blättern -->", "<!---->", "<!-->", "<!-- inhalt offen"})
+        EXPECT_THAT(meldung("Dach", quelle("Dach", "Dach", rumpf)), HasSubstr("unknown mark")) << rumpf;
+    EXPECT_THAT(meldung("Dach", quelle("Dach", "Dach", "<!-- eingaben A_Heizen -->")),
+                HasSubstr("no scroll fields"));
+    EXPECT_THAT(meldung("Fremd", quelle("Fremd", "fremd", "")),
+                HasSubstr("Fremd.html: is not in the table of contents"));
+    EXPECT_THAT(meldung("Dach", "<title>Dach</title>"), HasSubstr("content=\" is missing"));
 }
 
 TEST(HilfeHtml, SchuetztSeineZeichen) {
