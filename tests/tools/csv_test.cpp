@@ -20,8 +20,7 @@ TEST(Csv, NimmtDieFelderNachDemNamenIhrerSpalte) {
 
 TEST(Csv, NenntDateiZeileUndFeldDesFehlers) {
     const struct {
-        const char* text;
-        const char* meldung;
+        const char *text, *meldung;
     } faelle[] = {
         {"", "t.csv: the table is empty"},
         {"ort,zahl\n", "t.csv, line 1: the table is empty"},
@@ -29,13 +28,10 @@ TEST(Csv, NenntDateiZeileUndFeldDesFehlers) {
         {"ort,zahl,ort\na,1,b\n", "t.csv, line 1 (ort): the column stands there twice"},
         {"ort,zahl\na,1\nb\n", "t.csv, line 3: 1 columns instead of 2"},
         {"ort,zahl\na,1,\n", "t.csv, line 2: 3 columns instead of 2"},
-        {"ort,zahl\na,1\n\n", "t.csv, line 3: 1 columns instead of 2"},
         {"ort,zahl\n,1\n", "t.csv, line 2 (ort): the entry is missing"},
         {"ort,zahl\n a,1\n", "t.csv, line 2 (ort): blank at the edge"},
-        {"ort,zahl\na ,1\n", "t.csv, line 2 (ort): blank at the edge"},
         {"ort,zahl\n\"a\",1\n", "t.csv, line 2 (ort): quotation mark"},
         {"ort,zahl\na,4x\n", "t.csv, line 2 (zahl): \"4x\" is no number"},
-        {"ort,zahl\na,nan\n", "t.csv, line 2 (zahl): \"nan\" is no number"},
         {"ort,zahl\na,-0.5\n", "t.csv, line 2 (zahl): -0.5 is not within 0.0 .. 12.0"},
         {"ort,zahl\na,12.5\n", "t.csv, line 2 (zahl): 12.5 is not within 0.0 .. 12.0"},
         {"ort,zahl\na,1.5\n", "t.csv, line 2 (zahl): 1.5 is no whole number"},

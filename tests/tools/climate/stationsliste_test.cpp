@@ -55,10 +55,7 @@ TEST(Stationsliste, NenntDateiZeileUndFeldDesFehlers) {
         {",-5,", ",-5.1,", "utc_h", "no whole quarters of an hour"},
         {",-5,", ",15,", "utc_h", "15 is not within -12.0 .. 14.0"},
         {"Bogotá", "Łódź", "name", "character outside windows-1252"},
-        {"Bogotá", "Bogot\xE1", "name", "character outside windows-1252"},
         {"bogota.met", "Bogota.met", "datei", "capitals in the file name"},
-        {"bogota.met", "bogota.txt", "datei", "no name of a station file"},
-        {"bogota.met", ".met", "datei", "no name of a station file"},
         {"bogota.met", "klima.met", "datei", "no name of a station file"},
         {"bogota.met", "../bogota.met", "datei", "no name of a station file"},
     };

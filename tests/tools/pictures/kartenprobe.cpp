@@ -3,6 +3,7 @@
 #include "tests/hilfen.h"
 #include "toolkit/text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <stdexcept>
 
@@ -22,18 +23,12 @@ std::filesystem::path datenordner() {
     return pfad(VELMARIS_DATEN);
 }
 
-std::filesystem::path programmordner() {
-    return pfad(VELMARIS_PROGRAMMORDNER);
-}
-
 Farbe Bitmap::bei(int x, int y) const {
-    if (x < 0 || y < 0 || x >= breite || y >= hoehe) throw std::out_of_range("pixel outside the picture");
-    return pixel[static_cast<std::size_t>(y) * static_cast<std::size_t>(breite) +
-                 static_cast<std::size_t>(x)];
+    return pixel.at(static_cast<std::size_t>(y * breite + x));
 }
 
 Bitmap grafik(const std::string& name) {
-    const std::string bytes = inhalt(programmordner() / "Grafiken" / name);
+    const std::string bytes = inhalt(pfad(VELMARIS_PROGRAMMORDNER) / "Grafiken" / name);
     const bool passt = bytes.substr(0, 2) == "BM" && zahl(bytes, 2, 4) == bytes.size() &&
                        zahl(bytes, 14, 4) == 40 && zahl(bytes, 26, 2) == 1 && zahl(bytes, 28, 2) == 24 &&
                        zahl(bytes, 30, 4) == 0;
@@ -53,8 +48,12 @@ Bitmap grafik(const std::string& name) {
     return bild;
 }
 
-std::vector<Csvzeile> fakten(const std::string& name, const std::vector<std::string>& spalten) {
-    return csv_lesen(inhalt(datenordner() / name), name, spalten);
+std::string farbton(Farbe farbe) {
+    std::string kanaele = "rgb";
+    std::ranges::stable_sort(kanaele, std::greater(), [farbe](char kanal) {
+        return kanal == 'r' ? farbe.r : kanal == 'g' ? farbe.g : farbe.b;
+    });
+    return kanaele;
 }
 
 }  // namespace velmaris::test

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "toolkit/zeichenflaeche.h"
-#include "tools/csv.h"
 
 #include <filesystem>
 #include <string>
@@ -11,9 +10,6 @@ namespace velmaris::test {
 
 /// The folder of the facts.
 std::filesystem::path datenordner();
-
-/// The folder of the program, where the delivered data lie.
-std::filesystem::path programmordner();
 
 /// A bitmap as read back from its file.
 struct Bitmap {
@@ -28,7 +24,8 @@ struct Bitmap {
 /// 24 bits is an exception.
 Bitmap grafik(const std::string& name);
 
-/// The rows of a table of the facts.
-std::vector<Csvzeile> fakten(const std::string& name, const std::vector<std::string>& spalten);
+/// The hue of a colour: its channels from the strongest to the weakest. Reds and yellows begin with r and
+/// blues with b; "rgb" is warm, "bgr" cool.
+std::string farbton(Farbe farbe);
 
 }  // namespace velmaris::test

@@ -1,6 +1,8 @@
 #include "tests/hilfen.h"
+#include "tests/tools/pictures/kartenprobe.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
+#include "tools/csv.h"
 #include "tools/pictures/postleitzahlen.h"
 #include "tools/pictures/umrisse.h"
 
@@ -12,19 +14,18 @@ namespace {
 
 using test::Testordner;
 
-TEST(Umriss, LiestRingeDerReiheNach) {
-    const Testordner ordner;
-    const auto datei = ordner.schreibe("land.csv",
-                                       "ring,loch,lon,lat\n1,0,0,0\n1,0,4,0\n1,0,4,-3.5\n1,0,0,0\r\n"
-                                       "2,1,1,1\n2,1,2,1\n2,1,2,2\n2,1,1,1\n");
-    const Flaeche flaeche = umriss_lesen(datei);
-    ASSERT_EQ(flaeche.size(), 2U);
-    EXPECT_EQ(flaeche[0], (Ring{{0, 0}, {4, 0}, {4, -3.5}, {0, 0}}));
-    EXPECT_EQ(flaeche[1].size(), 4U);
+/// As the search of the program reads the table: region and prefix in fixed columns.
+TEST(Postleitzahlen, JederAnfangStehtDerReiheNachMitSeinerRegion) {
+    std::string tabelle;
+    const std::string fakten = test::inhalt(test::datenordner() / "plz_region.csv");
+    for (const Csvzeile& zeile : csv_lesen(fakten, "plz", {"prefix", "region"}))
+        tabelle += zeile.text("prefix") + ";" + rechtsbuendig(zeile.text("region"), 2) + "\r\n";
+    EXPECT_EQ(test::inhalt(pfad(VELMARIS_PROGRAMMORDNER) / "klima" / "plz.txt"), tabelle);
 }
 
 TEST(Lesen, NenntDateiZeileUndFeldDesFehlers) {
     const std::string kopf = "ring,loch,lon,lat\n", regionskopf = "region,teil,ring,punkt,lon,lat\n";
+    std::string doppelt = test::inhalt(test::datenordner() / "plz_region.csv");
     const auto umriss = [](const auto& datei) { (void)umriss_lesen(datei); };
     const auto linien = [](const auto& datei) { (void)linien_lesen(datei); };
     const auto regionen = [](const auto& datei) { (void)regionen_lesen(datei); };
@@ -34,9 +35,10 @@ TEST(Lesen, NenntDateiZeileUndFeldDesFehlers) {
         void (*lesen)(const std::filesystem::path&);
         std::string meldung;
     } faelle[] = {
-        {"ring,loch,lon,lan\n", umriss, ", line 1 (lat): the column is missing"},
+        {doppelt.replace(doppelt.find("\n500,"), 4, "\n499"), postleitzahlen,
+         ", line 502 (prefix): 499 is not in order"},
         {kopf + "1,0,180.5,0\n", umriss, ", line 2 (lon): 180.5 is not within -180.0 .. 180.0"},
-        {kopf + "1,0,0,90.5\n", umriss, ", line 2 (lat): 90.5 is not within -90.0 .. 90.0"},
+        {kopf + "1,0,0,-90.5\n", umriss, ", line 2 (lat): -90.5 is not within -90.0 .. 90.0"},
         {kopf + "1,0,0,0\n1,0,4,0\n1,0,4,3\n1,0,0,1\n", umriss, ", line 5 (lon): the ring is not closed"},
         {kopf + "1,0,4,0\n1,0,4,0\n1,0,4,0\n2,0,4,0\n", umriss, ", line 4 (lon): the ring is not closed"},
         {"linie,lon,lat\n1,0,0\n1,4,0\n2,1,1\n", linien, ", line 4 (linie): the line has one point only"},
