@@ -145,6 +145,8 @@ TEST_F(Fileio, SpeichernUnterErgaenztDieEndungUndFragtVorDemErsetzen) {
     EXPECT_EQ(meldung().text,
               pfadtext(haus) + "\nDiese Datei ist bereits vorhanden.\n\nVorhandene Datei ersetzen?");
     EXPECT_EQ(meldung().vorgabe, Antwort::nein);
+    EXPECT_EQ(plattform().dialoge.at(1).ordner, ordner) << "a new choice begins at the first";
+    EXPECT_EQ(plattform().dialoge.at(1).dateiname, "haus.vel");
     EXPECT_EQ(p().Datei, pfadtext(ordner / "mein haus.vel"));
     EXPECT_EQ(plattform().titel, "Velmaris - MEIN HAUS.VEL");
     EXPECT_EQ(p().Geaendert, 0);
