@@ -1,5 +1,6 @@
 #include "charts/balkenfarben.h"
 #include "charts/bilanzdiagramme.h"
+#include "charts/energiediagramm.h"
 #include "charts/kuehldiagramme.h"
 #include "charts/nutzungsgrad.h"
 #include "tests/charts/probe.h"
@@ -36,8 +37,13 @@ std::unique_ptr<Projekt> volles_projekt() {
         w.Stunden_komfort = static_cast<std::int16_t>(200 + 2 * m);
         w.Stunden_heiss = static_cast<std::int16_t>(100 + 3 * m);
     }
+    p->q_HE_Energietraeger = 300, p->q_HE_Strom = 30, p->q_PE_Energietraeger = 150, p->q_PE_Strom = 60;
     p->qtrs = 40, p->qinfs = 20, p->qverl_s = 60, p->qhs_sum = 30, p->qis = 10, p->qsols = 18;
     return p;
+}
+
+void energie_zeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    Monatsverbrauch_zeichnen(bild, p);
 }
 
 /// One piece of the bar of every month: its colour, its place in the column, its ends `a` + `b` m, the foot
@@ -52,7 +58,8 @@ struct Schicht {
 
 /// The scales take the largest value: 644 of losses in December the step 2, so that 99 pixels are 1000 kWh;
 /// 380 of demand in January and 250 of sun in December the step 1; 800 hours whatever the values; 136 hours
-/// in 30 days the step 2, so that 89 pixels are 8 hours a day; 46 degree hours the step 10.
+/// in 30 days the step 2, so that 89 pixels are 8 hours a day; 46 degree hours the step 10. A tenth of the
+/// demand in kWh is end energy, in January 41.8 with electricity: the step 20 makes 90 pixels of 60 kWh.
 TEST(Monatsbilder, JederMonatHatSeineBalken) {
     const auto p = volles_projekt();
     for (const Schicht& s : std::vector<Schicht>{
@@ -72,7 +79,11 @@ TEST(Monatsbilder, JederMonatHatSeineBalken) {
              {UeberGrafikZeichnen, farben::rot, 0, 18, 0, 0, 300, -1, 116, 0.12375},
              {StundenProTagMonatZeichnen, {128, 0, 0}, 0, 18, 0, 0, 100, 3, 109, 11.125 / 30},
              {KuehlBedarfMonatZeichnen, farben::blau, 0, 18, 0, 0, 20, 15, 109, 0.178},
-             {KuehlGradStundenMonatZeichnen, {64, 64, 0}, 0, 18, 0, 0, 10, 3, 109, 1.78}}) {
+             {KuehlGradStundenMonatZeichnen, {64, 64, 0}, 0, 18, 0, 0, 10, 3, 109, 1.78},
+             {energie_zeichnen, farben::rot, 0, 8, 0, 0, 40, -2, 95, 1.5},
+             {energie_zeichnen, {255, 128, 0}, 0, 8, 40, -2, 44, -2.2, 95, 1.5},
+             {energie_zeichnen, {128, 0, 0}, 10, 8, 0, 0, 20, -1, 95, 1.5},
+             {energie_zeichnen, {192, 64, 0}, 10, 8, 20, -1, 28, -1.4, 95, 1.5}}) {
         RekorderFlaeche bild;
         s.zeichne(*p, bild);
         const auto balken = flaechen(bild, s.farbe);
