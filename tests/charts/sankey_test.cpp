@@ -1,5 +1,5 @@
 #include "charts/c_sankey.h"
-#include "tests/rekorder_flaeche.h"
+#include "tests/charts/probe.h"
 #include "toolkit/svg_flaeche.h"
 
 #include <gtest/gtest.h>
@@ -24,6 +24,16 @@ TEST(Sankey, LinieReichtBisZumLetztenPixel) {
         Sankey_Linie(bild, ecken[0], ecken[1], ecken[2], ecken[3], bandfarbe);
         EXPECT_EQ(bild.alle(Zeichnung::Art::linie, bandfarbe).at(0).zahlen, gezogen);
         EXPECT_EQ(bild.lies_punkt(ecken[2], ecken[3]), bandfarbe);
+    }
+}
+
+TEST(Sankey, SchwungbandVerbindetBeideEnden) {
+    for (const int versatz : {10, -10}) {
+        RekorderFlaeche bild(60, 120, farben::weiss);
+        Sankey_Schwungband({bild, bandfarbe}, {40, 80}, {10, 80 + versatz}, 20);
+        EXPECT_EQ(test::hoch(bild, 10, 80 + versatz), 21);
+        EXPECT_EQ(test::hoch(bild, 40, 80), 21);
+        EXPECT_EQ(bild.lies_punkt(25, 70 + versatz / 2), bandfarbe) << "half way";
     }
 }
 
