@@ -2,6 +2,7 @@
 
 #include "toolkit/fehler.h"
 
+#include <array>
 #include <cstdlib>
 #include <functional>
 #include <gtest/gtest.h>
@@ -14,25 +15,18 @@ namespace velmaris {
 namespace {
 
 TEST(Konsolenplattform, JederFehlerNenntSeineDateiInEinerZeile) {
-    struct Fall {
-        std::function<void()> stueck;
-        const char* zeile;
-    };
-    for (const Fall& fall : {Fall{[] {}, ""},
-                             Fall{[] {
-                                      throw Dateifehler("h\xE4user/\x1B[m\x07.vel", {"schlecht", "bad"});
-                                  },
-                                  "h\uFFFDuser/\uFFFD[m\uFFFD.vel: bad\n"},
-                             Fall{[] {
-                                      throw Laufzeitfehler({"schlecht", "eins\rzwei\r\ndrei"}, "f_gd");
-                                  },
-                                  "haus.vel: f_gd: eins zwei drei\n"},
-                             Fall{[] { throw std::bad_alloc(); }, "haus.vel: not enough memory\n"},
-                             Fall{[] { throw std::length_error("too\nlong"); }, "haus.vel: too long\n"}}) {
+    const auto zeile = [](const std::function<void()>& stueck) {
         std::ostringstream fehler;
-        EXPECT_EQ(versuchen(fehler, "e", "haus.vel", fall.stueck), *fall.zeile == '\0');
-        EXPECT_EQ(fehler.str(), fall.zeile);
-    }
+        const bool gelungen = versuchen(fehler, "e", "haus.vel", stueck);
+        return gelungen ? "done" + fehler.str() : fehler.str();
+    };
+    const Zweisprachig schlecht{"schlecht", "bad"}, zeilen{"schlecht", "eins\rzwei\r\ndrei"};
+    EXPECT_EQ(zeile([] {}), "done");
+    EXPECT_EQ(zeile([&] { throw Dateifehler("h\xE4user/\x1B[m\x07.vel", schlecht, 7, "Ta"); }),
+              "h\uFFFDuser/\uFFFD[m\uFFFD.vel, line 7 (Ta): bad\n");
+    EXPECT_EQ(zeile([&] { throw Laufzeitfehler(zeilen, "f_gd"); }), "haus.vel: f_gd: eins zwei drei\n");
+    EXPECT_EQ(zeile([] { throw std::bad_alloc(); }), "haus.vel: not enough memory\n");
+    EXPECT_EQ(zeile([] { throw std::length_error("too\nlong"); }), "haus.vel: too long\n");
 }
 
 TEST(Konsolenplattform, VerneintJedeFrageUndBleibtStumm) {
@@ -48,14 +42,11 @@ TEST(Konsolenplattform, VerneintJedeFrageUndBleibtStumm) {
 
 #ifdef __linux__
 TEST(Konsolenplattform, DatenordnerNachDerUmgebung) {
-    struct Fall {
-        const char *daten, *heim, *ordner;
-    };
-    for (const Fall& fall : {Fall{"/d", "/h", "/d/Velmaris"}, Fall{"neben", "/h", "/h/.local/share/Velmaris"},
-                             Fall{"", "", ""}}) {
-        ::setenv("XDG_DATA_HOME", fall.daten, 1);
-        ::setenv("HOME", fall.heim, 1);
-        EXPECT_EQ(Konsolenplattform().datenordner(), fall.ordner);
+    for (const auto& [daten, heim, ordner] :
+         {std::array{"/d", "/h", "/d/Velmaris"}, {"neben", "/h", "/h/.local/share/Velmaris"}, {"", "", ""}}) {
+        ::setenv("XDG_DATA_HOME", daten, 1);
+        ::setenv("HOME", heim, 1);
+        EXPECT_EQ(Konsolenplattform().datenordner(), ordner);
     }
 }
 #endif

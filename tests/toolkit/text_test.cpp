@@ -1,37 +1,27 @@
 #include "toolkit/text.h"
 
 #include <gtest/gtest.h>
-#include <set>
+#include <numeric>
 #include <string>
 
 namespace velmaris {
 namespace {
 
 TEST(Windows1252, JedesByteKommtZurueck) {
-    std::set<std::string> gesehen;
-    for (int byte = 0; byte < 256; ++byte) {
-        const std::string roh(1, static_cast<char>(byte));
-        const std::string utf8 = aus_windows1252(roh);
-        EXPECT_EQ(nach_windows1252(utf8), roh) << byte;
-        EXPECT_EQ(zeichenzahl(utf8), 1U) << byte;
-        gesehen.insert(utf8);
-    }
-    EXPECT_EQ(gesehen.size(), 256U);
+    std::string bytes(256, '\0');
+    std::iota(bytes.begin(), bytes.end(), '\0');
+    const std::string utf8 = aus_windows1252(bytes);
+    EXPECT_EQ(nach_windows1252(utf8), bytes);
+    EXPECT_EQ(zeichenzahl(utf8), 256U);
+    EXPECT_NE(utf8.find("\x7F€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ\u00A0"),
+              std::string::npos);
 }
 
 TEST(Windows1252, KenntDieUmlauteUndErsetztFremdes) {
     EXPECT_EQ(nach_windows1252("Längengrad ß €"), "L\xE4ngengrad \xDF \x80");
-    EXPECT_EQ(nach_windows1252("Łódź 🏠"),
-              "?\xF3"
-              "d? ?");
-    std::string obere;
-    for (char byte = '\x80'; byte < '\xA0'; ++byte)
-        obere += byte;
-    EXPECT_EQ(aus_windows1252(obere), "€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ");
+    EXPECT_EQ(nach_windows1252("Łóź 🏠 \xC3 \xE2\x82z"), "?\xF3? ? ? ??z");
     EXPECT_TRUE(in_windows1252("Größe €"));
     EXPECT_FALSE(in_windows1252("Łódź"));
-    EXPECT_EQ(nach_windows1252("\xC3"), "?");
-    EXPECT_EQ(nach_windows1252("\xE2\x82z"), "??z");
 }
 
 TEST(Text, KenntGanzeZeichen) {
@@ -51,12 +41,6 @@ TEST(Text, MachtSteuerzeichenSichtbar) {
     EXPECT_EQ(lesbar(" ~\u00A0€🏠\xC3"), " ~\u00A0€🏠\uFFFD");
 }
 
-TEST(Text, ZaehltUndFuelltNachZeichen) {
-    EXPECT_EQ(rechtsbuendig("-10.5", 10), "     -10.5");
-    EXPECT_EQ(rechtsbuendig("Mär", 5), "  Mär");
-    EXPECT_EQ(rechtsbuendig("12345678901", 10), "12345678901");
-}
-
 TEST(Text, GrossUndKleinMitUmlauten) {
     EXPECT_EQ(kleinschreiben("WÜRZBURG.MET"), "würzburg.met");
     EXPECT_EQ(grossschreiben("straße übung.vel"), "STRAßE ÜBUNG.VEL");
@@ -64,9 +48,10 @@ TEST(Text, GrossUndKleinMitUmlauten) {
     EXPECT_EQ(grossschreiben("`az{ àö÷øþÿ× 🏠"), "`AZ{ ÀÖ÷ØÞÿ× 🏠");
 }
 
-TEST(Pfad, NimmtBeideTrenner) {
-    EXPECT_EQ(pfadtext(pfad("\\klima\\münchen.met")), "/klima/münchen.met");
-    EXPECT_EQ(pfadtext(pfad("a/ü")), "a/ü");
+TEST(Text, FuelltNachZeichenUndNimmtBeideTrennerVonPfaden) {
+    EXPECT_EQ(rechtsbuendig("Mär", 5), "  Mär");
+    EXPECT_EQ(rechtsbuendig("12345678901", 10), "12345678901");
+    EXPECT_EQ(pfadtext(pfad("\\klima/münchen.met")), "/klima/münchen.met");
 }
 
 }  // namespace
