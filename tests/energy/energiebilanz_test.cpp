@@ -65,41 +65,33 @@ TEST(EnergRefresh, OhneBedarfBleibtDieDivisionErlaubt) {
     EXPECT_EQ(k.e_g, 0.23F);
     EXPECT_EQ(k.f_p, 3.0F);
     EXPECT_EQ(p->q_HE_Energietraeger, 0);
-    energ_refresh(*p);
-    EXPECT_EQ(p->qhs_sum, 1E-10F);
     EXPECT_EQ(monatswerte(*p).E(1), 0) << "rounding leaves no share";
-    const auto klein = projekt(1, 1, 1, 150, 2E-10F);
-    energ_refresh(*klein);
-    EXPECT_EQ(klein->qhs_sum, 2E-10F);
-}
-
-/// 7500 kWh of heat in the year: 1500 in January, 6000 in December.
-std::unique_ptr<Projekt> winterhaus(int system, int uebergabe, int traeger) {
-    auto p = projekt(system, uebergabe, traeger, 150, 50);
-    p->Monat(1).Qh = 1500;
-    p->Monat(12).Qh = 6000;
+    p->qhs_sum = 2E-10F;
     energ_refresh(*p);
-    return p;
+    EXPECT_EQ(p->qhs_sum, 2E-10F);
 }
 
-TEST(Monatswerte, FolgenDemHeizwaermebedarf) {
-    const Monatsenergie w = monatswerte(*winterhaus(1, 1, 1));
-    EXPECT_FLOAT_EQ(w.E(1), 11.5776F);
-    EXPECT_FLOAT_EQ(w.H(1), 0.38F);
-    EXPECT_FLOAT_EQ(w.P(1), 12.73536F);
-    EXPECT_FLOAT_EQ(w.Q(1), 1.14F);
-    EXPECT_FLOAT_EQ(w.E(12), 46.3104F);
-    EXPECT_EQ(w.E(7), 0);
-    EXPECT_NEAR(std::accumulate(w.P.begin(), w.P.end(), 0.0), 63.6768, 1e-5);
-}
-
-TEST(Monatswerte, StromIstEinTraeger) {
+TEST(Monatswerte, FolgenDemHeizwaermebedarfUndStromIstEinTraeger) {
+    // 7500 kWh of heat in the year: 1500 in January, 6000 in December.
+    const auto werte = [](int system, int uebergabe) {
+        const auto p = projekt(system, uebergabe, 1, 150, 50);
+        p->Monat(1).Qh = 1500;
+        p->Monat(12).Qh = 6000;
+        energ_refresh(*p);
+        return monatswerte(*p);
+    };
+    const Monatsenergie oel = werte(1, 1);
+    EXPECT_FLOAT_EQ(oel.E(1), 11.5776F);
+    EXPECT_FLOAT_EQ(oel.H(1), 0.38F);
+    EXPECT_FLOAT_EQ(oel.P(1), 12.73536F);
+    EXPECT_FLOAT_EQ(oel.Q(1), 1.14F);
+    EXPECT_EQ(oel.E(7), 0);
+    EXPECT_NEAR(std::accumulate(oel.P.begin(), oel.P.end(), 0.0), 63.6768, 1e-5);
     // Floor heating, 150 m2: (50 + 1.1 + 0.6 + 0.1) * 0.23 = 11.914; 2.40 + 0.43 + 1.9 * 150^-0.1 (1.151183).
-    const Monatsenergie w = monatswerte(*winterhaus(7, 2, 1));
-    EXPECT_NEAR(w.E(1), 0.2 * (11.914 + 3.981183), 1e-5);
-    EXPECT_NEAR(w.P(1), 0.6 * (11.914 + 3.981183), 3e-5);
-    EXPECT_EQ(w.H(1), 0);
-    EXPECT_EQ(w.Q(12), 0);
+    const Monatsenergie strom = werte(7, 2);
+    EXPECT_NEAR(strom.E(1), 0.2 * (11.914 + 3.981183), 1e-5);
+    EXPECT_NEAR(strom.P(1), 0.6 * (11.914 + 3.981183), 3e-5);
+    EXPECT_EQ(strom.H(1) + strom.Q(12), 0);
 }
 
 }  // namespace
