@@ -46,10 +46,10 @@ TEST(Auswahlliste, SetzenLaeuftImmerMarkierenNie) {
     int gefeuert = 0;
     liste.gewaehlt = [&] { ++gefeuert; };
     liste.fuelle({"a", "b"});
-    liste.setze(1);
-    liste.setze(1);
-    liste.markiere(0);
-    EXPECT_EQ(liste.text(), "a");
+    liste.setze(0);
+    liste.setze(0);
+    liste.markiere(1);
+    EXPECT_EQ(liste.text(), "b");
     liste.schreibe("fremd");
     EXPECT_EQ(gefeuert, 2);
     EXPECT_EQ(liste.index(), -1);
@@ -62,11 +62,11 @@ TEST(Optionsgruppe, FeuertNurWennDieOptionNochNichtGesetztIst) {
     Optionsgruppe gruppe("First", 1, 2);
     std::string gefeuert;
     gruppe.geklickt = [&](int option) { gefeuert += std::to_string(option); };
-    gruppe.setze(2);
-    gruppe.setze(2);
-    EXPECT_EQ(gefeuert, "2");
+    gruppe.setze(1);
+    gruppe.setze(1);
+    EXPECT_EQ(gefeuert, "1");
     gruppe.markiere(std::nullopt);
-    EXPECT_FALSE(gruppe.gesetzt(2));
+    EXPECT_FALSE(gruppe.gesetzt(1));
     EXPECT_EQ(verweigert([&] { gruppe.setze(3); }), "First: position out of range: 3 (1 .. 2)");
     EXPECT_EQ(verweigert([&] { gruppe.setze(0); }), "First: position out of range: 0 (1 .. 2)");
 }

@@ -22,8 +22,8 @@ TEST(Konsolenplattform, JederFehlerNenntSeineDateiInEinerZeile) {
     };
     const Zweisprachig schlecht{"schlecht", "bad"}, zeilen{"schlecht", "eins\rzwei\r\ndrei"};
     EXPECT_EQ(zeile([] {}), "done");
-    EXPECT_EQ(zeile([&] { throw Dateifehler("h\xE4user/\x1B[m\x07.vel", schlecht, 7, "Ta"); }),
-              "h\uFFFDuser/\uFFFD[m\uFFFD.vel, line 7 (Ta): bad\n");
+    EXPECT_EQ(zeile([&] { throw Dateifehler("h\xE4user/\x1B[m\x07.vel", schlecht, 1, "Ta"); }),
+              "h\uFFFDuser/\uFFFD[m\uFFFD.vel, line 1 (Ta): bad\n");
     EXPECT_EQ(zeile([&] { throw Laufzeitfehler(zeilen, "f_gd"); }), "haus.vel: f_gd: eins zwei drei\n");
     EXPECT_EQ(zeile([] { throw std::bad_alloc(); }), "haus.vel: not enough memory\n");
     EXPECT_EQ(zeile([] { throw std::length_error("too\nlong"); }), "haus.vel: too long\n");
