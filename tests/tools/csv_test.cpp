@@ -6,18 +6,6 @@
 namespace velmaris {
 namespace {
 
-TEST(Csv, NimmtDieFelderNachDemNamenIhrerSpalte) {
-    const auto zeilen =
-        csv_lesen("lat,hinweis,ort,zahl\r\n-3.5,,Köln,12\n0,x,a b,0\n", "t.csv", {"ort", "lat", "zahl"});
-    ASSERT_EQ(zeilen.size(), 2U);
-    EXPECT_EQ(zeilen[0].text("ort"), "Köln");
-    EXPECT_EQ(zeilen[0].zahl("lat", {-3.5, 0}), -3.5);
-    EXPECT_EQ(zeilen[0].ganzzahl("zahl", {0, 12}), 12);
-    EXPECT_EQ(zeilen[1].zahl("lat", {-3.5, 0}), 0);
-    EXPECT_EQ(zeilen[1].nummer(), 3);
-    EXPECT_EQ(zeilen[1].datei(), "t.csv");
-}
-
 TEST(Csv, NenntDateiZeileUndFeldDesFehlers) {
     const struct {
         const char *text, *meldung;

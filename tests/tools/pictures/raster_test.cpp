@@ -42,18 +42,6 @@ TEST(Fuellung, DecktDenFlaecheninhalt) {
     EXPECT_EQ(rechteck.anteil(5, 6), 0);
 }
 
-TEST(Kernfuellung, NachbarnTeilenSichJedenPixel) {
-    const Ring links{{0, 0}, {4.5, 0}, {7.3, 5.5}, {2.5, 10}, {0, 10}, {0, 0}};
-    const Ring rechts{{10, 0}, {4.5, 0}, {7.3, 5.5}, {2.5, 10}, {10, 10}, {10, 0}};
-    const Deckung a = kernfuellung(10, 10, {links}), b = kernfuellung(10, 10, {rechts});
-    for (int y = 0; y < 10; ++y) {
-        for (int x = 0; x < 10; ++x)
-            EXPECT_EQ(a.anteil(x, y) + b.anteil(x, y), 1) << x << ", " << y;
-    }
-    EXPECT_EQ(a.anteil(6, 5), 1);
-    EXPECT_EQ(b.anteil(7, 5), 1);
-}
-
 TEST(Linien, SindSoDickWieVerlangt) {
     for (const double dicke : {0.7, 1.0, 3.0, 4.5}) {
         const Deckung waagrecht = linien(40, 20, {{{-5, 9.5}, {50, 9.5}}}, dicke);
