@@ -101,20 +101,16 @@ TEST(Start, OeffnetDasProjektDerBefehlszeile) {
 /// With another station the program calculates on that one; without any it shows and prints what it has, and
 /// goes on as soon as a station can be read.
 TEST(Start, OhneVorgabestationKommtDasProgrammMitEinerAnderenHoch) {
-    struct Fall {
-        std::string befehlszeile;
-        bool andere;  ///< there is another station
-    };
-    for (const Fall& fall : {Fall{"d", true}, {"haus", true}, {"", false}, {"haus", false}}) {
-        Programmstart s(test::stationsbytes("Trier").substr(0, 9000), fall.andere);
-        const bool projekt = fall.befehlszeile == "haus";
-        const auto start = s.start(projekt ? s.haus : fall.befehlszeile);
-        if (fall.befehlszeile != "d") start->OK_Button.druecke();
+    for (const auto& [projekt, andere] :
+         {std::pair(false, true), {true, true}, {false, false}, {true, false}}) {
+        Programmstart s(test::stationsbytes("Trier").substr(0, 9000), andere);
+        const auto start = s.start(projekt ? s.haus : "");
+        start->OK_Button.druecke();
         Haupt& haupt = *s.haupt;
         const Projekt& p = haupt.p;
         EXPECT_EQ(s.gezeigt, 1);
         EXPECT_FALSE(start->fenster.sichtbar());
-        ASSERT_EQ(s.plattform.meldungen.size(), projekt && !fall.andere ? 2U : 1U);
+        ASSERT_EQ(s.plattform.meldungen.size(), projekt && !andere ? 2U : 1U);
         EXPECT_NE(s.plattform.meldungen[0].hinweis.find("trier.met: die Klimadatei endet"),
                   std::string::npos);
         EXPECT_EQ(p.FormLoadGuard, 0);
@@ -130,7 +126,7 @@ TEST(Start, OhneVorgabestationKommtDasProgrammMitEinerAnderenHoch) {
         for (const test::Druckzeichen& z : drucker.zeichen)
             EXPECT_EQ(z.text.find("NaN"), std::string::npos) << z.text;
         haupt.e_geometrie.l_sb.setze(120);
-        EXPECT_EQ(p.qh > 0, fall.andere);
+        EXPECT_EQ(p.qh > 0, andere);
         s.ordner.schreibe("klima/trier.met", test::stationsbytes("Trier"));
         haupt.e_klima.Option.setze(nummer(Klimabereich::deutschland));
         haupt.e_klima.Klimaregionwahl.setze(3);
