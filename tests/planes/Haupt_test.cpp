@@ -2,7 +2,6 @@
 
 #include "tests/testprogramm.h"
 
-#include <array>
 #include <gtest/gtest.h>
 #include <memory>
 #include <set>
@@ -184,9 +183,8 @@ TEST(HauptOhneProjekt, KenntSeineOrdner) {
     test::Testplattform plattform;
     plattform.daten = ordner / "eigene";
     const auto haupt = std::make_unique<Haupt>(plattform, ordner / "fehlt", "d");
-    EXPECT_EQ((std::array{haupt->p.AppPfad, haupt->p.InitDir, haupt->p.Datenordner}),
-              (std::array{ordner / "fehlt", ordner / "fehlt", ordner / "eigene"}));
-    EXPECT_EQ(haupt->p.Datei, "default.vel");
+    EXPECT_EQ(haupt->p.InitDir, ordner / "fehlt");
+    EXPECT_EQ(haupt->p.Datenordner, ordner / "eigene");
     EXPECT_TRUE(haupt->e_geometrie.Option_Dachfirst.gesetzt(1));
 }
 
