@@ -1,8 +1,9 @@
 #include "planes/E_Daemmung.h"
 
-#include "toolkit/fehler.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 

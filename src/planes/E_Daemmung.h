@@ -5,6 +5,7 @@
 #include "toolkit/felder.h"
 
 #include <array>
+#include <utility>
 
 namespace velmaris {
 

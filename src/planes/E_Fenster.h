@@ -7,6 +7,7 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <string_view>
 
 namespace velmaris {
 
@@ -29,12 +30,6 @@ struct E_Fenster {
     /// value that moves to it was moved by hand, unless the controls follow a project that is being read.
     std::function<std::optional<int>()> fokusstellung;
 
-    /// The mode logic behind the options, which carry the new state already.
-    void Option1_Click(int index);
-
-    /// Shows the panel of a tab.
-    void Command_HR_Click(int index);
-
     /// Sets the mode as a project file has it, and runs its logic; a value other than 0 and 1 is
     /// a Laufzeitfehler.
     void fenstermodus_lesen(int wert);
@@ -48,12 +43,17 @@ struct E_Fenster {
     /// Moves all controls to the record's state.
     void eingaben_anzeigen();
 
-    [[nodiscard]] Fensterseite& seite(Wandseite fassade);
-
     /// The facade whose type list has that name (`fenstern_typ` ...), nullptr if none has.
     [[nodiscard]] Fensterseite* seite_mit_typ(std::string_view name);
 
   private:
+    /// The mode logic behind the options, which carry the new state already.
+    void Option1_Click(int index);
+
+    /// Shows the panel of a tab.
+    void Command_HR_Click(int index);
+
+    [[nodiscard]] Fensterseite& seite(Wandseite fassade);
     void binden(Fensterseite& seite);
     void anteil_geaendert(Fensterseite& seite);
     void typ_gewaehlt(Fensterseite& seite);

@@ -3,7 +3,6 @@
 #include "charts/geometriebilder.h"
 #include "climate/strahlung.h"
 #include "planes/geometrietexte.h"
-#include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/wort.h"
 

@@ -3,8 +3,10 @@
 #include "language/beschriftungen.h"
 #include "language/c_Sprache.h"
 #include "project/klimaordner.h"
+#include "toolkit/fehler.h"
 
 #include <memory>
+#include <utility>
 
 namespace velmaris {
 namespace {

@@ -4,7 +4,9 @@
 #include "planes/befehlszeile.h"
 #include "toolkit/felder.h"
 
+#include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace velmaris {
@@ -23,15 +25,15 @@ struct Start {
     /// button tries again. Once the program runs it only shows the window, as about box.
     void laden();
 
-    /// Builds up the project, opens the one that the command line names, and shows the main window.
-    void Timer1_Timer();
-
     /// Closes the about box; before the program is up, ends it.
     void schliessen();
 
   private:
     void schnell_starten();
     void aufbauen();
+
+    /// Builds up the project, opens the one that the command line names, and shows the main window.
+    void Timer1_Timer();
     void OK_Button_Click();
 
     Haupt& haupt_;

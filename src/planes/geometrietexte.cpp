@@ -2,7 +2,7 @@
 
 #include "calc/fassaden.h"
 #include "calc/waermestroeme.h"
-#include "toolkit/fehler.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 namespace velmaris {

@@ -33,9 +33,6 @@ class Eingabefeld : public Scrollfeld {
     /// `feldname` must be a name of the table.
     explicit Eingabefeld(std::string_view feldname);
 
-    /// The value that the present position stands for, rounded as the record stores it.
-    [[nodiscard]] double wert() const;
-
     /// Stores the value of the position in the record.
     void uebernehmen(Projekt& p) const;
 
@@ -43,13 +40,16 @@ class Eingabefeld : public Scrollfeld {
     /// names the quantity and its range.
     void stellen(const Projekt& p);
 
-    /// The position nearest to a value, a half to the even one.
-    [[nodiscard]] int stellung(double wert) const;
-
     /// The record's value by the display's pattern.
     [[nodiscard]] std::string anzeigetext(const Projekt& p) const;
 
   private:
+    /// The value that the present position stands for, rounded as the record stores it.
+    [[nodiscard]] double wert() const;
+
+    /// The position nearest to a value, a half to the even one.
+    [[nodiscard]] int stellung(double wert) const;
+
     [[nodiscard]] double gespeichert(const Projekt& p) const;
     [[noreturn]] void ausserhalb(double wert) const;
 
