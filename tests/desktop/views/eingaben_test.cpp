@@ -109,8 +109,6 @@ TEST_F(EingabenTest, KlimaMitOptionenListenKarteUndPostleitzahl) {
     klicke("E_Klima", "Option1");
     EXPECT_EQ(p().Geaendert, 0) << "the region of the station is only marked";
     auto& karte = such<Bildflaeche>("E_Klima", "Picture1");
-    EXPECT_EQ(haupt().e_klima.kartenfarbe(haupt().e_klima.Picture1, 110, 20),
-              karte.flaeche().lies_punkt(110, 20));
     QTest::mouseClick(&karte, Qt::LeftButton, {}, QPoint(112, 22));
     EXPECT_EQ(p().Klimadatei, "bremen.met");
     Anzeige& hinweis = haupt().e_klima.Label2;
@@ -120,7 +118,8 @@ TEST_F(EingabenTest, KlimaMitOptionenListenKarteUndPostleitzahl) {
         hinweis.zeige(true);
         const QRect ort = such("E_Klima", "Label2").geometry();
         EXPECT_TRUE(karte.rect().contains(ort));
-        EXPECT_EQ(ort.x() == 100 && ort.y() == 100, ecke.links == 100) << "only moved where it would jut out";
+        EXPECT_EQ(ort.topLeft() == QPoint(100, 100), ecke.links == 100)
+            << "only moved where it would jut out";
     }
     auto& plz = such<QLineEdit>("E_Klima", "plz");
     tippe(plz, "9a4b0321");
@@ -139,31 +138,24 @@ TEST_F(EingabenTest, KlimaMitOptionenListenKarteUndPostleitzahl) {
     EXPECT_EQ(such("E_Klima", "Picture3").x(), 0);
     QTest::mouseClick(&rolle, Qt::LeftButton, {}, test::teil(rolle, QStyle::SC_ScrollBarAddLine));
     EXPECT_EQ(such("E_Klima", "Picture3").x(), -10);
-    const auto oeffnen = [&](const char* schliesst, int zeile) {
+    for (const auto& [schliesst, datei] : {std::pair{"Command2", "trier.met"}, {"Command1", "bremen.met"}}) {
         klicke("E_Klima", "Image1");
-        QWidget& zoom = such("Haupt", "E_Zoom_Klima");
-        ASSERT_TRUE(zoom.isVisible());
-        test::waehle_zeile(such<QComboBox>("E_Zoom_Klima", "Klimaregionwahl2"), zeile);
+        test::waehle_zeile(such<QComboBox>("E_Zoom_Klima", "Klimaregionwahl2"), 2);
         EXPECT_EQ(p().Klimadatei, "trier.met") << "not before it is confirmed";
         klicke("E_Zoom_Klima", schliesst);
-        EXPECT_FALSE(zoom.isVisible());
-    };
-    oeffnen("Command2", 2);
-    EXPECT_EQ(p().Klimadatei, "trier.met");
-    oeffnen("Command1", 2);
-    EXPECT_EQ(p().Klimadatei, "bremen.met");
+        EXPECT_FALSE(such("Haupt", "E_Zoom_Klima").isVisible());
+        EXPECT_EQ(p().Klimadatei, datei);
+    }
 }
 
-/// The one who moves a value by hand has no catalogue window any more; the tabs lead to the facades.
 TEST_F(EingabenTest, WerteVonHandUndReiterDerFassaden) {
     starte("d");
     klicke("E_Menue", "Fenster");
     auto& glas = such<Scrollleiste>("E_Fenster", "kfgs_sb");
-    const auto& typ = such<QComboBox>("E_Fenster", "fensters_typ");
-    test::waehle_zeile(such<QComboBox>("E_Fenster", "fensters_typ"), 4);
-    EXPECT_NE(typ.currentText(), "Sonstiges");
+    auto& typ = such<QComboBox>("E_Fenster", "fensters_typ");
+    test::waehle_zeile(typ, 4);
     QTest::mouseClick(&glas, Qt::LeftButton, {}, test::teil(glas, QStyle::SC_ScrollBarAddLine));
-    EXPECT_EQ(typ.currentText(), "Sonstiges") << "right after the list had dropped down";
+    EXPECT_EQ(typ.currentText(), "Sonstiges") << "a value by hand is no catalogue window any more";
     klicke("E_Fenster", "Option11");
     klicke("E_Fenster", "Command_HR2");
     EXPECT_TRUE(such("E_Fenster", "Frame_Ost").isVisible());
@@ -171,10 +163,7 @@ TEST_F(EingabenTest, WerteVonHandUndReiterDerFassaden) {
     klicke("E_Fenster", "Option10");
     EXPECT_FALSE(such("E_Fenster", "Command_HR0").isVisible());
     haupt().e_gebaeude.aws_cb.setze(1);
-    auto& anteil = such<QLabel>("E_Fenster", "fs_anz");
-    EXPECT_EQ(anteil.palette().color(anteil.foregroundRole()),
-              anteil.palette().color(anteil.backgroundRole()));
-    EXPECT_FALSE(such("E_Fenster", "fs_sb").isEnabled());
+    EXPECT_FALSE(such("E_Fenster", "fs_sb").isEnabled()) << "a neighbour's wall has no windows";
 }
 
 }  // namespace
