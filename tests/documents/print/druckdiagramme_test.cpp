@@ -22,8 +22,9 @@ using test::Testdrucker;
 using test::Unterlagen;
 using Art = Druckzeichen::Art;
 
+/// To five thousandths of a millimetre: the degrees of the drawings are rounded.
 bool gleich(double a, double b) {
-    return std::abs(a - b) < 1E-4;
+    return std::abs(a - b) < 0.005;
 }
 
 /// A plain house that looks south, and values that the scales hold.

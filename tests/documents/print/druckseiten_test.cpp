@@ -94,8 +94,9 @@ TEST(Druckseiten, DachUndNachbarnNachDerWahl) {
     u.p->awn = u.p->aww = 1;
     EXPECT_THAT(gedruckt(u.quelle, 1), Not(Contains(testing::HasSubstr("roof ridge"))));
     u.p->Check_Dachgeschoss = 0;
-    EXPECT_THAT(gedruckt(u.quelle, 1),
-                testing::IsSupersetOf({"Upper floor towards|<Dachraum>", "U value of the upper floor|0.37"}));
+    u.p->kd = 0.37F;
+    EXPECT_THAT(gedruckt(u.quelle, 1), testing::IsSupersetOf({"Upper floor towards|<Dachraum>",
+                                                              "U value of the upper floor|0.37 W/(m² K)"}));
 }
 
 }  // namespace
