@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/tabellen.h"
+#include "toolkit/text.h"
 
 #include <functional>
 #include <string>
@@ -23,11 +24,26 @@ struct Stationsdatei {
     int zeilen = stunden_im_jahr;
     std::function<Datenzeile(int)> zeile = [](int) { return Datenzeile{}; };
 
-    [[nodiscard]] std::string text() const;
+    [[nodiscard]] std::string text() const {
+        std::string text =
+            ort + "\r\n" + breite + "\r\n" + laenge + "\r\n" + zone + "\r\n\r\n   dy   Ta G_Gh G_Dh\r\n";
+        for (int i = 0; i < zeilen; ++i) {
+            const Datenzeile werte = zeile(i);
+            text += "    1" + rechtsbuendig(werte.Ta, 5) + rechtsbuendig(werte.G_Gh, 5) +
+                    rechtsbuendig(werte.G_Dh, 5) + "\r\n";
+        }
+        return text;
+    }
 };
 
 /// A station file without any data rows, as the station lists read it: name in windows-1252, degrees north
 /// and east.
-[[nodiscard]] std::string kopftext(const std::string& name, double breite, double laenge);
+[[nodiscard]] inline std::string kopftext(const std::string& name, double breite, double laenge) {
+    return Stationsdatei{.ort = name,
+                         .breite = "Breitengrad:  " + std::to_string(breite),
+                         .laenge = "Laengengrad:  " + std::to_string(-laenge),
+                         .zeilen = 0}
+        .text();
+}
 
 }  // namespace velmaris::test

@@ -45,10 +45,11 @@ std::string Quellbau::meteonorm() const {
 }
 
 std::string Quellbau::epw(bool schaltjahr) const {
-    std::string text = "LOCATION,Bern,BE,CHE,IWEC Data,066310,46.92,7.50,1.0,565.0" + zeilenende;
-    for (const char* kopf : {"DESIGN CONDITIONS,0", "TYPICAL/EXTREME PERIODS,0", "GROUND TEMPERATURES,0",
-                             "HOLIDAYS/DAYLIGHT SAVINGS,No,0,0,0", "COMMENTS 1,", "COMMENTS 2,",
-                             "DATA PERIODS,1,1,Data,Sunday,1/1,12/31"})
+    std::string text;
+    for (const char* kopf :
+         {"LOCATION,Bern,BE,CHE,IWEC Data,066310,46.92,7.50,1.0,565.0", "DESIGN CONDITIONS,0",
+          "TYPICAL/EXTREME PERIODS,0", "GROUND TEMPERATURES,0", "HOLIDAYS/DAYLIGHT SAVINGS,No,0,0,0",
+          "COMMENTS 1,", "COMMENTS 2,", "DATA PERIODS,1,1,Data,Sunday,1/1,12/31"})
         text += kopf + zeilenende;
     int i = 0, stunde = 0;
     const auto zeile = [&](int m, int d, int h, const Quellwerte& werte) {
@@ -64,19 +65,11 @@ std::string Quellbau::epw(bool schaltjahr) const {
     return text;
 }
 
-std::optional<std::string> Importplattform::eingabe(const std::string& text, const std::string& name,
-                                                    const std::string& vorgabe) {
-    frage = name + ": " + text;
-    vorgaben.push_back(vorgabe);
-    return Testplattform::eingabe(text, name, vorgabe);
-}
-
 Importprobe::Importprobe(const std::string& sprache) {
     std::filesystem::create_directories(ordner / "klima");
     p->AppPfad = ordner.pfad();
     p->Sprache = sprache;
-    sitzung_ = std::make_unique<Sitzung>(Sitzung{*p, plattform, [] {}});
-    e = std::make_unique<E_Klimaimport>(*sitzung_);
+    e = std::make_unique<E_Klimaimport>(sitzung);
     e->oeffnen();
 }
 

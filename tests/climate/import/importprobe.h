@@ -50,7 +50,11 @@ class Importplattform : public Testplattform {
     std::vector<std::string> vorgaben;
 
     std::optional<std::string> eingabe(const std::string& text, const std::string& name,
-                                       const std::string& vorgabe) override;
+                                       const std::string& vorgabe) override {
+        frage = name + ": " + text;
+        vorgaben.push_back(vorgabe);
+        return Testplattform::eingabe(text, name, vorgabe);
+    }
 };
 
 /// The import window over an empty folder "klima".
@@ -61,6 +65,7 @@ class Importprobe {
     Testordner ordner;
     Importplattform plattform;
     std::unique_ptr<Projekt> p = std::make_unique<Projekt>();
+    Sitzung sitzung{*p, plattform, [] {}};
     std::unique_ptr<E_Klimaimport> e;
 
     /// Writes a source and opens it through the file dialog.
@@ -77,9 +82,6 @@ class Importprobe {
 
     /// Names of all files in the folder "klima".
     [[nodiscard]] std::vector<std::string> dateien() const;
-
-  private:
-    std::unique_ptr<Sitzung> sitzung_;
 };
 
 }  // namespace velmaris::test

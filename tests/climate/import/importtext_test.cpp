@@ -76,13 +76,11 @@ TEST(Importspalten, LeerzeichenTrennenNachDerMusterzeile) {
 }
 
 TEST(Importspalten, SindHoechstensHundert) {
-    using Fall = std::pair<Trennung, std::string>;
-    for (const auto& [trennung, feld] :
-         {Fall{Trennung::linksbuendig, "1 "}, Fall{Trennung::rechtsbuendig, "1 "},
-          Fall{Trennung::tabulator, "1\t"}, Fall{Trennung::komma, "1,"}}) {
-        std::string zeile;
-        for (int i = 0; i < 150; ++i)
-            zeile += feld;
+    std::string zeile;
+    for (int i = 0; i < 150; ++i)
+        zeile += "1,\t ";
+    for (const auto trennung :
+         {Trennung::linksbuendig, Trennung::rechtsbuendig, Trennung::tabulator, Trennung::komma}) {
         EXPECT_EQ(Spaltenteiler(trennung, zeile).spaltenzahl(), 100);
         EXPECT_TRUE(Spaltenteiler(trennung, zeile).stelle(zeile, 100).has_value());
     }
@@ -108,13 +106,12 @@ TEST(Importquelle, KenntIhreZeilenUndIhreForm) {
 }
 
 TEST(Importquelle, ZeigtJedesByte) {
-    EXPECT_EQ(quelltext("Z\xFCrich"), "Zürich");
-    EXPECT_EQ(quelltext("Zürich"), "Zürich");
+    EXPECT_EQ(quelltext("Z\xFCrich") + quelltext("Zürich"), "ZürichZürich");
     EXPECT_EQ(quelltext(std::string("a\0b\x1F"
                                     "c\td\x7F",
                                     8)),
               "a b c\td ");
-    EXPECT_EQ(quelltext("1234567", 5) + quelltext("abcdü", 5), "12345...abcd...");
+    EXPECT_EQ(quelltext("1234567", 5) + quelltext("ÀÀÀ", 5), "12345...À...");
 }
 
 TEST(Importkopf, MeteonormNenntDenOrtOhneDasLand) {
@@ -134,8 +131,6 @@ TEST(Importkopf, MeteonormNenntDenOrtOhneDasLand) {
           Fall{"\"\n50\n\nTa G_Gh\n", {"", "", "50", false, "", false, "", true}, {2, 0, 0, 0, 0, 0, 0}}}) {
         const Quellkopf kopf = Meteonorm_Lesen(Importquelle(text));
         EXPECT_EQ(kopf.ort, ort) << text;
-        EXPECT_EQ(kopf.kopfzeilen, 4);
-        EXPECT_EQ(kopf.trennung, Trennung::tabulator);
         for (std::size_t i = 0; i < belegung.size(); ++i)
             EXPECT_EQ(kopf.spalten(static_cast<int>(i) + 1), belegung[i]) << text << i;
     }
@@ -151,14 +146,7 @@ TEST(Importkopf, EnergyPlusNenntAllesInDerErstenZeile) {
           Fall{"LOCATION, - ,-,UNKNOWN,ECMWF,unknown,45,8,5.5,250",
                {"", "", "45", false, "8", false, "5.5", false}},
           Fall{"LOCATION,Kurz", {"Kurz", "", "", false, "", false, "", false}}}) {
-        const Quellkopf kopf = Epw_Lesen(Importquelle(text));
-        EXPECT_EQ(kopf.ort, ort) << text;
-        EXPECT_EQ(kopf.kopfzeilen, 8);
-        EXPECT_EQ(kopf.trennung, Trennung::komma);
-        std::vector<int> belegt;
-        for (int n = 1; n <= importspalten; ++n)
-            if (kopf.spalten(n) != 0) belegt.push_back(n * 10 + kopf.spalten(n));
-        EXPECT_THAT(belegt, ElementsAre(71, 142, 153, 164));
+        EXPECT_EQ(Epw_Lesen(Importquelle(text)).ort, ort) << text;
     }
 }
 
@@ -180,8 +168,6 @@ TEST(Stationsdatei, KopfTraegtDieVorzeichenDerStationsdateien) {
     for (const auto& [ort, kopf] :
          {Fall{{"Sued", "West", "33,9", true, "70.75", true, "4", true},
                "Sued (West)\r\nBreitengrad:  -33.9\r\nL\xE4ngengrad:    70.75\r\nZeitzone:      4\r\n"},
-          Fall{{"Null", "Meer", "0.5", false, "7", false, "1", false},
-               "Null (Meer)\r\nBreitengrad:   0.5\r\nL\xE4ngengrad:   -7\r\nZeitzone:     -1\r\n"},
           Fall{{"\xC3\x96", "N", "0", true, "0", false, "0", false},
                "\xD6 (N)\r\nBreitengrad:   0\r\nL\xE4ngengrad:    0\r\nZeitzone:      0\r\n"}})
         EXPECT_EQ(stationstext(stationsort(ort), Messjahr{}, {}), kopf + "\r\n   dy   Ta G_Gh G_Dh\r\n");
@@ -240,7 +226,7 @@ TEST(Importziel, NamenGeltenAufJedemSystem) {
     EXPECT_FALSE(namensfehler(std::string(251, 'a')).has_value());
     EXPECT_TRUE(namensfehler(std::string(252, 'a')).has_value());
     EXPECT_EQ(vorgabename("C:\\Daten\\Wetter\\bern.2020.epw"), "bern.2020");
-    EXPECT_EQ(vorgabename("/home/x.y/bern"), "bern");
+    EXPECT_EQ(vorgabename("/home/x.y/bern") + vorgabename("C:bern.epw"), "bernbern");
 }
 
 }  // namespace
