@@ -65,6 +65,8 @@ TEST(EnergRefresh, OhneBedarfBleibtDieDivisionErlaubt) {
     EXPECT_EQ(k.e_g, 0.23F);
     EXPECT_EQ(k.f_p, 3.0F);
     EXPECT_EQ(p->q_HE_Energietraeger, 0);
+    energ_refresh(*p);
+    EXPECT_EQ(p->qhs_sum, 1E-10F);
     EXPECT_EQ(monatswerte(*p).E(1), 0) << "rounding leaves no share";
     p->qhs_sum = 2E-10F;
     energ_refresh(*p);
