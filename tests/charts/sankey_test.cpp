@@ -35,6 +35,9 @@ TEST(Sankey, SchwungbandVerbindetBeideEnden) {
         EXPECT_EQ(test::hoch(bild, 40, 80), 21);
         EXPECT_EQ(bild.lies_punkt(25, 70 + versatz / 2), bandfarbe) << "half way";
     }
+    RekorderFlaeche breit(60, 120, farben::weiss);
+    Sankey_Schwungband({breit, bandfarbe}, {40, 80}, {10, 90}, 49);
+    EXPECT_EQ(test::hoch(breit, 10, 90), 50) << "too wide to bend";
 }
 
 /// The path that was drawn last.
