@@ -109,8 +109,11 @@ class Vergleich {
         } else if (art == "skala") {
             const auto [teile, skala] = zahlen<2>(zeile);
             skala_ = skala;
-            for (int i = 0; i <= teile; ++i)
-                strich(skala * i / teile);
+            for (int i = 0; i <= teile; ++i) {
+                const double hoehe = y(skala * i / teile);
+                EXPECT_TRUE(steht(Art::linie, {achse_[0] - 1, hoehe, achse_[0], hoehe})) << i;
+                text(achse_[0] - 1.5, hoehe - 1.5, std::to_string(std::lround(skala * i / teile)), 1);
+            }
         } else if (art == "balken") {
             const auto [x1, x2] = zahlen<2>(zeile);
             balken(zeile, 0, x1, x2);
@@ -161,11 +164,6 @@ class Vergleich {
             return z.text == text && gleich(z.x1 + links * (z.x2 - z.x1), x) &&
                    gleich(z.y1 + ueber * (z.y2 - z.y1), y);
         })) << text;
-    }
-
-    void strich(double wert) const {
-        EXPECT_TRUE(steht(Art::linie, {achse_[0] - 1, y(wert), achse_[0], y(wert)})) << wert;
-        text(achse_[0] - 1.5, y(wert) - 1.5, std::to_string(std::lround(wert)), 1);
     }
 
     void balken(std::istream& teile, int m, double x1, double x2) {
