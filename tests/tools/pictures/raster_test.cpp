@@ -2,8 +2,6 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
-#include <string>
-#include <vector>
 
 namespace velmaris::bilder {
 namespace {
@@ -23,13 +21,12 @@ Ring quadrat(double von, double bis) {
 
 TEST(Fuellung, DecktDenFlaecheninhalt) {
     const struct {
-        std::string name;
+        const char* name;
         Flaeche flaeche;
         double inhalt;
     } faelle[] = {
         {"rectangle between pixels", {{{2.25, 3.5}, {7.75, 3.5}, {7.75, 6}, {2.25, 6}, {2.25, 3.5}}}, 13.75},
         {"sliver", {{{1, 1}, {9, 9}, {9, 9.5}, {1, 1}}}, 2},
-        {"hole", {quadrat(1, 9), quadrat(3, 7)}, 48},
         {"island in a hole", {quadrat(1, 9), quadrat(3, 7), quadrat(4, 5)}, 49},
         {"beyond the picture", {quadrat(-5, 5)}, 25},
     };
