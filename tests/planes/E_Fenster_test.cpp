@@ -93,6 +93,7 @@ TEST_F(EFenster, ModuswechselGibtAllenDieFensterDesSuedensInEinerRechnung) {
 }
 
 TEST_F(EFenster, ReiterZeigenEinenRahmen) {
+    EXPECT_FALSE(e.nord.rahmen.sichtbar());
     e.Option1.setze(1);
     for (const std::size_t reiter : {1U, 3U, 2U, 0U}) {
         e.Command_HR[reiter].druecke();
@@ -103,7 +104,6 @@ TEST_F(EFenster, ReiterZeigenEinenRahmen) {
     }
     e.Option1.setze(0);
     EXPECT_TRUE(e.sued.rahmen.sichtbar());
-    EXPECT_FALSE(e.nord.rahmen.sichtbar());
     EXPECT_FALSE(e.Command_HR[0].sichtbar());
 }
 

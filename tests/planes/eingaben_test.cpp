@@ -102,14 +102,14 @@ class Eingaben : public testing::Test {
 -45 45 5 1: orient_sb -15 15°;| 0 500 10 20: ft_sb 21 2.1;| 0 200 10 15: kt_sb 18 1.8;|
 1 150 10 20: kwn_sb 31 0.31; kws_sb 42 0.42; kwo_sb 53 0.53; kww_sb 134 1.34;|
 0 150 10 20: kd_sb 15 0.15; kk_sb 47 0.47;| 0 100 10 50: absfaktor_sb 70 0.70;|
--100 400 20 200: Troom_sb 215 21.5;| 100 400 10 100: Tueber_sb 225 22.5;| 0 800 10 50: intg_sb 61 30.5;|
+-100 400 20 200: Troom_sb 215 21.5;| 100 400 10 100: Tueber_sb 225 22.5;|
 0 1000 20 60: infiltration_sb 45 0.45; lw_sb 120 1.20;| 0 100 5 1: WRG_Sb 85 85;|
 5 80 10 25: Klimaeffizienz_sb 35 3.5;| 0 100 5 5: fn_sb 10 10; fs_sb 35 35; fo_sb 15 15; fw_sb 20 20;|
 0 100 5 20: gfn_sb 75 0.75; gfs_sb 71 0.71; gfo_sb 97 0.97; gfw_sb 32 0.32;
             ran_sb 10 10; ras_sb 25 25; rao_sb 30 30; raw_sb 15 15;
             verschn_sb 25 25; verschs_sb 40 40; verscho_sb 5 5; verschw_sb 55 55;|
 0 600 5 20: kfgn_sb 305 3.05; kfgs_sb 45 0.45; kfgo_sb 560 5.60; kfgw_sb 110 1.10;
-            kfrn_sb 300 3.00; kfrs_sb 75 0.75; kfro_sb 355 3.55; kfrw_sb 145 1.45;|)");
+            kfrn_sb 300 3.00; kfrs_sb 75 0.75; kfro_sb 355 3.55; kfrw_sb 145 1.45;| 0 800 10 50: intg_sb 61 30.5;|)");
         auto alle = schieber(h);
         std::string bereich, zuege, feld, anzeige;
         while (std::getline(tabelle >> std::ws, bereich, ':') && std::getline(tabelle, zuege, '|')) {
@@ -436,23 +436,25 @@ TEST_F(Eingaben, OhneGlasOderFensterSindDieMittelwerteLeer) {
 TEST(Eingabeebenen, SprechenEnglisch) {
     const Testprogramm programm("e");
     const Haupt& h = *programm.haupt;
-    std::string texte = h.e_geometrie.l_anz.text() + "|" + h.e_geometrie.b_anz.text() + "|" +
-                        h.e_geometrie.Label4.text() + "|";
+    std::string texte;
+    for (const Anzeige* anzeige : {&h.e_geometrie.l_anz, &h.e_geometrie.b_anz, &h.e_geometrie.Label4})
+        texte += anzeige->text() + "|";
     for (const Auswahlliste* liste :
          {&h.e_fenster.west.typ, &h.e_daemmung.ugd, &h.e_daemmung.ogd, &h.e_gebaeude.Innenwandart}) {
         for (const std::string& eintrag : liste->eintraege())
             texte += eintrag + "|";
     }
-    EXPECT_EQ(
-        texte,
-        "length: 10.0 m|width: 10.0 m|height of roof|single glazing|double glazing|heat protection double "
-        "glazing (U = 1.9 W/(m² K))|"
-        "heat protection double glazing (U = 1.4 W/(m² K))|heat protection double glazing (U = 1.0 W/(m² K))|"
-        "heat protection triple glazing (U = 0.7 W/(m² K))|heat protection triple glazing (U = 0.5 W/(m² K))|"
-        "others|non-heated cellar (with insulation)|non-heated cellar (without insulation)|"
-        "soil (with border insulation)|soil (without border insulation)|outside air|"
-        "outside or non-insulated roof|partly insulated roof|totally insulated roof|"
-        "heavy construction|medium construction|light construction|");
+    EXPECT_EQ(texte,
+              "length: 10.0 m|width: 10.0 m|height of roof|single glazing|double glazing|"
+              "heat protection double glazing (U = 1.9 W/(m² K))|"
+              "heat protection double glazing (U = 1.4 W/(m² K))|"
+              "heat protection double glazing (U = 1.0 W/(m² K))|"
+              "heat protection triple glazing (U = 0.7 W/(m² K))|"
+              "heat protection triple glazing (U = 0.5 W/(m² K))|others|"
+              "non-heated cellar (with insulation)|non-heated cellar (without insulation)|"
+              "soil (with border insulation)|soil (without border insulation)|outside air|"
+              "outside or non-insulated roof|partly insulated roof|totally insulated roof|"
+              "heavy construction|medium construction|light construction|");
 }
 
 }  // namespace
