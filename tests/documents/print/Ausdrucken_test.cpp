@@ -97,6 +97,9 @@ TEST(Ausdrucken, SeitenSindGezaehltUndMitDatumUndDatei) {
     for (int seite = 1; seite <= 8; ++seite) {
         const auto text = drucker.auf_seite(seite, Art::text);
         EXPECT_TRUE(text[0].schrift.kursiv && !text[1].schrift.kursiv);
+        EXPECT_TRUE(text[0].schrift.groesse == 20 && text[1].schrift.groesse == 20);
+        EXPECT_TRUE(text[0].y1 == 20 && text[1].y1 == 20);
+        EXPECT_EQ(text[5].schrift.groesse, 16) << "title";
         EXPECT_NEAR(text[0].x1 + text[1].x2, 200, genau);
         EXPECT_NEAR(text[0].x2, text[1].x1, genau);
         EXPECT_EQ(text[2].text + text[3].text, "- Page " + std::to_string(seite) + " / 8 -1.2.2003");
