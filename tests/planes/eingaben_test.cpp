@@ -241,6 +241,7 @@ TEST_F(Eingaben, JederSchieberStelltSeinenWertUndJedesErgebnisFolgt) {
         EXPECT_EQ(nachher[name], text) << name;
     EXPECT_EQ(nachher["f_nf_anz"] + nachher["f_sf_anz"] + nachher["f_of_anz"] + nachher["f_wf_anz"],
               " 9.0 31.5 9.1 12.1");
+    EXPECT_EQ(h.e_geometrie.av_anz.platz()->links, 0);
     EXPECT_FLOAT_EQ(p.kfs, 0.525F);   // 0.75 x 0.45 + 0.25 x 0.75
     EXPECT_FLOAT_EQ(p.kfw, 1.1525F);  // 0.85 x 1.1 + 0.15 x 1.45
 }
