@@ -49,6 +49,7 @@ std::string tipp(std::string_view kurz) {
 
 TEST(Ebenen, JedeFlaecheZeigtIhrBildMitSeinemTipp) {
     Probeebenen e;
+    double zeile = 0;
     for (const auto& [feld, text] : std::vector<std::pair<Bildfeld&, const char*>>{
              {e.u.Monatsbilanz, "Monat: März| Heizwärmebedarf: 2.4#|Kühlbedarf: 12.3#"},
              {e.u.JahrBilanz, "Jahresbilanz| Heizwärmebedarf: 24.1@|Kühlbedarf: 12.3@"},
@@ -78,7 +79,11 @@ TEST(Ebenen, JedeFlaecheZeigtIhrBildMitSeinemTipp) {
              {e.k.KuehlGradStundenJahr, "Jahressumme:| Kühlgradstunden: 77.8 Kh"}}) {
         RekorderFlaeche bild(feld.lage()->breite, feld.lage()->hoehe);
         feld.zeichnen(bild);
-        const double x = bild.breite() > 100 ? 85 : 50;
+        const bool der_monate = bild.breite() > 100;
+        EXPECT_EQ(feld.lage()->links, der_monate ? 8 : 8 + 330 + 4) << feld.name;
+        EXPECT_TRUE(der_monate || feld.lage()->oben == zeile) << feld.name << ": in the row of the months";
+        zeile = feld.lage()->oben;
+        const double x = der_monate ? 85 : 50;
         const double y = bild.lies_punkt(x, 115) == bild.hintergrund() ? 108 : 115;
         feld.maus_bewegt(x, y);
         EXPECT_TRUE(e.plattform.zeitgeber.empty()) << feld.name << ": no view yet";
