@@ -6,7 +6,6 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <memory>
-#include <vector>
 
 namespace velmaris {
 namespace {
