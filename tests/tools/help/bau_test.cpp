@@ -50,7 +50,7 @@ TEST_F(Hilfebau, OrdnetDieSeitenNachDemInhalt) {
                           "index.html\nTuer.html\nDach.html\nstil.css\n"));
     EXPECT_THAT(gebaut(0), HasSubstr("<p><b>Ebenen</b></p>\n<ul>\n<li><a href=\"Tuer.html\">Tür</a></li>\n"
                                      "<li><a href=\"Dach.html\">Dach</a></li>\n</ul>"));
-    EXPECT_THAT(gebaut(1), HasSubstr("&laquo; <a href=\"index.html\">Start</a>"));
+    EXPECT_THAT(gebaut(1), HasSubstr(">Start</a> &nbsp;|&nbsp; <a href=\"index.html\">Inhalt</a>"));
     EXPECT_THAT(gebaut(1), HasSubstr("<a href=\"Dach.html\">Dach</a> &raquo;"));
     EXPECT_THAT(gebaut(2), testing::Not(HasSubstr("&raquo;")));
 }
