@@ -58,6 +58,7 @@ TEST_F(Konsole, RichtigeUndFalscheAufrufe) {
             << fall.worte << fehler;
         for (const auto& [ist, soll] : {std::pair{aus, fall.aus}, {fehler, fall.fehler}})
             EXPECT_TRUE(soll.empty() ? ist.empty() : ist.starts_with(soll)) << fall.worte << "\n" << ist;
+        EXPECT_EQ(aus.find("[]"), std::string::npos) << fall.worte << ": an empty list of results";
     }
     for (const std::string angabe : {"--temperaturen", "--neu", "--speichern", "--diagramme", "--bericht",
                                      "--ordner", "--import", "--name", "--land", "--ort"}) {
