@@ -87,8 +87,8 @@ const std::map<std::string, std::function<void(Blatt&, Projekt&)>> zeichnungen{
 /// right, bottom; `achse` x, foot, top, end; `skala` steps and the number at the top; `links`, `mitte`,
 /// `rechts` a text with that place of it and its top; `um` its middle; `balken` left, right and pieces from
 /// the foot up, a colour and a value each; `monate` the same for January, the others 8 mm apart; `namen` the
-/// months with their top; `legende` a colour and its meaning; `linie` its ends and colour; `linien` how many
-/// there are.
+/// months with their top; `legende` a colour and its meaning; `linie` its ends and colour; `linien` and
+/// `texte` how many there are.
 class Vergleich {
   public:
     Vergleich(const std::string& zeichnung, const std::string& sprache) : u_(sprache) {
@@ -127,8 +127,9 @@ class Vergleich {
         } else if (art == "linie") {
             const auto ecken = zahlen<4>(zeile);
             EXPECT_TRUE(steht(Art::linie, ecken, farbe(zeile)));
-        } else if (art == "linien") {
-            EXPECT_EQ(drucker_.auf_seite(1, Art::linie).size(), zahlen<1>(zeile)[0]);
+        } else if (art == "linien" || art == "texte") {
+            const Art welche = art == "texte" ? Art::text : Art::linie;
+            EXPECT_EQ(drucker_.auf_seite(1, welche).size(), zahlen<1>(zeile)[0]);
         } else if (art == "namen") {
             text(35, zahlen<1>(zeile)[0], std::string(monate_der_diagramme.in(u_.p->Sprache)), 0);
         } else if (art == "legende") {
