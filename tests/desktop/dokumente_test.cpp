@@ -101,9 +101,7 @@ TEST_F(DokumenteTest, TemperaturverlaufJeMonatUndAlsJahresdatei) {
     const auto& feld = such<QPlainTextEdit>("A_Report", "Temperaturverlauf1");
     ASSERT_TRUE(aktiv(fenster));
     EXPECT_EQ(fokus(), "Temperaturverlauf1") << "so that the keys scroll";
-    const QFontMetrics mass(feld.font());
-    EXPECT_EQ(mass.horizontalAdvance("iiii"), mass.horizontalAdvance("WWWW"));
-    EXPECT_EQ(feld.lineWrapMode(), QPlainTextEdit::NoWrap);
+    EXPECT_EQ(feld.fontMetrics().horizontalAdvance("iiii"), feld.fontMetrics().horizontalAdvance("WWWW"));
     for (int m = 1; m <= 12; ++m) {
         blaettere(m);
         const QString letzte = feld.toPlainText().trimmed().section(u'\n', -1).trimmed();
@@ -137,23 +135,6 @@ TEST_F(DokumenteTest, DruckenSchreibtDieGewaehltenSeitenAlsPdf) {
     ASSERT_EQ(seiten.size(), 3) << "two pages, each with its end";
     EXPECT_TRUE(seiten[0].contains("Ausgabe: Wärmebilanz"));
     EXPECT_TRUE(seiten[1].contains("Effizienzfaktor Klimaanlage:") && seiten[1].contains("- Seite 2 / 2 -"));
-}
-
-TEST_F(DokumenteTest, DruckerwahlBietetImmerPdfAn) {
-    oeffne("e", "mnuFileDrucken", "Drucken");
-    klicke("Drucken", "Command3");
-    QWidget& wahl = such("Haupt", "Druckerwahl");
-    QTest::keyClick(&wahl, Qt::Key_Escape);
-    EXPECT_FALSE(wahl.isVisible());
-    klicke("Drucken", "Command3");
-    auto& liste = such<QComboBox>("Druckerwahl", "Druckerliste");
-    EXPECT_EQ(such<QLabel>("Druckerwahl", "Hinweis").text().isEmpty(), liste.count() > 1);
-    liste.setFocus();
-    QTest::keyClick(&liste, Qt::Key_End);
-    EXPECT_EQ(liste.currentText(), "PDF file");
-    QTest::keyClick(&wahl, Qt::Key_Return);
-    EXPECT_FALSE(wahl.isVisible()) << "Enter in a list is its OK";
-    EXPECT_EQ(programm->plattform().aktueller_drucker(), "");
 }
 
 /// A sheet at ten pixels a millimetre, so that what is drawn can be measured.

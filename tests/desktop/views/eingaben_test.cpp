@@ -111,16 +111,6 @@ TEST_F(EingabenTest, KlimaMitOptionenListenKarteUndPostleitzahl) {
     auto& karte = such<Bildflaeche>("E_Klima", "Picture1");
     QTest::mouseClick(&karte, Qt::LeftButton, {}, QPoint(112, 22));
     EXPECT_EQ(p().Klimadatei, "bremen.met");
-    Anzeige& hinweis = haupt().e_klima.Label2;
-    hinweis.schreibe("a region");
-    for (const Platz ecke : {Platz{100, 100}, {225, 300}, {-9, -9}}) {
-        hinweis.setze(ecke);
-        hinweis.zeige(true);
-        const QRect ort = such("E_Klima", "Label2").geometry();
-        EXPECT_TRUE(karte.rect().contains(ort));
-        EXPECT_EQ(ort.topLeft() == QPoint(100, 100), ecke.links == 100)
-            << "only moved where it would jut out";
-    }
     auto& plz = such<QLineEdit>("E_Klima", "plz");
     tippe(plz, "9a4b0321");
     EXPECT_EQ(plz.text(), "94032");
@@ -146,24 +136,6 @@ TEST_F(EingabenTest, KlimaMitOptionenListenKarteUndPostleitzahl) {
         EXPECT_FALSE(such("Haupt", "E_Zoom_Klima").isVisible());
         EXPECT_EQ(p().Klimadatei, datei);
     }
-}
-
-TEST_F(EingabenTest, WerteVonHandUndReiterDerFassaden) {
-    starte("d");
-    klicke("E_Menue", "Fenster");
-    auto& glas = such<Scrollleiste>("E_Fenster", "kfgs_sb");
-    auto& typ = such<QComboBox>("E_Fenster", "fensters_typ");
-    test::waehle_zeile(typ, 4);
-    QTest::mouseClick(&glas, Qt::LeftButton, {}, test::teil(glas, QStyle::SC_ScrollBarAddLine));
-    EXPECT_EQ(typ.currentText(), "Sonstiges") << "a value by hand is no catalogue window any more";
-    klicke("E_Fenster", "Option11");
-    klicke("E_Fenster", "Command_HR2");
-    EXPECT_TRUE(such("E_Fenster", "Frame_Ost").isVisible());
-    EXPECT_FALSE(such("E_Fenster", "Frame_Sued").isVisible());
-    klicke("E_Fenster", "Option10");
-    EXPECT_FALSE(such("E_Fenster", "Command_HR0").isVisible());
-    haupt().e_gebaeude.aws_cb.setze(1);
-    EXPECT_FALSE(such("E_Fenster", "fs_sb").isEnabled()) << "a neighbour's wall has no windows";
 }
 
 }  // namespace

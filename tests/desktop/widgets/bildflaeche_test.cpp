@@ -95,12 +95,6 @@ TEST_F(BildflaecheTest, ReichtZeigerInBildpixelnWeiter) {
 
     ereignisse.clear();
     QEvent verlassen(QEvent::Leave);
-    QWidget tafel(&fenster);
-    tafel.setGeometry(bild.geometry().adjusted(5, 5, -5, -5));
-    tafel.show();
-    QCursor::setPos(bild.mapToGlobal(QPoint(7, 9)));
-    QApplication::sendEvent(&bild, &verlassen);
-    EXPECT_EQ(ereignisse, "") << "covered by a panel, but the pointer is still here";
     QCursor::setPos(bild.mapToGlobal(QPoint(-30, -30)));
     QApplication::sendEvent(&bild, &verlassen);
     EXPECT_EQ(ereignisse, " move -1 -1");
