@@ -35,7 +35,7 @@ std::string_view abnehmen(std::optional<std::string_view>& rest, char trenner) {
     const std::size_t ende = zeile.find(trenner, suche_ab);
     rest.reset();
     if (ende != std::string_view::npos) rest = zeile.substr(ende + 1);
-    return innen.value_or(zeile.substr(0, ende));
+    return innen ? *innen : zeile.substr(0, ende);
 }
 
 std::optional<std::string_view> feld(std::string_view zeile, int n, char trenner) {
