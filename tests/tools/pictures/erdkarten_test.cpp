@@ -60,7 +60,8 @@ bool ist(char art, const Karte& karte, const Bitmap& bild, Punkt p) {
 
 /// Places of the maps: what they are, degrees east and north, name.
 const char* const orte_europas =
-    "w -6 46 Biscay  w -5 53.8 Irish_Sea  g -7.3 39.6 Spain-Portugal  g 14.6 52.5 Germany-Poland "
+    "w -6 46 Biscay  n -10 48 10_west  w -5 53.8 Irish_Sea  g -7.3 39.6 Spain-Portugal  g 14.6 52.5 "
+    "Germany-Poland "
     "i -4.5 41.5 Castile  i 32 49.5 Ukraine  k -9.13 38.72 Lisbon  k 30.73 46.48 Odessa  b -3.7 40.4 Madrid";
 const char* const orte_der_welt =
     "w -86 59 Hudson_Bay  w 51 41 Caspian_Sea  w 190 0 Kiribati  n -135 0 equator  n -135 -30 30_south "
