@@ -80,13 +80,15 @@ TEST(Gebaeudekennwerte, ZaehlenDieHuelleAufZweiArten) {
     p->fn = p->fs = p->fo = p->fw = 0, p->ft = 2;
     geometrie_berechnen(*p);
     p->tau = 7200;
+    p->f_sf = 20, p->f_sw -= 20, p->kfs = 1.3F;  // a window that loses 20 W/K more than its wall
     const Gebaeudekennwerte k = gebaeudekennwerte(*p);
-    // Walls of 145.6 m2 less the door, gables of 24 m2, roof planes of 80 m2, 48 m2 of floor at 0.3 W/(m2 K).
+    // Walls of 145.6 m2 less the door, 20 m2 of them window, gables of 24 m2, roof planes of 80 m2, 48 m2 of
+    // floor at 0.3 W/(m2 K).
     EXPECT_DOUBLE_EQ(k.tau, 2);
-    EXPECT_NEAR(k.Tspez, 0.3 * (143.6 + 24 + 80 + 48) + 3, 1e-4);
-    EXPECT_NEAR(k.Umittel, (0.3 * (143.6 + 96) + 3) / (145.6 + 96), 1e-6);
+    EXPECT_NEAR(k.Tspez, 0.3 * (143.6 + 24 + 80 + 48) + 20 + 3, 1e-4);
+    EXPECT_NEAR(k.Umittel, (0.3 * (143.6 + 96) + 20 + 3) / (145.6 + 96), 1e-6);
     EXPECT_NEAR(k.Vspez, 0.6 * 276.48 * 1290 / 3600, 1e-4);
-    EXPECT_NEAR(k.TVspez, 0.3 * (143.6 + 96) + 3 + k.Vspez, 1e-4);
+    EXPECT_NEAR(k.TVspez, 0.3 * (143.6 + 96) + 20 + 3 + k.Vspez, 1e-4);
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ template <typename Dialog>
 void am_naechsten_dialog(const std::function<void(Dialog&)>& schritt, int versuche = 200) {
     QTimer::singleShot(10, qApp, [schritt, versuche] {
         auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-        if (dialog != nullptr && dialog->isVisible()) {
+        if (dialog != nullptr && dialog->isVisible() && dialog->isActiveWindow()) {
             schritt(*dialog);
         } else if (versuche > 0) {
             am_naechsten_dialog<Dialog>(schritt, versuche - 1);
