@@ -109,17 +109,6 @@ TEST(Skala, DerSchrittWechseltGenauAnDerGrenze) {
     }
 }
 
-TEST(Spaltenmonat, VonDerAchseBisDezember) {
-    // A column begins 33 + 24 (m - 1) pixels from the left; its very edges go to the even neighbour.
-    for (const int x : {34, 45, 56})
-        EXPECT_EQ(spaltenmonat(x), 1) << x;
-    for (const int x : {57, 58, 80, 81})
-        EXPECT_EQ(spaltenmonat(x), 2) << x;
-    EXPECT_EQ(spaltenmonat(82), 3);
-    EXPECT_EQ(spaltenmonat(320), 12);
-    EXPECT_FALSE(spaltenmonat(32) || spaltenmonat(322) || spaltenmonat(NAN));
-}
-
 TEST(Rahmen, AchsenStricheUndZahlen) {
     using Art = Zeichnung::Art;
     struct Fall {

@@ -44,19 +44,6 @@ TEST(Traegerbild, NameUndMenge) {
     EXPECT_EQ(texte(7, 1, 12), (Texte{"Strom:", "3000 kWh/a"})) << "its auxiliary electricity included";
 }
 
-TEST(Traegerbild, TitelStehenMittigUeberDemBild) {
-    const RekorderFlaeche bild = haupttraeger(*projekt(4, 1, 46));
-    EXPECT_TRUE(test::steht(bild, "Holz:", 25, 10));      // 30 pixels wide
-    EXPECT_TRUE(test::steht(bild, "2000 kg/a", 13, 30));  // 54
-    EXPECT_EQ(bild.zeichnungen.front().art, Art::cls);
-    EXPECT_EQ(bild.zeichnungen.back().art, Art::text);
-    EXPECT_EQ(bild.alle(Art::text).at(0).schrift, (Schrift{.hof = bild.hintergrund()}));
-    // "Nah-/Fernwärme:" is wider than the surface in the letters of the others.
-    const auto lange = haupttraeger(*projekt(6, 1, 46)).alle(Art::text);
-    EXPECT_LT(lange.at(0).schrift.groesse, Schrift{}.groesse);
-    EXPECT_EQ(lange.at(1).schrift.groesse, Schrift{}.groesse);
-}
-
 TEST(Traegerbild, FormenNachDerEnergie) {
     using Fall = std::tuple<int, int, float, const char*>;
     for (const auto& [system, traeger, energie, bild] : std::vector<Fall>{

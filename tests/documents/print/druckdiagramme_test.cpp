@@ -238,18 +238,5 @@ TEST(Druckdiagramme, ZeigenDenDatensatzAnIhremPlatz) {
     }
 }
 
-/// By hand: below 10000 the steps are those of the year balance, beyond them a thousand times as large.
-TEST(Druckdiagramme, FensterskalaReichtInDieTausende) {
-    const Unterlagen u("d");
-    for (const auto& [gewinn, oben] :
-         {std::pair{9999.0F, "10000"}, {10000.0F, "25000"}, {60000.0F, "75000"}}) {
-        u.p->Fenstergewinn_S = gewinn;
-        Testdrucker drucker;
-        Blatt blatt(drucker, "d");
-        Diagramm_Fenster(blatt, *u.p);
-        EXPECT_EQ(drucker.auf_seite(1, Art::text).at(5).text, oben);
-    }
-}
-
 }  // namespace
 }  // namespace velmaris
