@@ -66,6 +66,7 @@ TEST(I16, RundetHalbZurGeradenUndMeldetUeberlauf) {
     EXPECT_EQ(i16(2.5, "x"), 2);
     EXPECT_EQ(i16(3.5, "x"), 4);
     EXPECT_EQ(i16(-32768.4, "x"), -32768);
+    EXPECT_EQ(i16(32767, "x"), 32767);
     for (const double zuviel : {32767.5, -32769.0, 1e300, std::nan("")})
         EXPECT_THAT([=] { return i16(zuviel, "fn"); }, ThrowsMessage<Laufzeitfehler>(StartsWith("fn: ")));
 }
