@@ -63,7 +63,8 @@ TEST(AKlima, NenntRegionOderStation) {
     A_Klima ebene;
     using Fall = std::tuple<std::int16_t, const char*, const char*>;
     for (const auto& [auswahl, datei, text] :
-         {Fall{1, "trier.met", "Region   4: Nördl. und westl. Mittelgebirge ohne Hochlagen"},
+         {Fall{1, "bremen.met", "Region   1: Nord- / Ostseeküste, nördliches Schleswig-Holstein"},
+          Fall{1, "trier.met", "Region   4: Nördl. und westl. Mittelgebirge ohne Hochlagen"},
           Fall{1, "konstanz.met", "Region 12: Bodensee mit Umgebung"},
           Fall{1, "paris.met", "Region Paris (Frankreich)"}, Fall{2, "trier.met", "Paris (Frankreich)"}}) {
         p->Klimaauswahl = auswahl;
