@@ -132,7 +132,7 @@ TEST_F(HilfefensterTest, SuchtAufDerSeite) {
         EXPECT_GT(stelle(), davor);
         EXPECT_TRUE(seite().viewport()->rect().contains(seite().cursorRect())) << i;
     }
-    taste(Qt::Key_Return, Qt::ShiftModifier);
+    taste(Qt::Key_Enter, Qt::ShiftModifier);
     EXPECT_GT(stelle(), erste);
     QTest::keyClicks(&feld, "xyz");
     EXPECT_EQ(meldung.text(), "Nicht gefunden");
