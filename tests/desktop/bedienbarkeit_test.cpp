@@ -62,56 +62,36 @@ TEST_F(BedienbarkeitTest, TabulatorGehtVonObenNachUnten) {
     EXPECT_EQ(utf8(namen.join('|')), "Dämmung|Länge|U-Werte der Wände Nord:|Klimastationen - Welt");
 }
 
-/// A plane, how it is reached, and the control that gets the focus then, the plane itself where it has none.
-struct Ebenenfall {
-    const char* leiste;
-    const char* knopf;
-    const char* menue;  ///< "" for output planes
-    const char* ebene;
-    const char* erstes;
-};
-
 /// By mouse and menu the focus goes to the plane, by keys it stays in the bar; F1 leads to the plane.
 TEST_F(BedienbarkeitTest, FokusLiegtInDerGewaehltenEbeneUndBleibtBeiTastenInDerLeiste) {
     starte("d");
     EXPECT_EQ(fokus(), "h_sb");
-    for (const Ebenenfall& fall : {Ebenenfall{"E_Menue", "Fenster", "mnuWinFens", "E_Fenster", "fn_sb"},
-                                   {"E_Menue", "Daemmung", "mnuWinDaem", "E_Daemmung", "kwn_sb"},
-                                   {"E_Menue", "Gebaeude", "mnuWinGeb", "E_Gebaeude", "Troom_sb"},
-                                   {"E_Menue", "Klima", "mnuWinKlima", "E_Klima", "Option1"},
-                                   {"E_Menue", "Energie", "mnuWinEnerg", "E_Energie", "Command1"},
-                                   {"E_Menue", "Geometrie", "mnuWinGeo", "E_Geometrie", "h_sb"},
-                                   {"A_Menue", "Klima", "", "A_Klima", "A_Klima"},
-                                   {"A_Menue", "Heizen", "", "A_Heizen", "A_Heizen"},
-                                   {"A_Menue", "Uebersicht", "", "A_Uebersicht", "Temperaturen"}}) {
-        auto& knopf = such<QAbstractButton>(fall.leiste, fall.knopf);
-        const auto pruefe = [&](const char* focus, const char* weg) {
-            EXPECT_TRUE(such("Haupt", fall.ebene).isVisible()) << fall.ebene << weg;
-            EXPECT_FALSE(knopf.isEnabled()) << "marks the plane on show, " << fall.ebene << weg;
-            EXPECT_EQ(fokus(), focus) << fall.ebene << weg;
-            EXPECT_EQ(f1(), fall.ebene) << weg;
+    for (const auto& [ebene, erstes, eintrag] : {std::tuple{"E_Fenster", "fn_sb", "mnuWinFens"},
+                                                 {"E_Daemmung", "kwn_sb", "mnuWinDaem"},
+                                                 {"E_Gebaeude", "Troom_sb", "mnuWinGeb"},
+                                                 {"E_Klima", "Option1", "mnuWinKlima"},
+                                                 {"E_Energie", "Command1", "mnuWinEnerg"},
+                                                 {"E_Geometrie", "h_sb", "mnuWinGeo"},
+                                                 {"A_Klima", "A_Klima", ""},
+                                                 {"A_Heizen", "A_Heizen", ""},
+                                                 {"A_Uebersicht", "Temperaturen", ""}}) {
+        const std::string leiste = *ebene == 'E' ? "E_Menue" : "A_Menue";
+        auto& knopf = such<QAbstractButton>(leiste.c_str(), ebene + 2);
+        const auto gehe = [&, name = ebene](const std::function<void()>& weg, const std::string& soll) {
+            klicke(leiste.c_str(), *name == 'A' ? "Sankey" : name[2] == 'K' ? "Fenster" : "Klima");
+            weg();
+            EXPECT_TRUE(such("Haupt", name).isVisible()) << name;
+            EXPECT_FALSE(knopf.isEnabled()) << "marks the plane on show, " << name;
+            EXPECT_EQ(fokus(), soll) << name;
+            EXPECT_EQ(f1(), name);
         };
-        const auto gehe_weg = [&] {
-            klicke(fall.leiste, *fall.leiste == 'E'
-                                    ? (fall.knopf == std::string("Klima") ? "Fenster" : "Klima")
-                                    : "Sankey");
-        };
-        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
-            gehe_weg();
-            knopf.setFocus(Qt::TabFocusReason);
-            taste(key);
-            pruefe(fall.leiste, " by key");
-            EXPECT_EQ(knopf.grab().toImage().pixelColor(knopf.width() / 2, 2), QColor(Qt::white)) << "focus";
-        }
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return})
+            gehe([&] { knopf.setFocus(Qt::TabFocusReason), taste(key); }, leiste);
+        EXPECT_EQ(knopf.grab().toImage().pixelColor(knopf.width() / 2, 2), QColor(Qt::white)) << "focus";
         taste(Qt::Key_Tab);
-        EXPECT_NE(fokus(), fall.leiste) << "to the next button or plane";
-        gehe_weg();
-        klicke(knopf);
-        pruefe(fall.erstes, " by mouse");
-        if (*fall.menue == 0) continue;
-        gehe_weg();
-        menue(fall.menue).trigger();
-        pruefe(fall.erstes, " by menu");
+        EXPECT_NE(fokus(), leiste) << "to the next button or plane";
+        gehe([&] { klicke(knopf); }, erstes);
+        if (*eintrag != 0) gehe([&, name = eintrag] { menue(name).trigger(); }, erstes);
     }
     such("E_Menue", "Energie").setFocus(Qt::TabFocusReason);
     EXPECT_EQ(f1(), "A_Uebersicht") << "the plane that had the focus last";

@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionSlider>
@@ -92,6 +93,11 @@ void waehle_zeile(QComboBox& liste, int zeile) {
     for (int i = 0; i < zeile; ++i)
         QTest::keyClick(eintraege, Qt::Key_Down);
     QTest::keyClick(eintraege, Qt::Key_Return);
+}
+
+void bewege_ueber(QWidget& fenster, QPointF ort) {
+    QMouseEvent zug(QEvent::MouseMove, ort, fenster.mapToGlobal(ort), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&fenster, &zug);
 }
 
 void pruefe_platz(const QWidget& fenster, const std::string& wo) {

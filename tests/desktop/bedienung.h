@@ -54,6 +54,9 @@ void waehle_datei(
 /// Opens a list by the mouse and picks a row of it by the keyboard.
 void waehle_zeile(QComboBox& liste, int zeile);
 
+/// Moves the pointer over a widget; at twice the resolution that may lie beyond the screen of the tests.
+void bewege_ueber(QWidget& fenster, QPointF ort = {5, 5});
+
 /// Fails the test for every visible control of a window or plane whose text is cut off or which juts out.
 void pruefe_platz(const QWidget& fenster, const std::string& wo);
 

@@ -1,8 +1,7 @@
-#include "desktop/widgets/bildflaeche.h"
+#include "desktop/platform/qt_flaeche.h"
 #include "tests/desktop/programmprobe.h"
 #include "tests/textlage.h"
 
-#include <QMouseEvent>
 #include <gmock/gmock.h>
 
 namespace velmaris {
@@ -56,47 +55,31 @@ TEST_F(AnsichtenTest, KeinTextIstAbgeschnittenUndNichtsRagtHinaus) {
     }
 }
 
-/// A tooltip of a plane: the foot of a bar of January.
-struct Tooltipfall {
-    Ebenenleiste& leiste;
-    const char* knopf;
-    const Feld& ebene;
-    const Bildfeld& bild;
-    int fuss;
-};
-
 /// However the pointer goes, or the plane, no tooltip stays behind; on each plane that has one.
 TEST_F(AnsichtenTest, TooltipKommtWennDerZeigerRuhtUndBleibtNicht) {
     starte("e");
-    Haupt& h = haupt();
     QEvent verlassen(QEvent::Leave);
-    for (const Tooltipfall& fall :
-         {Tooltipfall{h.a_menue, "Uebersicht", h.a_uebersicht.ebene, h.a_uebersicht.UeberGrafik, 114},
-          {h.a_menue, "Heizen", h.a_heizen.ebene, h.a_heizen.Heizbilanz, 114},
-          {h.e_menue, "Energie", h.e_energie.ebene, h.e_energie.Monatsübersicht_Energieträger, 94}}) {
-        fall.leiste.klicke(fall.knopf);
+    for (const auto& [leiste, ebene, name, fuss_im_januar] :
+         {std::tuple{"A_Menue", "A_Uebersicht", "UeberGrafik", 114},
+          {"A_Menue", "A_Heizen", "Heizbilanz", 114},
+          {"E_Menue", "E_Energie", "Monatsübersicht_Energieträger", 94}}) {
+        klicke(leiste, ebene + 2);
         QApplication::processEvents();
-        auto& bild = such<Bildflaeche>(fall.ebene.name.c_str(), fall.bild.name.c_str());
-        auto& tip = such(fall.ebene.name.c_str(), "Frame_ToolTip");
-        const auto& text = such<QLabel>(fall.ebene.name.c_str(), "Label_Tooltip");
-        const QPointF ort(38, fall.fuss);
-        QMouseEvent zug(QEvent::MouseMove, ort, bild.mapToGlobal(ort), Qt::NoButton, Qt::NoButton, {});
-        QApplication::sendEvent(&bild, &zug);
+        QWidget &bild = such(ebene, name), &tip = such(ebene, "Frame_ToolTip");
+        test::bewege_ueber(bild, QPointF(38, fuss_im_januar));
         EXPECT_FALSE(tip.isVisible());
-        ASSERT_TRUE(QTest::qWaitFor([&] { return tip.isVisible(); }, 3000)) << fall.knopf;
+        ASSERT_TRUE(QTest::qWaitFor([&] { return tip.isVisible(); }, 3000)) << ebene;
+        const auto& text = such<QLabel>(ebene, "Label_Tooltip");
         EXPECT_TRUE(text.text().startsWith("month: January\n")) << text.text().toStdString();
         EXPECT_TRUE(tip.parentWidget()->rect().contains(tip.geometry()));
         EXPECT_EQ(tip.size(), text.size() + QSize(14, 10)) << "even room around the text";
-        if (*fall.knopf == 'U') {
-            QApplication::sendEvent(&tip, &verlassen);
-        } else if (*fall.knopf == 'H') {
-            QCursor::setPos(programm->fenster().mapToGlobal(QPoint(-50, -50)));
-            QApplication::sendEvent(&bild, &verlassen);
+        if (ebene[2] == 'E') {
+            klicke("E_Menue", "Klima");
         } else {
-            h.e_menue.klicke("Klima");
-            h.e_menue.klicke("Energie");
+            QCursor::setPos(programm->fenster().mapToGlobal(QPoint(-50, -50)));
+            QApplication::sendEvent(ebene[2] == 'U' ? &tip : &bild, &verlassen);
         }
-        EXPECT_FALSE(tip.isVisible()) << fall.knopf;
+        EXPECT_FALSE(tip.isVisible()) << ebene;
     }
 }
 

@@ -3,7 +3,6 @@
 #include "tests/desktop/programmprobe.h"
 
 #include <QMenuBar>
-#include <QMouseEvent>
 
 namespace velmaris {
 namespace {
@@ -61,13 +60,6 @@ TEST_F(AuswahltafelTest, ListenOeffnenUnterIhremFeldMitEintraegenVonDerHoeheIhre
     }
 }
 
-/// Moves the mouse onto a widget, which at twice the resolution lies beyond the small screen of the tests.
-void ueberfahre(QWidget& feld) {
-    const QPointF ort(5, 5);
-    QMouseEvent bewegung(QEvent::MouseMove, ort, feld.mapToGlobal(ort), Qt::NoButton, Qt::NoButton, {});
-    QApplication::sendEvent(&feld, &bewegung);
-}
-
 TEST_F(AuswahltafelTest, MausOeffnetWaehltUndSchliesst) {
     beginne();
     for (const char* name : felder) {
@@ -77,7 +69,7 @@ TEST_F(AuswahltafelTest, MausOeffnetWaehltUndSchliesst) {
     QTest::mouseClick(&feld(felder[2]), Qt::LeftButton);
     EXPECT_FALSE(tafel().isVisible()) << "the same field closes";
     klicke(knopf("Command1"));
-    ueberfahre(eintrag(6));
+    test::bewege_ueber(eintrag(6));
     EXPECT_EQ(haupt().e_energie.Auswahl.marke(), 6);
     QTest::mouseClick(&eintrag(6), Qt::LeftButton);
     EXPECT_EQ(wahl(), "611");

@@ -5,7 +5,6 @@
 #include "tests/hilfen.h"
 #include "toolkit/text.h"
 
-#include <QMouseEvent>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -84,9 +83,7 @@ TEST_F(BildflaecheTest, ReichtZeigerInBildpixelnWeiter) {
     feld.maus_bewegt = notiere(" move ");
     feld.maus_geklickt = notiere(" click ");
     abwarten();
-    const QPointF zwischen(7.75, 9.5);  // a screen of higher resolution knows places between the pixels
-    QMouseEvent zug(QEvent::MouseMove, zwischen, bild.mapToGlobal(zwischen), Qt::NoButton, Qt::NoButton, {});
-    QApplication::sendEvent(&bild, &zug);
+    test::bewege_ueber(bild, {7.75, 9.5});  // a screen of higher resolution knows places between the pixels
     QTest::mouseClick(&bild, Qt::LeftButton, {}, QPoint(8, 9));
     QTest::mouseClick(&bild, Qt::RightButton, {}, QPoint(8, 9));
     QTest::mousePress(&bild, Qt::LeftButton, {}, QPoint(8, 9));
