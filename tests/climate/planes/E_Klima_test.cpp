@@ -74,7 +74,8 @@ TEST(EKlima, EineFehlendeStationWirdErsetzt) {
     using Fall = std::tuple<int, std::vector<std::string>, double, std::string, std::string, int, int>;
     const std::vector<std::string> deutsche{"bremen", "passau", "trier"};
     for (const auto& [bereich, fehlend, los, ersatz, gezeigt, von, nach] :
-         {Fall{deutschland,
+         {Fall{deutschland, {}, 0.9, "trier", "  4: Nördl. und westl. Mittelgebirge ohne Hochlagen", 0, 0},
+          Fall{deutschland,
                {"trier"},
                0.9,
                "bremen",

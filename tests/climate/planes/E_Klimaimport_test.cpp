@@ -168,7 +168,7 @@ TEST_F(Klimaimport, DerImportWartetAufAlleFelder) {
     e.Zeitzone.tippe("9,5");
     EXPECT_THAT(e.Ortshinweis.text(), HasSubstr(" Karten. Längengrad und Zeitzone liegen 9.0 Stunden"));
     e.Laengengrad.tippe("140");
-    EXPECT_THAT(e.Ortshinweis.text(), Not(HasSubstr("Zeitzone")));
+    EXPECT_THAT(e.Ortshinweis.text(), testing::EndsWith(" Karten."));
     for (Auswahlliste* zusatz : {&e.Laengezusatz, &e.GMT}) {
         zusatz->setze(1);
         EXPECT_EQ(e.Ortshinweis.text().find("Zeitzone") == std::string::npos, zusatz == &e.GMT);

@@ -72,6 +72,10 @@ TEST_F(HilfefensterTest, F1OeffnetDieSeiteDesFensters) {
         });
     }
     EXPECT_EQ(fenster().windowTitle(), "Energy flows - Velmaris Help");
+    QKeyEvent vorab(QEvent::ShortcutOverride, Qt::Key_F1, Qt::NoModifier);
+    vorab.ignore();
+    QApplication::sendEvent(&such("E_Geometrie", "l_sb"), &vorab);
+    EXPECT_TRUE(vorab.isAccepted()) << "no shortcut of another window takes the key";
     for (Nebenfenster* neben : programm->fenster().findChildren<Nebenfenster*>(Qt::FindDirectChildrenOnly)) {
         f1(*neben);
         EXPECT_EQ(gezeigt(), "/" + neben->objectName().toStdString() + ".html");
@@ -80,7 +84,12 @@ TEST_F(HilfefensterTest, F1OeffnetDieSeiteDesFensters) {
 
 TEST_F(HilfefensterTest, BlaettertInSeinenSeiten) {
     starte("d");
+    const auto hat = [&](const char* was) {
+        return seite().loadResource(QTextDocument::HtmlResource, QUrl(QLatin1String(was))).isValid();
+    };
+    EXPECT_FALSE(hat("chm:/index.html")) << "no file yet";
     menue("mnuQuestHilfe").trigger();
+    EXPECT_TRUE(hat("chm:/index.html") && !hat("file:/index.html"));
     EXPECT_EQ(gezeigt(), "/index.html");
     EXPECT_FALSE(eintrag("Zurueck").isEnabled());
     klicke_verweis("Monatsbilanz");

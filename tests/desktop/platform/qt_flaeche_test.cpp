@@ -148,16 +148,19 @@ TEST(QtFlaeche, IstAufFeinemSchirmGleichGross) {
     EXPECT_EQ(vergleich, grob.bild().scaled(60, 40));
 }
 
-TEST(QtFlaeche, DerHofHebtTextVonSeinemGrundAb) {
-    QtFlaeche bild(QSize(60, 30), 1, farben::schwarz);
-    bild.schrift({.hof = farben::weiss});
-    bild.text(10, 8, "III", farben::schwarz);
-    const auto helle_zeilen = [&] {
-        return std::ranges::count_if(bild_als_text(bild),
-                                     [](const auto& z) { return z.find('.') != std::string::npos; });
+TEST(QtFlaeche, TextHatSeineSchriftUndSeinenHof) {
+    QtFlaeche bild(QSize(60, 60), 1, farben::schwarz);
+    const auto zeilen_mit = [&](char farbe) {
+        const auto hat = [=](const auto& zeile) { return zeile.find(farbe) != std::string::npos; };
+        return static_cast<int>(std::ranges::count_if(bild_als_text(bild), hat));
     };
-    EXPECT_GT(helle_zeilen(), 8);
-    EXPECT_LE(helle_zeilen(), bild.texthoehe("I") + 4) << "nothing beyond the edge";
+    bild.schrift({.name = "Arial", .hof = farben::weiss});
+    bild.text(10, 8, "III", farben::schwarz);
+    EXPECT_GT(zeilen_mit('.'), 8);
+    EXPECT_LE(zeilen_mit('.'), bild.texthoehe("I") + 4) << "nothing beyond the edge";
+    bild.schrift({.name = "Arial", .groesse = 30});
+    bild.text(30, 0, "H", farben::rot);
+    EXPECT_NEAR(zeilen_mit('o'), 40 * 1409 / 2048.0, 1) << "30 points are 40 pixels";
 }
 
 TEST(Schrift, GroessenSindGanzePixelUndFamilienVorhanden) {

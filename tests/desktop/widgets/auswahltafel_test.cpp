@@ -71,6 +71,7 @@ TEST_F(AuswahltafelTest, MausOeffnetWaehltUndSchliesst) {
     klicke(knopf("Command1"));
     test::bewege_ueber(eintrag(6));
     EXPECT_EQ(haupt().e_energie.Auswahl.marke(), 6);
+    QTest::mouseClick(&eintrag(7), Qt::RightButton);
     QTest::mouseClick(&eintrag(6), Qt::LeftButton);
     EXPECT_EQ(wahl(), "611");
     EXPECT_EQ(feld("Label_System").text(), eintrag(6).text());

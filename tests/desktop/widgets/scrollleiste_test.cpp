@@ -80,26 +80,28 @@ TEST(Scrollleiste, GehtMitMausRadUndTasten) {
 /// Both arrows point away from the thumb, which is drawn only where it can be moved.
 TEST(Scrollleiste, ZeigtGriffPfeileUndFokus) {
     Testfenster fenster;
-    Scrollleiste leiste(Qt::Horizontal, &fenster);
-    leiste.setRange(0, 100);
-    leiste.setValue(50);
-    leiste.resize(200, 17);
-    leiste.show();
-    const auto zahl = [&](QRgb farbe) {
-        const QImage b = leiste.grab().toImage().convertToFormat(QImage::Format_RGB32);
-        const auto* anfang = reinterpret_cast<const QRgb*>(b.constBits());
-        return std::count(anfang, anfang + b.width() * b.height(), farbe);
-    };
-    const QImage ruhig = leiste.grab().toImage();
-    EXPECT_EQ(ruhig.pixel(test::teil(leiste, QStyle::SC_ScrollBarSlider)), stilfarben::griff);
-    EXPECT_EQ(ruhig.pixel(60, 8), stilfarben::rille);
-    const auto grau = [&](int x, int y) { return qGray(ruhig.pixel(x, y)); };
-    EXPECT_LT(grau(7, 8), grau(7, 4)) << "the left arrow begins as a point";
-    EXPECT_LT(grau(199 - 7, 8), grau(199 - 7, 4));
-    leiste.setFocus();
-    EXPECT_GT(zahl(stilfarben::betonung), 50);
-    leiste.setEnabled(false);
-    EXPECT_EQ(zahl(stilfarben::griff), 0);
+    for (const bool liegt : {true, false}) {
+        Scrollleiste leiste(liegt ? Qt::Horizontal : Qt::Vertical, &fenster);
+        leiste.setRange(0, 100);
+        leiste.setValue(50);
+        leiste.resize(liegt ? QSize(200, 17) : QSize(17, 200));
+        leiste.show();
+        const auto zahl = [&](QRgb farbe) {
+            const QImage b = leiste.grab().toImage().convertToFormat(QImage::Format_RGB32);
+            const auto* anfang = reinterpret_cast<const QRgb*>(b.constBits());
+            return std::count(anfang, anfang + b.width() * b.height(), farbe);
+        };
+        const QImage ruhig = leiste.grab().toImage();
+        EXPECT_EQ(ruhig.pixel(test::teil(leiste, QStyle::SC_ScrollBarSlider)), stilfarben::griff);
+        const auto pixel = [&](int l, int q) { return liegt ? ruhig.pixel(l, q) : ruhig.pixel(q, l); };
+        EXPECT_EQ(pixel(60, 8), stilfarben::rille);
+        EXPECT_LT(qGray(pixel(7, 8)), qGray(pixel(7, 4))) << "the first arrow begins as a point";
+        EXPECT_LT(qGray(pixel(199 - 7, 8)), qGray(pixel(199 - 7, 4)));
+        leiste.setFocus();
+        EXPECT_GT(zahl(stilfarben::betonung), 50);
+        leiste.setEnabled(false);
+        EXPECT_EQ(zahl(stilfarben::griff), 0);
+    }
 }
 
 }  // namespace
