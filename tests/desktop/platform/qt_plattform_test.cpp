@@ -35,29 +35,21 @@ class QtPlattformTest : public testing::Test {
     QtPlattform plattform{wache, [this] { return sprache; }};
 };
 
-/// The buttons of a message, the one that Enter presses, a key and the answer.
-struct Antwortfall {
-    Knoepfe knoepfe;
-    std::optional<Antwort> vorgabe;
-    QKeyCombination taste;
-    Antwort antwort;
-};
-
 TEST_F(QtPlattformTest, MeldungGibtDenGedruecktenKnopf) {
     const QKeyCombination zu = Qt::Key_Escape, ein = Qt::Key_Return, j = Qt::ALT | Qt::Key_J;
     const Knoepfe ja_nein = Knoepfe::ja_nein, alle = Knoepfe::ja_nein_abbrechen;
-    for (const Antwortfall& fall : {Antwortfall{Knoepfe::ok, {}, ein, Antwort::ok},
-                                    {ja_nein, {}, ein, Antwort::ja},
-                                    {ja_nein, Antwort::nein, ein, Antwort::nein},
-                                    {ja_nein, Antwort::nein, j, Antwort::ja},
-                                    {ja_nein, {}, zu, Antwort::nein},
-                                    {alle, Antwort::nein, zu, Antwort::abbrechen}}) {
-        am_naechsten_dialog<QMessageBox>([&](QMessageBox& box) {
-            QTest::keyClick(&box, fall.taste.key(), fall.taste.keyboardModifiers());
+    using Fall = std::tuple<Knoepfe, std::optional<Antwort>, QKeyCombination, Antwort>;
+    for (const auto& [knoepfe, vorgabe, taste, antwort] : {Fall{Knoepfe::ok, {}, ein, Antwort::ok},
+                                                           {ja_nein, {}, ein, Antwort::ja},
+                                                           {ja_nein, Antwort::nein, ein, Antwort::nein},
+                                                           {ja_nein, Antwort::nein, j, Antwort::ja},
+                                                           {ja_nein, {}, zu, Antwort::nein},
+                                                           {alle, Antwort::nein, zu, Antwort::abbrechen}}) {
+        am_naechsten_dialog<QMessageBox>([keys = taste](QMessageBox& box) {
+            QTest::keyClick(&box, keys.key(), keys.keyboardModifiers());
         });
-        EXPECT_EQ(plattform.melde({.text = "?", .knoepfe = fall.knoepfe, .vorgabe = fall.vorgabe}),
-                  fall.antwort)
-            << static_cast<int>(fall.knoepfe) << " " << fall.taste.toCombined();
+        EXPECT_EQ(plattform.melde({.text = "?", .knoepfe = knoepfe, .vorgabe = vorgabe}), antwort)
+            << static_cast<int>(knoepfe) << " " << taste.toCombined();
     }
 }
 
@@ -98,20 +90,13 @@ TEST_F(QtPlattformTest, EingabeGibtDenTextOderNichts) {
     EXPECT_EQ(plattform.eingabe("Name:", "Titel", "alt"), std::nullopt);
 }
 
-/// Types a name into a file dialog and confirms it.
-void bestaetige(QFileDialog& box, const char* text = nullptr) {
-    auto* name = box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (text != nullptr) name->setText(QString::fromUtf8(text));
-    QTest::keyClick(name, Qt::Key_Return);
-}
-
 TEST_F(QtPlattformTest, DateidialogOeffnetUndBrichtAb) {
     const Testordner ordner;
     const std::filesystem::path datei = ordner.schreibe("häuschen mit garten.vel", "x");
     Dateidialog dialog{.filter = "Alle Dateien (*.*)|*.*|VELM Dateien|*.vel;*.velm",
                        .filterindex = 2,
                        .ordner = ordner.pfad()};
-    am_naechsten_dialog<QFileDialog>([&](QFileDialog& box) {
+    test::waehle_datei("häuschen mit garten.vel", [&](QFileDialog& box) {
         EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptOpen);
         QStringList texte{box.windowTitle()};
         for (const auto stelle : {QFileDialog::Accept, QFileDialog::Reject, QFileDialog::LookIn,
@@ -121,7 +106,6 @@ TEST_F(QtPlattformTest, DateidialogOeffnetUndBrichtAb) {
         EXPECT_EQ(box.directory().absolutePath(), QDir(ordner.pfad()).absolutePath());
         EXPECT_EQ(box.nameFilters(), (QStringList{"Alle Dateien (*.*) (*)", "VELM Dateien (*.vel *.velm)"}));
         EXPECT_TRUE(box.selectedNameFilter().startsWith("VELM"));
-        bestaetige(box, "häuschen mit garten.vel");
     });
     EXPECT_EQ(plattform.dateidialog(dialog), datei);
     dialog.ordner = "/no/such/folder";
@@ -139,15 +123,14 @@ TEST_F(QtPlattformTest, SpeichernSchlaegtVorUndHaengtDieEndungAn) {
                              .ordner = ordner.pfad(),
                              .dateiname = "alt.vel",
                              .endung = ".vel"};
-    for (const auto& [getippt, name] :
-         {std::pair<const char*, const char*>{nullptr, "alt.vel"}, {"neu", "neu.vel"}}) {
-        am_naechsten_dialog<QFileDialog>([wort = getippt](QFileDialog& box) {
-            EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
-            EXPECT_EQ(box.labelText(QFileDialog::Accept), "&Speichern");
-            bestaetige(box, wort);
-        });
-        EXPECT_EQ(plattform.dateidialog(dialog), ordner / name);
-    }
+    am_naechsten_dialog<QFileDialog>([](QFileDialog& box) {
+        EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(box.labelText(QFileDialog::Accept), "&Speichern");
+        QTest::keyClick(box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
+    });
+    EXPECT_EQ(plattform.dateidialog(dialog), ordner / "alt.vel");
+    test::waehle_datei("neu");
+    EXPECT_EQ(plattform.dateidialog(dialog), ordner / "neu.vel");
 }
 
 TEST_F(QtPlattformTest, ZeitgeberLaeuftEinmalUndLaesstSichNeuStarten) {

@@ -107,7 +107,8 @@ class AnordnungTest : public test::Programmprobe {
     }
 };
 
-/// What each panel shows, row by row; a line that is indented goes on with the one before.
+/// What each panel with more than one row shows, row by row; a line that is indented goes on with the one
+/// before.
 constexpr std::string_view anordnung =
     R"(A_Heizen: Label8 Label7 Label9 / Label25 Label21 / Heizbilanz JahrBilanz / Label13 Label11 / Label12 Label10
   / NutzungsgradMonat NutzungsgradJahr / Label15 Label16 Label17 / Label1 / Label18 / Label6 qtrs_anz
@@ -128,9 +129,7 @@ A_Sankey: Label1 / Sankey / Label2 / Sankey_Kühlen
 A_Uebersicht: Temperaturen / Monatsbutton1 Monatsbutton2 Monatsbutton3 Monatsbutton4 Monatsbutton5
   Monatsbutton6 Monatsbutton7 AktiverMonat Monatsbutton8 Monatsbutton9 Monatsbutton10 Monatsbutton11
   Monatsbutton12 / Label9 Label1 / Monatsbilanz JahrBilanz / Label32 Label01 Label02 / UeberGrafik UeberJahr
-A_Uebersicht.AktiverMonat: AktiverMonat1
 Drucken: Frame1 / Frame2 / DruckerNameUnten Command1 Command2
-Drucken.Frame1: DruckerName Command3
 Drucken.Frame2: Druckausgabe1 / Druckausgabe2 / Druckausgabe3 / Druckausgabe4 / Druckausgabe5 /
   Druckausgabe6 / Druckausgabe7
 Druckerwahl: Frame1 / Hinweis OK_Button Abbrechen
@@ -138,7 +137,6 @@ E_Daemmung: Frame3 / Frame1 / liste2 / Frame2 / Frame4 / Frame5
 E_Daemmung.Frame1: Label1 ft_sb = = / Label2 kt_sb = =
 E_Daemmung.Frame2: Label15 ugd / Label16 kk_sb = =
 E_Daemmung.Frame3: Label3 kwn_sb = = / Label14 kws_sb = = / Label29 kwo_sb = = / Label32 kww_sb = =
-E_Daemmung.Frame4: absfaktor_sb =
 E_Daemmung.Frame5: Waermebruecken_opt1 / Waermebruecken_opt2 / Label4 / Waermebruecken_opt3 / Label5
 E_Daemmung.liste2: Label18 ogd_Dach / Label19 kd_sb = = / cbk_hDach
 E_Energie: Label1 / Label_System Command1 / Label3 / Label_Übergabe Command2 / Label2 / Label_Energieträger
@@ -151,28 +149,19 @@ E_Fenster: Frame10 / Option10 / Option11 / Command_HR0 Command_HR1 Command_HR2 C
   Frame6 Frame7 / Frame5 Frame8
 E_Fenster.Frame10: Label16 / Label64 fn_sb = = f_nf_anz = / Label58 fs_sb = = f_sf_anz = / Label49 fo_sb = =
   f_of_anz = / Label41 fw_sb = = f_wf_anz =
-E_Fenster.Frame5: f_vf_anz =
-E_Fenster.Frame6: f_gf_anz =
-E_Fenster.Frame7: kf_anz =
-E_Fenster.Frame8: gfm_anz
 E_Fenster.Frame_Sued: fensters_typ / Label_kfgs = = Einheit_kfg / Label_kfrs = = Einheit_kfr / Label_gfs = =
   / Label_ras = = Einheit_ra / Label_verschs = = Einheit_versch
 E_Gebaeude: Frame3 / Frame4 / Frame2 / Frame7 / Frame5 Frame6 / Frame1 Frame_Traegheit / Frame9
 E_Gebaeude.Frame1: awn_cb / aww_cb awo_cb / aws_cb
 E_Gebaeude.Frame2: intg_sb = Bezeichnung19 intg_anz2 Label12
-E_Gebaeude.Frame3: Troom_sb = =
 E_Gebaeude.Frame4: Label1 lw_sb = = / Label5 infiltration_sb = = / Label4 WRG_Sb = =
-E_Gebaeude.Frame5: Innenwandart
-E_Gebaeude.Frame6: Aussenwandart
 E_Gebaeude.Frame7: Label19 / Tueber_sb = =
 E_Gebaeude.Frame9: Label9 / Klimaeffizienz_sb = Label8 / Label10
 E_Gebaeude.Frame_Traegheit: Frame8 / Label7 / Traegheit cges_anz = / Cwirk_anz =
 E_Geometrie: Label4 / Label1 / hd_anz = / Picture3 / ag_sb = / Label22 / h_sb / h_anz / b_anz l_anz / b_sb
   l_sb / Check_Dachgeschoss / Frame4 / Frame3 / Frame2 Frame5
-E_Geometrie.AV_Picture: av_anz
 E_Geometrie.Frame2: Label29 / Label24 Picture1 Label27 / Label28 / Label31 orient_anz Label30 / orient_sb /
   Label23
-E_Geometrie.Frame3: Option_Dachfirst1 / Option_Dachfirst2
 E_Geometrie.Frame4: label37 f_gd_anz = / Label13 f_nutz_anz = / Label5 v_geb_anz = / Label18 v_luft_anz =
 E_Geometrie.Frame5: Label36 / Label11 AV_Tetraeder / AV_Picture / Label34 AV_Wuerfel / Label35 AV_Kugel
 E_Geometrie.Picture3: Label9 / dachfläche_anz Label6 / Giebel_anz / Label12 / Label15 / f_wfa_anz = /
@@ -184,11 +173,9 @@ E_Klima.Frame_Klimadaten: anz_MittelJahrText anz_MittelJahrTemp = / anz_MinMonat
 E_Zoom_Klima: Picture1 / Klimaregionwahl2 MausRegion Command1 Command2
 Germany: Option1 Option2 Option3 / Frame_Region / Frame_Karte / Frame_Klimadaten
 Germany.Frame_Karte: Frame_plz / Picture1
-Germany.Frame_plz: plz / PLZsuchen
 Temperatures: Temperaturverlauf1 / Seite1 AktSeite Seite2 Seite3 Seite4 Seite5 Seite6 Seite7 Seite8 Seite9
   Seite10 Seite11 Seite12 Command_Speichern Command_Schliessen
-World.Frame_Karte: picture3f / HScroll1 / MausRegion Image1
-World.picture3f: Picture3)";
+World.Frame_Karte: picture3f / HScroll1 / MausRegion Image1)";
 
 /// The panels of that text.
 std::map<std::string, std::string> beschrieben() {

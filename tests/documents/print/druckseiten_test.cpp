@@ -74,18 +74,6 @@ TEST(Druckseiten, JedeZeileZeigtIhrenWertDesDatensatzes) {
     }
 }
 
-TEST(Druckseiten, AbschnitteStehenAb) {
-    const Unterlagen u("d");
-    Testdrucker drucker;
-    Ausdrucken(drucker, u.quelle, {true}, "");
-    std::map<std::string, double> oben;
-    for (const auto& z : drucker.auf_seite(1, Druckzeichen::Art::text))
-        oben[z.text] = z.y1;
-    EXPECT_EQ(oben["Geometrie:"], 50);
-    EXPECT_GT(oben["Dämmung:"] - oben["A/V - Verhältnis"],
-              oben["A/V - Verhältnis"] - oben["Luftvolumen"] + 1);
-}
-
 TEST(Druckseiten, DachUndNachbarnNachDerWahl) {
     Unterlagen u("e");
     u.p->Option_Dachfirst = 2;

@@ -82,15 +82,6 @@ TEST(Report, OhneHeizwaermebedarfStehtNull) {
     EXPECT_EQ(zeilen.at(zeilen.size() - 2), "M12|0.0|0.0|0.0|0.0|0.0|0.0");
 }
 
-TEST(Report, SeitenFolgenInEinemDokument) {
-    const std::string alle = report_schreiben(Unterlagen("d").quelle, 0);
-    const auto absaetze = rtf_lesen(alle);
-    EXPECT_EQ(std::count_if(absaetze.begin(), absaetze.end(), [](const Absatz& a) { return a.neue_seite; }),
-              6);
-    EXPECT_EQ(std::count(alle.begin(), alle.end(), '{'), std::count(alle.begin(), alle.end(), '}'));
-    EXPECT_EQ(alle.find(R"({\rtf1)", 1), std::string::npos);
-}
-
 TEST(Report, DachUndNachbarnNachDerWahl) {
     Unterlagen u("e");
     u.p->Option_Dachfirst = 2;
