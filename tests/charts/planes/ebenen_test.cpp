@@ -279,22 +279,6 @@ TEST_F(Tooltiptest, ErscheintWennDerZeigerAufEinemBalkenRuht) {
     EXPECT_FALSE(sichtbar());
 }
 
-TEST_F(Tooltiptest, NimmtPlatzFuerSeinenTextUndBleibtNichtStehen) {
-    ruhe({600, 400});
-    tip.platzbedarf = [] { return Groesse{260, 70}; };
-    e.p->Monat(3).Stunden_kalt = 100;
-    tip.erneuern();
-    EXPECT_EQ(tip.Frame_ToolTip.lage(), (Rechteck{143, 330, 260, 70}));
-    EXPECT_EQ(tip.Label_Tooltip.text(), u.tipp_uebergrafik(3)) << "recalculated under the pointer";
-    for (const auto& fort :
-         std::vector<std::function<void()>>{[&] { u.aktiviert(); }, [&] { bild.Cls(), tip.erneuern(); }}) {
-        ruhe({600, 400});
-        ASSERT_TRUE(sichtbar());
-        fort();
-        EXPECT_FALSE(sichtbar());
-    }
-}
-
 TEST(Tooltip, SeineArtBestimmtPlatzHoeheUndVerschwinden) {
     Probeebenen e;
     Tooltip tooltip(e.plattform, "Ebene",

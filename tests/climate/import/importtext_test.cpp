@@ -141,8 +141,8 @@ TEST(Importkopf, EnergyPlusNenntAllesInDerErstenZeile) {
     for (const auto& [text, ort] :
          {Fall{"LOCATION, S\xE3o Paulo ,SP,BRA,X,1,-23.62,-46.65,-3.0,803.0\r\n",
                {"São Paulo", "BRA", "23.62", true, "46.65", true, "3.0", true}},
-          Fall{R"(LOCATION,"Bern ""Zoo"", Ost","BE, x","CHE","IWEC, 2",066310,"46.92","-7.50",1.0,565.0)",
-               {"Bern \"Zoo\", Ost", "CHE", "46.92", false, "7.50", true, "1.0", false}},
+          Fall{R"(LOCATION,"""Bern"" Zoo, Ost","BE, x","CHE","IWEC, 2",066310,"46.92","-7.50",1.0,565.0)",
+               {"\"Bern\" Zoo, Ost", "CHE", "46.92", false, "7.50", true, "1.0", false}},
           Fall{"LOCATION, - ,-,UNKNOWN,ECMWF,unknown,45,8,5.5,250",
                {"", "", "45", false, "8", false, "5.5", false}},
           Fall{"LOCATION,Kurz", {"Kurz", "", "", false, "", false, "", false}}}) {

@@ -17,14 +17,18 @@ using test::am_naechsten_dialog;
 class HilfefensterTest : public test::Programmprobe {
   protected:
     HilfefensterTest() {
-        for (const char* datei :
-             {"Velmaris_d.chm", "Velmaris_d.chm.sha256", "Velmaris_e.chm", "Velmaris_e.chm.sha256"})
-            std::filesystem::copy(std::filesystem::path(VELMARIS_PROGRAMMORDNER) / datei, ordner / datei);
+        for (const std::string datei : {"Velmaris_d.chm", "Velmaris_e.chm"})
+            for (const std::string& name : {datei, datei + ".sha256"})
+                std::filesystem::copy(std::filesystem::path(VELMARIS_PROGRAMMORDNER) / name, ordner / name);
     }
 
     Hilfefenster& fenster() { return programm->hilfefenster(); }
-    QTextBrowser& seite() { return *fenster().findChild<QTextBrowser*>(QStringLiteral("Seite")); }
-    QAction& eintrag(const char* name) { return *fenster().findChild<QAction*>(QLatin1String(name)); }
+    template <typename Art>
+    Art& teil(const char* name) {
+        return *fenster().findChild<Art*>(QLatin1String(name));
+    }
+    QTextBrowser& seite() { return teil<QTextBrowser>("Seite"); }
+    QAction& eintrag(const char* name) { return teil<QAction>(name); }
 
     /// Path of the page on show, empty while the window is closed.
     std::string gezeigt() {
@@ -118,8 +122,8 @@ TEST_F(HilfefensterTest, SuchtAufDerSeite) {
     menue("mnuQuestHilfe").trigger();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster()));
     folge("chm:/Dateien.html");
-    auto& feld = *fenster().findChild<QLineEdit*>(QStringLiteral("Suchtext"));
-    const auto& meldung = *fenster().findChild<QLabel*>(QStringLiteral("Suchmeldung"));
+    auto& feld = teil<QLineEdit>("Suchtext");
+    const auto& meldung = teil<QLabel>("Suchmeldung");
     const auto stelle = [&] { return seite().textCursor().selectionStart(); };
     EXPECT_FALSE(feld.isVisible());
     taste(Qt::Key_F, Qt::ControlModifier);
@@ -137,7 +141,7 @@ TEST_F(HilfefensterTest, SuchtAufDerSeite) {
         taste(i % 2 == 0 ? Qt::Key_Return : Qt::Key_F3);
     const int erste = stelle();
     for (int i = 1, davor = erste; i < zahl; ++i, davor = stelle()) {
-        klicke(*fenster().findChild<QAbstractButton*>(QStringLiteral("SucheVor")));
+        klicke(teil<QAbstractButton>("SucheVor"));
         EXPECT_GT(stelle(), davor);
         EXPECT_TRUE(seite().viewport()->rect().contains(seite().cursorRect())) << i;
     }
@@ -186,10 +190,9 @@ TEST_F(HilfefensterTest, FehlendeUndBeschaedigteDateienWerdenGenannt) {
           {ganz, zeile + zeile, beschaedigt},
           {ganz, std::nullopt, ohne_summe},
           {std::nullopt, zeile, "The help file was not found."}}) {
-        for (const auto& [ort, inhalt] : {std::pair(datei, bytes), std::pair(summe, pruefzeile)}) {
-            std::filesystem::remove(ort);
-            if (inhalt) std::ofstream(ort, std::ios::binary) << *inhalt;
-        }
+        for (const auto& [ort, inhalt] : {std::pair(datei, bytes), std::pair(summe, pruefzeile)})
+            inhalt ? void(ordner.schreibe(ort.filename().string(), *inhalt))
+                   : void(std::filesystem::remove(ort));
         EXPECT_EQ(meldung_bei([&] { f1(such("E_Geometrie", "l_sb")); }), datei.string() + ": " + grund);
         EXPECT_FALSE(fenster().isVisible());
     }

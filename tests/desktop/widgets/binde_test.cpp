@@ -57,15 +57,15 @@ TEST_F(Binde, FehlerImHandlerKommtAnUndDieBedienungGehtWeiter) {
     Knopf knopf("Command1", "Los");
     QPushButton schalter(&fenster);
     binder.binde(schalter, knopf);
-    knopf.gedrueckt = [] { throw Laufzeitfehler({"Überlauf", "overflow"}, "h"); };
-    schalter.click();
-    knopf.gedrueckt = [] { throw std::runtime_error("unforeseen"); };
-    schalter.click();
-    knopf.gedrueckt = [] { throw std::bad_alloc(); };
-    schalter.click();
+    const Laufzeitfehler ueberlauf({"Überlauf", "overflow"}, "h");
+    for (const std::function<void()>& tu : std::initializer_list<std::function<void()>>{
+             [&] { throw Laufzeitfehler(ueberlauf); }, [] { throw std::runtime_error("unforeseen"); },
+             [] { throw std::bad_alloc(); }}) {
+        knopf.gedrueckt = tu;
+        schalter.click();
+    }
     ASSERT_EQ(fehlertexte.size(), 3U);
-    EXPECT_EQ(fehlertexte[0], Laufzeitfehler({"Überlauf", "overflow"}, "h").text("d"));
-    EXPECT_EQ(fehlertexte[1], "unforeseen");
+    EXPECT_EQ(fehlertexte[0] + fehlertexte[1], ueberlauf.text("d") + "unforeseen");
     EXPECT_NE(fehlertexte[2].find("Speicher"), std::string::npos) << fehlertexte[2];
 }
 

@@ -84,31 +84,5 @@ TEST(AReport, SpeichertAlleSeitenOderAlleStunden) {
     EXPECT_TRUE(jahr.ends_with("\r\n"));
 }
 
-TEST(AReport, FehlschlagStehtImFensterBisEtwasGelingt) {
-    for (const bool report : {true, false}) {
-        Fenster f;
-        A_Report& a = f.report;
-        a.anordnen(900, 500);
-        report ? a.report_zeigen() : a.temperaturverlauf_zeigen();
-        const Anzeige& text = report ? a.Report1 : a.Temperaturverlauf1;
-        const std::string vorher = text.text();
-        f.speichern("fehlt/datei.x");
-        EXPECT_TRUE(a.Hinweis.sichtbar());
-        EXPECT_THAT(a.Hinweis.text(), testing::ContainsRegex("^Es wurde nichts gespeichert: "
-                                                             ".*fehlt/datei.x: .*den Ordner gibt es nicht"));
-        EXPECT_EQ(text.text(), vorher);
-        EXPECT_EQ(*a.Hinweis.lage(), (Rechteck{8, 401, 884, 58}));
-        EXPECT_EQ(text.lage()->hoehe, 385);
-        a.Command_Speichern.druecke();
-        EXPECT_TRUE(a.Hinweis.sichtbar()) << "cancelled";
-        a.Seite(2).druecke();
-        EXPECT_FALSE(a.Hinweis.sichtbar());
-        EXPECT_EQ(text.lage()->hoehe, 451);
-        f.speichern("fehlt/datei.x");
-        f.speichern("gut");
-        EXPECT_FALSE(a.Hinweis.sichtbar());
-    }
-}
-
 }  // namespace
 }  // namespace velmaris

@@ -65,25 +65,6 @@ TEST(Drucken, DrucktWasGewaehltIstUndSchliesst) {
     EXPECT_EQ(meldungen.size(), 2U);
 }
 
-TEST(Drucken, FragtNachDerPdfDatei) {
-    Dialog d;
-    d.u.p->Datei = "C:\\Häuser\\Müller.vel";
-    d.plattform.druckername = "";
-    d.drucken.oeffnen();
-    d.drucken.Druckausgabe(2).setze(1);
-    d.drucken.Command1.druecke();
-    ASSERT_EQ(d.plattform.dialoge.size(), 1U);
-    EXPECT_EQ(d.plattform.dialoge[0].dateiname, "Müller.pdf");
-    EXPECT_EQ(d.plattform.dialoge[0].filter, "PDF-Dateien (*.pdf)|*.pdf");
-    EXPECT_TRUE(d.ziele.empty() && d.drucken.fenster.sichtbar()) << "cancelled";
-    d.plattform.dateien = {"/tmp/blatt"};
-    d.drucken.Command1.druecke();
-    ASSERT_EQ(d.ziele.size(), 1U);
-    EXPECT_EQ(d.ziele[0].pdf, "/tmp/blatt.pdf");
-    EXPECT_EQ(d.ziele[0].drucker, "");
-    EXPECT_EQ(d.ziele[0].titel, "Müller.vel");
-}
-
 TEST(Drucken, DruckerWerdenGewaehltUndPdfImmerAngeboten) {
     Dialog d;
     Druckerwahl& wahl = d.drucken.wahl;
