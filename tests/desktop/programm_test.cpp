@@ -64,15 +64,13 @@ TEST_F(ProgrammTest, SpeichertOeffnetUndNimmtEineFallengelasseneDatei) {
 
     menue("mnuFileNeu").trigger();
     QMimeData ding;
-    const auto ziehe = [&](const std::filesystem::path& datei) {
-        ding.setUrls({QUrl::fromLocalFile(QString::fromStdString(datei.string()))});
+    for (const char* datei : {"bild.png", "mein haus.vel"}) {
+        ding.setUrls({QUrl::fromLocalFile(QString::fromStdString((ordner / datei).string()))});
         QDragEnterEvent kommt(QPoint(9, 9), Qt::CopyAction, &ding, Qt::LeftButton, Qt::NoModifier);
         kommt.ignore();
         QApplication::sendEvent(&programm->fenster(), &kommt);
-        return kommt.isAccepted();
-    };
-    EXPECT_FALSE(ziehe("/tmp/bild.png"));
-    EXPECT_TRUE(ziehe(ordner / "mein haus.vel"));
+        EXPECT_EQ(kommt.isAccepted(), *datei == 'm') << datei;
+    }
     QDropEvent faellt(QPointF(9, 9), Qt::CopyAction, &ding, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&programm->fenster(), &faellt);
     EXPECT_EQ(titel(), "Velmaris - MEIN HAUS.VEL");
@@ -80,7 +78,6 @@ TEST_F(ProgrammTest, SpeichertOeffnetUndNimmtEineFallengelasseneDatei) {
     p().Geaendert = 1;
     antworte(QMessageBox::Cancel);
     EXPECT_FALSE(programm->fenster().close());
-    EXPECT_TRUE(programm->fenster().isVisible());
     antworte(QMessageBox::No);
     QTimer::singleShot(0, &programm->fenster(), &QWidget::close);
     EXPECT_EQ(laufe_bis_zum_ende(), 0) << "ends without saving";

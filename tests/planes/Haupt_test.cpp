@@ -3,9 +3,7 @@
 #include "tests/testprogramm.h"
 
 #include <gtest/gtest.h>
-#include <memory>
 #include <set>
-#include <utility>
 #include <vector>
 
 namespace velmaris {

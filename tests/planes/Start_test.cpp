@@ -1,7 +1,6 @@
 #include "planes/Start.h"
 
 #include "documents/print/Ausdrucken.h"
-#include "documents/report/report.h"
 #include "planes/dokumentquelle.h"
 #include "tests/testdrucker.h"
 #include "tests/testprogramm.h"

@@ -6,7 +6,6 @@
 #include "charts/planes/A_Zoom.h"
 #include "tests/charts/probe.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <utility>

@@ -19,7 +19,6 @@ using test::Quellbau;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::StartsWith;
 
 class Klimaimport : public testing::Test {

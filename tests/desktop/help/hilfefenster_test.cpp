@@ -3,7 +3,6 @@
 #include "desktop/widgets/nebenfenster.h"
 #include "tests/desktop/programmprobe.h"
 
-#include <QTextBlock>
 #include <QTextBrowser>
 #include <QWindow>
 #include <fstream>

@@ -4,7 +4,6 @@
 
 #include <QFontDatabase>
 #include <algorithm>
-#include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
 #include <limits>

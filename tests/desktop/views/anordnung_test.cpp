@@ -2,7 +2,6 @@
 #include "desktop/widgets/bildflaeche.h"
 #include "tests/desktop/programmprobe.h"
 
-#include <QGroupBox>
 #include <QRegularExpression>
 #include <algorithm>
 #include <map>

@@ -6,7 +6,6 @@
 #include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <map>
 #include <sstream>
 #include <utility>
 

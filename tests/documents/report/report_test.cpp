@@ -3,7 +3,6 @@
 #include "documents/report/rtf_lesen.h"
 #include "tests/documents/unterlagen.h"
 
-#include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sstream>
