@@ -99,24 +99,28 @@ TEST_F(BildflaecheTest, ReichtZeigerInBildpixelnWeiter) {
 
 TEST_F(BildflaecheTest, FehlendesBildUndFehlerBeimZeichnenWerdenEinmalGemeldet) {
     const Testordner ordner;
-    const std::filesystem::path datei = ordner / "häuser.bmp";
-    feld.lade(datei);
-    bild.repaint();
-    bild.repaint();
+    feld.lade(ordner / "haus9.bmp");
+    for (int i = 0; i < 3; ++i) {
+        bild.repaint();
+        abwarten();
+    }
     EXPECT_EQ(bild.flaeche().lies_punkt(15, 15), farben::rot) << "the drawing goes on without the picture";
+
     QImage karte(60, 40, QImage::Format_RGB32);
     karte.fill(qRgb(3, 60, 200));
+    const std::filesystem::path datei = ordner / "häuser.bmp";
     ASSERT_TRUE(karte.save(qtext(pfadtext(datei)), "BMP"));
     feld.lade(datei);
     EXPECT_EQ(bild.flaeche().lies_punkt(0, 0), (Farbe{3, 60, 200}));
     feld.lade({});
     EXPECT_EQ(bild.flaeche().lies_punkt(0, 0), farben::weiss);
+
     feld.zeichnen = [](Zeichenflaeche&) { throw Laufzeitfehler({"Teilung durch null", "division by zero"}); };
     feld.neu_zeichnen();
-    bild.repaint();
-    bild.repaint();
+    for (int i = 0; i < 3; ++i)
+        bild.repaint();
     ASSERT_EQ(fehlertexte.size(), 2U);
-    EXPECT_NE(fehlertexte[0].find("häuser.bmp"), std::string::npos);
+    EXPECT_NE(fehlertexte[0].find("haus9.bmp"), std::string::npos);
     EXPECT_EQ(fehlertexte[1], "division by zero");
 }
 
