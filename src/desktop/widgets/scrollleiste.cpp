@@ -1,5 +1,7 @@
 #include "desktop/widgets/scrollleiste.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QWheelEvent>
 
 namespace velmaris {
@@ -14,6 +16,7 @@ Scrollleiste::Scrollleiste(Qt::Orientation richtung, QWidget* eltern) : QScrollB
 void Scrollleiste::schritte(int klein, int gross) {
     setSingleStep(klein);
     setPageStep(gross);
+    klein_ = klein;
     gross_ = gross;
 }
 
@@ -23,6 +26,35 @@ void Scrollleiste::grosser_schritt(int aktion) {
     if (aktion == SliderPageStepSub) setSliderPosition(value() - gross_);
 }
 
+void Scrollleiste::keyPressEvent(QKeyEvent* ereignis) {
+    if (ereignis->key() == Qt::Key_Escape && isSliderDown()) {
+        zug_abbrechen();
+        return;
+    }
+    setSingleStep(ereignis->modifiers().testFlag(Qt::ShiftModifier) ? 1 : klein_);
+    QScrollBar::keyPressEvent(ereignis);
+    setSingleStep(klein_);
+}
+
+/// An arrow that stays pressed goes on with the step that it began with.
+void Scrollleiste::mousePressEvent(QMouseEvent* ereignis) {
+    if (!isSliderDown()) vor_dem_zug_ = value();
+    setSingleStep(ereignis->modifiers().testFlag(Qt::ShiftModifier) ? 1 : klein_);
+    QScrollBar::mousePressEvent(ereignis);
+}
+
+void Scrollleiste::mouseReleaseEvent(QMouseEvent* ereignis) {
+    QScrollBar::mouseReleaseEvent(ereignis);
+    setSingleStep(klein_);
+}
+
+/// The base class ends a drag when the button is let go, and takes no notice of the button after that.
+void Scrollleiste::zug_abbrechen() {
+    QMouseEvent los(QEvent::MouseButtonRelease, {}, {}, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    mouseReleaseEvent(&los);
+    setValue(vor_dem_zug_);
+}
+
 void Scrollleiste::wheelEvent(QWheelEvent* ereignis) {
     constexpr int raste = QWheelEvent::DefaultDeltasPerStep;
     setFocus(Qt::MouseFocusReason);
@@ -30,7 +62,8 @@ void Scrollleiste::wheelEvent(QWheelEvent* ereignis) {
     raddrehung_ += drehung.y() != 0 ? drehung.y() : -drehung.x();
     const int rasten = raddrehung_ / raste;
     raddrehung_ -= rasten * raste;
-    setValue(value() + (invertedControls() ? -rasten : rasten) * singleStep());
+    const int schritt = ereignis->modifiers().testFlag(Qt::ControlModifier) ? 1 : klein_;
+    setValue(value() + (invertedControls() ? -rasten : rasten) * schritt);
     ereignis->accept();
 }
 

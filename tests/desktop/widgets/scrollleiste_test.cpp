@@ -16,22 +16,22 @@ using test::Testfenster;
 
 using Zug = std::function<void(Scrollleiste&)>;
 
-Zug taste(Qt::Key taste) {
-    return [taste](Scrollleiste& leiste) { QTest::keyClick(&leiste, taste); };
+Zug taste(Qt::Key taste, Qt::KeyboardModifiers dazu = {}) {
+    return [=](Scrollleiste& leiste) { QTest::keyClick(&leiste, taste, dazu); };
 }
 
-Zug klick(QStyle::SubControl stueck) {
-    return [stueck](Scrollleiste& leiste) {
-        QTest::mouseClick(&leiste, Qt::LeftButton, {}, test::teil(leiste, stueck));
+Zug klick(QStyle::SubControl stueck, Qt::KeyboardModifiers dazu = {}) {
+    return [=](Scrollleiste& leiste) {
+        QTest::mouseClick(&leiste, Qt::LeftButton, dazu, test::teil(leiste, stueck));
     };
 }
 
 /// Turns the wheel by notches, halves of which count together; away from the user if positive.
-Zug rasten(int zahl) {
-    return [zahl](Scrollleiste& leiste) {
+Zug rasten(int zahl, Qt::KeyboardModifiers dazu = {}) {
+    return [=](Scrollleiste& leiste) {
         for (int i = 0; i < 2 * std::abs(zahl); ++i) {
             QWheelEvent halb({5, 5}, leiste.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, zahl < 0 ? -60 : 60),
-                             {}, {}, Qt::NoScrollPhase, false);
+                             {}, dazu, Qt::NoScrollPhase, false);
             QApplication::sendEvent(&leiste, &halb);
         }
     };
@@ -75,6 +75,57 @@ TEST(Scrollleiste, GehtMitMausRadUndTasten) {
     pruefe({Qt::Vertical, -500, -20, 2, -20, -100}, hoehe);
     // a large step less than the small one
     pruefe({Qt::Horizontal, -45, 45, 5, 1, 0}, {{weiter, 5}, {seite, 1}, {rasten(-2), -10}});
+}
+
+/// With Shift and Ctrl by one position; what has no such meaning keeps its step, and so do the next moves.
+TEST(Scrollleiste, GehtUmEineStellung) {
+    const auto umschalt = Qt::ShiftModifier, strg = Qt::ControlModifier;
+    const auto hin = QStyle::SC_ScrollBarAddLine, zurueck = QStyle::SC_ScrollBarSubLine;
+    const auto danach = [](const Zug& eins, const Zug& zwei) {
+        return [=](Scrollleiste& leiste) { eins(leiste), zwei(leiste); };
+    };
+    const std::vector<std::pair<Zug, int>> laenge{
+        {klick(hin, umschalt), 101},
+        {klick(zurueck, umschalt), 99},
+        {taste(Qt::Key_Right, umschalt), 101},
+        {taste(Qt::Key_Left, umschalt), 99},
+        {taste(Qt::Key_Up, umschalt), 101},
+        {rasten(1, strg), 101},
+        {rasten(-3, strg), 97},
+        {rasten(1, umschalt), 110},
+        {klick(QStyle::SC_ScrollBarAddPage, umschalt), 120},
+        {taste(Qt::Key_PageDown, umschalt), 80},
+        {taste(Qt::Key_Home, umschalt), 20},
+        {danach(klick(hin, umschalt), klick(hin)), 111},
+        {danach(taste(Qt::Key_Right, umschalt), taste(Qt::Key_Right)), 111}};
+    pruefe({Qt::Horizontal, 20, 500, 10, 20, 100}, laenge);
+    const std::vector<std::pair<Zug, int>> hoehe{{klick(zurueck, umschalt), -101},
+                                                 {klick(QStyle::SC_ScrollBarSubPage, umschalt), -80},
+                                                 {taste(Qt::Key_Up, umschalt), -101},
+                                                 {taste(Qt::Key_Down, umschalt), -99},
+                                                 {rasten(2, strg), -102}};
+    pruefe({Qt::Vertical, -500, -20, 2, -20, -100}, hoehe);
+}
+
+/// Escape gives back the position from before the drag, and the pointer has let go of the thumb.
+TEST(Scrollleiste, EscBrichtDenZugAb) {
+    const auto ziehe = [](Scrollleiste& leiste, int weg) {
+        const QPoint griff = test::teil(leiste, QStyle::SC_ScrollBarSlider);
+        QTest::mousePress(&leiste, Qt::LeftButton, {}, griff);
+        QTest::mouseMove(&leiste, griff + QPoint(weg, 0));
+        EXPECT_TRUE(leiste.isSliderDown() && leiste.value() != 100);
+        return griff + QPoint(weg + 20, 0);
+    };
+    pruefe({Qt::Horizontal, 20, 500, 10, 20, 100}, {{[&](Scrollleiste& leiste) {
+                                                         const QPoint weiter = ziehe(leiste, 30);
+                                                         QTest::keyClick(&leiste, Qt::Key_Escape);
+                                                         EXPECT_EQ(leiste.value(), 100);
+                                                         EXPECT_FALSE(leiste.isSliderDown());
+                                                         QTest::mouseMove(&leiste, weiter);
+                                                         QTest::mouseRelease(&leiste, Qt::LeftButton, {},
+                                                                             weiter);
+                                                     },
+                                                     100}});
 }
 
 /// Both arrows point away from the thumb, which is drawn only where it can be moved.
