@@ -6,6 +6,7 @@
 
 #include <QPlainTextEdit>
 #include <QProcess>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTextEdit>
 
@@ -45,6 +46,7 @@ class DokumenteTest : public test::Programmprobe {
 
 TEST_F(DokumenteTest, ReportStehtFormatiertAufDemSchirm) {
     QWidget& fenster = oeffne("d", "mnuBerechnungsergebnisseExportieren", "A_Report");
+    EXPECT_EQ(fenster.height(), std::min(760, fenster.screen()->availableSize().height() - 80));
     auto& feld = such<QTextEdit>("A_Report", "Report1");
     const auto finde = [&](const char* wort) { return feld.document()->find(QString::fromUtf8(wort)); };
     const QTextCharFormat kopf = finde("VELM").charFormat(), zeile = finde("Luftvolumen").charFormat();

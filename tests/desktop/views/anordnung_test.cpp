@@ -79,28 +79,24 @@ class AnordnungTest : public test::Programmprobe {
   protected:
     /// Shows each window of the program, the climate plane for each scope, and looks at it.
     void fuer_jedes_fenster(const std::function<void(const std::string&, QWidget&)>& tu) {
-        struct Weg {
-            const char* titel;
-            const Feld& feld;
-            std::function<void()> zeige;
-        };
         fuer_jede_ebene([&](QWidget& ebene) { tu(utf8(ebene.objectName()), ebene); });
         Haupt& h = haupt();
         h.e_menue.klicke("Klima");
-        for (const Weg& weg :
-             {Weg{"Germany", h.e_klima.ebene,
+        using Weg = std::tuple<std::string, const Feld*, std::function<void()>>;
+        for (const auto& [titel, feld, zeige] :
+             {Weg{"Germany", &h.e_klima.ebene,
                   [&] { h.e_klima.Option.setze(nummer(Klimabereich::deutschland)); }},
-              {"World", h.e_klima.ebene, [&] { h.e_klima.Option.setze(nummer(Klimabereich::welt)); }},
-              {"E_Zoom_Klima", h.e_klima.zoom.ebene, [&] { h.e_klima.zoom.ebene.zeige(true); }},
-              {"A_Zoom", h.a_zoom.ebene, [&] { h.a_zoom.oeffnen(); }},
-              {"A_Report", h.a_report.fenster, [&] { h.a_report.report_zeigen(); }},
-              {"Temperatures", h.a_report.fenster, [&] { h.a_report.temperaturverlauf_zeigen(); }},
-              {"Drucken", h.drucken.fenster, [&] { h.drucken.oeffnen(); }},
-              {"Druckerwahl", h.drucken.wahl.fenster, [&] { h.drucken.wahl.oeffnen(); }}}) {
-            weg.zeige();
+              {"World", &h.e_klima.ebene, [&] { h.e_klima.Option.setze(nummer(Klimabereich::welt)); }},
+              {"E_Zoom_Klima", &h.e_klima.zoom.ebene, [&] { h.e_klima.zoom.ebene.zeige(true); }},
+              {"A_Zoom", &h.a_zoom.ebene, [&] { h.a_zoom.oeffnen(); }},
+              {"A_Report", &h.a_report.fenster, [&] { h.a_report.report_zeigen(); }},
+              {"Temperatures", &h.a_report.fenster, [&] { h.a_report.temperaturverlauf_zeigen(); }},
+              {"Drucken", &h.drucken.fenster, [&] { h.drucken.oeffnen(); }},
+              {"Druckerwahl", &h.drucken.wahl.fenster, [&] { h.drucken.wahl.oeffnen(); }}}) {
+            zeige();
             QApplication::processEvents();
-            QWidget& fenster = such("Haupt", weg.feld.name.c_str());
-            tu(weg.titel, fenster);
+            QWidget& fenster = such("Haupt", feld->name.c_str());
+            tu(titel, fenster);
             if (fenster.isWindow()) fenster.close();
         }
     }

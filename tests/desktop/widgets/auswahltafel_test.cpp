@@ -79,39 +79,34 @@ TEST_F(AuswahltafelTest, MausOeffnetWaehltUndSchliesst) {
     EXPECT_EQ(fokus(), "Command1");
 }
 
-/// A button, keys pressed from there, the choice after them ("" while the list is open) and the focus then.
-struct Tastenfall {
-    const char* knopf;
-    std::vector<QKeyCombination> tasten;
-    const char* wahl;
-    const char* fokus;
-};
-
 TEST_F(AuswahltafelTest, TastenOeffnenRueckenWaehlenUndSchliessen) {
     beginne();
     const QKeyCombination f4 = Qt::Key_F4, alt_ab = Qt::ALT | Qt::Key_Down, alt_auf = Qt::ALT | Qt::Key_Up;
     const QKeyCombination ab = Qt::Key_Down, auf = Qt::Key_Up, ende = Qt::Key_End, erste = Qt::Key_Home;
-    for (const Tastenfall& fall : {Tastenfall{"Command3", {Qt::Key_Space}, "", "Label_Auswahl3"},
-                                   {"Command3", {alt_ab, alt_auf}, "623", "Command3"},
-                                   {"Command3", {f4, Qt::Key_Escape}, "623", "Command3"},
-                                   {"Command2", {f4, Qt::Key_Tab}, "623", "Command3"},
-                                   {"Command3", {f4, auf}, "", "Label_Auswahl2"},
-                                   {"Command1", {f4, Qt::Key_PageDown}, "", "Label_Auswahl9"},
-                                   {"Command2", {f4, erste, Qt::Key_Return}, "613", "Command2"},
-                                   {"Command3", {f4, ab, ab, Qt::Key_Space}, "624", "Command3"},
-                                   {"Command1", {f4, ende, auf, Qt::Key_Enter}, "811", "Command1"}}) {
+    // A button, keys pressed from there, the choice after them ("" while the list is open), the focus then.
+    using Fall = std::tuple<const char*, std::vector<QKeyCombination>, std::string, const char*>;
+    for (const auto& [von, tasten, gewaehlt, danach] :
+         {Fall{"Command3", {Qt::Key_Space}, "", "Label_Auswahl3"},
+          {"Command3", {alt_ab, alt_auf}, "623", "Command3"},
+          {"Command3", {f4, Qt::Key_Escape}, "623", "Command3"},
+          {"Command2", {f4, Qt::Key_Tab}, "623", "Command3"},
+          {"Command3", {f4, auf}, "", "Label_Auswahl2"},
+          {"Command1", {f4, Qt::Key_PageDown}, "", "Label_Auswahl9"},
+          {"Command2", {f4, erste, Qt::Key_Return}, "613", "Command2"},
+          {"Command3", {f4, ab, ab, Qt::Key_Space}, "624", "Command3"},
+          {"Command1", {f4, ende, auf, Qt::Key_Enter}, "811", "Command1"}}) {
         haupt().e_energie.Auswahl.schliesse();
         p().Heizsystem = 6;
         p().Uebergabe = 2;
         p().Energietraeger = 3;
         haupt().alles_berechnen();
-        knopf(fall.knopf).setFocus();
-        for (const QKeyCombination& eine : fall.tasten)
+        knopf(von).setFocus();
+        for (const QKeyCombination& eine : tasten)
             taste(eine.key(), eine.keyboardModifiers());
-        const std::string wo = fall.knopf + QKeySequence(fall.tasten.back()).toString().toStdString();
-        EXPECT_EQ(tafel().isVisible(), *fall.wahl == 0) << wo;
-        EXPECT_EQ(wahl(), *fall.wahl == 0 ? "623" : fall.wahl) << wo;
-        EXPECT_EQ(fokus(), fall.fokus) << wo;
+        const std::string wo = von + QKeySequence(tasten.back()).toString().toStdString();
+        EXPECT_EQ(tafel().isVisible(), gewaehlt.empty()) << wo;
+        EXPECT_EQ(wahl(), gewaehlt.empty() ? "623" : gewaehlt) << wo;
+        EXPECT_EQ(fokus(), danach) << wo;
     }
 }
 
