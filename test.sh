@@ -10,6 +10,6 @@ cmake --preset release -DVELMARIS_WERROR=ON
 cmake --build --preset release
 ctest --preset release -j "$(nproc)"
 command -v soffice >/dev/null || {
-    echo "Note: soffice is not installed, so no word processor has opened the saved report."
+    echo "Note: soffice is not installed, so no office has opened the saved report and the tables."
     echo "CI=true ./test.sh installs it first."
 }

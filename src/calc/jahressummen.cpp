@@ -1,5 +1,10 @@
 #include "calc/jahressummen.h"
 
+#include "calc/summe.h"
+
+#include <type_traits>
+#include <variant>
+
 namespace velmaris {
 namespace {
 
@@ -10,6 +15,18 @@ Kuehlenergie kuehlenergie_fuer(const Projekt& p, double kuehlbedarf) {
 }
 
 }  // namespace
+
+std::optional<float> jahreswert(const Projekt& p, const Monatszeile& groesse) {
+    if (groesse.jahr == Jahresart::keine) return std::nullopt;
+    const double teiler = groesse.jahr == Jahresart::mittel ? monate : 1;
+    float jahr = 0;
+    const auto aufnehmen = [&](const auto& wert) {
+        if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(wert)>>) dazu(jahr, wert / teiler);
+    };
+    for (const Monatswerte& monat : p.Monat)
+        std::visit([&](auto zeiger) { aufnehmen(monat.*zeiger); }, groesse.zeiger);
+    return jahr;
+}
 
 Betriebsstunden betriebsstunden(const Projekt& p, int m) {
     const Monatswerte& monat = p.Monat(m);

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "project/c_glob.h"
+#include "project/feldtabelle.h"
+
+#include <optional>
 
 namespace velmaris {
 
@@ -15,6 +18,10 @@ template <class Zahl>
         summe += monat.*feld;
     return summe;
 }
+
+/// The year's value of a quantity of the month record, in its unit: the sum, or the mean of the months,
+/// rounded at each step as the record's own year sums are. Nothing for a quantity that has none.
+[[nodiscard]] std::optional<float> jahreswert(const Projekt& p, const Monatszeile& groesse);
 
 /// Hours of the three operating classes.
 struct Betriebsstunden {

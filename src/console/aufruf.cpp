@@ -5,8 +5,11 @@
 #include "toolkit/text.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <filesystem>
+#include <string>
 #include <system_error>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -31,6 +34,12 @@ void beschreiben(CLI::App& app, Auftrag& auftrag, std::string& ordner) {
     app.add_option("--sprache", auftrag.sprache, "Sprache der Ausgabe: d oder e / language of the output")
         ->check(CLI::IsMember({"d", "e"}));
     CLI::Option* json = app.add_flag("--json", auftrag.json, "alle Werte als JSON / all values as JSON");
+    app.add_option(
+        "--csv", auftrag.csv,
+        "Monate und Jahr aller Projekte als CSV, - ist die Standardausgabe / months and year of all "
+        "projects as CSV, - is the standard output");
+    app.add_option("--csv-stunden", auftrag.csv_stunden,
+                   "die 8760 Stunden aller Projekte als CSV / the 8760 hours of all projects as CSV");
     app.add_option("--temperaturen", auftrag.temperaturen,
                    "Stundentemperaturen als Text / hourly temperatures as text");
     app.add_option("--neu", auftrag.neu, "schreibt das neue Projekt / writes the new project");
@@ -64,9 +73,56 @@ bool nur_eines(const Auftrag& auftrag) {
            auftrag.berichtsseite;
 }
 
+/// Where an output goes; an empty path is the standard output.
+struct Ziel {
+    std::string option;
+    std::filesystem::path ort;
+};
+
+std::filesystem::path ort(const std::string& datei) {
+    std::error_code fehler;
+    const std::filesystem::path ganz = std::filesystem::absolute(pfad(datei), fehler);
+    const std::filesystem::path wahr = std::filesystem::weakly_canonical(ganz, fehler);
+    return fehler ? ganz : wahr;
+}
+
+std::filesystem::path ort_der_tabelle(const std::string& datei) {
+    return datei == standardausgabe ? std::filesystem::path() : ort(datei);
+}
+
+/// The outputs that are made of a project.
+std::vector<Ziel> ausgaben(const Auftrag& auftrag) {
+    std::vector<Ziel> ziele;
+    if (auftrag.json) ziele.push_back({"--json", {}});
+    if (auftrag.berichtsseite) ziele.push_back({"--bericht-seite", {}});
+    if (auftrag.csv) ziele.push_back({"--csv", ort_der_tabelle(*auftrag.csv)});
+    if (auftrag.csv_stunden) ziele.push_back({"--csv-stunden", ort_der_tabelle(*auftrag.csv_stunden)});
+    if (auftrag.temperaturen) ziele.push_back({"--temperaturen", ort(*auftrag.temperaturen)});
+    if (auftrag.bericht) ziele.push_back({"--bericht", ort(*auftrag.bericht)});
+    return ziele;
+}
+
+/// No output lies over another one, nor over a project that is read or written.
+void ziele_pruefen(const Auftrag& auftrag) {
+    std::vector<Ziel> belegt;
+    for (const std::string& projekt : auftrag.projekte)
+        belegt.push_back({"PROJEKT", ort(projekt)});
+    if (auftrag.speichern) belegt.push_back({"--speichern", ort(*auftrag.speichern)});
+    if (auftrag.neu) belegt.push_back({"--neu", ort(*auftrag.neu)});
+    for (const Ziel& ziel : ausgaben(auftrag)) {
+        const auto treffer = std::ranges::find(belegt, ziel.ort, &Ziel::ort);
+        if (treffer != belegt.end()) {
+            throw CLI::ValidationError(
+                ziel.option, "hat dasselbe Ziel wie / goes to the same place as " + treffer->option);
+        }
+        belegt.push_back(ziel);
+    }
+}
+
 void pruefen(const Auftrag& auftrag) {
     const bool anderes = auftrag.neu || auftrag.klimaimport;
-    if (auftrag.projekte.empty() && (!anderes || auftrag.json || nur_eines(auftrag))) {
+    if (auftrag.projekte.empty() &&
+        (!anderes || auftrag.json || auftrag.csv || auftrag.csv_stunden || nur_eines(auftrag))) {
         throw CLI::ValidationError("PROJEKT", "kein Projekt angegeben / no project given");
     }
     if (auftrag.projekte.size() > 1 && nur_eines(auftrag)) {
@@ -75,6 +131,7 @@ void pruefen(const Auftrag& auftrag) {
             "--temperaturen, --speichern, --diagramme, --bericht und --bericht-seite gelten einem einzigen "
             "Projekt / take one project");
     }
+    ziele_pruefen(auftrag);
 }
 
 std::filesystem::path ordner_des_programms(const char* aufruf) {

@@ -7,6 +7,7 @@
 #include "documents/report/report.h"
 #include "documents/report/rtf_lesen.h"
 #include "documents/report/temperaturverlauf.h"
+#include "documents/wertedatei.h"
 #include "planes/dokumentquelle.h"
 #include "planes/projekt_rechnen.h"
 #include "project/projektdatei.h"
@@ -15,6 +16,8 @@
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
+#include <algorithm>
+#include <array>
 #include <functional>
 #include <ostream>
 
@@ -44,6 +47,22 @@ void dateien_schreiben(const Auftrag& auftrag, Haupt& haupt) {
     if (auftrag.bericht) report_exportieren(dokumentquelle(haupt), pfad(*auftrag.bericht));
 }
 
+/// A table of all projects on its way to where the order wants it.
+struct Wertetabelle {
+    const std::optional<std::string>& ziel;
+    void (*kopf)(Csvtext& tabelle, bool mehrere);
+    void (*zeilen)(Csvtext& tabelle, bool mehrere, const Projekt& p);
+    Csvtext text = {};
+
+    [[nodiscard]] bool auf_der_standardausgabe() const { return ziel == standardausgabe; }
+
+    void nimm_auf(const Projekt& p, bool mehrere) {
+        if (!ziel) return;
+        if (text.text().empty()) kopf(text, mehrere);
+        zeilen(text, mehrere, p);
+    }
+};
+
 /// The steps of an order. Each returns whether all went well; what did not stands among the faults.
 class Ausfuehrung {
   public:
@@ -55,7 +74,7 @@ class Ausfuehrung {
             const Klimaordner ordner(a_.programmordner,
                                      datenordner_bestimmen(a_.programmordner, plattform_.datenordner()));
             const Importbericht bericht = importieren(klimaimport, ordner, a_.sprache);
-            if (!a_.json) aus_ << in_einer_zeile(bericht.geschrieben) << '\n';
+            if (!nur_daten()) aus_ << in_einer_zeile(bericht.geschrieben) << '\n';
             if (!bericht.warnung.empty()) fehler_ << in_einer_zeile(bericht.warnung) << '\n';
         });
     }
@@ -69,14 +88,32 @@ class Ausfuehrung {
         return versuche(datei, [&] {
             const auto haupt = projekt_rechnen(plattform_, a_.programmordner, a_.sprache, datei);
             dateien_schreiben(a_, *haupt);
+            for (Wertetabelle& tabelle : tabellen_)
+                tabelle.nimm_auf(haupt->p, a_.projekte.size() > 1);
             if (a_.json) {
                 ergebnisse_.push_back(als_json(*haupt));
             } else if (a_.berichtsseite) {
                 aus_ << seitentext(report_in_sprache(dokumentquelle(*haupt), *a_.berichtsseite));
-            } else {
+            } else if (!nur_daten()) {
                 aus_ << zusammenfassung(*haupt) << '\n';
             }
         });
+    }
+
+    /// A table without a project that could be calculated is not written; an older file stays.
+    bool tabellen_schreiben() {
+        bool gut = true;
+        for (const Wertetabelle& tabelle : tabellen_) {
+            if (tabelle.text.text().empty()) continue;
+            gut &= versuche(*tabelle.ziel, [&] {
+                if (tabelle.auf_der_standardausgabe()) {
+                    aus_ << tabelle.text.text();
+                } else {
+                    datei_ersetzen(pfad(*tabelle.ziel), tabelle.text.text());
+                }
+            });
+        }
+        return gut;
     }
 
     /// A single project stands as an object, several as an array of those that could be calculated.
@@ -95,6 +132,11 @@ class Ausfuehrung {
     }
 
   private:
+    /// True if a program is to read the output, so that nothing else may stand there.
+    [[nodiscard]] bool nur_daten() const {
+        return a_.json || std::ranges::any_of(tabellen_, &Wertetabelle::auf_der_standardausgabe);
+    }
+
     bool versuche(const std::string& datei, const std::function<void()>& stueck) {
         return versuchen(fehler_, a_.sprache, datei, stueck);
     }
@@ -104,6 +146,8 @@ class Ausfuehrung {
     std::ostream& fehler_;
     Konsolenplattform plattform_;
     Json ergebnisse_ = Json::array();
+    std::array<Wertetabelle, 2> tabellen_{
+        {{a_.csv, monatskopf, monatszeilen}, {a_.csv_stunden, stundenkopf, stundenzeilen}}};
 };
 
 }  // namespace
@@ -116,6 +160,7 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
     for (const std::string& datei : auftrag.projekte)
         gut &= ausfuehrung.rechnen(datei);
     if (auftrag.json && !auftrag.projekte.empty()) gut &= ausfuehrung.json_schreiben();
+    gut &= ausfuehrung.tabellen_schreiben();
     gut &= ausfuehrung.abschliessen();
     return gut ? alles_gut : projekt_fehlerhaft;
 }

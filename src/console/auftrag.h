@@ -22,6 +22,8 @@ struct Auftrag {
     std::vector<std::string> projekte;
     std::string sprache = "d";
     bool json = false;
+    std::optional<std::string> csv;          ///< table of the months of all projects
+    std::optional<std::string> csv_stunden;  ///< table of their hours
     std::optional<std::string> temperaturen;
     std::optional<std::string> neu;
     std::optional<std::string> speichern;
@@ -31,6 +33,9 @@ struct Auftrag {
     std::optional<Importauftrag> klimaimport;  ///< done before all else
     std::filesystem::path programmordner;
 };
+
+/// The name that stands for the standard output, where a table goes to a file.
+inline constexpr const char* standardausgabe = "-";
 
 inline constexpr int alles_gut = 0;
 inline constexpr int projekt_fehlerhaft = 1;

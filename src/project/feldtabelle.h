@@ -45,9 +45,15 @@ struct Feldzeile {
 using Monatszeiger =
     std::variant<float Monatswerte::*, std::int16_t Monatswerte::*, std::string Monatswerte::*>;
 
+/// How the year's value of a quantity follows from those of its months.
+enum class Jahresart { keine, summe, mittel };
+
+/// One quantity of the month record: its name, its place, its unit (empty for a text or a plain number).
 struct Monatszeile {
     std::string_view name;
     Monatszeiger zeiger;
+    std::string_view einheit = {};
+    Jahresart jahr = Jahresart::keine;
 };
 
 /// All quantities of the month record, in its order.

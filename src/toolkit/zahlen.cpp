@@ -134,6 +134,17 @@ std::string zahltext(double wert) {
     return vorzeichen + (kurz ? ohne_exponent(folge) : mit_exponent(folge));
 }
 
+std::string kuerzeste(float wert) {
+    constexpr float klein = 1e-4F;
+    constexpr float gross = 1e9F;
+    const float betrag = std::fabs(wert);
+    const bool ausgeschrieben = betrag == 0 || (betrag >= klein && betrag < gross);
+    std::array<char, 32> puffer{};
+    const auto form = ausgeschrieben ? std::chars_format::fixed : std::chars_format::scientific;
+    auto* const ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert, form).ptr;
+    return {puffer.data(), ende};
+}
+
 double zahl_lesen(std::string_view text) {
     Dezimalzahl z;
     bool begonnen = false;

@@ -28,6 +28,10 @@ void dezimalzeichen_setzen(char zeichen);
 /// the point, at most seven significant digits (" 5.2", " .2", "-15", " 1.5E+07").
 [[nodiscard]] std::string zahltext(double wert);
 
+/// A finite number with the fewest digits that give the 32-bit number back, with a point whatever the locale;
+/// with an exponent only where it is very large or small ("0.1", "8760", "1e-07").
+[[nodiscard]] std::string kuerzeste(float wert);
+
 /// The numeric read that never fails: blanks are skipped, a sign, digits and one decimal point form
 /// the number, the first other character ends it; without a digit the result is 0.
 [[nodiscard]] double zahl_lesen(std::string_view text);

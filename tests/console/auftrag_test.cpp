@@ -3,6 +3,7 @@
 #include "console/ausgabe_json.h"
 #include "console/zusammenfassung.h"
 #include "tests/console/konsole.h"
+#include "tests/volle_festplatte.h"
 #include "toolkit/text.h"
 
 #include <gmock/gmock.h>
@@ -13,6 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using test::inhalt;
 using test::Konsole;
+using testing::AllOf;
 using testing::ContainsRegex;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -29,6 +31,9 @@ TEST_F(Konsole, RichtigeUndFalscheAufrufe) {
           {0, "--json haus.vel haus.vel", "[\n  {\n    \"Datei\": \"haus.vel\"", ""},
           {0, "haus.vel --bericht-seite 7", "VELMaris \n", ""},
           {0, "--neu a.vel --sprache e a.vel", "a.vel\n  climate station", ""},
+          {0, "haus.vel --csv -", "Name,Kurz,Tage [d],", ""},
+          {0, "haus.vel --csv m.csv --json", "{", ""},
+          {0, "--sprache e haus.vel haus.vel --csv-stunden -", "Datei,Monat,Tag,Stunde,Ta [°C],", ""},
           {0, "--help", "velmaris_rechnen - Heiz", ""},
           {1, "alt.vel haus.vel", "haus.vel", "alt.vel: keine gültige Velmaris-Datendatei"},
           {1, "kurz.vel --neu kein/neu.vel", "", "kein/neu.vel: "},
@@ -46,6 +51,18 @@ TEST_F(Konsole, RichtigeUndFalscheAufrufe) {
           {2, "haus.vel a.vel --bericht-seite 1", "", "PROJEKT: --temperaturen"},
           {2, "--neu x --json", "", "PROJEKT: kein Projekt"},
           {2, "--neu x --bericht y", "", "PROJEKT: kein Projekt"},
+          {2, "--neu x --csv y", "", "PROJEKT: kein Projekt"},
+          {2, "--neu x --csv-stunden y", "", "PROJEKT: kein Projekt"},
+          {2, "haus.vel --csv - --json", "",
+           "--csv: hat dasselbe Ziel wie / goes to the same place as --json"},
+          {2, "haus.vel --csv - --csv-stunden -", "", "--csv-stunden: hat dasselbe Ziel"},
+          {2, "haus.vel --csv - --bericht-seite 1", "", "--csv: hat dasselbe Ziel"},
+          {2, "haus.vel --csv x --csv-stunden ./x", "", "--csv-stunden: hat dasselbe Ziel"},
+          {2, "haus.vel --csv x --temperaturen x", "", "--temperaturen: hat dasselbe Ziel"},
+          {2, "haus.vel --bericht klima/../x --csv x", "", "--bericht: hat dasselbe Ziel"},
+          {2, "haus.vel --neu x --csv x", "", "--csv: hat dasselbe Ziel"},
+          {2, "haus.vel --speichern x --csv x", "", "--csv: hat dasselbe Ziel"},
+          {2, "haus.vel --csv-stunden haus.vel", "", "--csv-stunden: hat dasselbe Ziel"},
           {2, "haus.vel --bericht-seite 0", "", "--bericht-seite: "},
           {2, "haus.vel --bericht-seite 8", "", "--bericht-seite: "},
           {2, "haus.vel --bericht-seite 1 --json", "", "--json excludes --bericht-seite"},
@@ -60,8 +77,9 @@ TEST_F(Konsole, RichtigeUndFalscheAufrufe) {
             EXPECT_TRUE(soll.empty() ? ist.empty() : ist.starts_with(soll)) << fall.worte << "\n" << ist;
         EXPECT_EQ(aus.find("[]"), std::string::npos) << fall.worte << ": an empty list of results";
     }
-    for (const std::string angabe : {"--temperaturen", "--neu", "--speichern", "--diagramme", "--bericht",
-                                     "--ordner", "--import", "--name", "--land", "--ort"}) {
+    for (const std::string angabe :
+         {"--csv", "--csv-stunden", "--temperaturen", "--neu", "--speichern", "--diagramme", "--bericht",
+          "--ordner", "--import", "--name", "--land", "--ort"}) {
         EXPECT_EQ(rufe("haus.vel " + angabe + " --json"), 2);
         EXPECT_THAT(fehler, HasSubstr(angabe + ": der Wert fehlt / the value is missing: --json"));
     }
@@ -208,6 +226,27 @@ TEST_F(Konsole, BeiFehlernWirdNichtsGeschrieben) {
     text.setstate(std::ios::badbit);
     EXPECT_EQ(ausfuehren({}, text, grund), projekt_fehlerhaft);
     EXPECT_EQ(grund.str(), "die Ausgabe kann nicht geschrieben werden\n");
+}
+
+TEST_F(Konsole, TabellenEnthaltenWasBerechnetWerdenKonnteUndAeltereBleibenGanz) {
+    const std::string alle = " --ordner . --csv m.csv --csv-stunden h.csv";
+    EXPECT_EQ(rufe("fehlt.vel haus.vel" + alle), projekt_fehlerhaft);
+    EXPECT_EQ(fehler, "fehlt.vel: Datei nicht gefunden\n");
+    const std::string monate = inhalt("m.csv"), stunden = inhalt("h.csv");
+    EXPECT_THAT(monate, HasSubstr("\r\nhaus.vel,Jahr,Jahr,365,"));
+    EXPECT_EQ(std::ranges::count(stunden, '\n'), 8761);
+    EXPECT_EQ(rufe("fehlt.vel kurz.vel" + alle), projekt_fehlerhaft);
+    EXPECT_EQ(inhalt("m.csv"), monate) << "nothing was calculated";
+    {
+        const test::VolleFestplatte voll(1000);
+        EXPECT_EQ(rufe("haus.vel --sprache e" + alle), projekt_fehlerhaft);
+        EXPECT_THAT(fehler, AllOf(HasSubstr("m.csv: "), HasSubstr("h.csv: ")));
+    }
+    EXPECT_EQ(inhalt("m.csv"), monate);
+    EXPECT_EQ(inhalt("h.csv"), stunden);
+    EXPECT_EQ(rufe("haus.vel --ordner . --csv kein/m.csv --csv-stunden -"), projekt_fehlerhaft);
+    EXPECT_THAT(fehler, StartsWith("kein/m.csv: "));
+    EXPECT_THAT(aus, StartsWith("Monat,Tag,")) << "the other table is whole";
 }
 
 }  // namespace

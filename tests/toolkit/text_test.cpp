@@ -1,5 +1,7 @@
 #include "toolkit/text.h"
 
+#include "toolkit/csv.h"
+
 #include <gtest/gtest.h>
 #include <numeric>
 #include <string>
@@ -39,6 +41,17 @@ TEST(Text, MachtSteuerzeichenSichtbar) {
     }
     EXPECT_FALSE(hat_steuerzeichen(" ~\u00A0€"));
     EXPECT_EQ(lesbar(" ~\u00A0€🏠\xC3"), " ~\u00A0€🏠\uFFFD");
+}
+
+TEST(Csvtext, SetztAnfuehrungszeichenNurWoEsSeinMuss) {
+    Csvtext tabelle;
+    for (const char* zelle : {"Größe [m²]", "", "a,b", "\"a\"", "a\r\nb\xFF"})
+        tabelle.zelle(zelle);
+    tabelle.zeilenende();
+    tabelle.zelle(0.5F);
+    tabelle.zelle("x y");
+    tabelle.zeilenende();
+    EXPECT_EQ(tabelle.text(), "Größe [m²],,\"a,b\",\"\"\"a\"\"\",a\uFFFD\uFFFDb\uFFFD\r\n0.5,x y\r\n");
 }
 
 TEST(Text, GrossUndKleinMitUmlauten) {

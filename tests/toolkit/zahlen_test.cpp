@@ -42,6 +42,15 @@ TEST(Zahltext, FolgtDerSchreibweiseOhneNullVorDemPunkt) {
         EXPECT_EQ(zahltext(wert), text);
 }
 
+TEST(Kuerzeste, GibtDieZahlMitDenWenigstenZiffernZurueck) {
+    using Fall = std::pair<float, const char*>;
+    for (const auto& [wert, text] :
+         {Fall{0.1F, "0.1"}, Fall{0, "0"}, Fall{-8760, "-8760"}, Fall{16777216, "16777216"},
+          Fall{1.0F / 3, "0.33333334"}, Fall{2.1016145F, "2.1016145"}, Fall{1e-4F, "0.0001"},
+          Fall{1e-5F, "1e-05"}, Fall{3.4e38F, "3.4e+38"}, Fall{999999936.0F, "999999936"}})
+        EXPECT_EQ(kuerzeste(wert), text);
+}
+
 TEST(ZahlLesen, ScheitertNie) {
     using Fall = std::pair<const char*, double>;
     for (const auto& [text, wert] :
