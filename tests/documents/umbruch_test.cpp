@@ -1,7 +1,5 @@
 #include "documents/umbruch.h"
 
-#include "documents/report/reporttext.h"
-
 #include <gtest/gtest.h>
 
 namespace velmaris {
@@ -54,11 +52,6 @@ TEST(Umbruch, KuerzenBehaeltWasPasst) {
     EXPECT_EQ(kurz("Müller", 5), "M…");
     EXPECT_EQ(kurz("Müller", 6), "Mü…");
     EXPECT_EQ(kurz("1234567890123456", 15), "123456789012…");
-}
-
-TEST(Umbruch, ReportschriftIstProportional) {
-    // Times at 10 points: the figure is half an em wide.
-    EXPECT_NEAR(reportbreite("0000000000"), 10 * 5 * 96 / 72.0, 0.01);
 }
 
 }  // namespace

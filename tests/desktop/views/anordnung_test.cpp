@@ -50,10 +50,6 @@ std::vector<Reihe> reihen(Reihe teile) {
     return neue;
 }
 
-std::string name(const Teil& teil) {
-    return utf8(teil.fenster->objectName());
-}
-
 /// The quantity that a caption, a scroll field, a display or a unit belongs to.
 QString groesse(const Teil& teil) {
     static const QRegularExpression rest("^(label|anz|einheit)_|_(sb|anz)$");
@@ -67,7 +63,8 @@ std::string gelesen(const Reihe& teile) {
         if (!text.empty()) text += " /";
         QString zuletzt;
         for (const Teil& teil : reihe) {
-            text += (text.empty() ? "" : " ") + (groesse(teil) == zuletzt ? "=" : name(teil));
+            text += (text.empty() ? "" : " ") +
+                    (groesse(teil) == zuletzt ? "=" : utf8(teil.fenster->objectName()));
             zuletzt = groesse(teil);
         }
     }
