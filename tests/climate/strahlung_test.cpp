@@ -54,7 +54,8 @@ TEST(Ebenen, WerdenNurNeuGerechnetWennSichIhrSchluesselAendert) {
     p->Dachneigung = 30;
     ebenen_bereitstellen(*p);
     Strahlungstabellen& s = p->Strahlung;
-    EXPECT_EQ(s.dach_n.station, 0U) << "a roof plane without area is left alone";
+    for (const auto* ohne_flaeche : {&s.dach_n, &s.dach_o, &s.dach_w})
+        EXPECT_EQ(ohne_flaeche->station, 0U) << "a roof plane without area is left alone";
     const auto bleibt = [&](auto&& aendern) {
         s.wand_s.faktor(6, 1, 12) = s.dach_s.faktor(6, 1, 12) = 7;
         aendern();

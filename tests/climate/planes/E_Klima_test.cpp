@@ -166,6 +166,8 @@ TEST(EKlima, WahlInDenListenLaedtDieStation) {
     EXPECT_EQ(Klimaprobe::farbe(probe.e->Picture2, 82, 111), farben::rot);
     probe.oeffne(welt, "passau.met");
     EXPECT_EQ(Klimaprobe::farbe(probe.e->Picture3, 348, 41), farben::rot);
+    probe.oeffne(welt, "bremen.met");
+    EXPECT_THAT(probe.plattform.meldungen, IsEmpty()) << "the first of the list is one of it";
 }
 
 TEST(EKlima, EineVerschwundeneDateiLaesstAllesWieEsWar) {

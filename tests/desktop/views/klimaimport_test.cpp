@@ -4,6 +4,7 @@
 
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QScreen>
 
 namespace velmaris {
 namespace {
@@ -50,7 +51,10 @@ std::string tabelle() {
 
 /// From above to below, each frame from the left; and nothing is cut off.
 TEST_F(KlimaimportTest, DerFokusGehtVonObenNachUnten) {
-    oeffne_fenster("d");
+    starte("d");
+    programm->fenster().move(0, 400);
+    menue("mnuKlimaImportieren").trigger();
+    EXPECT_EQ(fenster().y(), fenster().screen()->availableGeometry().bottom() - 670) << "room for all steps";
     waehle_quelle("quelle.txt", tabelle());
     e().Kopfzeilen.tippe("1");
     such<QLineEdit>(ebene, "DateinameBox").setFocus();
