@@ -153,10 +153,8 @@ TEST(EKlima, WahlInDenListenLaedtDieStation) {
     EXPECT_THAT(probe.geladen, ElementsAre("passau.met"));
     EXPECT_EQ(probe.p->Geaendert, 1);
     EXPECT_EQ(bild(*probe.e), "klima11.bmp");
-    for (std::size_t i = 1; i <= klimaregionen; ++i) {
-        EXPECT_TRUE(klimaregion(static_cast<int>(i)).datei.ends_with(".met"));
-        EXPECT_THAT(probe.e->Klimaregionwahl.eintraege().at(i - 1), HasSubstr(std::to_string(i) + ": "));
-    }
+    for (int i = 1; i <= klimaregionen; ++i)
+        EXPECT_TRUE(klimaregion(i).datei.ends_with(".met")) << i;
 
     probe.oeffne(europa, "passau.met");
     EXPECT_EQ(Klimaprobe::farbe(probe.e->Picture2, 122, 112), farben::rot);

@@ -61,6 +61,9 @@ class EingabenTest : public test::Programmprobe {
         else
             klicke(*knopf);
         EXPECT_NE(projekt(), vorher) << teil.objectName().toStdString();
+        if (!teil.inherits("QCheckBox")) return true;
+        klicke(*knopf);
+        EXPECT_EQ(projekt(), vorher) << teil.objectName().toStdString();
         return true;
     }
 };
