@@ -1,6 +1,8 @@
 #include "desktop/hauptfenster.h"
 
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
+#include "desktop/platform/stil.h"
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/ebenenbalken.h"
 
@@ -10,6 +12,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
 #include <array>
 
 namespace velmaris {
@@ -51,11 +54,16 @@ QString projektdatei(const QMimeData& ding) {
 }  // namespace
 
 Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
-    : haupt_(haupt), mittel_(mittel), flaeche_(new QWidget(this)), ebenenfokus_(*flaeche_) {
+    : haupt_(haupt),
+      mittel_(mittel),
+      flaeche_(new QWidget(new QWidget(this))),
+      ebenenfokus_(*flaeche_),
+      massstab_(*this) {
     setObjectName(QStringLiteral("Haupt"));
     setAcceptDrops(true);
-    setCentralWidget(flaeche_);
-    flaeche_->setMinimumSize(flaechengroesse);
+    setCentralWidget(flaeche_->parentWidget());
+    centralWidget()->setMinimumSize(flaechengroesse);
+    flaeche_->resize(flaechengroesse);
     menue_bauen();
     leiste_bauen(haupt.e_menue, QRect(0, 0, ausgabe_links, leistenhoehe));
     eingabeebenen_bauen();
@@ -67,6 +75,8 @@ Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
     report_ansicht(haupt.a_report, mittel, this);
     druck_ansicht(haupt.drucken, mittel, this);
     klimaimport_ansicht(haupt.e_klimaimport, mittel, this);
+    connect(new QShortcut(Qt::Key_F11, this), &QShortcut::activated, this,
+            &Hauptfenster::vollbild_umschalten);
 }
 
 void Hauptfenster::menue_bauen() {
@@ -101,7 +111,7 @@ void Hauptfenster::menue_fuellen(QMenu& menue, const std::vector<Menueknoten>& a
 /// A plane that is chosen gets the focus, unless the button was worked by key.
 void Hauptfenster::leiste_bauen(Ebenenleiste& leiste, const QRect& platz) {
     auto* balken = new Ebenenbalken(leiste, mittel_.binder, flaeche_);
-    balken->setGeometry(platz);
+    lege(*balken, platz);
     leiste.zugewandt = [this, balken](const Feld& ebene) {
         const QString name = qtext(ebene.name);
         if (balken->behaelt_fokus()) {
@@ -119,7 +129,7 @@ void Hauptfenster::eingabeebenen_bauen() {
                            gebaeude_ansicht(haupt_.e_gebaeude, mittel_, flaeche_),
                            klima_ansicht(haupt_.e_klima, mittel_, flaeche_),
                            energie_ansicht(haupt_.e_energie, mittel_, flaeche_)})
-        ebene->move(0, leistenhoehe);
+        lege(*ebene, QRect(QPoint(0, leistenhoehe), eingabegroesse));
 }
 
 void Hauptfenster::ausgabeebenen_bauen() {
@@ -128,16 +138,34 @@ void Hauptfenster::ausgabeebenen_bauen() {
                            heizen_ansicht(haupt_.a_heizen, mittel_, flaeche_),
                            kuehlen_ansicht(haupt_.a_kuehlen, mittel_, flaeche_),
                            sankey_ansicht(haupt_.a_sankey, mittel_, flaeche_)})
-        ebene->move(ausgabe_links, 0);
+        lege(*ebene, QRect(QPoint(ausgabe_links, 0), ausgabegroesse));
 }
 
 void Hauptfenster::zeigen() {
     constexpr int hoeher = 13;  // the window stands a little above the middle
-    adjustSize();
     const QRect schirm = screen()->availableGeometry();
+    resize(hauptfenstergroesse * erster_massstab(*this));
     move(schirm.center() - QPoint(width() / 2, height() / 2 + hoeher));
     mittel_.wache.fuehre_aus([this] { haupt_.laden(); });
     show();
+}
+
+/// The planes take the largest scale at which they fit under the menu, and the middle of the window.
+void Hauptfenster::einpassen() {
+    massstab_.setze(passender_massstab(size(), hauptfenstergroesse));
+    tippschrift_setzen(massstab(*this));
+    const QSize groesse = (QSizeF(flaechengroesse) * massstab(*this)).toSize();
+    const QSize rest = (centralWidget()->size() - groesse).expandedTo(QSize(0, 0)) / 2;
+    flaeche_->setGeometry(QRect(QPoint(rest.width(), rest.height()), groesse));
+}
+
+void Hauptfenster::vollbild_umschalten() {
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+void Hauptfenster::resizeEvent(QResizeEvent* ereignis) {
+    QMainWindow::resizeEvent(ereignis);
+    einpassen();
 }
 
 void Hauptfenster::closeEvent(QCloseEvent* ereignis) {

@@ -2,13 +2,15 @@
 
 #include "desktop/widgets/ebenenbau.h"
 #include "desktop/widgets/ebenenfokus.h"
+#include "desktop/widgets/fenstermassstab.h"
 #include "planes/Haupt.h"
 
 #include <QMainWindow>
 
 namespace velmaris {
 
-/// The main window: menu, both button bars, all planes at their places.
+/// The main window: menu, both button bars, all planes at their places. All of it fills the window as large
+/// as its proportions allow, and stands in the middle of what is left.
 class Hauptfenster : public QMainWindow {
     Q_OBJECT
 
@@ -22,11 +24,14 @@ class Hauptfenster : public QMainWindow {
     [[nodiscard]] const QString& ebene_in_gebrauch() const { return ebenenfokus_.in_gebrauch(); }
 
   protected:
+    void resizeEvent(QResizeEvent* ereignis) override;
     void closeEvent(QCloseEvent* ereignis) override;
     void dragEnterEvent(QDragEnterEvent* ereignis) override;
     void dropEvent(QDropEvent* ereignis) override;
 
   private:
+    void einpassen();
+    void vollbild_umschalten();
     void menue_bauen();
     void menue_fuellen(QMenu& menue, const std::vector<Menueknoten>& alle);
     void leiste_bauen(Ebenenleiste& leiste, const QRect& platz);
@@ -37,6 +42,7 @@ class Hauptfenster : public QMainWindow {
     const Ansichtsmittel& mittel_;
     QWidget* flaeche_;
     Ebenenfokus ebenenfokus_;
+    Fenstermassstab massstab_;
 };
 
 }  // namespace velmaris

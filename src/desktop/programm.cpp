@@ -1,5 +1,6 @@
 #include "desktop/programm.h"
 
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/startfenster.h"
 #include "toolkit/text.h"
@@ -51,6 +52,7 @@ Programm::Programm(const std::filesystem::path& programmordner, const std::strin
     wache_.fehler_behandeln = [this](const Laufzeitfehler& f) { fehler(f); };
     plattform_.hauptfenster(fenster_.get());
     plattform_.hilfe_zeigen = [this](const std::filesystem::path& datei, const std::string& seite) {
+        hilfefenster_.massstab_vorschlagen(massstab(*fenster_));
         hilfefenster_.zeige(datei, seite);
     };
     hilfefenster_.fremder_verweis = [this](const QUrl& verweis) { verweis_nach_aussen(verweis); };

@@ -1,5 +1,6 @@
 #include "desktop/startfenster.h"
 
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/platform/stil.h"
 #include "desktop/widgets/nebenfenster.h"
@@ -22,9 +23,8 @@ QPixmap grafik(const std::filesystem::path& programmordner, const char* name) {
     return bild;
 }
 
-/// The picture of the program, sharp at the screen's resolution.
-QPixmap programmbild(const std::filesystem::path& programmordner, qreal pixel_je_einheit) {
-    constexpr int groesse = 160;
+/// The picture of the program, `groesse` high, sharp at the screen's resolution.
+QPixmap programmbild(const std::filesystem::path& programmordner, double groesse, qreal pixel_je_einheit) {
     QPixmap bild = grafik(programmordner, "velmaris.bmp");
     if (bild.isNull()) return bild;
     bild = bild.scaledToHeight(qRound(groesse * pixel_je_einheit), Qt::SmoothTransformation);
@@ -63,13 +63,19 @@ QWidget* startfenster(Start& start, const Ansichtsmittel& mittel,
         mittel.wache, [&start] { start.schliessen(); }, nullptr);
     fenster->setWindowModality(Qt::ApplicationModal);
     fenster->setWindowTitle(QStringLiteral("Velmaris"));
-    fenster->setMinimumSize(650, 429);
+    constexpr QSize kleinste(650, 429);
+    fenster->setMinimumSize(kleinste);
     const Ebenenbau bau(*fenster, "Start", mittel);
     auto* tafel = new QGridLayout(fenster);
     tafel->setContentsMargins(40, 30, 40, 24);
     tafel->setHorizontalSpacing(30);
     auto* bild = new QLabel(fenster);
-    bild->setPixmap(programmbild(programmordner, fenster->devicePixelRatioF()));
+    const auto bild_zeigen = [bild, programmordner](double massstab) {
+        constexpr int groesse = 160;
+        bild->setPixmap(programmbild(programmordner, groesse * massstab, bild->devicePixelRatioF()));
+    };
+    bild_zeigen(1);
+    QObject::connect(&fenster->skala(), &Fenstermassstab::geaendert, bild, bild_zeigen);
     tafel->addWidget(bild, 0, 0, 2, 1, Qt::AlignCenter);
     tafel->addWidget(ueberschrift(fenster), 0, 1, Qt::AlignLeft | Qt::AlignBottom);
     QLabel* text = bau.anzeige(start.Text);
@@ -84,6 +90,7 @@ QWidget* startfenster(Start& start, const Ansichtsmittel& mittel,
     knopf->setDefault(true);
     knopf->setMinimumWidth(90);
     tafel->addWidget(knopf, 2, 0, 1, 2, Qt::AlignRight);
+    fenster->einheitsgroesse(kleinste, kleinste);
     mittel.binder.binde(static_cast<QWidget&>(*fenster), start.fenster);
     return fenster;
 }
@@ -119,6 +126,8 @@ std::optional<std::string> sprachfenster(const std::filesystem::path& programmor
         tafel->addWidget(bild, 0, spalte);
         tafel->addWidget(schild, 1, spalte++);
     }
+    Fenstermassstab massstab(fenster);
+    massstab.setze(erster_massstab(fenster));
     fenster.exec();
     return gewaehlt;
 }

@@ -1,15 +1,16 @@
 #include "desktop/help/hilfefenster.h"
 
 #include "desktop/help/suchleiste.h"
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/nebenfenster.h"
+#include "desktop/widgets/textskala.h"
 #include "toolkit/text.h"
 #include "toolkit/wort.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
-#include <QScreen>
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -18,6 +19,11 @@
 
 namespace velmaris {
 namespace {
+
+constexpr QSize bevorzugt(760, 680);
+
+/// What a scale must leave of a page: its width, and enough lines to read on.
+constexpr QSize mindestens(700, 420);
 
 /// Pages are addressed by this scheme and their name in the file.
 constexpr QLatin1String schema("chm");
@@ -65,6 +71,8 @@ class Hilfeseite : public QTextBrowser {
         return inhalt;
     }
 
+    Textskala skala{*this};
+
   private:
     const std::optional<Hilfedatei>& datei_;
     const Fehlerwache& wache_;
@@ -74,9 +82,8 @@ Hilfefenster::Hilfefenster(const Fehlerwache& wache, const std::string& sprache)
     : wache_(wache),
       titel_(qtext(Wort{"Velmaris-Hilfe", "Velmaris Help"}.in(sprache))),
       seite_(new Hilfeseite(datei_, wache, this)),
-      suchleiste_(new Suchleiste(*seite_, sprache, this)) {
-    constexpr QSize bevorzugt(760, 680);
-    constexpr int bildschirmrest = 80;  // for the frame of the window and the desktop's bars
+      suchleiste_(new Suchleiste(*seite_, sprache, this)),
+      massstab_(*this) {
     setObjectName(QStringLiteral("Hilfe"));
     setWindowTitle(titel_);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -89,7 +96,8 @@ Hilfefenster::Hilfefenster(const Fehlerwache& wache, const std::string& sprache)
     setCentralWidget(mitte);
     seite_->setAccessibleName(titel_);
     leiste_bauen(sprache);
-    resize(bevorzugt.boundedTo(screen()->availableSize() - QSize(0, bildschirmrest)));
+    resize(bevorzugt.boundedTo(bildschirmplatz(*this)));
+    connect(&massstab_, &Fenstermassstab::geaendert, seite_, [this](double s) { seite_->skala.setze(s); });
     tasten_binden();
     connect(seite_, &QTextBrowser::anchorClicked, this,
             [this](const QUrl& verweis) { wache_.fuehre_aus([&] { folge(verweis); }); });
@@ -157,6 +165,17 @@ void Hilfefenster::zeige(const std::filesystem::path& datei, const std::string& 
     raise();
     activateWindow();
     seite_->setFocus();
+}
+
+void Hilfefenster::massstab_vorschlagen(double massstab) {
+    if (isVisible() || massstab == vorgeschlagen_) return;
+    vorgeschlagen_ = massstab;
+    resize((QSizeF(bevorzugt) * massstab).toSize().boundedTo(bildschirmplatz(*this)));
+}
+
+void Hilfefenster::resizeEvent(QResizeEvent* ereignis) {
+    QMainWindow::resizeEvent(ereignis);
+    massstab_.setze(passender_massstab(size(), mindestens));
 }
 
 void Hilfefenster::oeffne(const QUrl& seite) {

@@ -2,6 +2,7 @@
 
 #include "desktop/help/hilfedatei.h"
 #include "desktop/platform/fehlerwache.h"
+#include "desktop/widgets/fenstermassstab.h"
 
 #include <QMainWindow>
 #include <QUrl>
@@ -17,7 +18,8 @@ class Hilfeseite;
 class Suchleiste;
 
 /// The help: the pages of a compiled help file with their links, back, forward, the start page and a search
-/// on the page. It stands beside the program and stays usable while a modal window is open.
+/// on the page. It stands beside the program and stays usable while a modal window is open. Its texts grow
+/// with it.
 class Hilfefenster : public QMainWindow {
     Q_OBJECT
 
@@ -29,11 +31,16 @@ class Hilfefenster : public QMainWindow {
     /// that is missing or damaged, or does not have the page, is a Dateifehler; the window stays as it was.
     void zeige(const std::filesystem::path& datei, const std::string& seite);
 
+    /// Scale at which it comes up the next time it was closed; where it is the one of before, the size that
+    /// the user gave stays.
+    void massstab_vorschlagen(double massstab);
+
     /// Is given links that lead out of the help; without it they lead nowhere.
     std::function<void(const QUrl&)> fremder_verweis;
 
   protected:
     bool event(QEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
 
   private:
     void leiste_bauen(const std::string& sprache);
@@ -48,6 +55,8 @@ class Hilfefenster : public QMainWindow {
     std::optional<Hilfedatei> datei_;
     Hilfeseite* seite_;
     Suchleiste* suchleiste_;
+    Fenstermassstab massstab_;
+    double vorgeschlagen_ = 1;
 };
 
 }  // namespace velmaris

@@ -1,5 +1,7 @@
 #include "desktop/platform/bruch.h"
 
+#include "desktop/platform/massstab.h"
+
 #include <QPainter>
 #include <algorithm>
 #include <utility>
@@ -7,7 +9,7 @@
 namespace velmaris {
 namespace {
 
-constexpr int ueberhang = 2;  ///< of the line beyond the longer word
+constexpr int ueberhang = 2;  ///< of the line beyond the longer word, units
 
 /// The two sides of the fraction.
 std::pair<QString, QString> teile(const QString& text) {
@@ -21,7 +23,7 @@ QSize Bruch::sizeHint() const {
     const auto [oben, unten] = teile(text());
     const QFontMetrics masse = fontMetrics();
     const int breite = std::max(masse.horizontalAdvance(oben), masse.horizontalAdvance(unten));
-    return {breite + 2 * ueberhang, 2 * masse.height() + 1};
+    return {breite + 2 * in_pixeln(*this, ueberhang), 2 * masse.height() + 1};
 }
 
 void Bruch::paintEvent(QPaintEvent*) {

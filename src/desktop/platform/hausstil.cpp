@@ -1,5 +1,6 @@
 #include "desktop/platform/hausstil.h"
 
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/stil.h"
 
 #include <QDialogButtonBox>
@@ -7,7 +8,7 @@
 #include <QPainterPath>
 #include <QStyleFactory>
 #include <QStyleOption>
-#include <algorithm>
+#include <cmath>
 
 namespace velmaris {
 namespace {
@@ -21,7 +22,7 @@ void rundes_feld(QPainter& maler, const QRect& feld, QColor grund, QColor rand) 
 }
 
 /// A small triangle in the middle of a button, that points the way the button moves.
-void pfeil(QPainter& maler, const QRect& knopf, Qt::Orientation richtung, int vorzeichen, QColor farbe) {
+void pfeil(QPainter& maler, const QRect& knopf, Qt::Orientation richtung, qreal groesse, QColor farbe) {
     constexpr qreal halbe_hoehe = 2;
     constexpr qreal halbe_breite = 4;
     QPainterPath dreieck;
@@ -31,7 +32,7 @@ void pfeil(QPainter& maler, const QRect& knopf, Qt::Orientation richtung, int vo
     maler.save();
     maler.translate(QRectF(knopf).center());
     if (richtung == Qt::Vertical) maler.rotate(90);
-    maler.scale(vorzeichen, 1);
+    maler.scale(groesse, std::abs(groesse));
     maler.fillPath(dreieck, farbe);
     maler.restore();
 }
@@ -42,6 +43,35 @@ QColor grund(const QStyleOptionSlider& balken, QStyle::SubControl teil, QColor r
         balken.activeSubControls.testFlag(teil) && balken.state.testFlag(QStyle::State_Enabled);
     if (!getroffen) return ruhe;
     return balken.state.testFlag(QStyle::State_Sunken) ? ruhe.darker(118) : ruhe.darker(106);
+}
+
+/// Scale of what is drawn; the style may be asked without a widget.
+double massstab_von(const QWidget* fenster) {
+    return fenster == nullptr ? 1 : massstab(*fenster);
+}
+
+/// Measures of the base style that follow the scale.
+bool waechst(QStyle::PixelMetric groesse) {
+    switch (groesse) {
+        case QStyle::PM_ButtonMargin:
+        case QStyle::PM_ButtonIconSize:
+        case QStyle::PM_CheckBoxLabelSpacing:
+        case QStyle::PM_ExclusiveIndicatorHeight:
+        case QStyle::PM_ExclusiveIndicatorWidth:
+        case QStyle::PM_IndicatorHeight:
+        case QStyle::PM_IndicatorWidth:
+        case QStyle::PM_LargeIconSize:
+        case QStyle::PM_MenuBarHMargin:
+        case QStyle::PM_MenuBarItemSpacing:
+        case QStyle::PM_MenuBarVMargin:
+        case QStyle::PM_MessageBoxIconSize:
+        case QStyle::PM_RadioButtonLabelSpacing:
+        case QStyle::PM_ScrollBarSliderMin:
+        case QStyle::PM_SmallIconSize:
+            return true;
+        default:
+            return false;
+    }
 }
 
 }  // namespace
@@ -63,19 +93,22 @@ int Hausstil::styleHint(StyleHint hinweis, const QStyleOption* option, const QWi
 }
 
 int Hausstil::pixelMetric(PixelMetric groesse, const QStyleOption* option, const QWidget* fenster) const {
+    const double s = massstab_von(fenster);
     switch (groesse) {
         case PM_ScrollBarExtent:
-            return mass::leiste;
+            return qRound(mass::leiste * s);
         case PM_LayoutLeftMargin:
         case PM_LayoutTopMargin:
         case PM_LayoutRightMargin:
         case PM_LayoutBottomMargin:
-            return mass::rand;
+            return qRound(mass::rand * s);
         case PM_LayoutHorizontalSpacing:
         case PM_LayoutVerticalSpacing:
-            return mass::abstand;
-        default:
-            return QProxyStyle::pixelMetric(groesse, option, fenster);
+            return qRound(mass::abstand * s);
+        default: {
+            const int einheiten = QProxyStyle::pixelMetric(groesse, option, fenster);
+            return waechst(groesse) ? qRound(einheiten * s) : einheiten;
+        }
     }
 }
 
@@ -85,13 +118,19 @@ QRect Hausstil::subControlRect(ComplexControl bedienteil, const QStyleOptionComp
     constexpr int titelabstand = 2;
     const QRect feld = QProxyStyle::subControlRect(bedienteil, option, teil, fenster);
     if (bedienteil != CC_GroupBox) return feld;
-    if (teil == SC_GroupBoxLabel) return feld.translated(mass::rand, titelabstand);
-    if (teil == SC_GroupBoxContents) return feld.adjusted(0, titelabstand, 0, 0);
+    const double s = massstab_von(fenster);
+    const int tiefer = qRound(titelabstand * s);
+    if (teil == SC_GroupBoxLabel) return feld.translated(qRound(mass::rand * s), tiefer);
+    if (teil == SC_GroupBoxContents) return feld.adjusted(0, tiefer, 0, 0);
     return feld;
 }
 
 void Hausstil::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* maler,
                              const QWidget* fenster) const {
+    if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
+        zeichne_marke(element, *option, *maler, fenster);
+        return;
+    }
     if (element != PE_FrameGroupBox) {
         QProxyStyle::drawPrimitive(element, option, maler, fenster);
         return;
@@ -102,8 +141,41 @@ void Hausstil::drawPrimitive(PrimitiveElement element, const QStyleOption* optio
     maler->restore();
 }
 
+/// The box or circle of a check or option field: the base style draws it at one size only.
+void Hausstil::zeichne_marke(PrimitiveElement element, const QStyleOption& option, QPainter& maler,
+                             const QWidget* fenster) const {
+    const double s = massstab_von(fenster);
+    QStyleOptionButton klein;
+    klein.QStyleOption::operator=(option);
+    klein.rect = QRect(QPoint(0, 0), (QSizeF(option.rect.size()) / s).toSize());
+    maler.save();
+    maler.translate(option.rect.topLeft());
+    maler.scale(s, s);
+    QProxyStyle::drawPrimitive(element, &klein, &maler, fenster);
+    maler.restore();
+}
+
+/// The field of a closed list with an arrow of the scale.
+void Hausstil::zeichne_liste(const QStyleOptionComboBox& liste, QPainter& maler,
+                             const QWidget* fenster) const {
+    QStyleOptionComboBox ohne_pfeil(liste);
+    ohne_pfeil.subControls.setFlag(SC_ComboBoxArrow, false);
+    QProxyStyle::drawComplexControl(CC_ComboBox, &ohne_pfeil, &maler, fenster);
+    if (!liste.subControls.testFlag(SC_ComboBoxArrow)) return;
+    const QPalette::ColorRole rolle = QPalette::ButtonText;
+    maler.save();
+    maler.setRenderHint(QPainter::Antialiasing);
+    pfeil(maler, subControlRect(CC_ComboBox, &liste, SC_ComboBoxArrow, fenster), Qt::Vertical,
+          massstab_von(fenster), liste.palette.color(rolle));
+    maler.restore();
+}
+
 void Hausstil::drawComplexControl(ComplexControl bedienteil, const QStyleOptionComplex* option,
                                   QPainter* maler, const QWidget* fenster) const {
+    if (const auto* liste = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
+        zeichne_liste(*liste, *maler, fenster);
+        return;
+    }
     const auto* balken = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (bedienteil != CC_ScrollBar || balken == nullptr) {
         QProxyStyle::drawComplexControl(bedienteil, option, maler, fenster);
@@ -128,7 +200,7 @@ void Hausstil::zeichne_rollbalken(const QStyleOptionSlider& balken, QPainter& ma
     for (const auto& [teil, vorzeichen] : {std::pair{SC_ScrollBarSubLine, -1}, {SC_ScrollBarAddLine, 1}}) {
         const QRect knopf = ort(teil);
         rundes_feld(maler, knopf, grund(balken, teil, balken.palette.color(QPalette::Button)), rand);
-        pfeil(maler, knopf, balken.orientation, vorzeichen, zeichen);
+        pfeil(maler, knopf, balken.orientation, vorzeichen * massstab_von(fenster), zeichen);
     }
     if (!aktiv || balken.minimum == balken.maximum) return;
     const QRect griff = ort(SC_ScrollBarSlider);

@@ -2,11 +2,13 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionComboBox;
 class QStyleOptionSlider;
 
 namespace velmaris {
 
-/// Fusion with the program's own scroll bars and frames, and the same behaviour on every desktop.
+/// Fusion with the program's own scroll bars and frames, and the same behaviour on every desktop. Its
+/// measures are those of the scale of the window that is drawn.
 class Hausstil : public QProxyStyle {
     Q_OBJECT
 
@@ -25,6 +27,9 @@ class Hausstil : public QProxyStyle {
                             const QWidget* fenster) const override;
 
   private:
+    void zeichne_marke(PrimitiveElement element, const QStyleOption& option, QPainter& maler,
+                       const QWidget* fenster) const;
+    void zeichne_liste(const QStyleOptionComboBox& liste, QPainter& maler, const QWidget* fenster) const;
     void zeichne_rollbalken(const QStyleOptionSlider& balken, QPainter& maler, const QWidget* fenster) const;
 };
 

@@ -2,6 +2,7 @@
 
 #include "desktop/platform/dateifilter.h"
 #include "desktop/platform/dateisymbole.h"
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/meldungstext.h"
 #include "desktop/platform/qt_text.h"
 #include "toolkit/text.h"
@@ -127,6 +128,7 @@ Antwort QtPlattform::melde(const Meldung& meldung) {
     const Zeigerpause pause(sanduhr_);
     QMessageBox fenster(symbolbild(meldung.symbol), zeilentext(meldung.titel), zeilentext(meldung.text),
                         QMessageBox::NoButton, besitzer());
+    schrift_anpassen(fenster);
     if (!meldung.hinweis.empty()) fenster.setInformativeText(zeilentext(meldung.hinweis));
     meldungstexte_einrichten(fenster);
     const std::vector<Antwort> moeglich = antworten(meldung.knoepfe);
@@ -146,6 +148,7 @@ std::optional<std::string> QtPlattform::eingabe(const std::string& text, const s
                                                 const std::string& vorgabe) {
     const Zeigerpause pause(sanduhr_);
     QInputDialog fenster(besitzer());
+    schrift_anpassen(fenster);
     fenster.setWindowTitle(zeilentext(titel));
     // The label is bound to its field, and so would take an ampersand for the mark of an access key.
     fenster.setLabelText(zeilentext(text).replace(u'&', QLatin1String("&&")));
@@ -156,7 +159,7 @@ std::optional<std::string> QtPlattform::eingabe(const std::string& text, const s
         schild->setTextFormat(Qt::PlainText);
         schild->setWordWrap(true);
     }
-    if (auto* zeile = fenster.findChild<QLineEdit*>()) zeile->setMinimumWidth(400);
+    if (auto* zeile = fenster.findChild<QLineEdit*>()) zeile->setMinimumWidth(in_pixeln(*zeile, 400));
     if (fenster.exec() != QDialog::Accepted) return std::nullopt;
     return utf8(fenster.textValue());
 }
@@ -171,6 +174,7 @@ std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog&
 std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialog& dialog) {
     Dateisymbole symbole;
     QFileDialog fenster(besitzer());
+    schrift_anpassen(fenster);
     fenster.setIconProvider(&symbole);
     // A name that does not exist is the caller's to judge, and so is one that does.
     fenster.setFileMode(QFileDialog::AnyFile);
@@ -223,8 +227,9 @@ void QtPlattform::fenstertitel(const std::string& titel) {
 }
 
 Bildschirmpunkt QtPlattform::zeiger() const {
-    const QPoint ort = QCursor::pos();
-    return {ort.x(), ort.y()};
+    const double s = hauptfenster_ ? massstab(*hauptfenster_) : 1;
+    const QPointF ort = QPointF(QCursor::pos()) / s;
+    return {qRound(ort.x()), qRound(ort.y())};
 }
 
 void QtPlattform::zeitgeber_starten(const std::string& name, int millisekunden,

@@ -1,6 +1,7 @@
 #include "desktop/platform/stil.h"
 
 #include "desktop/platform/hausstil.h"
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_schrift.h"
 
 #include <QApplication>
@@ -45,6 +46,12 @@ void stil_setzen() {
     for (const char* klasse : {"QMenu", "QMenuBar", "QMessageBox", "QTipLabel", "QStatusBar", "QTitleBar"})
         QApplication::setFont(font, klasse);
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+}
+
+void tippschrift_setzen(double massstab) {
+    QFont schrift = QToolTip::font();
+    schrift.setPixelSize(schriftpixel(mass::schrift, massstab));
+    if (schrift != QToolTip::font()) QToolTip::setFont(schrift);
 }
 
 void symbol_setzen(const std::filesystem::path& programmordner) {

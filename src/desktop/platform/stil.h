@@ -48,6 +48,9 @@ inline constexpr Farbe farben_der_tafel{qRed(stilfarben::tafel), qGreen(stilfarb
 /// Gives the program one look on every desktop: style, palette, fonts. Needs the application object.
 void stil_setzen();
 
+/// Letters of the tips that come up beside a control, at a scale.
+void tippschrift_setzen(double massstab);
+
 /// The program's picture on all its windows; it is in the folder Grafiken.
 void symbol_setzen(const std::filesystem::path& programmordner);
 

@@ -211,9 +211,10 @@ QWidget* klimaimport_ansicht(E_Klimaimport& e, const Ansichtsmittel& mittel, QWi
     reihe->addWidget(knopf(e.Command3, bau));
     spalte->addLayout(reihe);
     spalte->setSizeConstraint(QLayout::SetFixedSize);
+    fenster->einheitsgroesse(ganze_groesse, ganze_groesse);
     mittel.binder.binde(*fenster, e.ebene);
     e.ebene.ansicht = [fenster, zeigen = e.ebene.ansicht] {
-        if (fenster->isHidden()) platzieren(*fenster, ganze_groesse);
+        if (fenster->isHidden()) platzieren(*fenster, ganze_groesse * fenster->oeffnungsmassstab());
         zeigen();
     };
     return fenster;

@@ -3,12 +3,12 @@
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/nebenfenster.h"
 #include "desktop/widgets/rtf_anzeige.h"
+#include "desktop/widgets/textskala.h"
 #include "language/beschriftungen.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QTextEdit>
 
@@ -21,16 +21,29 @@ constexpr double punkte_je_zoll = 72;
 constexpr double seitenbreite = 451;
 constexpr int seitenrand = 20;
 
+/// The view of the report with the scale of its text.
+class Reportfeld : public QTextEdit {
+  public:
+    using QTextEdit::QTextEdit;
+
+    Textskala skala{*this};
+};
+
 /// The text of the report: a new one is shown from its top, while the same text keeps its place.
-QWidget* reportfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, QWidget* fenster) {
-    auto* feld = new QTextEdit(fenster);
+QWidget* reportfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, Nebenfenster* fenster) {
+    auto* feld = new Reportfeld(fenster);
     const double pixel_je_punkt = feld->logicalDpiX() / punkte_je_zoll;
     feld->setAccessibleName(fenster->windowTitle());
     feld->setReadOnly(true);
     feld->setUndoRedoEnabled(false);
     feld->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     feld->setLineWrapMode(QTextEdit::FixedPixelWidth);
-    feld->setLineWrapColumnOrWidth(static_cast<int>(seitenbreite * pixel_je_punkt) + 2 * seitenrand);
+    const auto umbrechen = [feld, pixel_je_punkt](double massstab) {
+        feld->skala.setze(massstab);
+        feld->setLineWrapColumnOrWidth(qRound((seitenbreite * pixel_je_punkt + 2 * seitenrand) * massstab));
+    };
+    umbrechen(1);
+    QObject::connect(&fenster->skala(), &Fenstermassstab::geaendert, feld, umbrechen);
     feld->document()->setDocumentMargin(seitenrand);
     mittel.binder.binde(static_cast<QWidget&>(*feld), anzeige);
     anzeige.ansicht = [feld, &anzeige, pixel_je_punkt, gezeigt = std::string()]() mutable {
@@ -79,14 +92,14 @@ void marke(Anzeige& anzeige, const Ebenenbau& bau) {
 
 QWidget* report_ansicht(A_Report& a, const Ansichtsmittel& mittel, QWidget* eltern) {
     constexpr QSize bevorzugt(724, 760);
-    constexpr int bildschirmrest = 80;  ///< for the frame of the window and the desktop's bars
+    constexpr QSize mindestens(724, 500);
     auto* fenster = new Nebenfenster(
         mittel.wache, [&a] { a.Command_Schliessen.druecke(); }, eltern);
     fenster->setWindowModality(Qt::ApplicationModal);
     fenster->setWindowTitle(qtext(beschriftung("A_Report", fenstertitel, mittel.sprache)));
     fenster->setMinimumSize(static_cast<int>(A_Report::mindestbreite()), 300);
-    fenster->resize(bevorzugt.boundedTo(fenster->screen()->availableSize() - QSize(0, bildschirmrest)));
-    fenster->anordnen = [&a](QSize innen) { a.anordnen(innen.width(), innen.height()); };
+    fenster->einheitsgroesse(bevorzugt, mindestens);
+    fenster->anordnen = [&a](QSizeF innen) { a.anordnen(innen.width(), innen.height()); };
     const Ebenenbau bau(*fenster, "A_Report", mittel);
     QWidget* report = reportfeld(a.Report1, mittel, fenster);
     QWidget* temperaturen = temperaturfeld(a.Temperaturverlauf1, bau, *fenster);

@@ -36,8 +36,8 @@ QWidget* zoom_ansicht(A_Zoom& a, const Ansichtsmittel& mittel, QWidget* eltern) 
         mittel.wache, [&a] { a.ebene.zeige(false); }, eltern);
     fenster->setWindowTitle(QStringLiteral("Velmaris"));
     fenster->setMinimumSize(400, 240);
-    fenster->resize(784, 500);
-    fenster->anordnen = [&a](QSize innen) { a.anordnen(innen.width(), innen.height()); };
+    fenster->einheitsgroesse({784, 500}, {784, 500});
+    fenster->anordnen = [&a](QSizeF innen) { a.anordnen(innen.width(), innen.height()); };
     const Ebenenbau bau(*fenster, "A_Zoom", mittel);
     monatsleiste_ansicht(a.monatsleiste, bau, fenster);
     bau.bild(a.Temperaturen);

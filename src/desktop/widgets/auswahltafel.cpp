@@ -1,5 +1,6 @@
 #include "desktop/widgets/auswahltafel.h"
 
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/auswahlschild.h"
 #include "desktop/widgets/taste.h"
@@ -107,10 +108,11 @@ void Auswahltafel::zeigen() {
 void Auswahltafel::einpassen() {
     const Platz ort = e_.Auswahl.platz();
     const int breite = innenbreite();
-    const int hoehe = static_cast<int>(e_.Auswahl.hoehe() / twips);
-    setGeometry(static_cast<int>(ort.links / twips), static_cast<int>(ort.oben / twips), breite + 2 * innen,
-                hoehe + innen);
-    halter_->setGeometry(innen, innen, breite, hoehe);
+    const int rand = in_pixeln(*this, innen);
+    const int hoehe = static_cast<int>(e_.Auswahl.hoehe() / twips_je_pixel());
+    setGeometry(static_cast<int>(ort.links / twips_je_pixel()), static_cast<int>(ort.oben / twips_je_pixel()),
+                breite + 2 * rand, hoehe + rand);
+    halter_->setGeometry(rand, rand, breite, hoehe);
     setAccessibleName(bediente(e_.Auswahl.feld()).knopf->accessibleName());
 }
 
@@ -166,15 +168,19 @@ bool Auswahltafel::focusNextPrevChild(bool weiter) {
     return QFrame::focusNextPrevChild(weiter);
 }
 
+double Auswahltafel::twips_je_pixel() const {
+    return twips / massstab(*this);
+}
+
 int Auswahltafel::innenbreite() const {
-    return bediente(e_.Label_System.name).feld->width() - 2 * innen;
+    return bediente(e_.Label_System.name).feld->width() - 2 * in_pixeln(*this, innen);
 }
 
 /// Of the wrapped text, in twips.
 double Auswahltafel::eintragshoehe(const Anzeige& eintrag) const {
     auto* schild = halter_->findChild<Auswahlschild*>(qtext(eintrag.name));
     schild->resize(innenbreite(), schild->heightForWidth(innenbreite()));
-    return static_cast<double>(schild->height() * twips);
+    return schild->height() * twips_je_pixel();
 }
 
 /// The text of the field may have changed just now, and its height with it.
@@ -184,7 +190,7 @@ Platz Auswahltafel::unterkante(const Anzeige& feld) const {
         ort->layout()->activate();
     parentWidget()->layout()->activate();
     const QPoint ecke = schild.mapTo(parentWidget(), QPoint(0, schild.height()));
-    return {.links = static_cast<double>(ecke.x() * twips), .oben = static_cast<double>(ecke.y() * twips)};
+    return {.links = ecke.x() * twips_je_pixel(), .oben = ecke.y() * twips_je_pixel()};
 }
 
 const Auswahltafel::Bedienung& Auswahltafel::bediente(const std::string& feld) const {

@@ -46,6 +46,7 @@ class Auswahltafel : public QFrame {
     void einpassen();
     void schliessen();
     void fokus_verfolgen(const QWidget* jetzt);
+    [[nodiscard]] double twips_je_pixel() const;
     [[nodiscard]] int innenbreite() const;
     [[nodiscard]] double eintragshoehe(const Anzeige& eintrag) const;
     [[nodiscard]] Platz unterkante(const Anzeige& feld) const;

@@ -1,5 +1,6 @@
 #include "desktop/widgets/bildflaeche.h"
 
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/platform/stil.h"
 #include "desktop/widgets/binde.h"
@@ -33,8 +34,13 @@ Bildflaeche::~Bildflaeche() {
 
 QtFlaeche& Bildflaeche::flaeche() {
     const QSizeF pixel = QSizeF(size()) * devicePixelRatioF();
-    if (!flaeche_ || flaeche_->bild().size() != pixel.toSize()) {
-        flaeche_.emplace(size(), devicePixelRatioF(), hintergrund_);
+    if (pixel != pixel_) {
+        pixel_ = pixel;
+        // The same for both sides, and enough to cover them: a side may be rounded up.
+        const QSize einheiten = in_einheiten();
+        flaeche_.emplace(einheiten,
+                         std::max(pixel.width() / einheiten.width(), pixel.height() / einheiten.height()),
+                         hintergrund_);
         veraltet_ = true;
     }
     if (geladen_ != feld_.bild()) bild_laden();
@@ -47,6 +53,18 @@ QtFlaeche& Bildflaeche::flaeche() {
         });
     }
     return *flaeche_;
+}
+
+/// The size of the surface as its plane draws on it, whatever the scale of the window.
+QSize Bildflaeche::in_einheiten() const {
+    return (QSizeF(size()) / massstab(*this)).toSize().expandedTo(QSize(1, 1));
+}
+
+/// A place in the units of the surface.
+QPointF Bildflaeche::in_einheiten(QPointF ort) const {
+    const QSize einheiten = in_einheiten();
+    return {std::floor(ort.x() * einheiten.width() / width()),
+            std::floor(ort.y() * einheiten.height() / height())};
 }
 
 /// Brings the record's state to the widget; drawing waits for the next paint event.
@@ -74,13 +92,17 @@ void Bildflaeche::melde_bildfehler() {
 }
 
 void Bildflaeche::paintEvent(QPaintEvent*) {
-    constexpr qreal fokusrahmen = 2;
+    const qreal fokusrahmen = 2 * massstab(*this);
     QPainter maler(this);
-    maler.drawImage(QPointF(0, 0), flaeche().bild());
+    const QImage& bild = flaeche().bild();
+    QImage pixel(bild.constBits(), bild.width(), bild.height(), bild.bytesPerLine(), bild.format());
+    pixel.setDevicePixelRatio(devicePixelRatioF());
+    maler.drawImage(QPointF(0, 0), pixel);
     if (!hasFocus()) return;
     maler.setPen(
         QPen(QColor(stilfarben::betonung), fokusrahmen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    maler.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+    const qreal halb = fokusrahmen / 2;
+    maler.drawRect(QRectF(rect()).adjusted(halb, halb, -halb, -halb));
 }
 
 void Bildflaeche::keyPressEvent(QKeyEvent* ereignis) {
@@ -89,9 +111,9 @@ void Bildflaeche::keyPressEvent(QKeyEvent* ereignis) {
 }
 
 void Bildflaeche::mouseMoveEvent(QMouseEvent* ereignis) {
-    const QPointF ort = ereignis->position();
+    const QPointF ort = in_einheiten(ereignis->position());
     wache_.fuehre_aus([&] {
-        if (feld_.maus_bewegt) feld_.maus_bewegt(std::floor(ort.x()), std::floor(ort.y()));
+        if (feld_.maus_bewegt) feld_.maus_bewegt(ort.x(), ort.y());
     });
 }
 
@@ -101,10 +123,10 @@ void Bildflaeche::mousePressEvent(QMouseEvent* ereignis) {
 }
 
 void Bildflaeche::mouseReleaseEvent(QMouseEvent* ereignis) {
-    const QPointF ort = ereignis->position();
-    if (ereignis->button() != Qt::LeftButton || !rect().contains(ort.toPoint())) return;
+    if (ereignis->button() != Qt::LeftButton || !rect().contains(ereignis->position().toPoint())) return;
+    const QPointF ort = in_einheiten(ereignis->position());
     wache_.fuehre_aus([&] {
-        if (feld_.maus_geklickt) feld_.maus_geklickt(std::floor(ort.x()), std::floor(ort.y()));
+        if (feld_.maus_geklickt) feld_.maus_geklickt(ort.x(), ort.y());
     });
 }
 

@@ -36,6 +36,8 @@ class Bildflaeche : public QWidget {
     void leaveEvent(QEvent* ereignis) override;
 
   private:
+    [[nodiscard]] QSize in_einheiten() const;
+    [[nodiscard]] QPointF in_einheiten(QPointF ort) const;
     void feld_zeigen();
     void bild_laden();
     void melde_bildfehler();
@@ -46,6 +48,7 @@ class Bildflaeche : public QWidget {
     bool veraltet_ = true;
     std::filesystem::path geladen_;
     QImage bild_;
+    QSizeF pixel_;
     std::optional<QtFlaeche> flaeche_;
 };
 

@@ -1,9 +1,9 @@
 #include "desktop/widgets/binde.h"
 
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/scrollleiste.h"
 
-#include <QAbstractItemView>
 #include <QAction>
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -16,7 +16,6 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStringList>
-#include <QStyle>
 #include <QVariant>
 #include <QWidget>
 #include <algorithm>
@@ -61,11 +60,6 @@ void eintraege_zeigen(QComboBox& kasten, const std::vector<std::string>& eintrae
 
     kasten.clear();
     kasten.addItems(texte);
-    // The list opens as wide as its longest entry, however narrow the box is.
-    QAbstractItemView* ansicht = kasten.view();
-    const int rollbalken = kasten.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int rand = 2 * ansicht->frameWidth() + kasten.style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
-    ansicht->setMinimumWidth(ansicht->sizeHintForColumn(0) + rollbalken + rand);
 }
 
 void liste_zeigen(QComboBox& kasten, const Auswahlliste& liste) {
@@ -102,10 +96,8 @@ void anzeige_zeigen(QLabel& schild, const Anzeige& anzeige, double pixel_je_einh
     if (anzeige.schriftfarbe()) farbe = qfarbe(*anzeige.schriftfarbe());
     if (anzeige.verborgen()) farbe = schild.palette().color(schild.backgroundRole());
     farbe_setzen(schild, farbe);
-    if (const std::optional<Platz> platz = anzeige.platz()) {
-        schild.adjustSize();
-        schild.move(QPointF(platz->links * pixel_je_einheit, platz->oben * pixel_je_einheit).toPoint());
-    }
+    if (const std::optional<Platz> platz = anzeige.platz())
+        lege(schild, QPointF(platz->links, platz->oben) * pixel_je_einheit);
     grundzustand(schild, anzeige);
 }
 
@@ -114,7 +106,7 @@ void anzeige_zeigen(QLabel& schild, const Anzeige& anzeige, double pixel_je_einh
 void grundzustand(QWidget& fenster, const Feld& feld) {
     fenster.setEnabled(feld.aktiv());
     if (const std::optional<Rechteck>& lage = feld.lage())
-        fenster.setGeometry(QRectF(lage->links, lage->oben, lage->breite, lage->hoehe).toRect());
+        lege(fenster, QRectF(lage->links, lage->oben, lage->breite, lage->hoehe));
     if (fenster.isHidden() == feld.sichtbar()) fenster.setVisible(feld.sichtbar());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/platform/massstab.h"
 #include "desktop/widgets/ebenenbau.h"
 
 #include <QSize>
@@ -14,12 +15,13 @@ namespace velmaris {
 /// The layout of a plane whose frames stand one below the other.
 [[nodiscard]] QVBoxLayout* ebenenspalte(QWidget& ebene);
 
-/// Puts a widget at a place on a plane or over a picture; a width or height of 0 leaves the widget its own.
+/// Puts a widget at a place on a plane or over a picture, in units; a width or height of 0 leaves the widget
+/// its own.
 template <typename Fenster>
 Fenster* setze(Fenster* fenster, QWidget* auf, int x, int y, int breite = 0, int hoehe = 0) {
     fenster->setParent(auf);
     const QSize eigene = fenster->sizeHint();
-    fenster->setGeometry(x, y, breite > 0 ? breite : eigene.width(), hoehe > 0 ? hoehe : eigene.height());
+    lege(*fenster, QRectF(x, y, breite > 0 ? breite : eigene.width(), hoehe > 0 ? hoehe : eigene.height()));
     return fenster;
 }
 

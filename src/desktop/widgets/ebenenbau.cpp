@@ -4,6 +4,7 @@
 #include "desktop/platform/qt_schrift.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/platform/stil.h"
+#include "desktop/widgets/aufklappliste.h"
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebenenknopf.h"
 #include "desktop/widgets/scrollleiste.h"
@@ -134,7 +135,7 @@ Scrollleiste* Ebenenbau::leiste(Scrollfeld& feld, const std::string& zweck, Qt::
 }
 
 QComboBox* Ebenenbau::liste(Auswahlliste& liste, const std::string& zweck) const {
-    auto* neu = new QComboBox(&ebene_);
+    auto* neu = new Aufklappliste(&ebene_);
     neu->setFixedHeight(mass::liste);
     neu->setAccessibleName(qtext(zweck));
     mittel_.binder.binde(*neu, liste);

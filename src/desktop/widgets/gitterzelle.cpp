@@ -1,5 +1,6 @@
 #include "desktop/widgets/gitterzelle.h"
 
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/stil.h"
 
 #include <QPainter>
@@ -14,7 +15,7 @@ Gitterzelle::Gitterzelle(bool kopf, QWidget* eltern) : QLabel(eltern), kopf_(kop
 }
 
 void Gitterzelle::paintEvent(QPaintEvent*) {
-    constexpr int rand = 4;
+    const int rand = in_pixeln(*this, 4);
     QPainter maler(this);
     maler.fillRect(rect(), kopf_ ? QColor(stilfarben::rille) : palette().color(QPalette::Base));
     maler.fillRect(QRect(width() - 1, 0, 1, height()), QColor(stilfarben::tafelrand));

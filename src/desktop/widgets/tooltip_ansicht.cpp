@@ -1,5 +1,6 @@
 #include "desktop/widgets/tooltip_ansicht.h"
 
+#include "desktop/platform/massstab.h"
 #include "desktop/widgets/tippfenster.h"
 
 #include <QLabel>
@@ -7,8 +8,8 @@
 namespace velmaris {
 
 void tooltip_ansicht(Tooltip& tooltip, const Ansichtsmittel& mittel, QWidget* ebene) {
-    const auto ort = [](const QPoint& ecke) {
-        return Platz{.links = static_cast<double>(ecke.x()), .oben = static_cast<double>(ecke.y())};
+    const auto ort = [](QPointF ecke, double s) {
+        return Platz{.links = ecke.x() / s, .oben = ecke.y() / s};
     };
     auto* fenster = new Tippfenster(ebene);
     mittel.binder.binde(*fenster, tooltip.Frame_ToolTip);
@@ -18,12 +19,14 @@ void tooltip_ansicht(Tooltip& tooltip, const Ansichtsmittel& mittel, QWidget* eb
     bei_ereignis(*fenster, QEvent::Leave, mittel.wache, [&tooltip] { tooltip.verlassen(); });
     bei_ereignis(*ebene, QEvent::WindowDeactivate, mittel.wache, [&tooltip] { tooltip.verlassen(); });
     tooltip.ebenenlage = [ebene, ort] {
-        return Ebenenlage{.haupt = ort(ebene->window()->frameGeometry().topLeft()),
-                          .ebene = ort(ebene->pos()),
-                          .hoehe = static_cast<double>(ebene->height())};
+        const double s = massstab(*ebene);
+        const QPoint rahmenecke = ebene->window()->frameGeometry().topLeft();
+        return Ebenenlage{.haupt = ort(rahmenecke, s),
+                          .ebene = ort(ebene->parentWidget()->pos() + ebene->pos(), s),
+                          .hoehe = ebene->height() / s};
     };
     tooltip.platzbedarf = [fenster] {
-        const QSizeF bedarf = fenster->sizeHint();
+        const QSizeF bedarf = QSizeF(fenster->sizeHint()) / massstab(*fenster);
         return Groesse{.breite = bedarf.width(), .hoehe = bedarf.height()};
     };
 }

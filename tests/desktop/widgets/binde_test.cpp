@@ -1,6 +1,7 @@
 #include "desktop/widgets/binde.h"
 
 #include "desktop/platform/qt_text.h"
+#include "desktop/widgets/aufklappliste.h"
 #include "desktop/widgets/scrollleiste.h"
 #include "tests/desktop/bedienung.h"
 
@@ -71,7 +72,7 @@ TEST_F(Binde, FehlerImHandlerKommtAnUndDieBedienungGehtWeiter) {
 
 TEST_F(Binde, AuswahllisteMeldetAuchDieWahlDerSelbenZeileUndZeigtFremdenText) {
     Auswahlliste liste("ugd");
-    QComboBox kasten(&fenster);
+    Aufklappliste kasten(&fenster);
     std::vector<int> gewaehlt;
     liste.gewaehlt = [&] { gewaehlt.push_back(liste.index()); };
     kasten.resize(90, 24);

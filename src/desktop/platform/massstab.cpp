@@ -1,0 +1,86 @@
+#include "desktop/platform/massstab.h"
+
+#include <QScreen>
+#include <QVariant>
+#include <QWidget>
+#include <algorithm>
+#include <cmath>
+
+namespace velmaris {
+namespace {
+
+constexpr const char* faktor = "massstab";
+constexpr const char* platz = "platz_in_einheiten";
+
+}  // namespace
+
+double massstab(const QWidget& fenster) {
+    for (const QWidget* ort = fenster.window(); ort != nullptr;) {
+        const QVariant eigener = ort->property(faktor);
+        if (eigener.isValid()) return eigener.toDouble();
+        const QWidget* darunter = ort->parentWidget();
+        ort = darunter == nullptr ? nullptr : darunter->window();
+    }
+    return 1;
+}
+
+void massstab_setzen(QWidget& fenster, double massstab) {
+    fenster.setProperty(faktor, massstab);
+}
+
+double passender_massstab(QSize pixel, QSize einheiten) {
+    return std::max(1.0, std::min(static_cast<double>(pixel.width()) / einheiten.width(),
+                                  static_cast<double>(pixel.height()) / einheiten.height()));
+}
+
+double erster_massstab(const QWidget& fenster) {
+    constexpr QSize rahmen(8, 36);
+    constexpr double stufen = 4;
+    const QSize platz = fenster.screen()->availableSize() - rahmen;
+    return std::floor(passender_massstab(platz, hauptfenstergroesse) * stufen) / stufen;
+}
+
+QSize bildschirmplatz(const QWidget& fenster) {
+    constexpr int rest = 80;
+    return fenster.screen()->availableSize() - QSize(0, rest);
+}
+
+int in_pixeln(const QWidget& fenster, double einheiten) {
+    return qRound(einheiten * massstab(fenster));
+}
+
+int schriftpixel(double einheiten, double massstab) {
+    constexpr double rundungsrest = 1e-6;
+    return std::max(1, static_cast<int>(std::floor(einheiten * massstab + rundungsrest)));
+}
+
+void schrift_anpassen(QWidget& dialog) {
+    QFont schrift = dialog.font();
+    schrift.setPixelSize(schriftpixel(schrift.pixelSize(), massstab(dialog)));
+    dialog.setFont(schrift);
+}
+
+void lege(QWidget& fenster, const QRectF& einheiten) {
+    fenster.setProperty(platz, einheiten);
+    neu_legen(fenster);
+}
+
+void lege(QWidget& fenster, const QPointF& einheiten) {
+    fenster.setProperty(platz, einheiten);
+    neu_legen(fenster);
+}
+
+void neu_legen(QWidget& fenster) {
+    const QVariant ort = fenster.property(platz);
+    if (!ort.isValid()) return;
+    const double s = massstab(fenster);
+    if (ort.typeId() == QMetaType::QPointF) {
+        fenster.adjustSize();
+        fenster.move((ort.toPointF() * s).toPoint());
+    } else {
+        const QRectF lage = ort.toRectF();
+        fenster.setGeometry(QRect((lage.topLeft() * s).toPoint(), (lage.size() * s).toSize()));
+    }
+}
+
+}  // namespace velmaris
