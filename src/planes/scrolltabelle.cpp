@@ -1,6 +1,7 @@
 #include "planes/scrolltabelle.h"
 
 #include "toolkit/fehler.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -60,16 +61,40 @@ constexpr std::array<Scrollzeile, 46> zeilen{{
 }};
 
 const Scrollzeile& zeile_suchen(std::string_view name) {
-    const auto* const treffer = std::find_if(zeilen.begin(), zeilen.end(),
-                                             [name](const Scrollzeile& zeile) { return zeile.name == name; });
-    assert(treffer != zeilen.end());
+    const Scrollzeile* const treffer = scrollzeile(name);
+    assert(treffer != nullptr);
     return *treffer;
 }
 
 }  // namespace
 
+double Scrollzeile::gezeigt(int position) const {
+    return position / teiler * anzeigefaktor;
+}
+
+std::string Scrollzeile::zahl(int position) const {
+    return muster(gezeigt(position), stellen);
+}
+
+std::string Scrollzeile::bereich(std::string_view sprache) const {
+    const bool aufwaerts = teiler > 0;
+    return zahl(aufwaerts ? minimum : maximum) + std::string(Wort{" bis ", " to "}.in(sprache)) +
+           zahl(aufwaerts ? maximum : minimum);
+}
+
+std::string Scrollzeile::bereich_mit_einheit(std::string_view sprache) const {
+    const bool eng = einheit.empty() || einheit == "°";
+    return bereich(sprache) + (eng ? "" : " ") + std::string(einheit);
+}
+
 std::span<const Scrollzeile> scrollzeilen() {
     return zeilen;
+}
+
+const Scrollzeile* scrollzeile(std::string_view name) {
+    const auto* const treffer = std::find_if(zeilen.begin(), zeilen.end(),
+                                             [name](const Scrollzeile& zeile) { return zeile.name == name; });
+    return treffer == zeilen.end() ? nullptr : treffer;
 }
 
 Eingabefeld::Eingabefeld(std::string_view feldname)

@@ -22,10 +22,23 @@ struct Scrollzeile {
     int stellen;           ///< decimals of the display
     double anzeigefaktor;  ///< shown is the value times this
     std::string_view einheit;  ///< unit of what is shown
+
+    /// The number that the display shows at a position.
+    [[nodiscard]] double gezeigt(int position) const;
+
+    /// That number by the display's pattern.
+    [[nodiscard]] std::string zahl(int position) const;
+
+    /// The range of what is shown, "2.0 to 50.0" or "2,0 bis 50,0", and the same with its unit.
+    [[nodiscard]] std::string bereich(std::string_view sprache) const;
+    [[nodiscard]] std::string bereich_mit_einheit(std::string_view sprache) const;
 };
 
 /// All scroll fields of the input planes.
 [[nodiscard]] std::span<const Scrollzeile> scrollzeilen();
+
+/// The row of a scroll field, nothing for another name.
+[[nodiscard]] const Scrollzeile* scrollzeile(std::string_view name);
 
 /// A scroll field over its row of the table.
 class Eingabefeld : public Scrollfeld {
@@ -39,6 +52,8 @@ class Eingabefeld : public Scrollfeld {
     /// Moves to the position nearest to the record's value; a value out of range is a Laufzeitfehler that
     /// names the quantity and its range.
     void stellen(const Projekt& p);
+
+    [[nodiscard]] const Scrollzeile& zeile() const { return zeile_; }
 
     /// The record's value by the display's pattern.
     [[nodiscard]] std::string anzeigetext(const Projekt& p) const;

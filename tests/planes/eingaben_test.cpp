@@ -3,11 +3,13 @@
 #include "energy/energiebilanz.h"
 #include "planes/Haupt.h"
 #include "planes/dokumentquelle.h"
+#include "planes/eingabewert.h"
 #include "project/feldtabelle.h"
 #include "tests/testprogramm.h"
 #include "toolkit/text.h"
 #include "toolkit/zahlen.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <functional>
@@ -244,6 +246,31 @@ TEST_F(Eingaben, JederSchieberStelltSeinenWertUndJedesErgebnisFolgt) {
     EXPECT_EQ(h.e_geometrie.av_anz.platz()->links, 0);
     EXPECT_FLOAT_EQ(p.kfs, 0.525F);   // 0.75 x 0.45 + 0.25 x 0.75
     EXPECT_FLOAT_EQ(p.kfw, 1.1525F);  // 0.85 x 1.1 + 0.15 x 1.45
+}
+
+/// At every position of every field, as the display shows it and with either decimal mark and its unit.
+TEST_F(Eingaben, JedeAnzeigeEingetipptGibtIhreStellung) {
+    p.FormLoadGuard = -1;  // displays alone
+    h.e_gebaeude.Tueber_sb.setze(400);
+    h.e_gebaeude.Troom_sb.setze(-100);
+    int stellungen = 0;
+    for (const auto& [name, paar] : schieber(h)) {
+        Eingabefeld& feld = *paar.first;
+        const int vorher = feld.position();
+        for (int ort = feld.minimum(); ort <= feld.maximum(); ++ort) {
+            feld.setze(ort);
+            std::string text = paar.second->text();
+            EXPECT_EQ(std::get<int>(eingabewert(feld.zeile(), text)), feld.position()) << text;
+            std::replace(text.begin(), text.end(), '.', ',');
+            if (text.find_last_of("0123456789") + 1 == text.size()) text += feld.zeile().einheit;
+            EXPECT_EQ(std::get<int>(eingabewert(feld.zeile(), text)), feld.position()) << text;
+            stellungen += feld.position() == ort ? 1 : 0;
+        }
+        feld.setze(vorher);
+    }
+    // Facades 4 x (4 x 101 + 2 x 601), insulation 4 x 150 + 2 x 151 + 501 + 201 + 101, geometry
+    // 3 x 481 + 51 + 20 + 91, building 500 + 301 + 801 + 2 x 1001 + 101 + 76; 40.0 °C is above the limit.
+    EXPECT_EQ(stellungen, 6424 + 1705 + 1605 + 3781);
 }
 
 /// A house with no line of a new project in its file, opened by a program that knows nothing of it and has
