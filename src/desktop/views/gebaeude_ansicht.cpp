@@ -15,7 +15,7 @@ namespace velmaris {
 namespace {
 
 /// A frame with one scroll field.
-QGroupBox* ein_schieber(std::string_view frame, Scrollfeld& feld, Anzeige& wert, QLabel* einheit,
+QGroupBox* ein_schieber(std::string_view frame, Eingabefeld& feld, Anzeige& wert, QLabel* einheit,
                         const Ebenenbau& bau) {
     QGroupBox* rahmen = bau.rahmen(frame);
     bau.zeile(*schiebertabelle(*rahmen), "", feld, wert, einheit);

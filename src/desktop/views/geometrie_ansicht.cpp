@@ -63,19 +63,20 @@ void masse(E_Geometrie& e, const Ebenenbau& bau, QWidget* ebene) {
     constexpr int leiste_links = 78;
     const std::string dachhoehe = e.Label4.text();
     setze(umbrochen(bau.anzeige(e.Label4)), ebene, 2, 44, 74, 28);
-    setze(mittig(bau.anzeige(e.hd_anz)), ebene, 2, 72, 74, 16);
-    setze(bau.leiste(e.hd_sb, dachhoehe, Qt::Vertical), ebene, leiste_links, 44, mass::leiste, 78);
+    QLabel* hd = setze(mittig(bau.anzeige(e.hd_anz)), ebene, 2, 72, 74, 16);
+    setze(bau.eingabe(e.hd_sb, *hd, dachhoehe, Qt::Vertical), ebene, leiste_links, 44, mass::leiste, 78);
     setze(umbrochen(bau.wort("Label22")), ebene, 2, 128, 74, 40);
-    setze(mittig(bau.anzeige(e.h_anz)), ebene, 2, 168, 74, 16);
-    setze(bau.leiste(e.h_sb, bau.text("Label22"), Qt::Vertical), ebene, leiste_links, 111, mass::leiste, 97);
+    QLabel* h = setze(mittig(bau.anzeige(e.h_anz)), ebene, 2, 168, 74, 16);
+    setze(bau.eingabe(e.h_sb, *h, bau.text("Label22"), Qt::Vertical), ebene, leiste_links, 111, mass::leiste,
+          97);
     setze(umbrochen(bau.wort("Label1")), ebene, 288, 44, 62, 40);
-    setze(bau.leiste(e.ag_sb, bau.text("Label1"), Qt::Vertical), ebene, 296, 88, mass::leiste, 97);
-    setze(mittig(bau.anzeige(e.ag_anz)), ebene, 316, 128, 28, 16);
+    QLabel* ag = setze(mittig(bau.anzeige(e.ag_anz)), ebene, 316, 128, 28, 16);
+    setze(bau.eingabe(e.ag_sb, *ag, bau.text("Label1"), Qt::Vertical), ebene, 296, 88, mass::leiste, 97);
 
-    setze(mittig(bau.anzeige(e.b_anz)), ebene, 10, 210, 160, 15);
-    setze(bau.leiste(e.b_sb, bau.text(e.b_sb.name)), ebene, 10, 226, 160, mass::leiste);
-    setze(mittig(bau.anzeige(e.l_anz)), ebene, 182, 210, 160, 15);
-    setze(bau.leiste(e.l_sb, bau.text(e.l_sb.name)), ebene, 182, 226, 160, mass::leiste);
+    QLabel* b = setze(mittig(bau.anzeige(e.b_anz)), ebene, 10, 210, 160, 15);
+    setze(bau.eingabe(e.b_sb, *b, bau.text(e.b_sb.name)), ebene, 10, 226, 160, mass::leiste);
+    QLabel* l = setze(mittig(bau.anzeige(e.l_anz)), ebene, 182, 210, 160, 15);
+    setze(bau.eingabe(e.l_sb, *l, bau.text(e.l_sb.name)), ebene, 182, 226, 160, mass::leiste);
 }
 
 QGroupBox* dachfirst(E_Geometrie& e, const Ebenenbau& bau) {
@@ -131,10 +132,11 @@ QGroupBox* orientierung(E_Geometrie& e, const Ebenenbau& bau) {
     rose->setColumnStretch(2, 1);
     auto* enden = new QHBoxLayout;
     enden->addWidget(bau.wort("Label31"));
-    enden->addWidget(mittig(bau.anzeige(e.orient_anz)), 1);
+    QLabel* wert = mittig(bau.anzeige(e.orient_anz));
+    enden->addWidget(wert, 1);
     enden->addWidget(bau.wort("Label30"));
     rose->addLayout(enden, 3, 0, 1, 3);
-    rose->addWidget(bau.leiste(e.orient_sb, bau.text("Label23")), 4, 0, 1, 3);
+    rose->addWidget(bau.eingabe(e.orient_sb, *wert, bau.text("Label23")), 4, 0, 1, 3);
     QLabel* zweck = umbrochen(bau.wort("Label23"));
     QFont schrift = zweck->font();
     schrift.setPixelSize(zweckschrift);

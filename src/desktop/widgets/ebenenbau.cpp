@@ -9,6 +9,7 @@
 #include "desktop/widgets/ebenenknopf.h"
 #include "desktop/widgets/scrollleiste.h"
 #include "desktop/widgets/taste.h"
+#include "desktop/widgets/werteingabe.h"
 #include "language/beschriftungen.h"
 
 #include <QCheckBox>
@@ -134,6 +135,13 @@ Scrollleiste* Ebenenbau::leiste(Scrollfeld& feld, const std::string& zweck, Qt::
     return neu;
 }
 
+Scrollleiste* Ebenenbau::eingabe(Eingabefeld& feld, QLabel& wert, const std::string& zweck,
+                                 Qt::Orientation richtung) const {
+    Scrollleiste* neu = leiste(feld, zweck, richtung);
+    new Werteingabe(feld, *neu, wert, ebene_, mittel_.sprache);
+    return neu;
+}
+
 QComboBox* Ebenenbau::liste(Auswahlliste& liste, const std::string& zweck) const {
     auto* neu = new Aufklappliste(&ebene_);
     neu->setFixedHeight(mass::liste);
@@ -200,7 +208,7 @@ Bildflaeche* Ebenenbau::bild(Bildfeld& feld, Farbe hintergrund) const {
     return new Bildflaeche(feld, mittel_.wache, &ebene_, hintergrund);
 }
 
-void Ebenenbau::zeile(QGridLayout& tabelle, std::string_view beschriftung, Scrollfeld& feld, Anzeige& wert,
+void Ebenenbau::zeile(QGridLayout& tabelle, std::string_view beschriftung, Eingabefeld& feld, Anzeige& wert,
                       QLabel* einheit) const {
     const int reihe = tabelle.rowCount();
     const int anfang = beschriftung.empty() ? 0 : 1;
@@ -210,8 +218,9 @@ void Ebenenbau::zeile(QGridLayout& tabelle, std::string_view beschriftung, Scrol
         tabelle.addWidget(wort(beschriftung), reihe, 0);
         zweck += " " + text(beschriftung);
     }
-    tabelle.addWidget(leiste(feld, zweck), reihe, anfang, 1, 2 - anfang);
-    tabelle.addWidget(zahl(wert), reihe, 2);
+    QLabel* anzeige = zahl(wert);
+    tabelle.addWidget(eingabe(feld, *anzeige, zweck), reihe, anfang, 1, 2 - anfang);
+    tabelle.addWidget(anzeige, reihe, 2);
     if (einheit != nullptr) tabelle.addWidget(einheit, reihe, 3);
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/platform/fehlerwache.h"
 #include "desktop/widgets/binde.h"
+#include "planes/scrolltabelle.h"
 #include "toolkit/felder.h"
 
 #include <QEvent>
@@ -66,6 +67,10 @@ class Ebenenbau {
     /// A scroll field; `zweck` is what screen readers call it.
     [[nodiscard]] Scrollleiste* leiste(Scrollfeld& feld, const std::string& zweck,
                                        Qt::Orientation richtung = Qt::Horizontal) const;
+
+    /// The scroll field of an input, whose display can be typed into.
+    [[nodiscard]] Scrollleiste* eingabe(Eingabefeld& feld, QLabel& wert, const std::string& zweck,
+                                        Qt::Orientation richtung = Qt::Horizontal) const;
     [[nodiscard]] QComboBox* liste(Auswahlliste& liste, const std::string& zweck) const;
     [[nodiscard]] QLineEdit* textfeld(Textfeld& feld, const std::string& zweck) const;
 
@@ -82,9 +87,9 @@ class Ebenenbau {
     QPushButton* reiter(Knopf& knopf) const;
     Bildflaeche* bild(Bildfeld& feld, Farbe hintergrund = farben::weiss) const;
 
-    /// A row of a table of scroll fields: caption, scroll field, value, unit. An empty caption leaves its
-    /// column to the scroll field.
-    void zeile(QGridLayout& tabelle, std::string_view beschriftung, Scrollfeld& feld, Anzeige& wert,
+    /// A row of a table of inputs: caption, scroll field, value, unit. An empty caption leaves its column to
+    /// the scroll field.
+    void zeile(QGridLayout& tabelle, std::string_view beschriftung, Eingabefeld& feld, Anzeige& wert,
                QLabel* einheit) const;
 
     [[nodiscard]] const Ansichtsmittel& mittel() const { return mittel_; }

@@ -26,11 +26,11 @@ class EingabenTest : public test::Programmprobe {
     }
 
     /// Moves a scroll field by one key: one small step, told to its quantity and to its display, and no
-    /// other number of the project.
+    /// other number of the project. What the display showed before, typed into it, leads back.
     void pruefe_schieber(QWidget& ebene, Scrollleiste& leiste) {
         const QString name = leiste.objectName().chopped(3);
         const QRegularExpression muster("^" + name + "_anz$", QRegularExpression::CaseInsensitiveOption);
-        const auto* anzeige = ebene.findChildren<QLabel*>(muster).value(0);
+        auto* anzeige = ebene.findChildren<QLabel*>(muster).value(0);
         ASSERT_NE(anzeige, nullptr) << name.toStdString();
         const QString text = anzeige->text();
         const std::string vorher = stand(name);
@@ -44,6 +44,12 @@ class EingabenTest : public test::Programmprobe {
         EXPECT_NE(stand(name), vorher) << name.toStdString();
         EXPECT_NE(anzeige->text(), text) << name.toStdString();
         EXPECT_EQ(p().Geaendert, 1) << name.toStdString();
+        QTest::mouseDClick(anzeige, Qt::LeftButton);
+        dynamic_cast<QLineEdit&>(*QApplication::focusWidget()).setText(text);
+        taste(Qt::Key_Return);
+        EXPECT_EQ(fokus(), leiste.objectName().toStdString());
+        EXPECT_EQ(leiste.value(), stellung) << name.toStdString();
+        EXPECT_EQ(stand(name), vorher) << name.toStdString();
     }
 
     /// Works a list, check field or option once, if it can be; the project is another one then.
