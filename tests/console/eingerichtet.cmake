@@ -4,7 +4,7 @@ file(REMOVE_RECURSE ${ORDNER} ${ORDNER}_umgezogen)
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BAU} --prefix ${ORDNER}
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 file(RENAME ${ORDNER} ${ORDNER}_umgezogen)
-set(teile klima/plz.txt Grafiken/haus0.bmp)
+set(teile klima/plz.txt Grafiken/haus0.bmp Grafiken/haus0@4.bmp)
 if(EXISTS ${BAU}/bin/Velmaris_d.chm)
     list(APPEND teile Velmaris_d.chm Velmaris_d.chm.sha256 Velmaris_e.chm Velmaris_e.chm.sha256)
 endif()

@@ -9,8 +9,6 @@ namespace {
 
 using Regionsfarben = std::array<Farbe, regionen_anzahl>;
 
-constexpr int breite = deutschlandgroesse.breite;
-constexpr int hoehe = deutschlandgroesse.hoehe;
 constexpr double strichdicke = 0.7;
 
 constexpr Farbe grund{240, 240, 240};
@@ -54,7 +52,7 @@ Flaeche alle_ringe(const std::array<Flaeche, regionen_anzahl>& regionen) {
 
 void strich(Bild& bild, const Flaeche& grad, double dicke, Farbe farbe, double deckkraft = 1) {
     const Flaeche pixel = abbilden(grad, deutschlandkarte);
-    auftragen(bild, linien(breite, hoehe, strecken(pixel), dicke), farbe, deckkraft);
+    auftragen(bild, linien(bild.gitter(), strecken(pixel), dicke), farbe, deckkraft);
 }
 
 /// A soft rim around the country.
@@ -69,8 +67,8 @@ void verwechslungen_aufheben(Bild& bild, const Bild& flaechen, const Regionsfarb
     const auto ist_regionsfarbe = [&](Farbe f) {
         return std::find(farben.begin(), farben.end(), f) != farben.end();
     };
-    for (int y = 0; y < hoehe; ++y) {
-        for (int x = 0; x < breite; ++x) {
+    for (int y = 0; y < bild.hoehe(); ++y) {
+        for (int x = 0; x < bild.breite(); ++x) {
             Farbe& pixel = bild.pixel(x, y);
             if (pixel == flaechen.pixel(x, y)) continue;
             while (ist_regionsfarbe(pixel))
@@ -82,13 +80,13 @@ void verwechslungen_aufheben(Bild& bild, const Bild& flaechen, const Regionsfarb
 }  // namespace
 
 Bild deutschland_bild(const std::array<Flaeche, regionen_anzahl>& regionen, const Flaeche& umriss,
-                      int hervorgehoben) {
+                      int hervorgehoben, int feinheit) {
     const Regionsfarben farben = regionsfarben(hervorgehoben);
-    Bild flaechen(breite, hoehe, grund);
+    Bild flaechen({deutschlandgroesse.breite, deutschlandgroesse.hoehe, feinheit}, grund);
     saum(flaechen, umriss);
     for (std::size_t i = 0; i < regionen.size(); ++i) {
         const Flaeche pixel = abbilden(regionen[i], deutschlandkarte);
-        auftragen(flaechen, kernfuellung(breite, hoehe, pixel), farben[i]);
+        auftragen(flaechen, kernfuellung(flaechen.gitter(), pixel), farben[i]);
     }
     Bild bild = flaechen;
     strich(bild, alle_ringe(regionen), strichdicke, grenze);

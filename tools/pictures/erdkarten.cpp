@@ -18,7 +18,7 @@ constexpr Farbe landfarbe{136, 154, 128};
 constexpr Farbe kueste{58, 80, 92};
 constexpr Farbe grenze{198, 208, 188};
 
-/// What a map shows, in pixels.
+/// What a map shows, in units of the drawing.
 struct Karteninhalt {
     Flaeche land;
     std::vector<Strecke> kuesten;
@@ -26,15 +26,15 @@ struct Karteninhalt {
     std::vector<Strecke> netz;
 };
 
-Bild karte_malen(int breite, int hoehe, const Karteninhalt& inhalt, double strichdicke) {
-    Bild bild(breite, hoehe, wasser);
+Bild karte_malen(const Gitter& gitter, const Karteninhalt& inhalt, double strichdicke) {
+    Bild bild(gitter, wasser);
     const auto strich = [&](const std::vector<Strecke>& strecken, double dicke, Farbe farbe, double kraft) {
-        auftragen(bild, linien(breite, hoehe, strecken, dicke * strichdicke), farbe, kraft);
+        auftragen(bild, linien(gitter, strecken, dicke * strichdicke), farbe, kraft);
     };
     strich(inhalt.netz, 0.6, gradnetz, 0.7);
     for (const double dicke : {9.0, 6.0, 3.0})
         strich(inhalt.kuesten, dicke, flachwasser, 0.25);
-    auftragen(bild, fuellung(breite, hoehe, inhalt.land), landfarbe);
+    auftragen(bild, fuellung(gitter, inhalt.land), landfarbe);
     strich(inhalt.grenzen, 0.7, grenze, 0.75);
     strich(inhalt.kuesten, 0.6, kueste, 0.8);
     return bild;
@@ -97,7 +97,7 @@ bool ist_schnittkante(const Strecke& s) {
 
 }  // namespace
 
-Bild europa_bild(const Flaeche& laender) {
+Bild europa_bild(const Flaeche& laender, int feinheit) {
     const auto projektion = [](Punkt ort) { return auf_pixelmitte(europakarte(ort)); };
     Karteninhalt inhalt;
     kanten_trennen(laender, inhalt.grenzen, inhalt.kuesten);
@@ -105,10 +105,10 @@ Bild europa_bild(const Flaeche& laender) {
     inhalt.kuesten = abbilden(inhalt.kuesten, projektion);
     inhalt.netz = abbilden(gradnetz_strecken(10), projektion);
     inhalt.land = abbilden(laender, projektion);
-    return karte_malen(europagroesse.breite, europagroesse.hoehe, inhalt, 1);
+    return karte_malen({europagroesse.breite, europagroesse.hoehe, feinheit}, inhalt, 1);
 }
 
-Bild welt_bild(const Flaeche& land, const std::vector<Strecke>& grenzen, double massstab) {
+Bild welt_bild(const Flaeche& land, const std::vector<Strecke>& grenzen, double massstab, int feinheit) {
     const auto projektion = [massstab](Punkt ort) {
         const Punkt p = weltkarte(ort);
         return auf_pixelmitte({p.x * massstab, p.y * massstab});
@@ -121,9 +121,9 @@ Bild welt_bild(const Flaeche& land, const std::vector<Strecke>& grenzen, double 
     inhalt.grenzen = abbilden(grenzen, projektion);
     inhalt.netz = abbilden(gradnetz_strecken(30), projektion);
     inhalt.land = abbilden(ringe, projektion);
-    return karte_malen(static_cast<int>(std::lround(weltgroesse.breite * massstab)),
-                       static_cast<int>(std::lround(weltgroesse.hoehe * massstab)), inhalt,
-                       std::sqrt(massstab));
+    const Gitter gitter{static_cast<int>(std::lround(weltgroesse.breite * massstab)),
+                        static_cast<int>(std::lround(weltgroesse.hoehe * massstab)), feinheit};
+    return karte_malen(gitter, inhalt, std::sqrt(massstab));
 }
 
 }  // namespace velmaris::bilder

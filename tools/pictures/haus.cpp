@@ -66,16 +66,16 @@ Ecke zwischen(const Ecke& a, const Ecke& b, double t) {
 }
 
 void fuellen(Bild& bild, const Umriss& umriss, Farbe farbe) {
-    auftragen(bild, fuellung(bildbreite, bildhoehe, vieleck(umriss)), farbe);
+    auftragen(bild, fuellung(bild.gitter(), vieleck(umriss)), farbe);
 }
 
 void umranden(Bild& bild, const Umriss& umriss, double deckkraft = 0.85) {
-    auftragen(bild, linien(bildbreite, bildhoehe, strecken(vieleck(umriss)), 1), kante, deckkraft);
+    auftragen(bild, linien(bild.gitter(), strecken(vieleck(umriss)), 1), kante, deckkraft);
 }
 
 /// An edge from a to b.
 void strich(Bild& bild, const Ecke& a, const Ecke& b, double deckkraft) {
-    auftragen(bild, linien(bildbreite, bildhoehe, {{projektion(a), projektion(b)}}, 1), kante, deckkraft);
+    auftragen(bild, linien(bild.gitter(), {{projektion(a), projektion(b)}}, 1), kante, deckkraft);
 }
 
 void wand(Bild& bild, const Umriss& umriss, Farbe farbe) {
@@ -93,7 +93,7 @@ void dachflaeche(Bild& bild, const Umriss& umriss, Farbe farbe) {
         fugen.push_back(
             {projektion(zwischen(umriss[0], umriss[3], t)), projektion(zwischen(umriss[1], umriss[2], t))});
     }
-    auftragen(bild, linien(bildbreite, bildhoehe, fugen, 0.6), ziegelfuge, 0.16);
+    auftragen(bild, linien(bild.gitter(), fugen, 0.6), ziegelfuge, 0.16);
     umranden(bild, umriss);
 }
 
@@ -157,8 +157,8 @@ void first_ost_west_malen(Bild& bild) {
 
 }  // namespace
 
-Bild haus_bild(Dachform dach) {
-    Bild bild(bildbreite, bildhoehe, grund);
+Bild haus_bild(Dachform dach, int feinheit) {
+    Bild bild({bildbreite, bildhoehe, feinheit}, grund);
     switch (dach) {
         case Dachform::flach:
             flachdach_malen(bild);

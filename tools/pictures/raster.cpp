@@ -6,11 +6,21 @@
 namespace velmaris::bilder {
 namespace {
 
-/// For scan line s at y = (s + 1/2) / je_pixel the ascending x of all rings that cross it.
-std::vector<std::vector<double>> schnitte(int hoehe, int je_pixel, const Flaeche& flaeche) {
+Punkt in_pixeln(Punkt p, int feinheit) {
+    return {p.x * feinheit, p.y * feinheit};
+}
+
+std::vector<Strecke> in_pixeln(std::vector<Strecke> strecken, int feinheit) {
+    for (Strecke& s : strecken)
+        s = {in_pixeln(s.a, feinheit), in_pixeln(s.b, feinheit)};
+    return strecken;
+}
+
+/// For scan line s at y = (s + 1/2) / je_pixel pixels the ascending x of all pieces that cross it.
+std::vector<std::vector<double>> schnitte(int hoehe, int je_pixel, const std::vector<Strecke>& kanten) {
     const int zeilen = hoehe * je_pixel;
     std::vector<std::vector<double>> ergebnis(static_cast<std::size_t>(zeilen));
-    for (const Strecke& s : strecken(flaeche)) {
+    for (const Strecke& s : kanten) {
         const Punkt oben = s.a.y < s.b.y ? s.a : s.b;
         const Punkt unten = s.a.y < s.b.y ? s.b : s.a;
         const auto erste_ab = [&](double y) {
@@ -78,15 +88,15 @@ std::vector<Strecke> strecken(const Flaeche& flaeche) {
     return ergebnis;
 }
 
-Deckung::Deckung(int breite, int hoehe)
-    : breite_(breite),
-      hoehe_(hoehe),
-      anteile_(static_cast<std::size_t>(breite) * static_cast<std::size_t>(hoehe)) {}
+Deckung::Deckung(const Gitter& gitter)
+    : breite_(gitter.breite * gitter.feinheit),
+      hoehe_(gitter.hoehe * gitter.feinheit),
+      anteile_(static_cast<std::size_t>(breite_) * static_cast<std::size_t>(hoehe_)) {}
 
-Deckung fuellung(int breite, int hoehe, const Flaeche& flaeche) {
+Deckung fuellung(const Gitter& gitter, const Flaeche& flaeche) {
     constexpr int je_pixel = 8;
-    Deckung deckung(breite, hoehe);
-    const auto zeilen = schnitte(hoehe, je_pixel, flaeche);
+    Deckung deckung(gitter);
+    const auto zeilen = schnitte(deckung.hoehe(), je_pixel, in_pixeln(strecken(flaeche), gitter.feinheit));
     for (std::size_t z = 0; z < zeilen.size(); ++z) {
         for (std::size_t i = 1; i < zeilen[z].size(); i += 2) {
             spanne_addieren(deckung, static_cast<int>(z) / je_pixel, zeilen[z][i - 1], zeilen[z][i],
@@ -96,12 +106,12 @@ Deckung fuellung(int breite, int hoehe, const Flaeche& flaeche) {
     return deckung;
 }
 
-Deckung kernfuellung(int breite, int hoehe, const Flaeche& flaeche) {
-    Deckung deckung(breite, hoehe);
-    const auto zeilen = schnitte(hoehe, 1, flaeche);
-    for (int y = 0; y < hoehe; ++y) {
+Deckung kernfuellung(const Gitter& gitter, const Flaeche& flaeche) {
+    Deckung deckung(gitter);
+    const auto zeilen = schnitte(deckung.hoehe(), 1, in_pixeln(strecken(flaeche), gitter.feinheit));
+    for (int y = 0; y < deckung.hoehe(); ++y) {
         const auto& kanten = zeilen[static_cast<std::size_t>(y)];
-        for (int x = 0; x < breite; ++x) {
+        for (int x = 0; x < deckung.breite(); ++x) {
             const auto links = std::upper_bound(kanten.begin(), kanten.end(), x + 0.5) - kanten.begin();
             deckung.anteil(x, y) = static_cast<double>(links % 2);
         }
@@ -109,16 +119,17 @@ Deckung kernfuellung(int breite, int hoehe, const Flaeche& flaeche) {
     return deckung;
 }
 
-Deckung linien(int breite, int hoehe, const std::vector<Strecke>& strecken, double dicke) {
-    Deckung deckung(breite, hoehe);
-    for (const Strecke& s : strecken)
-        linie_eintragen(deckung, s, dicke / 2 + 0.5);
+Deckung linien(const Gitter& gitter, const std::vector<Strecke>& strecken, double dicke) {
+    Deckung deckung(gitter);
+    for (const Strecke& s : in_pixeln(strecken, gitter.feinheit))
+        linie_eintragen(deckung, s, dicke * gitter.feinheit / 2 + 0.5);
     return deckung;
 }
 
 void auftragen(Bild& bild, const Deckung& deckung, Farbe farbe, double deckkraft) {
     for (int y = 0; y < bild.hoehe(); ++y) {
         for (int x = 0; x < bild.breite(); ++x) {
+            if (deckung.anteil(x, y) == 0) continue;
             const double anteil = std::min(1.0, deckung.anteil(x, y)) * deckkraft;
             bild.pixel(x, y) = mischung(bild.pixel(x, y), farbe, anteil);
         }

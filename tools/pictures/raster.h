@@ -7,7 +7,7 @@
 
 namespace velmaris::bilder {
 
-/// A point: longitude and latitude in degrees, or x and y in pixels.
+/// A point: longitude and latitude in degrees, or x and y in units of the drawing.
 struct Punkt {
     double x = 0;
     double y = 0;
@@ -33,7 +33,7 @@ struct Strecke {
 /// The shares 0..1 by which the pixels of a picture are covered. Pixel (i, j) covers i..i+1, j..j+1.
 class Deckung {
   public:
-    Deckung(int breite, int hoehe);
+    explicit Deckung(const Gitter& gitter);
 
     [[nodiscard]] int breite() const { return breite_; }
     [[nodiscard]] int hoehe() const { return hoehe_; }
@@ -51,14 +51,14 @@ class Deckung {
 };
 
 /// The share of each pixel that lies in the area, exact along x, by eight lines per pixel along y.
-[[nodiscard]] Deckung fuellung(int breite, int hoehe, const Flaeche& flaeche);
+[[nodiscard]] Deckung fuellung(const Gitter& gitter, const Flaeche& flaeche);
 
 /// 1 for each pixel whose centre lies in the area, otherwise 0: areas that meet share no pixel.
-[[nodiscard]] Deckung kernfuellung(int breite, int hoehe, const Flaeche& flaeche);
+[[nodiscard]] Deckung kernfuellung(const Gitter& gitter, const Flaeche& flaeche);
 
-/// Smooth lines with round ends: full up to half the thickness (pixels) from the axis less half a pixel,
+/// Smooth lines with round ends: full up to half the thickness (units) from the axis less half a pixel,
 /// fading out over one pixel. Pixels farther from the axis than half the thickness and half a pixel stay 0.
-[[nodiscard]] Deckung linien(int breite, int hoehe, const std::vector<Strecke>& strecken, double dicke);
+[[nodiscard]] Deckung linien(const Gitter& gitter, const std::vector<Strecke>& strecken, double dicke);
 
 /// Lays a colour over a picture of the same size by the shares times `deckkraft`.
 void auftragen(Bild& bild, const Deckung& deckung, Farbe farbe, double deckkraft = 1);

@@ -17,24 +17,24 @@ Flaeche rechteck(double links, double oben, double rechts, double unten) {
 }
 
 void fuellen(Bild& bild, const Flaeche& flaeche, Farbe farbe) {
-    auftragen(bild, fuellung(bild.breite(), bild.hoehe(), flaeche), farbe);
+    auftragen(bild, fuellung(bild.gitter(), flaeche), farbe);
 }
 
 void strich(Bild& bild, const std::vector<Strecke>& strecken, double dicke, Farbe farbe) {
-    auftragen(bild, linien(bild.breite(), bild.hoehe(), strecken, dicke), farbe);
+    auftragen(bild, linien(bild.gitter(), strecken, dicke), farbe);
 }
 
 void rahmen(Bild& bild) {
     constexpr Farbe rand{110, 110, 110};
-    const Flaeche aussen = rechteck(0.5, 0.5, bild.breite() - 0.5, bild.hoehe() - 0.5);
+    const Flaeche aussen = rechteck(0.5, 0.5, bild.gitter().breite - 0.5, bild.gitter().hoehe - 0.5);
     strich(bild, strecken(aussen), 1, rand);
 }
 
 }  // namespace
 
-Bild sprachbild_deutsch() {
+Bild sprachbild_deutsch(int feinheit) {
     constexpr Farbe schwarz{26, 26, 26}, rot{206, 30, 38}, gold{250, 200, 50};
-    Bild bild(fahnenbreite, fahnenhoehe, schwarz);
+    Bild bild({fahnenbreite, fahnenhoehe, feinheit}, schwarz);
     constexpr double band = fahnenhoehe / 3.0;
     fuellen(bild, rechteck(0, band, fahnenbreite, fahnenhoehe), rot);
     fuellen(bild, rechteck(0, 2 * band, fahnenbreite, fahnenhoehe), gold);
@@ -42,12 +42,12 @@ Bild sprachbild_deutsch() {
     return bild;
 }
 
-Bild sprachbild_englisch() {
+Bild sprachbild_englisch(int feinheit) {
     constexpr Farbe blau{24, 48, 110}, rot{204, 24, 46};
     constexpr double b = fahnenbreite, h = fahnenhoehe;
     const std::vector<Strecke> diagonalen{{{0, 0}, {b, h}}, {{0, h}, {b, 0}}};
     const std::vector<Strecke> kreuz{{{b / 2, 0}, {b / 2, h}}, {{0, h / 2}, {b, h / 2}}};
-    Bild bild(fahnenbreite, fahnenhoehe, blau);
+    Bild bild({fahnenbreite, fahnenhoehe, feinheit}, blau);
     strich(bild, diagonalen, 12, weiss);
     strich(bild, diagonalen, 4, rot);
     strich(bild, kreuz, 20, weiss);
@@ -56,10 +56,10 @@ Bild sprachbild_englisch() {
     return bild;
 }
 
-Bild programmbild() {
+Bild programmbild(int feinheit) {
     constexpr Farbe himmel{58, 124, 176}, sonne{255, 210, 84}, wiese{110, 158, 92};
     constexpr Farbe mauer{250, 246, 236}, dach{196, 92, 68}, tuer{120, 84, 62}, fenster{150, 196, 224};
-    Bild bild(256, 256, himmel);
+    Bild bild({256, 256, feinheit}, himmel);
     constexpr Punkt sonnenmitte{60, 60};
     std::vector<Strecke> strahlen;
     for (int i = 0; i < 8; ++i) {

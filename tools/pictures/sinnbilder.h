@@ -4,12 +4,12 @@
 
 namespace velmaris::bilder {
 
-/// The pictures for the choice of language, 96 x 64 pixels: bands of black, red and gold for German, crosses
-/// and diagonals on blue for English (simplified).
-[[nodiscard]] Bild sprachbild_deutsch();
-[[nodiscard]] Bild sprachbild_englisch();
+/// The pictures for the choice of language, 96 x 64 pixels times `feinheit`: bands of black, red and gold for
+/// German, crosses and diagonals on blue for English (simplified).
+[[nodiscard]] Bild sprachbild_deutsch(int feinheit);
+[[nodiscard]] Bild sprachbild_englisch(int feinheit);
 
-/// The picture of the program, 256 x 256 pixels: a house in the sun.
-[[nodiscard]] Bild programmbild();
+/// The picture of the program, 256 x 256 pixels times `feinheit`: a house in the sun.
+[[nodiscard]] Bild programmbild(int feinheit);
 
 }  // namespace velmaris::bilder

@@ -31,8 +31,8 @@ TEST(Fuellung, DecktDenFlaecheninhalt) {
         {"beyond the picture", {quadrat(-5, 5)}, 25},
     };
     for (const auto& fall : faelle)
-        EXPECT_NEAR(summe(fuellung(10, 10, fall.flaeche)), fall.inhalt, 0.01) << fall.name;
-    const Deckung rechteck = fuellung(10, 10, faelle[0].flaeche);
+        EXPECT_NEAR(summe(fuellung({10, 10}, fall.flaeche)), fall.inhalt, 0.01) << fall.name;
+    const Deckung rechteck = fuellung({10, 10}, faelle[0].flaeche);
     EXPECT_NEAR(rechteck.anteil(2, 3), 0.375, 1e-12);
     EXPECT_NEAR(rechteck.anteil(2, 4), 0.75, 1e-12);
     EXPECT_NEAR(rechteck.anteil(5, 5), 1, 1e-12);
@@ -41,12 +41,12 @@ TEST(Fuellung, DecktDenFlaecheninhalt) {
 
 TEST(Linien, SindSoDickWieVerlangt) {
     for (const double dicke : {0.7, 1.0, 3.0, 4.5}) {
-        const Deckung waagrecht = linien(40, 20, {{{-5, 9.5}, {50, 9.5}}}, dicke);
+        const Deckung waagrecht = linien({40, 20}, {{{-5, 9.5}, {50, 9.5}}}, dicke);
         EXPECT_NEAR(summe(waagrecht), 40 * dicke, 40 * 0.16) << dicke;
-        const Deckung schraeg = linien(40, 20, {{{5, 3}, {33, 16}}}, dicke);
+        const Deckung schraeg = linien({40, 20}, {{{5, 3}, {33, 16}}}, dicke);
         EXPECT_NEAR(summe(schraeg), std::hypot(28, 13) * dicke, dicke * dicke + 2) << dicke;
     }
-    const Deckung linie = linien(10, 10, {{{2.5, 5.5}, {8.5, 5.5}}}, 1);
+    const Deckung linie = linien({10, 10}, {{{2.5, 5.5}, {8.5, 5.5}}}, 1);
     EXPECT_EQ(linie.anteil(5, 5), 1);
     EXPECT_EQ(linie.anteil(5, 4), 0);
     EXPECT_EQ(linie.anteil(1, 5), 0);
