@@ -1,5 +1,6 @@
 #include "desktop/startfenster.h"
 
+#include "desktop/platform/bilddatei.h"
 #include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/platform/stil.h"
@@ -7,7 +8,6 @@
 #include "language/beschriftungen.h"
 
 #include <QDialog>
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPixmap>
@@ -17,19 +17,10 @@
 namespace velmaris {
 namespace {
 
-QPixmap grafik(const std::filesystem::path& programmordner, const char* name) {
-    QPixmap bild;
-    bild.load(QFileInfo(programmordner / "Grafiken" / name).filePath());
-    return bild;
-}
-
-/// The picture of the program, `groesse` high, sharp at the screen's resolution.
-QPixmap programmbild(const std::filesystem::path& programmordner, double groesse, qreal pixel_je_einheit) {
-    QPixmap bild = grafik(programmordner, "velmaris.bmp");
-    if (bild.isNull()) return bild;
-    bild = bild.scaledToHeight(qRound(groesse * pixel_je_einheit), Qt::SmoothTransformation);
-    bild.setDevicePixelRatio(pixel_je_einheit);
-    return bild;
+/// The picture of the program, `hoehe` high, sharp at the screen's resolution.
+QPixmap programmbild(const std::filesystem::path& programmordner, double hoehe, qreal pixel_je_einheit) {
+    return QPixmap::fromImage(
+        bild_in_hoehe(programmordner / "Grafiken" / "velmaris.bmp", hoehe, pixel_je_einheit));
 }
 
 QLabel* ueberschrift(QWidget* fenster) {
@@ -47,10 +38,14 @@ QLabel* ueberschrift(QWidget* fenster) {
 /// A language: its picture and its name below, both to be clicked.
 class Sprachknopf : public QPushButton {
   public:
-    Sprachknopf(const QPixmap& bild, const char* name, QWidget* fenster) : QPushButton(fenster) {
+    Sprachknopf(const std::filesystem::path& bild, const char* name, QWidget* fenster)
+        : QPushButton(fenster) {
         setObjectName(QLatin1String(name));
-        setIcon(QIcon(bild));
-        setIconSize(bild.isNull() ? QSize(96, 64) : bild.size());
+        const QPixmap fahne = QPixmap::fromImage(bild_lesen(bild));
+        QIcon zeichen(fahne);
+        zeichen.addPixmap(QPixmap::fromImage(feines_bild_lesen(bild)));
+        setIcon(zeichen);
+        setIconSize(fahne.isNull() ? QSize(96, 64) : fahne.size());
         setFixedSize(iconSize() + QSize(16, 12));
     }
 };
@@ -71,8 +66,8 @@ QWidget* startfenster(Start& start, const Ansichtsmittel& mittel,
     tafel->setHorizontalSpacing(30);
     auto* bild = new QLabel(fenster);
     const auto bild_zeigen = [bild, programmordner](double massstab) {
-        constexpr int groesse = 160;
-        bild->setPixmap(programmbild(programmordner, groesse * massstab, bild->devicePixelRatioF()));
+        constexpr int hoehe = 160;
+        bild->setPixmap(programmbild(programmordner, hoehe * massstab, bild->devicePixelRatioF()));
     };
     bild_zeigen(1);
     QObject::connect(&fenster->skala(), &Fenstermassstab::geaendert, bild, bild_zeigen);
@@ -116,7 +111,7 @@ std::optional<std::string> sprachfenster(const std::filesystem::path& programmor
             gewaehlt = wahl.letter;
             fenster.accept();
         };
-        auto* bild = new Sprachknopf(grafik(programmordner, wahl.grafik), wahl.bild, &fenster);
+        auto* bild = new Sprachknopf(programmordner / "Grafiken" / wahl.grafik, wahl.bild, &fenster);
         auto* schild = new QPushButton(qtext(beschriftung("Sprachwahl", wahl.schild, "d")), &fenster);
         schild->setObjectName(QLatin1String(wahl.schild));
         schild->setFlat(true);

@@ -98,8 +98,11 @@ QtFlaeche::QtFlaeche(QSize groesse, double verhaeltnis, Farbe hintergrund)
     Cls();
 }
 
-void QtFlaeche::hintergrundbild(const QImage& bild) {
+void QtFlaeche::hintergrundbild(const QImage& bild, const QImage& fein) {
+    if (bild.cacheKey() != hintergrundbild_.cacheKey() || fein.cacheKey() != feines_bild_.cacheKey())
+        grund_ = {};
     hintergrundbild_ = bild;
+    feines_bild_ = fein;
 }
 
 const QImage& QtFlaeche::bild() {
@@ -111,6 +114,11 @@ const QImage& QtFlaeche::bild() {
 /// The device pixel at which a logical pixel begins.
 int QtFlaeche::kante(int logisch) const {
     return static_cast<int>(std::lround(logisch * verhaeltnis_));
+}
+
+/// The device pixel in the middle of a logical pixel, the first one of two.
+int QtFlaeche::mitte(int logisch) const {
+    return (kante(logisch) + kante(logisch + 1) - 1) / 2;
 }
 
 /// The device pixels of all logical pixels between two corners, both included, inside the image.
@@ -154,8 +162,26 @@ void QtFlaeche::Cls() {
     striche_.bereich = {};
     std::fill(striche_.deckung.begin(), striche_.deckung.end(), std::uint8_t{0});
     maler_.reset();
-    bild_.fill(rgb(hintergrund_));
-    if (!hintergrundbild_.isNull()) QPainter(&bild_).drawImage(QPointF(0, 0), hintergrundbild_);
+    if (hintergrundbild_.isNull()) {
+        bild_.fill(rgb(hintergrund_));
+        return;
+    }
+    if (grund_.isNull()) grund_malen();
+    std::copy_n(grund_.constBits(), grund_.sizeInBytes(), bild_.bits());
+}
+
+void QtFlaeche::grund_malen() {
+    grund_ = QImage(bild_.size(), bild_.format());
+    grund_.fill(rgb(hintergrund_));
+    QPainter maler(&grund_);
+    if (verhaeltnis_ == 1 || feines_bild_.isNull()) {
+        maler.scale(verhaeltnis_, verhaeltnis_);
+        maler.drawImage(QPointF(0, 0), hintergrundbild_);
+    } else {
+        const QSize pixel(kante(hintergrundbild_.width()), kante(hintergrundbild_.height()));
+        maler.drawImage(QPoint(0, 0),
+                        feines_bild_.scaled(pixel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
 }
 
 void QtFlaeche::linie(double x1, double y1, double x2, double y2, Farbe farbe, int dicke) {
@@ -300,8 +326,11 @@ Farbe QtFlaeche::lies_punkt(double x, double y) const {
     if (!zahlen(x, y)) return hintergrund_;
     striche_ablegen();
     const Punkt p{pixel(x), pixel(y)};
-    const bool darin = p.x >= 0 && p.y >= 0 && p.x < groesse_.width() && p.y < groesse_.height();
-    return darin ? farbe_von(bild_.pixel(kante(p.x), kante(p.y))) : hintergrund_;
+    if (p.x < 0 || p.y < 0 || p.x >= groesse_.width() || p.y >= groesse_.height()) return hintergrund_;
+    const QPoint dort(mitte(p.x), mitte(p.y));
+    const QRgb gezeigt = bild_.pixel(dort);
+    const bool frei = !grund_.isNull() && gezeigt == grund_.pixel(dort);
+    return farbe_von(frei && hintergrundbild_.valid(p.x, p.y) ? hintergrundbild_.pixel(p.x, p.y) : gezeigt);
 }
 
 }  // namespace velmaris

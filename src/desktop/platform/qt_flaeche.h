@@ -22,8 +22,12 @@ class QtFlaeche final : public Zeichenflaeche {
     /// `groesse` in logical pixels; `verhaeltnis` is the device pixel ratio. The surface starts cleared.
     QtFlaeche(QSize groesse, double verhaeltnis, Farbe hintergrund);
 
+    [[nodiscard]] double verhaeltnis() const { return verhaeltnis_; }
+
     /// An image at the top left, one image pixel to a logical one, that `Cls` shows on the background colour.
-    void hintergrundbild(const QImage& bild);
+    /// If there is a finer edition of it and pixels are not logical ones, that one is shown in its stead.
+    /// Where nothing is drawn over it `lies_punkt` gives the colours of `bild`, whichever of the two is seen.
+    void hintergrundbild(const QImage& bild, const QImage& fein = {});
 
     /// All that has been drawn, with the device pixel ratio set.
     [[nodiscard]] const QImage& bild();
@@ -61,6 +65,7 @@ class QtFlaeche final : public Zeichenflaeche {
     };
 
     [[nodiscard]] int kante(int logisch) const;
+    [[nodiscard]] int mitte(int logisch) const;
     [[nodiscard]] QRect geraet(Punkt a, Punkt b) const;
     void fuelle(Punkt a, Punkt b, Farbe farbe);
     template <typename Innen>
@@ -69,11 +74,14 @@ class QtFlaeche final : public Zeichenflaeche {
     void schraege(Punkt a, Punkt b, Farbe farbe, int dicke);
     void decke(int x, int y, double anteil);
     void striche_ablegen() const;
+    void grund_malen();
 
     QSize groesse_;
     double verhaeltnis_;
     Farbe hintergrund_;
     QImage hintergrundbild_;
+    QImage feines_bild_;
+    QImage grund_;  ///< what `Cls` shows if there is an image, null before it is needed
     // Pending lines belong to what is seen, so reading a pixel settles them.
     mutable QImage bild_;
     mutable Strichlage striche_;

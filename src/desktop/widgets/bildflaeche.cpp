@@ -1,5 +1,6 @@
 #include "desktop/widgets/bildflaeche.h"
 
+#include "desktop/platform/bilddatei.h"
 #include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/platform/stil.h"
@@ -8,7 +9,6 @@
 #include "toolkit/text.h"
 
 #include <QCursor>
-#include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
 #include <cmath>
@@ -46,7 +46,7 @@ QtFlaeche& Bildflaeche::flaeche() {
     if (geladen_ != feld_.bild()) bild_laden();
     if (veraltet_) {
         veraltet_ = false;
-        flaeche_->hintergrundbild(bild_);
+        flaeche_->hintergrundbild(bild_, flaeche_->verhaeltnis() > 1 ? feines_bild() : QImage());
         flaeche_->Cls();
         wache_.fuehre_aus([this] {
             if (feld_.zeichnen) feld_.zeichnen(*flaeche_);
@@ -76,12 +76,19 @@ void Bildflaeche::feld_zeigen() {
 
 void Bildflaeche::bild_laden() {
     geladen_ = feld_.bild();
-    bild_ = geladen_.empty() ? QImage() : QImage(QFileInfo(geladen_).filePath());
+    bild_ = geladen_.empty() ? QImage() : bild_lesen(geladen_);
+    feines_bild_.reset();
     if (!geladen_.empty() && bild_.isNull()) {
         // A message box must not come up in the middle of a paint event.
         QMetaObject::invokeMethod(
             this, [this] { melde_bildfehler(); }, Qt::QueuedConnection);
     }
+}
+
+/// Where pictures stay at their size the fine edition is never read.
+const QImage& Bildflaeche::feines_bild() {
+    if (!feines_bild_) feines_bild_ = geladen_.empty() ? QImage() : feines_bild_lesen(geladen_);
+    return *feines_bild_;
 }
 
 void Bildflaeche::melde_bildfehler() {

@@ -40,6 +40,7 @@ class Bildflaeche : public QWidget {
     [[nodiscard]] QPointF in_einheiten(QPointF ort) const;
     void feld_zeigen();
     void bild_laden();
+    [[nodiscard]] const QImage& feines_bild();
     void melde_bildfehler();
 
     Bildfeld& feld_;
@@ -48,6 +49,7 @@ class Bildflaeche : public QWidget {
     bool veraltet_ = true;
     std::filesystem::path geladen_;
     QImage bild_;
+    std::optional<QImage> feines_bild_;  ///< nothing before it is asked for
     QSizeF pixel_;
     std::optional<QtFlaeche> flaeche_;
 };

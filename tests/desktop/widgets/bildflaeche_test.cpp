@@ -97,6 +97,21 @@ TEST_F(BildflaecheTest, ReichtZeigerInBildpixelnWeiter) {
     EXPECT_EQ(ereignisse, " move -1 -1");
 }
 
+TEST_F(BildflaecheTest, ZeigtVergroessertDieFeineAusgabeEinesBilds) {
+    const Testordner ordner;
+    const auto ablegen = [&ordner](const char* name, int breite, int hoehe, QRgb ton) {
+        QImage einfarbig(breite, hoehe, QImage::Format_RGB32);
+        einfarbig.fill(ton);
+        return einfarbig.save(qtext(pfadtext(ordner / name)), "BMP");
+    };
+    ASSERT_TRUE(ablegen("karte.bmp", 60, 40, qRgb(3, 60, 200)));
+    ASSERT_TRUE(ablegen("karte@4.bmp", 240, 160, qRgb(90, 60, 20)));
+    feld.lade(ordner / "karte.bmp");
+    const QRgb gezeigt = bild.flaeche().bild().pixel(2, 2);
+    EXPECT_EQ(gezeigt, bild.devicePixelRatioF() > 1 ? qRgb(90, 60, 20) : qRgb(3, 60, 200));
+    EXPECT_EQ(feld.lies_punkt(2, 2), (Farbe{3, 60, 200}));
+}
+
 TEST_F(BildflaecheTest, FehlendesBildUndFehlerBeimZeichnenWerdenEinmalGemeldet) {
     const Testordner ordner;
     feld.lade(ordner / "haus9.bmp");
