@@ -2,8 +2,10 @@
 
 #include "calc/jahressummen.h"
 #include "charts/balkenfarben.h"
+#include "charts/chartwerte.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
+#include "language/beschriftungen.h"
 
 #include <algorithm>
 
@@ -34,6 +36,28 @@ double groesster_bedarf(const Projekt& p) {
     return M;
 }
 
+constexpr Wort waermebilanz{"Wärmebilanz", "Heat balance"};
+constexpr Wort bedarf{"Heizwärme- und Kühlbedarf", "Heat energy and cooling demand"};
+constexpr Wort stundenarten{"Heiz-, Nullenergie- und Kühlstunden", "Heating, zero energy and cooling hours"};
+constexpr Wort fenster_der_fassaden{"Gewinne und Verluste der Fenster nach Fassaden",
+                                    "Gains and losses of the windows by facade"};
+
+std::vector<Wertespalte> bilanzspalten(const Projekt& p, const std::string& einheit) {
+    return chartspalten(p, "A_Heizen", {"Label6", "Label5", "Label2", "Label4", "Label3"}, einheit);
+}
+
+std::vector<Wertespalte> bedarfsspalten(const Projekt& p, const std::string& einheit) {
+    return chartspalten(p, "A_Uebersicht", {"Label9", "Label1"}, einheit);
+}
+
+std::vector<Wertespalte> stundenspalten(const Projekt& p) {
+    return chartspalten(p, "A_Uebersicht", {"Label32", "Label01", "Label02"}, "h");
+}
+
+std::vector<double> stundenwerte(const Betriebsstunden& h) {
+    return {static_cast<double>(h.kalt), static_cast<double>(h.komfort), static_cast<double>(h.heiss)};
+}
+
 /// The classes by drawing over each other, the full height first.
 void stunden_zeichnen(const Balkendiagramm& diagramm, double x1, double x2, const Betriebsstunden& h) {
     const int ohne_kuehlen = h.kalt + h.komfort;
@@ -51,6 +75,20 @@ void FassadenbalkenZeichnen(const Projekt& p, const Fassadenbalken& balken, Zeic
     bild.kasten(1, 49, 8, y, farben::schwarz);
 }
 
+Wertetafel FassadenbalkenWerte(const Projekt& p) {
+    const auto zeile = [&p](const char* name, float gewinn, float verlust) -> Wertezeile {
+        return {.namen = {beschriftung("E_Fenster", name, p.Sprache)}, .werte = {gewinn, verlust}};
+    };
+    return {.titel = std::string(fenster_der_fassaden.in(p.Sprache)),
+            .zeilenkopf = {std::string(Wort{"Fassade", "facade"}.in(p.Sprache))},
+            .spalten = chartspalten(p, "A_Heizen", {"Label17", "Label18"}, "kWh"),
+            .zeilen = {zeile("Label64", p.Fenstergewinn_N, p.Fensterverlust_N),
+                       zeile("Label58", p.Fenstergewinn_S, p.Fensterverlust_S),
+                       zeile("Label49", p.Fenstergewinn_O, p.Fensterverlust_O),
+                       zeile("Label41", p.Fenstergewinn_W, p.Fensterverlust_W)},
+            .sprache = p.Sprache};
+}
+
 void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_heizjahr.schritt(p.qverl_s), bilanzteile};
     achsen_zeichnen(diagramm, jahresachse);
@@ -61,6 +99,11 @@ void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     stapel_zeichnen(
         diagramm, 60, 80,
         {{p.qhs_sum, balkenfarben::heizen}, {p.qis, balkenfarben::intern}, {p.qsols, balkenfarben::solar}});
+}
+
+Wertetafel JahrBilanzWerte(const Projekt& p) {
+    return jahrestafel(p, waermebilanz, bilanzspalten(p, einheit_je_jahr(p)),
+                       {p.qtrs, p.qinfs, p.qhs_sum, p.qis, p.qsols});
 }
 
 void HeizbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
@@ -83,6 +126,16 @@ void HeizbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     }
 }
 
+Wertetafel HeizbilanzWerte(const Projekt& p) {
+    return monatstafel(p, waermebilanz, bilanzspalten(p, einheit_je_monat(p)), [&p](int m) {
+        const Monatswerte& monat = p.Monat(m);
+        std::vector<double> werte{monat.Qt, monat.Qv, monat.Qh, monat.Qi_genutzt, monat.Qs_genutzt};
+        for (double& wert : werte)
+            wert /= p.f_nutz;
+        return werte;
+    });
+}
+
 void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsmonat.schritt(groesster_bedarf(p)),
                                   bilanzteile};
@@ -98,6 +151,12 @@ void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     }
 }
 
+Wertetafel MonatsbilanzWerte(const Projekt& p) {
+    return monatstafel(p, bedarf, bedarfsspalten(p, einheit_je_monat(p)), [&p](int m) -> std::vector<double> {
+        return {double{p.Monat(m).Qh} / p.f_nutz, monatskuehlbedarf(p, m)};
+    });
+}
+
 void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     const double heizen = p.qhs_sum;
     const double kuehlen = jahreskuehlbedarf(p);
@@ -110,6 +169,10 @@ void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     balken_zeichnen(diagramm, 60, 80, kuehlen, balkenfarben::kuehlen);
 }
 
+Wertetafel JahresbedarfWerte(const Projekt& p) {
+    return jahrestafel(p, bedarf, bedarfsspalten(p, einheit_je_jahr(p)), {p.qhs_sum, jahreskuehlbedarf(p)});
+}
+
 void UeberGrafikZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     const Balkendiagramm diagramm{bild, bilanzrahmen, monatsstunden_schritt, stundenteile};
     achsen_zeichnen(diagramm, monatsachse);
@@ -119,12 +182,21 @@ void UeberGrafikZeichnen(const Projekt& p, Zeichenflaeche& bild) {
         stunden_zeichnen(diagramm, monatsspalte(m), monatsspalte(m) + 18, betriebsstunden(p, m));
 }
 
+Wertetafel UeberGrafikWerte(const Projekt& p) {
+    return monatstafel(p, stundenarten, stundenspalten(p),
+                       [&p](int m) { return stundenwerte(betriebsstunden(p, m)); });
+}
+
 void UeberJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     const Balkendiagramm diagramm{bild, bilanzrahmen, jahresstunden_schritt, stundenteile};
     achsen_zeichnen(diagramm, jahresachse);
     bild.text(22, 123, beschriftung(p, {"Jahressumme", "annual sum"}));
     bild.text(10, 0, beschriftung(p, {"Std.", "h"}));
     stunden_zeichnen(diagramm, 45, 70, betriebsstunden_im_jahr(p));
+}
+
+Wertetafel UeberJahrWerte(const Projekt& p) {
+    return jahrestafel(p, stundenarten, stundenspalten(p), stundenwerte(betriebsstunden_im_jahr(p)));
 }
 
 }  // namespace velmaris

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/c_glob.h"
+#include "toolkit/wertetafel.h"
 #include "toolkit/zeichenflaeche.h"
 
 namespace velmaris {
@@ -19,19 +20,28 @@ struct Fassadenbalken {
 /// they compare.
 void FassadenbalkenZeichnen(const Projekt& p, const Fassadenbalken& balken, Zeichenflaeche& bild);
 
+/// The numbers of all eight; below, those of each chart stand behind its drawing.
+[[nodiscard]] Wertetafel FassadenbalkenWerte(const Projekt& p);
+
 /// Heating plane: losses and supply of the year, kWh/(m2 a).
 void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
+[[nodiscard]] Wertetafel JahrBilanzWerte(const Projekt& p);
 
 /// Heating plane: losses and supply of each month, kWh/(m2 month).
 void HeizbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
+[[nodiscard]] Wertetafel HeizbilanzWerte(const Projekt& p);
 
 /// Overview plane: heat and cooling demand of each month, kWh/(m2 month), and of the year, kWh/(m2 a).
 void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
+[[nodiscard]] Wertetafel MonatsbilanzWerte(const Projekt& p);
 void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild);
+[[nodiscard]] Wertetafel JahresbedarfWerte(const Projekt& p);
 
 /// Overview plane: hours of heating (at the bottom), zero energy and cooling (on top) of each month, and of
 /// the year.
 void UeberGrafikZeichnen(const Projekt& p, Zeichenflaeche& bild);
+[[nodiscard]] Wertetafel UeberGrafikWerte(const Projekt& p);
 void UeberJahrZeichnen(const Projekt& p, Zeichenflaeche& bild);
+[[nodiscard]] Wertetafel UeberJahrWerte(const Projekt& p);
 
 }  // namespace velmaris

@@ -1,6 +1,7 @@
 #include "charts/energiediagramm.h"
 
 #include "charts/balkenfarben.h"
+#include "charts/chartwerte.h"
 #include "charts/diagrammtext.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
@@ -8,6 +9,8 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -16,6 +19,10 @@ constexpr double links = 30;  ///< vertical axis
 constexpr double boden = 95;  ///< horizontal axis
 constexpr int schritte = 3;   ///< scale steps on the axis
 constexpr double saeulenhoehe = 90;
+
+constexpr Wort verbrauch{"End- und Primärenergiebedarf", "End and primary energy demand"};
+constexpr Wort endenergie{"Endenergie", "end energy"};
+constexpr Wort primaerenergie{"Primärenergie", "primary energy"};
 
 double groesster(const Monatsenergie& werte) {
     double M = 0;
@@ -84,6 +91,25 @@ void Monatsverbrauch_zeichnen(Zeichenflaeche& bild, const Projekt& p) {
     skala(bild, stufen_energiemonat.schritt(groesster(werte)));
     for (const Saeule& s : saeulen(werte))
         bild.flaeche(s.x1, s.unten, s.x2, s.oben, s.farbe);
+}
+
+Wertetafel Monatsverbrauch_werte(const Projekt& p) {
+    const Monatsenergie werte = monatswerte(p);
+    const Kurzname name = kurzname(p.Heizsystem, p.Energietraeger);
+    const std::string traeger = " (" + std::string(name.in(p.Sprache)) + ")";
+    const auto spalte = [&](const Wort& groesse, const std::string& quelle) -> Wertespalte {
+        return {std::string(groesse.in(p.Sprache)) + quelle, einheit_je_monat(p)};
+    };
+    std::vector<Wertespalte> spalten{spalte(endenergie, traeger), spalte(primaerenergie, traeger)};
+    if (!name.elektrisch()) {
+        const std::string strom = " (" + std::string(strom_name.in(p.Sprache)) + ")";
+        spalten.insert(spalten.end(), {spalte(endenergie, strom), spalte(primaerenergie, strom)});
+    }
+    return monatstafel(p, verbrauch, std::move(spalten), [&, elektrisch = name.elektrisch()](int m) {
+        std::vector<double> zeile{werte.E(m), werte.P(m)};
+        if (!elektrisch) zeile.insert(zeile.end(), {werte.H(m), werte.Q(m)});
+        return zeile;
+    });
 }
 
 }  // namespace velmaris

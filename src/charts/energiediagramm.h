@@ -1,6 +1,7 @@
 #pragma once
 
 #include "energy/energiebilanz.h"
+#include "toolkit/wertetafel.h"
 #include "toolkit/zeichenflaeche.h"
 
 #include <vector>
@@ -25,5 +26,8 @@ struct Saeule {
 
 /// Draws end and primary energy by month on the surface `Monatsübersicht_Energieträger`.
 void Monatsverbrauch_zeichnen(Zeichenflaeche& bild, const Projekt& p);
+
+/// Its numbers; with an electric carrier there is no auxiliary electricity.
+[[nodiscard]] Wertetafel Monatsverbrauch_werte(const Projekt& p);
 
 }  // namespace velmaris

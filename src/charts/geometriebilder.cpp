@@ -1,10 +1,15 @@
 #include "charts/geometriebilder.h"
 
+#include "charts/chartwerte.h"
 #include "charts/grundriss.h"
+#include "language/beschriftungen.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -16,6 +21,10 @@ constexpr double balken_rechts = 50;
 
 /// Lowest place of the number beside the bar, so that it stays on the surface when no bar is left.
 constexpr double av_tiefste = 110;
+
+constexpr Wort av_titel{"A/V-Verhältnis, Vergleich mit Körpern gleichen Volumens",
+                        "S/V-ratio, compared with shapes of the same volume"};
+constexpr Wort gebaeude{"Gebäude", "building"};
 
 double kantenlaenge(const Projekt& p) {
     return std::cbrt(static_cast<double>(p.v_geb));
@@ -83,6 +92,37 @@ void av_diagramm_zeichnen(const Projekt& p, Zeichenflaeche& flaeche) {
     const double y = balkenhoehe(p);
     flaeche.flaeche(balken_links, balken_unten, balken_rechts, y, farben::rot);
     if (y > balken_oben) flaeche.flaeche(balken_links, balken_oben, balken_rechts, y - 1, farben::weiss);
+}
+
+void av_diagramm_beschriften(const Projekt& p, Zeichenflaeche& flaeche) {
+    constexpr double links = 42, rechts = 58, halbe_zeile = 6;
+    struct Koerper {
+        const char* wort;
+        const std::string& wert;
+        double av;
+    };
+    const AVTexte texte = av_texte(p);
+    flaeche.schrift({});
+    flaeche.text(links - flaeche.textbreite(texte.av_anz), texte.av_oben, texte.av_anz);
+    for (const Koerper& k : {Koerper{"Label11", texte.AV_Tetraeder, av_tetraeder},
+                             {"Label34", texte.AV_Wuerfel, av_wuerfel},
+                             {"Label35", texte.AV_Kugel, av_kugel}}) {
+        flaeche.text(rechts, av_hoehe(k.av) - halbe_zeile,
+                     k.wert + " " + beschriftung("E_Geometrie", k.wort, p.Sprache));
+    }
+}
+
+Wertetafel av_diagramm_werte(const Projekt& p) {
+    const auto wort = [&p](std::string_view feld) {
+        return blosser_name(beschriftung("E_Geometrie", feld, p.Sprache));
+    };
+    std::vector<Wertezeile> zeilen{{.namen = {std::string(gebaeude.in(p.Sprache))}, .werte = {p.AV}}};
+    if (const double c = kantenlaenge(p); c > 0) {
+        zeilen.insert(zeilen.end(), {{.namen = {wort("Label11")}, .werte = {av_tetraeder / c}},
+                                     {.namen = {wort("Label34")}, .werte = {av_wuerfel / c}},
+                                     {.namen = {wort("Label35")}, .werte = {av_kugel / c}}});
+    }
+    return groessentafel(p, std::string(av_titel.in(p.Sprache)), std::move(zeilen), "1/m");
 }
 
 void lageplan_zeichnen(const Projekt& p, Zeichenflaeche& flaeche) {

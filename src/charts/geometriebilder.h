@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/c_glob.h"
+#include "toolkit/wertetafel.h"
 #include "toolkit/zeichenflaeche.h"
 
 #include <string>
@@ -31,6 +32,15 @@ inline constexpr double av_tetraeder = 7.2056;
 /// The A/V chart: a bar from y = 123 upward, 0.06 to the pixel, that compares the building with bodies of the
 /// same volume whatever its size.
 void av_diagramm_zeichnen(const Projekt& p, Zeichenflaeche& flaeche);
+
+/// The figures around the bar, on a surface of that size: the building's at the height of its value, those of
+/// the bodies of the same volume at theirs.
+inline constexpr double av_bild_breite = 140;
+inline constexpr double av_bild_hoehe = 132;
+void av_diagramm_beschriften(const Projekt& p, Zeichenflaeche& flaeche);
+
+/// A/V of the building and of the bodies of the same volume.
+[[nodiscard]] Wertetafel av_diagramm_werte(const Projekt& p);
 
 /// The orientation sketch: plan of the house and south arrow, turned by `orient`, around the surface's
 /// centre.

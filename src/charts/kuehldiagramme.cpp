@@ -2,6 +2,7 @@
 
 #include "calc/jahressummen.h"
 #include "charts/balkenfarben.h"
+#include "charts/chartwerte.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
 
@@ -64,6 +65,25 @@ Art art_gradstunden(const Projekt& p) {
     return {bilanzteile, balkenfarben::gradstunden, beschriftung(p, {"Kh", "Kh"})};
 }
 
+constexpr Wort ueberwaermung{"Durchschnittliche Überwärmung", "Average time of overheating"};
+constexpr Wort bedarf{"Kühlbedarf", "Cooling demand"};
+constexpr Wort gradstunden{"Kühlgradstunden", "Cooling degree hours"};
+
+/// The column of a pair of charts.
+std::vector<Wertespalte> spalte(const Projekt& p, const Wort& groesse, const Art& art) {
+    return {{std::string(groesse.in(p.Sprache)), art.einheit}};
+}
+
+Wertetafel monatswerte(const Projekt& p, const Wort& groesse, const Art& art,
+                       double (*monatswert)(const Projekt&, int)) {
+    return monatstafel(p, groesse, spalte(p, groesse, art),
+                       [&](int m) { return std::vector{monatswert(p, m)}; });
+}
+
+Wertetafel jahreswerte(const Projekt& p, const Wort& groesse, const Art& art, double wert) {
+    return jahrestafel(p, groesse, spalte(p, groesse, art), {wert});
+}
+
 }  // namespace
 
 void StundenProTagMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
@@ -75,6 +95,14 @@ void StundenProTagJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
                   beschriftung(p, {"Jahresmittel", "yearly mean"}));
 }
 
+Wertetafel StundenProTagMonatWerte(const Projekt& p) {
+    return monatswerte(p, ueberwaermung, art_tagesstunden(p), tagesstunden);
+}
+
+Wertetafel StundenProTagJahrWerte(const Projekt& p) {
+    return jahreswerte(p, ueberwaermung, art_tagesstunden(p), tagesstunden_im_jahr(p));
+}
+
 void KuehlBedarfMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     monate_zeichnen(p, bild, art_bedarf(einheit_je_monat(p)), monatskuehlbedarf, stufen_bedarfsmonat);
 }
@@ -84,6 +112,14 @@ void KuehlBedarfJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
                   p.texte.txt_Jahresbilanz);
 }
 
+Wertetafel KuehlBedarfMonatWerte(const Projekt& p) {
+    return monatswerte(p, bedarf, art_bedarf(einheit_je_monat(p)), monatskuehlbedarf);
+}
+
+Wertetafel KuehlBedarfJahrWerte(const Projekt& p) {
+    return jahreswerte(p, bedarf, art_bedarf(einheit_je_jahr(p)), jahreskuehlbedarf(p));
+}
+
 void KuehlGradStundenMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     monate_zeichnen(p, bild, art_gradstunden(p), kuehlgradstunden, stufen_gradstunden_monat);
 }
@@ -91,6 +127,15 @@ void KuehlGradStundenMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
 void KuehlGradStundenJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     jahr_zeichnen(bild, art_gradstunden(p), summe_der_monate(p, &Monatswerte::Kuehlgradstunden),
                   stufen_gradstunden_jahr, beschriftung(p, {"Jahressumme", "yearly sum"}));
+}
+
+Wertetafel KuehlGradStundenMonatWerte(const Projekt& p) {
+    return monatswerte(p, gradstunden, art_gradstunden(p), kuehlgradstunden);
+}
+
+Wertetafel KuehlGradStundenJahrWerte(const Projekt& p) {
+    return jahreswerte(p, gradstunden, art_gradstunden(p),
+                       summe_der_monate(p, &Monatswerte::Kuehlgradstunden));
 }
 
 }  // namespace velmaris

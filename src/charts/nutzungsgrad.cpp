@@ -2,6 +2,7 @@
 
 #include "calc/jahressummen.h"
 #include "charts/balkenfarben.h"
+#include "charts/chartwerte.h"
 #include "charts/schema.h"
 #include "charts/stufen.h"
 
@@ -27,6 +28,16 @@ void gewinne_zeichnen(const Balkendiagramm& diagramm, double x, double breite, d
                     {g.intern, balkenfarben::intern_ungenutzt});
 }
 
+constexpr Wort nutzung{"Nutzung der Gewinne", "Use of the gains"};
+
+std::vector<Wertespalte> gewinnspalten(const Projekt& p, const std::string& einheit) {
+    return chartspalten(p, "A_Heizen", {"Label13", "Label11", "Label12", "Label10"}, einheit);
+}
+
+std::vector<double> gewinnwerte(const Gewinne& g) {
+    return {g.solar_genutzt, g.solar - g.solar_genutzt, g.intern_genutzt, g.intern - g.intern_genutzt};
+}
+
 }  // namespace
 
 void NutzungsgradMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
@@ -41,6 +52,11 @@ void NutzungsgradMonatZeichnen(const Projekt& p, Zeichenflaeche& bild) {
         gewinne_zeichnen(diagramm, monatsspalte(m), 8, 10, gewinne(p, m));
 }
 
+Wertetafel NutzungsgradMonatWerte(const Projekt& p) {
+    return monatstafel(p, nutzung, gewinnspalten(p, einheit_je_monat(p)),
+                       [&p](int m) { return gewinnwerte(gewinne(p, m)); });
+}
+
 void NutzungsgradJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     const Gewinne g = gewinne_im_jahr(p);
     const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsjahr.schritt(std::max(g.solar, g.intern)),
@@ -49,6 +65,10 @@ void NutzungsgradJahrZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     jahresname_zeichnen(bild, p.texte.txt_Jahresbilanz);
     bild.text(5, 0, einheit_je_jahr(p));
     gewinne_zeichnen(diagramm, 35, 20, 25, g);
+}
+
+Wertetafel NutzungsgradJahrWerte(const Projekt& p) {
+    return jahrestafel(p, nutzung, gewinnspalten(p, einheit_je_jahr(p)), gewinnwerte(gewinne_im_jahr(p)));
 }
 
 }  // namespace velmaris

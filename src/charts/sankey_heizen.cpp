@@ -1,6 +1,7 @@
 #include "charts/sankey_heizen.h"
 
 #include "charts/c_sankey.h"
+#include "charts/chartwerte.h"
 #include "charts/schema.h"
 #include "toolkit/fehler.h"
 #include "toolkit/zahlen.h"
@@ -117,14 +118,34 @@ void teilung_zeichnen(const Heizbild& b) {
         Sankey_Linie(b.blatt.bild, 310, y, 350, y, farben::weiss);
 }
 
+namespace namen {
+constexpr Wort primaer{"Primärenergiebedarf", "primary energy demand"};
+constexpr Wort umwandlung{"Umwandlungs- und Transportverluste", "losses for transformation and transport"};
+constexpr Wort erneuerbar{"Erneuerbare Energien", "renewable energies"};
+constexpr Wort solar{"nutzbare solare Gewinne", "usable solar gains"};
+constexpr Wort intern{"nutzbare interne Gewinne", "usable internal gains"};
+constexpr Wort lueftung{"Lüftungsverluste", "ventilation losses"};
+constexpr Wort transmission{"Transmissionsverluste", "transmission losses"};
+constexpr Wort heizwaerme{"Heizwärmebedarf", "heat energy demand"};
+constexpr Wort systemverlust{"Verluste Heizungssystem", "losses of the heating"};
+constexpr Wort systemgewinn{"Gewinne aus der Umwelt", "gains from environment"};
+/// From the bottom up, as they stand in `Sankey_Heizmasse::bauteile`.
+constexpr std::array<Wort, 5> bauteile{
+    {{"Boden", "ground"}, {"Tür", "door"}, {"Wände", "walls"}, {"Fenster", "windows"}, {"Dach", "roof"}}};
+}  // namespace namen
+
 /// A label of two lines: what flows and how much.
 struct Strom {
-    Zweisprachig name;
+    const Wort& name;
     double wert;
     Buendig buendig;
     double x;
     double y;
 };
+
+double primaerenergie(const Projekt& p) {
+    return double{p.q_PE_Strom} + p.q_PE_Energietraeger;
+}
 
 /// Loss by transformation, or the renewable energies if the band does not rise.
 void umwandlung_beschriften(const Heizbild& b) {
@@ -135,7 +156,7 @@ void umwandlung_beschriften(const Heizbild& b) {
                      beschriftung(b.p, {"verluste ", "and transport "}) + wert});
     } else {
         Sankey_Text(b.blatt.bild, Buendig::mitte, b.m.bTV / 2.0 + 70, 0,
-                    {beschriftung(b.p, {"Erneuerbare Energien", "renewable energies"}), wert});
+                    {beschriftung(b.p, namen::erneuerbar), wert});
     }
 }
 
@@ -143,22 +164,16 @@ void stroeme_beschriften(const Heizbild& b) {
     const Projekt& p = b.p;
     const Sankey_Heizmasse& m = b.m;
     const double unten = b.blatt.bild.hoehe() - 25;
-    const Strom verlust{
-        {"Verluste Heizungssystem", "losses of the heating"}, m.SV, Buendig::rechts, 123, m.yA + 5.0};
-    const Strom gewinn{
-        {"Gewinne aus der Umwelt", "gains from environment"}, -m.SV, Buendig::rechts, 103, m.yA + 5.0};
+    const Strom verlust{namen::systemverlust, m.SV, Buendig::rechts, 123, m.yA + 5.0};
+    const Strom gewinn{namen::systemgewinn, -m.SV, Buendig::rechts, 103, m.yA + 5.0};
     const auto stroeme = std::to_array<Strom>({
-        {{"Primärenergiebedarf", "primary energy demand"},
-         double{p.q_PE_Strom} + p.q_PE_Energietraeger,
-         Buendig::links,
-         2,
-         m.yP - m.bPE - 24.0},
-        {{"nutzbare solare Gewinne", "usable solar gains"}, p.qsols, Buendig::mitte, 215, 0},
-        {{"Lüftungsverluste", "ventilation losses"}, p.qinfs, Buendig::rechts, 415, 0},
+        {namen::primaer, primaerenergie(p), Buendig::links, 2, m.yP - m.bPE - 24.0},
+        {namen::solar, p.qsols, Buendig::mitte, 215, 0},
+        {namen::lueftung, p.qinfs, Buendig::rechts, 415, 0},
         m.bSV >= 0 ? verlust : gewinn,
-        {{"nutzbare interne Gewinne", "usable internal gains"}, p.qis, Buendig::mitte, 200, unten},
-        {{"Transmissionsverluste", "transmission losses"}, p.qtrs, Buendig::rechts, 415, unten},
-        {{"Heizwärmebedarf", "heat energy demand"}, p.qhs_sum, Buendig::mitte, 175, m.yB - m.bQH / 2.0 - 12},
+        {namen::intern, p.qis, Buendig::mitte, 200, unten},
+        {namen::transmission, p.qtrs, Buendig::rechts, 415, unten},
+        {namen::heizwaerme, p.qhs_sum, Buendig::mitte, 175, m.yB - m.bQH / 2.0 - 12},
     });
     for (const Strom& strom : stroeme)
         Sankey_Text(b.blatt.bild, strom.buendig, strom.x, strom.y,
@@ -168,17 +183,13 @@ void stroeme_beschriften(const Heizbild& b) {
 
 /// The list of the building's parts beside the arrows, roof first.
 void bauteile_beschriften(const Heizbild& b) {
-    const std::array<Zweisprachig, 5> namen{{{"Boden (", "ground ("},
-                                             {"Tür (", "door ("},
-                                             {"Wände (", "walls ("},
-                                             {"Fenster (", "windows ("},
-                                             {"Dach (", "roof ("}}};
     double y = std::min(b.m.yC - b.m.bQT / 2.0, liste_tiefste) - 30;
     for (std::size_t i = b.m.bauteile.size(); i-- > 0;) {
         const double verlust = b.m.bauteile[i].verlust;
         if (!(verlust > 0)) continue;
-        Sankey_Text(b.blatt.bild, Buendig::links, 356, y,
-                    {beschriftung(b.p, namen[i]) + muster(verlust / b.p.qtr * 100, 0) + " %)"});
+        Sankey_Text(
+            b.blatt.bild, Buendig::links, 356, y,
+            {beschriftung(b.p, namen::bauteile[i]) + " (" + muster(verlust / b.p.qtr * 100, 0) + " %)"});
         y += sankey_zeile;
     }
 }
@@ -193,6 +204,29 @@ void SankeyHeizen(const Projekt& p, Zeichenflaeche& bild) {
     if (p.qtr > 0) teilung_zeichnen(b);
     stroeme_beschriften(b);
     if (p.qtr > 0) bauteile_beschriften(b);
+}
+
+Wertetafel SankeyHeizenWerte(const Projekt& p) {
+    const auto wort = [&p](const Wort& name) { return std::string(name.in(p.Sprache)); };
+    const auto [SV, TV] = sankey_heizwerte(p);
+    Wertetafel tafel =
+        groessentafel(p, wort({"Energiefluss Heizen", "Energy flow of the heating"}), {}, einheit_je_jahr(p));
+    const auto zeile = [&](const Wort& name, double wert) {
+        tafel.zeilen.push_back({.namen = {wort(name)}, .werte = {wert}});
+    };
+    zeile(namen::primaer, primaerenergie(p));
+    zeile(TV > 0 ? namen::umwandlung : namen::erneuerbar, std::abs(TV));
+    zeile(SV >= 0 ? namen::systemverlust : namen::systemgewinn, std::abs(SV));
+    zeile(namen::heizwaerme, p.qhs_sum);
+    zeile(namen::solar, p.qsols);
+    zeile(namen::intern, p.qis);
+    zeile(namen::lueftung, p.qinfs);
+    zeile(namen::transmission, p.qtrs);
+    const std::array<double, 5> teile{p.qtr_Boden, p.qtr_Tuer, p.qtr_Waende, p.qtr_Fenster, p.qtr_Dach};
+    for (std::size_t i = 0; i < teile.size(); ++i)
+        tafel.zeilen.push_back({.namen = {wort(namen::transmission) + " " + wort(namen::bauteile[i])},
+                                .werte = {teile[i] / p.f_nutz}});
+    return tafel;
 }
 
 }  // namespace velmaris

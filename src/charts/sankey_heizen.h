@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/c_glob.h"
+#include "toolkit/wertetafel.h"
 #include "toolkit/zeichenflaeche.h"
 
 #include <array>
@@ -15,11 +16,17 @@ struct Sankey_Bauteil {
     int oben = 0;
 };
 
+/// The flows of the heating that the record does not hold, kWh/(m2 a).
+struct Sankey_Heizwerte {
+    double SV = 0;  ///< loss of the heating system, below 0 what it gains from the environment
+    double TV = 0;  ///< loss by transformation and transport, below 0 renewable energies
+};
+
+[[nodiscard]] Sankey_Heizwerte sankey_heizwerte(const Projekt& p);
+
 /// The heating diagram in whole pixels, laid out for one surface.
-struct Sankey_Heizmasse {
-    double SV = 0;  ///< loss of the heating system, below 0 what it gains from the environment, kWh/(m2 a)
-    double TV = 0;  ///< loss by transformation and transport, below 0 renewable energies, kWh/(m2 a)
-    double S = 1;   ///< kWh/(m2 a) per pixel
+struct Sankey_Heizmasse : Sankey_Heizwerte {
+    double S = 1;  ///< kWh/(m2 a) per pixel
 
     // --- Widths of the bands ---
     int bPE = 0;  ///< primary energy
@@ -53,5 +60,8 @@ struct Sankey_Heizmasse {
 /// Draws the flow of the heating energy: from the primary energy through the heat demand, with the gains of
 /// sun and house, to the losses and their parts. The surface is white.
 void SankeyHeizen(const Projekt& p, Zeichenflaeche& bild);
+
+/// The flows of the diagram, the parts of the transmission losses among them, kWh/(m2 a).
+[[nodiscard]] Wertetafel SankeyHeizenWerte(const Projekt& p);
 
 }  // namespace velmaris

@@ -1,12 +1,15 @@
 #include "charts/sankey_kuehlen.h"
 
 #include "charts/c_sankey.h"
+#include "charts/chartwerte.h"
 #include "charts/schema.h"
 #include "toolkit/fehler.h"
 
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -15,6 +18,20 @@ constexpr Farbe farbe_kuehlen{180, 180, 255};
 constexpr int bogenradius = 10;
 constexpr int xBogen = 60;
 constexpr int xSpitze = 410;
+
+namespace namen {
+constexpr Wort primaer{"Primärenergiebedarf", "primary energy demand"};
+constexpr Wort umwandlung{"Umwandlungs- und Transportverluste", "losses for transformation and transport"};
+constexpr Wort ende{"End-Kühlenergiebedarf", "end energy demand for cooling"};
+constexpr Wort abgefuehrt{"Aus dem Gebäude abgeführte Wärme", "Heat removed from the building"};
+constexpr Wort abwaerme{"Abwärme Kühlgerät", "Waste heat from cooling system"};
+constexpr Wort ueberschuss{"Überschüssige", "Surplus"};
+constexpr std::array<Wort, velmaris::ueberschuesse> ueberschuesse{
+    {{"Transmissionsgewinne", "transmission gains"},
+     {"Lüftungsgewinne", "ventilation gains"},
+     {"solare Gewinne", "solar gains"},
+     {"interne Gewinne", "internal gains"}}};
+}  // namespace namen
 
 struct Kuehlbild {
     const Projekt& p;
@@ -72,40 +89,33 @@ void baender_zeichnen(const Kuehlbild& b) {
 }
 
 void stroeme_beschriften(const Kuehlbild& b) {
-    const auto schreibe = [&b](Buendig buendig, double x, double y, const Zweisprachig& name,
+    const auto schreibe = [&b](Buendig buendig, double x, double y, const Wort& name,
                                const std::string& zweite) {
         Sankey_Text(b.blatt.bild, buendig, x, y, {beschriftung(b.p, name), zweite});
     };
     const double unten = b.blatt.bild.hoehe() - 25;
-    schreibe(Buendig::links, 2, b.m.yP - b.m.P - 24, {"Primärenergiebedarf", "primary energy demand"},
-             Sankey_Wert(b.werte.P));
+    schreibe(Buendig::links, 2, b.m.yP - b.m.P - 24, namen::primaer, Sankey_Wert(b.werte.P));
     schreibe(Buendig::mitte, std::min(b.m.L / 2.0 + 70, 90.0), 0,
              {"Umwandlungs- und Transport-", "losses for transformation"},
              beschriftung(b.p, {"verluste ", "and transport "}) + Sankey_Wert(b.werte.L));
-    schreibe(Buendig::mitte, 150, unten, {"End-Kühlenergiebedarf", "end energy demand for cooling"},
-             Sankey_Wert(b.werte.E));
-    schreibe(Buendig::rechts, 415, 0, {"Aus dem Gebäude abgeführte Wärme", "Heat removed from the building"},
+    schreibe(Buendig::mitte, 150, unten, namen::ende, Sankey_Wert(b.werte.E));
+    schreibe(Buendig::rechts, 415, 0, namen::abgefuehrt,
              beschriftung(b.p, {"(= Kühlbedarf)", "(= cooling demand)"}) + " " + Sankey_Wert(b.werte.C));
-    schreibe(Buendig::rechts, 415, unten, {"Abwärme Kühlgerät", "Waste heat from cooling system"},
-             Sankey_Wert(b.werte.E));
+    schreibe(Buendig::rechts, 415, unten, namen::abwaerme, Sankey_Wert(b.werte.E));
 }
 
 /// The list of the inlets stands level with them, between the headings and the end energy.
 void einlaesse_beschriften(const Kuehlbild& b) {
-    const std::array<Zweisprachig, ueberschuesse> namen{
-        {{" - Transmissionsgewinne: ", " - transmission gains: "},
-         {" - Lüftungsgewinne: ", " - ventilation gains: "},
-         {" - solare Gewinne: ", " - solar gains: "},
-         {" - interne Gewinne: ", " - internal gains: "}}};
     constexpr double hoehe = (1 + 2 * ueberschuesse) * sankey_zeile;
     constexpr double einzug = 8;
     const double mitte = (b.m.einlass.front() - b.m.teile.front() + b.m.einlass.back()) / 2.0;
     double y = std::clamp(mitte - hoehe / 2, 26.0, b.m.yE - hoehe - 2);
     Zeichenflaeche& bild = b.blatt.bild;
-    Sankey_Text(bild, Buendig::links, b.m.xText, y, {beschriftung(b.p, {"Überschüssige", "Surplus"})});
+    Sankey_Text(bild, Buendig::links, b.m.xText, y, {beschriftung(b.p, namen::ueberschuss)});
     y += sankey_zeile;
     for (std::size_t i = 0; i < ueberschuesse; ++i, y += 2 * sankey_zeile) {
-        Sankey_Text(bild, Buendig::links, b.m.xText, y, {beschriftung(b.p, namen[i])});
+        Sankey_Text(bild, Buendig::links, b.m.xText, y,
+                    {" - " + beschriftung(b.p, namen::ueberschuesse[i]) + ": "});
         Sankey_Text(bild, Buendig::links, b.m.xText + einzug, y + sankey_zeile,
                     {Sankey_Wert(b.werte.teile[i])});
     }
@@ -130,6 +140,21 @@ void SankeyKuehlen(const Projekt& p, Zeichenflaeche& bild) {
     baender_zeichnen(b);
     stroeme_beschriften(b);
     einlaesse_beschriften(b);
+}
+
+Wertetafel SankeyKuehlenWerte(const Projekt& p) {
+    const auto wort = [&p](const Wort& name) { return std::string(name.in(p.Sprache)); };
+    const Sankey_Kuehlwerte werte = sankey_kuehlwerte(p);
+    std::vector<Wertezeile> zeilen{{.namen = {wort(namen::primaer)}, .werte = {werte.P}},
+                                   {.namen = {wort(namen::umwandlung)}, .werte = {werte.L}},
+                                   {.namen = {wort(namen::ende)}, .werte = {werte.E}},
+                                   {.namen = {wort(namen::abgefuehrt)}, .werte = {werte.C}},
+                                   {.namen = {wort(namen::abwaerme)}, .werte = {werte.E}}};
+    for (std::size_t i = 0; i < ueberschuesse; ++i)
+        zeilen.push_back({.namen = {wort(namen::ueberschuss) + " " + wort(namen::ueberschuesse[i])},
+                          .werte = {werte.teile[i]}});
+    return groessentafel(p, wort({"Energiefluss Kühlen", "Energy flow of the cooling"}), std::move(zeilen),
+                         einheit_je_jahr(p));
 }
 
 }  // namespace velmaris

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/c_glob.h"
+#include "toolkit/wertetafel.h"
 #include "toolkit/zeichenflaeche.h"
 
 #include <array>
@@ -51,5 +52,8 @@ struct Sankey_Kuehlmasse {
 /// Draws the flow of the cooling energy: what the surplus comes from and the electricity that carries it out
 /// of the building, or a line of text without a cooling demand. The surface is white.
 void SankeyKuehlen(const Projekt& p, Zeichenflaeche& bild);
+
+/// The flows of the diagram, kWh/(m2 a); all 0 without a cooling demand.
+[[nodiscard]] Wertetafel SankeyKuehlenWerte(const Projekt& p);
 
 }  // namespace velmaris

@@ -63,8 +63,8 @@ void jahresname_zeichnen(Zeichenflaeche& bild, const std::string& name) {
     bild.text(jahresrand - bild.textbreite(name) - 5, 124, name);
 }
 
-std::string beschriftung(const Projekt& p, const Zweisprachig& text) {
-    return bekannte_sprache(p.Sprache) ? text.in(p.Sprache) : std::string();
+std::string beschriftung(const Projekt& p, const Wort& text) {
+    return bekannte_sprache(p.Sprache) ? std::string(text.in(p.Sprache)) : std::string();
 }
 
 std::string einheit_je_monat(const Projekt& p) {

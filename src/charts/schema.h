@@ -75,7 +75,7 @@ void monatsnamen_zeichnen(Zeichenflaeche& bild, const Projekt& p, double y = 124
 void jahresname_zeichnen(Zeichenflaeche& bild, const std::string& name);
 
 /// The text for the letters "d" and "e"; empty for any other.
-[[nodiscard]] std::string beschriftung(const Projekt& p, const Zweisprachig& text);
+[[nodiscard]] std::string beschriftung(const Projekt& p, const Wort& text);
 
 /// The units above the axes.
 [[nodiscard]] std::string einheit_je_monat(const Projekt& p);

@@ -1,6 +1,7 @@
 #include "charts/temperaturdiagramm.h"
 
 #include "charts/diagrammtext.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -51,6 +52,15 @@ void eintrag(Zeichenflaeche& bild, double abstand, const std::string& text, Farb
     const double x = bild.breite() - abstand;
     bild.flaeche(x, mitte - 3, x + 9, mitte + 3, farbe);
     bild.text(x + legendentext, mitte - bild.texthoehe("T") / 2, text);
+}
+
+/// The two series of the chart.
+Stundenreihe aussenluft(const Projekt& p) {
+    return [&p](int m, int d, int h) { return p.Wetter(m, d, h).Ta; };
+}
+
+Stundenreihe raumluft(const Projekt& p) {
+    return [&p](int m, int d, int h) { return p.T_frei(m, d, h); };
 }
 
 /// Both entries in one font, in which the second one ends above the right end of the axis.
@@ -147,8 +157,8 @@ Temperaturachse temperaturachse(double T_min, double T_max) {
 
 void TemperaturDiagrammZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     const int monat = p.Monat_Uebersicht;
-    const Stundenreihe Ta = [&p](int m, int d, int h) { return p.Wetter(m, d, h).Ta; };
-    const Stundenreihe Ti = [&p](int m, int d, int h) { return p.T_frei(m, d, h); };
+    const Stundenreihe Ta = aussenluft(p);
+    const Stundenreihe Ti = raumluft(p);
     const double T_min = std::min(min_suchen(Ta, monat), min_suchen(Ti, monat));
     const double T_max = std::max(max_suchen(Ta, monat), max_suchen(Ti, monat));
     const Plan flaechenplan = plan(bild, temperaturachse(T_min, T_max));
@@ -158,6 +168,21 @@ void TemperaturDiagrammZeichnen(const Projekt& p, Zeichenflaeche& bild) {
     temperaturachse_zeichnen(bild, flaechenplan);
     kurve(bild, flaechenplan, Ta, monat, farbe_aussen);
     kurve(bild, flaechenplan, Ti, monat, farbe_raum);
+}
+
+Wertetafel TemperaturDiagrammWerte(const Projekt& p) {
+    const int monat = p.Monat_Uebersicht;
+    const auto wort = [&p](const Wort& w) { return std::string(w.in(p.Sprache)); };
+    Wertetafel tafel{.titel = wort({"Temperaturen im ", "Temperatures in "}) + p.Monat(monat).Name,
+                     .zeilenkopf = {wort({"Tag", "day"}), wort({"Stunde", "hour"})},
+                     .spalten = {{p.texte.txt_Aussenluft, "°C"}, {p.texte.txt_Raumluft, "°C"}},
+                     .zeilen = {},
+                     .sprache = p.Sprache};
+    fuer_jede_stunde_des_monats(monat, 1, [&](int m, int d, int h, int) {
+        tafel.zeilen.push_back({.namen = {std::to_string(d), std::to_string(h)},
+                                .werte = {aussenluft(p)(m, d, h), raumluft(p)(m, d, h)}});
+    });
+    return tafel;
 }
 
 }  // namespace velmaris

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/c_glob.h"
+#include "toolkit/wertetafel.h"
 #include "toolkit/zeichenflaeche.h"
 
 #include <functional>
@@ -31,5 +32,8 @@ struct Temperaturachse {
 
 /// Outdoor air and free-running room temperature of the month `Monat_Uebersicht`, on a surface of any size.
 void TemperaturDiagrammZeichnen(const Projekt& p, Zeichenflaeche& bild);
+
+/// Its numbers, hour by hour.
+[[nodiscard]] Wertetafel TemperaturDiagrammWerte(const Projekt& p);
 
 }  // namespace velmaris

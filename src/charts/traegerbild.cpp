@@ -1,5 +1,6 @@
 #include "charts/traegerbild.h"
 
+#include "charts/chartwerte.h"
 #include "charts/diagrammtext.h"
 #include "energy/katalog_werte.h"
 #include "toolkit/zahlen.h"
@@ -8,6 +9,8 @@
 #include <array>
 #include <cmath>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -74,15 +77,15 @@ void blitz(Zeichenflaeche& bild, double v) {
 struct Traegerart {
     std::string_view Traegername;
     double heizwert;  ///< kWh per unit
-    const char* einheit;
+    std::string_view einheit;
     void (*zeichnen)(Zeichenflaeche&, double);
 };
 
-constexpr std::array<Traegerart, 5> arten{{{"Erdgas", 10.4, " m³/a", gas},
-                                           {"Heizöl", 10.08, " l/a", oel},
-                                           {"Holz", 4.6, " kg/a", holz},
-                                           {"Nah-/Fernwärme", 1, " kWh/a", fernwaerme},
-                                           {strom_name.Traegername, 1, " kWh/a", blitz}}};
+constexpr std::array<Traegerart, 5> arten{{{"Erdgas", 10.4, "m³/a", gas},
+                                           {"Heizöl", 10.08, "l/a", oel},
+                                           {"Holz", 4.6, "kg/a", holz},
+                                           {"Nah-/Fernwärme", 1, "kWh/a", fernwaerme},
+                                           {strom_name.Traegername, 1, "kWh/a", blitz}}};
 
 /// A line of text in the middle, in smaller letters where it is too long for the surface. Its edge sets it
 /// off from the pictogram.
@@ -92,31 +95,70 @@ void titelzeile(Zeichenflaeche& bild, double oben, const std::string& text) {
     bild.text(mitte - breite / 2, oben, text);
 }
 
+/// What a picture shows of a carrier.
+struct Menge {
+    std::string name;
+    double energie;  ///< kWh/(m2 a)
+    double menge;    ///< of the whole building
+    std::string_view einheit;
+    void (*zeichnen)(Zeichenflaeche&, double);
+};
+
+bool ohne_hilfsstrom(const Projekt& p) {
+    return kurzname(p.Heizsystem, p.Energietraeger).elektrisch();
+}
+
+/// The main carrier; an electric one stands for the auxiliary electricity too.
+Menge traegermenge(const Projekt& p) {
+    const Kurzname name = kurzname(p.Heizsystem, p.Energietraeger);
+    const auto* const art = std::find_if(
+        arten.begin(), arten.end(), [&](const Traegerart& a) { return a.Traegername == name.Traegername; });
+    const double energie = double{p.q_HE_Energietraeger} + (name.elektrisch() ? p.q_HE_Strom : 0.0F);
+    return {std::string(name.in(p.Sprache)), energie, p.f_nutz * energie / art->heizwert, art->einheit,
+            art->zeichnen};
+}
+
+Menge strommenge(const Projekt& p) {
+    const double energie = p.q_HE_Strom;
+    return {std::string(strom_name.in(p.Sprache)), energie, energie * p.f_nutz, "kWh/a", blitz};
+}
+
 /// The titles come last, so that they can be read on the pictogram.
-void titel(Zeichenflaeche& bild, const std::string& name, const std::string& menge) {
-    titelzeile(bild, 10, name);
-    titelzeile(bild, 30, menge);
+void titel(Zeichenflaeche& bild, const Menge& menge) {
+    titelzeile(bild, 10, menge.name + ":");
+    titelzeile(bild, 30, muster(menge.menge, 0) + " " + std::string(menge.einheit));
+}
+
+Wertetafel mengentafel(const Projekt& p, const Wort& titel, const Menge& menge) {
+    Wertezeile zeile{.namen = {menge.name}, .werte = {menge.menge}, .einheit = std::string(menge.einheit)};
+    return groessentafel(p, std::string(titel.in(p.Sprache)), {std::move(zeile)});
 }
 
 }  // namespace
 
 void Energietraeger_zeichnen(Zeichenflaeche& bild, const Projekt& p) {
     bild.Cls();
-    const Kurzname name = kurzname(p.Heizsystem, p.Energietraeger);
-    const auto* const art = std::find_if(
-        arten.begin(), arten.end(), [&](const Traegerart& a) { return a.Traegername == name.Traegername; });
-    const double energie = double{p.q_HE_Energietraeger} + (name.elektrisch() ? p.q_HE_Strom : 0.0F);
-    art->zeichnen(bild, std::min(energie / 2, 100.0));
-    titel(bild, std::string(name.in(p.Sprache)) + ":",
-          muster(p.f_nutz * energie / art->heizwert, 0) + art->einheit);
+    const Menge menge = traegermenge(p);
+    menge.zeichnen(bild, std::min(menge.energie / 2, 100.0));
+    titel(bild, menge);
+}
+
+Wertetafel Energietraeger_werte(const Projekt& p) {
+    return mengentafel(p, {"Energieträger", "Source of energy"}, traegermenge(p));
 }
 
 void Hilfsstrom_zeichnen(Zeichenflaeche& bild, const Projekt& p) {
     bild.Cls();
-    if (kurzname(p.Heizsystem, p.Energietraeger).elektrisch()) return;
-    const double energie = p.q_HE_Strom;
-    blitz(bild, std::min(energie * 20, 100.0));
-    titel(bild, std::string(strom_name.in(p.Sprache)) + ":", muster(energie * p.f_nutz, 0) + " kWh/a");
+    if (ohne_hilfsstrom(p)) return;
+    const Menge menge = strommenge(p);
+    menge.zeichnen(bild, std::min(menge.energie * 20, 100.0));
+    titel(bild, menge);
+}
+
+Wertetafel Hilfsstrom_werte(const Projekt& p) {
+    Menge menge = strommenge(p);
+    if (ohne_hilfsstrom(p)) menge.menge = 0;
+    return mengentafel(p, {"Hilfsenergie (Strom)", "Auxiliary energy (electricity)"}, menge);
 }
 
 }  // namespace velmaris

@@ -49,4 +49,14 @@ std::string beschriftung(std::string_view fenster, std::string_view feld, std::s
     throw std::out_of_range("no caption for " + std::string(fenster) + "." + std::string(feld));
 }
 
+std::string blosser_name(std::string_view text) {
+    while (!text.empty() && text.front() == ' ')
+        text.remove_prefix(1);
+    while (!text.empty() && (text.back() == ' ' || text.back() == ':'))
+        text.remove_suffix(1);
+    std::string name(text);
+    if (const std::size_t stelle = name.find("&&"); stelle != std::string::npos) name.erase(stelle, 1);
+    return name;
+}
+
 }  // namespace velmaris

@@ -34,6 +34,9 @@ inline constexpr std::string_view fenstertitel = "Titel";
 [[nodiscard]] std::string beschriftung(std::string_view fenster, std::string_view feld,
                                        std::string_view sprache);
 
+/// A caption as the bare name of a quantity: no blanks around it, no colon at its end, one ampersand for two.
+[[nodiscard]] std::string blosser_name(std::string_view text);
+
 /// Puts the captions of a window onto its labels or buttons, found by their names; errors as in
 /// `beschriftung`.
 template <class Feldart>

@@ -2,6 +2,7 @@
 
 #include "calc/zeitkonstante.h"
 #include "charts/gewichtbild.h"
+#include "language/beschriftungen.h"
 #include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
@@ -38,6 +39,8 @@ E_Gebaeude::E_Gebaeude(Sitzung& sitzung, E_Fenster& fenster) : s_(sitzung), fens
     Aussenwandart.gewaehlt = [this] { bauart_gewaehlt(&Projekt::Aussenwandart, Aussenwandart); };
     Innenwandart.gewaehlt = [this] { bauart_gewaehlt(&Projekt::Innenwandart, Innenwandart); };
     Traegheit.zeichnen = [this](Zeichenflaeche& flaeche) { gewicht_zeichnen(s_.p, flaeche); };
+    Traegheit.einzeln = {.breite = 76, .hoehe = 72};
+    Traegheit.titel = beschriftung(ebene.name, Traegheit.name, s_.p.Sprache);
     ebene.zeige(false);
 }
 

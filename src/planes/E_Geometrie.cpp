@@ -2,6 +2,7 @@
 
 #include "charts/geometriebilder.h"
 #include "climate/strahlung.h"
+#include "language/beschriftungen.h"
 #include "planes/geometrietexte.h"
 #include "toolkit/text.h"
 #include "toolkit/wort.h"
@@ -66,7 +67,17 @@ E_Geometrie::E_Geometrie(Sitzung& sitzung, E_Daemmung& daemmung) : s_(sitzung), 
         Option_Dachfirst_Click(index);
     };
     AV_Picture.zeichnen = [this](Zeichenflaeche& flaeche) { av_diagramm_zeichnen(s_.p, flaeche); };
+    AV_Picture.werte = [this] { return av_diagramm_werte(s_.p); };
+    AV_Picture.einzeln = {
+        .breite = av_bild_breite,
+        .hoehe = av_bild_hoehe,
+        .hintergrund = {240, 240, 240},
+        .beschriften = [this](Zeichenflaeche& flaeche) { av_diagramm_beschriften(s_.p, flaeche); }};
     Picture1.zeichnen = [this](Zeichenflaeche& flaeche) { lageplan_zeichnen(s_.p, flaeche); };
+    Picture1.einzeln = {.breite = 80, .hoehe = 80};
+    Picture1.titel = blosser_name(beschriftung(ebene.name, "Frame2", s_.p.Sprache));
+    Picture3.einzeln = {.breite = 190, .hoehe = 176};
+    Picture3.titel = Zweisprachig{"Haus", "House"}.in(s_.p.Sprache);
     Label4.schreibe(Zweisprachig{"Dachhöhe:", "height of roof"}.in(s_.p.Sprache));
     Option_Dachfirst.markiere(s_.p.Option_Dachfirst);
     dach_zeigen();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/wertetafel.h"
 #include "toolkit/zeichenflaeche.h"
 
 #include <cstdint>
@@ -251,6 +252,15 @@ class Menuepunkt : public Knopf {
     bool angekreuzt_ = false;
 };
 
+/// A picture that is taken out of its plane: its size in pixels, its ground, and what the plane shows beside
+/// the surface.
+struct Einzelbild {
+    double breite = 0;
+    double hoehe = 0;
+    Farbe hintergrund = farben::weiss;
+    std::function<void(Zeichenflaeche&)> beschriften = {};
+};
+
 /// A picture or chart surface: a repaint routine over an image that may be empty.
 class Bildfeld : public Feld {
   public:
@@ -265,6 +275,15 @@ class Bildfeld : public Feld {
 
     /// Draws the surface; set by the plane, run by the view.
     std::function<void(Zeichenflaeche&)> zeichnen;
+
+    /// The numbers that the surface shows, where it shows any; such a one takes the focus.
+    std::function<Wertetafel()> werte;
+
+    /// What a surface without numbers is called, in the language of the program.
+    std::string titel;
+
+    /// How the picture is taken out, where that is not just what the plane has laid out.
+    std::optional<Einzelbild> einzeln;
 
     /// Pointer events in surface pixels, where the plane wants them.
     std::function<void(double, double)> maus_bewegt;

@@ -6,6 +6,7 @@
 #include "charts/nutzungsgrad.h"
 #include "charts/schema.h"
 #include "language/beschriftungen.h"
+#include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 
 #include <array>
@@ -75,7 +76,12 @@ void A_Heizen::bilder_verbinden() {
     JahrBilanz.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::JahrBilanzZeichnen(p, bild); };
     NutzungsgradMonat.zeichnen = [&p](Zeichenflaeche& bild) { NutzungsgradMonatZeichnen(p, bild); };
     NutzungsgradJahr.zeichnen = [&p](Zeichenflaeche& bild) { NutzungsgradJahrZeichnen(p, bild); };
+    Heizbilanz.werte = [&p] { return HeizbilanzWerte(p); };
+    JahrBilanz.werte = [&p] { return JahrBilanzWerte(p); };
+    NutzungsgradMonat.werte = [&p] { return NutzungsgradMonatWerte(p); };
+    NutzungsgradJahr.werte = [&p] { return NutzungsgradJahrWerte(p); };
     for (const Fassadenbild& f : fassadenbilder) {
+        (this->*f.bild).werte = [&p] { return FassadenbalkenWerte(p); };
         (this->*f.bild).zeichnen = [&p, &f](Zeichenflaeche& bild) {
             velmaris::FassadenbalkenZeichnen(p, f.balken, bild);
         };
@@ -117,6 +123,21 @@ void A_Heizen::aktiviert() {
 void A_Heizen::HeizFelderAusfuellen() {
     for (const Ergebnisfeld& e : ergebnisfelder)
         (this->*e.feld).schreibe(muster(sitzung_.p.*e.wert, e.stellen) + " ");
+}
+
+Wertetafel A_Heizen::jahreswerte() const {
+    const Projekt& p = sitzung_.p;
+    const auto zeile = [](const Anzeige& wort, float spezifisch, float absolut) -> Wertezeile {
+        return {.namen = {blosser_name(wort.text())}, .werte = {spezifisch, absolut}};
+    };
+    return {
+        .titel = blosser_name(Label1.text()),
+        .zeilenkopf = {blosser_name(Label1.text())},
+        .spalten = {{Zweisprachig{"spezifisch", "specific"}.in(p.Sprache), "kWh/(m² a)"},
+                    {Zweisprachig{"absolut", "absolute"}.in(p.Sprache), "kWh/a"}},
+        .zeilen = {zeile(Label6, p.qtrs, p.qtr), zeile(Label5, p.qinfs, p.qinf), zeile(Label4, p.qis, p.qi),
+                   zeile(Label3, p.qsols, p.qsol), zeile(Label2, p.qhs_sum, p.qh)},
+        .sprache = p.Sprache};
 }
 
 void A_Heizen::FassadenbalkenZeichnen() const {

@@ -51,6 +51,9 @@ struct A_Heizen {
     /// The plane has come to the front: shows the record as it stands.
     void aktiviert();
 
+    /// The table of the year.
+    [[nodiscard]] Wertetafel jahreswerte() const;
+
     /// The ten numbers of the table.
     void HeizFelderAusfuellen();
 

@@ -37,6 +37,12 @@ void A_Kuehlen::bilder_verbinden() {
     KuehlbedarfJahr.zeichnen = [&p](Zeichenflaeche& bild) { KuehlBedarfJahrZeichnen(p, bild); };
     KuehlGradStundenMonat.zeichnen = [&p](Zeichenflaeche& bild) { KuehlGradStundenMonatZeichnen(p, bild); };
     KuehlGradStundenJahr.zeichnen = [&p](Zeichenflaeche& bild) { KuehlGradStundenJahrZeichnen(p, bild); };
+    StundenProTagMonat.werte = [&p] { return StundenProTagMonatWerte(p); };
+    StundenProTagJahr.werte = [&p] { return StundenProTagJahrWerte(p); };
+    KuehlbedarfMonat.werte = [&p] { return KuehlBedarfMonatWerte(p); };
+    KuehlbedarfJahr.werte = [&p] { return KuehlBedarfJahrWerte(p); };
+    KuehlGradStundenMonat.werte = [&p] { return KuehlGradStundenMonatWerte(p); };
+    KuehlGradStundenJahr.werte = [&p] { return KuehlGradStundenJahrWerte(p); };
 }
 
 void A_Kuehlen::tipps_verbinden() {

@@ -12,6 +12,8 @@ A_Sankey::A_Sankey(Sitzung& sitzung) : sitzung_(sitzung) {
     ebene.zeige(false);
     Sankey.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::SankeyHeizen(p, bild); };
     Sankey_Kühlen.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::SankeyKuehlen(p, bild); };
+    Sankey.werte = [&p] { return SankeyHeizenWerte(p); };
+    Sankey_Kühlen.werte = [&p] { return SankeyKuehlenWerte(p); };
     anordnen();
     laden();
 }

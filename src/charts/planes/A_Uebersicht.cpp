@@ -30,6 +30,10 @@ A_Uebersicht::A_Uebersicht(Sitzung& sitzung, Monatswahl& monatswahl, A_Zoom& zoo
     JahrBilanz.zeichnen = [&p](Zeichenflaeche& bild) { JahresbedarfZeichnen(p, bild); };
     UeberGrafik.zeichnen = [&p](Zeichenflaeche& bild) { velmaris::UeberGrafikZeichnen(p, bild); };
     UeberJahr.zeichnen = [&p](Zeichenflaeche& bild) { UeberJahrZeichnen(p, bild); };
+    Monatsbilanz.werte = [&p] { return MonatsbilanzWerte(p); };
+    JahrBilanz.werte = [&p] { return JahresbedarfWerte(p); };
+    UeberGrafik.werte = [&p] { return UeberGrafikWerte(p); };
+    UeberJahr.werte = [&p] { return UeberJahrWerte(p); };
     tooltip.folge_monaten(Monatsbilanz, [this](int m) { return tipp_monatsbilanz(m); });
     tooltip.folge_jahr(JahrBilanz, [this] { return tipp_jahrbilanz(); });
     tooltip.folge_monaten(UeberGrafik, [this](int m) { return tipp_uebergrafik(m); });

@@ -8,6 +8,7 @@ namespace velmaris {
 void Monatswahl::nimm_auf(Monatsleiste& leiste, Bildfeld& temperaturen) {
     leiste.gewaehlt = [this](int m) { Monatsbutton_Click(m); };
     temperaturen.zeichnen = [&p = p_](Zeichenflaeche& bild) { TemperaturDiagrammZeichnen(p, bild); };
+    temperaturen.werte = [&p = p_] { return TemperaturDiagrammWerte(p); };
     teilnehmer_.push_back({&leiste, &temperaturen});
 }
 

@@ -2,8 +2,10 @@
 
 #include "calc/gebaeudekennwerte.h"
 #include "calc/heizgrenze.h"
+#include "charts/chartwerte.h"
 #include "climate/jahreswerte.h"
 #include "climate/regionen.h"
+#include "language/beschriftungen.h"
 #include "project/klimabereich.h"
 #include "toolkit/zahlen.h"
 
@@ -18,7 +20,48 @@ std::string klimaname(const Projekt& p) {
     return "Region " + (region > 0 ? std::string(klimaregion(region).text) : p.Stationsname);
 }
 
+/// A load in kW on the usable floor, W/m2.
+double watt_je_flaeche(const Projekt& p, double kilowatt) {
+    return kilowatt * 1000 / p.f_nutz;
+}
+
+/// The row of the figure whose captions end in that name.
+Wertezeile figur(const Projekt& p, const std::string& name, double wert) {
+    return {.namen = {blosser_name(beschriftung("A_Klima", "Label_" + name, p.Sprache))},
+            .werte = {wert},
+            .einheit = beschriftung("A_Klima", "Einheit_" + name, p.Sprache)};
+}
+
+Wertezeile wortfigur(const Projekt& p, const std::string& name, const std::string& wort) {
+    return {.namen = {beschriftung("A_Klima", "Label_" + name, p.Sprache)}, .werte = {}, .text = wort};
+}
+
 }  // namespace
+
+Wertetafel A_Klima::klimawerte(const Projekt& p) {
+    const Jahreswerte jahr = jahreswerte(p);
+    const Monatswerte& warm = p.Monat(jahr.waermster_monat);
+    const Monatswerte& kalt = p.Monat(jahr.kaeltester_monat);
+    return groessentafel(
+        p, beschriftung("A_Klima", "Frame1", p.Sprache) + " " + klimaname(p),
+        {figur(p, "MaxJahrTemp", jahr.Ta_max), figur(p, "MaxMonatTemp", warm.Tmittel),
+         wortfigur(p, "MaxMonatName", warm.Name), figur(p, "MittelJahrTemp", jahr.mittel),
+         figur(p, "MinMonatTemp", kalt.Tmittel), wortfigur(p, "MinMonatName", kalt.Name),
+         figur(p, "MinJahrTemp", jahr.Ta_min), figur(p, "Heizgradtage", heizgrenze(p).Heizgradtage)});
+}
+
+Wertetafel A_Klima::gebaeudewerte(const Projekt& p) {
+    const Gebaeudekennwerte werte = gebaeudekennwerte(p);
+    const Heizgrenze grenze = heizgrenze(p);
+    return groessentafel(
+        p, beschriftung("A_Klima", "Frame2", p.Sprache),
+        {figur(p, "Umittel", werte.Umittel), figur(p, "Tspez", werte.Tspez), figur(p, "Vspez", werte.Vspez),
+         figur(p, "TVspez", werte.TVspez), figur(p, "tau", werte.tau), figur(p, "Heizlast", p.Heizlast_max),
+         figur(p, "heizlast_spez", watt_je_flaeche(p, p.Heizlast_max)),
+         figur(p, "kuehllast", p.Kuehllast_max),
+         figur(p, "kuehllast_spez", watt_je_flaeche(p, p.Kuehllast_max)),
+         figur(p, "Heizgrenztemp", grenze.Temperatur), figur(p, "Heiztage", grenze.Heiztage)});
+}
 
 void A_Klima::stationswerte_zeigen(const Projekt& p) {
     const Jahreswerte jahr = jahreswerte(p);
@@ -44,12 +87,10 @@ void A_Klima::kennwerte_zeigen(const Projekt& p) {
 }
 
 void A_Klima::Ausfuellen(const Projekt& p) {
-    const double heizlast = p.Heizlast_max;
-    const double kuehllast = p.Kuehllast_max;
-    anz_Heizlast.schreibe(muster(heizlast, 1));
-    anz_heizlast_spez.schreibe(muster(heizlast * 1000 / p.f_nutz, 1));
-    anz_kuehllast.schreibe(muster(kuehllast, 1));
-    anz_kuehllast_spez.schreibe(muster(kuehllast * 1000 / p.f_nutz, 1));
+    anz_Heizlast.schreibe(muster(p.Heizlast_max, 1));
+    anz_heizlast_spez.schreibe(muster(watt_je_flaeche(p, p.Heizlast_max), 1));
+    anz_kuehllast.schreibe(muster(p.Kuehllast_max, 1));
+    anz_kuehllast_spez.schreibe(muster(watt_je_flaeche(p, p.Kuehllast_max), 1));
     heizgrenztemperatur(p);
 }
 

@@ -40,6 +40,10 @@ struct A_Klima {
     /// All labels, in the order of the plane.
     [[nodiscard]] std::array<const Anzeige*, 20> anzeigen() const;
 
+    /// The figures of the two frames, as they are in the record.
+    [[nodiscard]] static Wertetafel klimawerte(const Projekt& p);
+    [[nodiscard]] static Wertetafel gebaeudewerte(const Projekt& p);
+
     /// Region or station and its temperatures; after the reading of a station.
     void stationswerte_zeigen(const Projekt& p);
 

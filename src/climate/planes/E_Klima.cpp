@@ -1,5 +1,6 @@
 #include "climate/planes/E_Klima.h"
 
+#include "charts/chartwerte.h"
 #include "climate/jahreswerte.h"
 #include "climate/karten.h"
 #include "climate/klimadatei.h"
@@ -39,6 +40,15 @@ std::filesystem::path kartenbild(const Projekt& p, const std::string& name) {
 /// The German map with a region brought out, 0 for none.
 std::filesystem::path regionenbild(const Projekt& p, int region) {
     return kartenbild(p, "klima" + std::to_string(region));
+}
+
+/// What the map of a scope is called where it is taken out; `option` is the caption of the scope.
+void karte_benennen(Bildfeld& karte, const Kartengroesse& groesse, const Projekt& p,
+                    std::string_view option) {
+    const Wort vorn{"Klimakarte ", "Climate map "};
+    karte.titel = std::string(vorn.in(p.Sprache)) + beschriftung("E_Klima", option, p.Sprache);
+    karte.einzeln = {.breite = static_cast<double>(groesse.breite),
+                     .hoehe = static_cast<double>(groesse.hoehe)};
 }
 
 std::vector<std::string> regionstexte() {
@@ -106,9 +116,26 @@ E_Klima::E_Klima(Sitzung& sitzung, std::function<void()> wetter_laden)
     Picture1.lade(regionenbild(s_.p, 0));
     Picture2.lade(kartenbild(s_.p, "europa"));
     Picture3.lade(kartenbild(s_.p, "welt"));
+    karte_benennen(Picture1, deutschlandgroesse, s_.p, "Option1");
+    karte_benennen(Picture2, europagroesse, s_.p, "Option2");
+    karte_benennen(Picture3, weltgroesse, s_.p, "Option3");
     weltkarte_legen();
     bereich_zeigen(Klimabereich::deutschland);
     verbinden();
+}
+
+Wertetafel E_Klima::klimawerte() const {
+    const Projekt& p = s_.p;
+    const Jahreswerte jahr = jahreswerte(p);
+    const auto zeile = [&p](const Anzeige& wort, std::string_view einheit, double wert) -> Wertezeile {
+        return {
+            .namen = {wort.text()}, .werte = {wert}, .einheit = beschriftung("E_Klima", einheit, p.Sprache)};
+    };
+    return groessentafel(
+        p, Frame_Klimadaten.text() + " " + p.Stationsname,
+        {zeile(anz_MittelJahrText, "Einheit_MittelJahrTemp", jahr.mittel),
+         zeile(anz_MinMonatText, "Einheit_MinMonatTemp", p.Monat(jahr.kaeltester_monat).Tmittel),
+         zeile(anz_MaxMonatText, "Einheit_MaxMonatTemp", p.Monat(jahr.waermster_monat).Tmittel)});
 }
 
 void E_Klima::verbinden() {

@@ -58,6 +58,9 @@ struct E_Klima {
     Anzeige anz_MinMonatText{"anz_MinMonatText"}, anz_MinMonatTemp{"anz_MinMonatTemp"};
     Anzeige anz_MaxMonatText{"anz_MaxMonatText"}, anz_MaxMonatTemp{"anz_MaxMonatTemp"};
 
+    /// The figures of `Frame_Klimadaten`.
+    [[nodiscard]] Wertetafel klimawerte() const;
+
     /// Width of `picture3f` in pixels. More than half of the map, so that each station comes into view at one
     /// end or the other of `HScroll1`.
     static constexpr int rahmenbreite = 330;

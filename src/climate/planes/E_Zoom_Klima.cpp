@@ -25,6 +25,9 @@ E_Zoom_Klima::E_Zoom_Klima(Sitzung& sitzung, const std::vector<Station>& station
     beschriften<Knopf>(ebene.name, sprache, {&Command1, &Command2});
     ebene.zeige(false);
     Picture1.lade(sitzung.p.AppPfad / "Grafiken" / "welt_gross.bmp");
+    Picture1.titel = ebene.text();
+    Picture1.einzeln = {.breite = weltgroesse.breite * weltvergroesserung,
+                        .hoehe = weltgroesse.hoehe * weltvergroesserung};
     karte_.verbinden();
     Klimaregionwahl2.gewaehlt = [this] { Picture1.neu_zeichnen(); };
     Command1.gedrueckt = [this] { bestaetigen(); };

@@ -1,5 +1,6 @@
 #include "energy/planes/E_Energie.h"
 
+#include "charts/chartwerte.h"
 #include "charts/energiediagramm.h"
 #include "charts/schema.h"
 #include "charts/traegerbild.h"
@@ -9,12 +10,27 @@
 #include "toolkit/zahlen.h"
 
 #include <array>
+#include <utility>
 #include <vector>
 
 namespace velmaris {
 namespace {
 
 constexpr Tooltipart tooltipart{.platz = platz_neben_dem_zeiger, .hoehe = 72, .verbirgt_bei_druck = true};
+
+/// Losses of distribution and storage, kWh/(m2 a).
+double verlust(const Kennwerte& k) {
+    return double{k.q_s} + k.q_ce + k.q_d;
+}
+
+/// Primary energy of the carrier, of an electric one with that of the auxiliary electricity.
+double primaerenergie(const Projekt& p, const Kennwerte& k) {
+    return double{p.q_PE_Energietraeger} + (k.name.elektrisch() ? p.q_PE_Strom : 0.0F);
+}
+
+Wertezeile zeile(const Anzeige& wort, double wert, const std::string& einheit = {}) {
+    return {.namen = {blosser_name(wort.text())}, .werte = {wert}, .einheit = einheit};
+}
 
 }  // namespace
 
@@ -33,6 +49,11 @@ E_Energie::E_Energie(Sitzung& sitzung)
     Monatsübersicht_Energieträger.zeichnen = [this](Zeichenflaeche& bild) {
         Monatsverbrauch_zeichnen(bild, sitzung_.p);
     };
+    Picture2.einzeln = Picture3.einzeln = {.breite = 80, .hoehe = 60};
+    Monatsübersicht_Energieträger.einzeln = {.breite = monatsflaeche_breite, .hoehe = 118};
+    Picture2.werte = [this] { return Energietraeger_werte(sitzung_.p); };
+    Picture3.werte = [this] { return Hilfsstrom_werte(sitzung_.p); };
+    Monatsübersicht_Energieträger.werte = [this] { return Monatsverbrauch_werte(sitzung_.p); };
     tooltip.folge(Monatsübersicht_Energieträger, [this](double x, double y) -> std::optional<std::string> {
         const std::optional<int> monat = spaltenmonat(x);
         if (!monat || !auf_saeule(monatswerte(sitzung_.p), x, y)) return std::nullopt;
@@ -111,15 +132,33 @@ void E_Energie::auswahl_zeigen() {
     }
 }
 
+Wertetafel E_Energie::endenergiewerte() const {
+    const Projekt& p = sitzung_.p;
+    std::vector<Wertezeile> zeilen{
+        zeile(Label11, p.qhs_sum, Einheit_qhs_sum.text()),
+        zeile(Label30, verlust(kennwerte_), Einheit_q_verlust.text()),
+        zeile(Label16, kennwerte_.e_g),
+        zeile(Label8, p.q_HE_Energietraeger, Einheit_q_HE_Energieträger.text()),
+        zeile(Label33, p.q_HE_Strom, Einheit_q_HE_Strom.text()),
+        zeile(Label21, primaerenergie(p, kennwerte_), Einheit_q_PE_Energieträger.text())};
+    if (Label14.sichtbar()) zeilen.push_back(zeile(Label14, p.q_PE_Strom, Label6.text()));
+    return groessentafel(p, Frame1.text(), std::move(zeilen));
+}
+
+Wertetafel E_Energie::faktorwerte() const {
+    std::vector<Wertezeile> zeilen{zeile(Label27, kennwerte_.f_p)};
+    if (Label34.sichtbar()) zeilen.push_back(zeile(Label34, f_p_Strom));
+    return groessentafel(sitzung_.p, Frame8.text(), std::move(zeilen));
+}
+
 void E_Energie::felder_fuellen(const Kennwerte& k) {
     const Projekt& p = sitzung_.p;
-    const double primaer = double{p.q_PE_Energietraeger} + (k.name.elektrisch() ? p.q_PE_Strom : 0.0F);
     anz_qhs_sum.schreibe(muster(p.qhs_sum, 1));
-    anz_q_verlust.schreibe(muster(double{k.q_s} + k.q_ce + k.q_d, 1));
+    anz_q_verlust.schreibe(muster(verlust(k), 1));
     anz_e_g.schreibe(muster(k.e_g, 2));
     anz_q_HE_Energieträger.schreibe(muster(p.q_HE_Energietraeger, 1));
     anz_q_HE_Strom.schreibe(muster(p.q_HE_Strom, 1));
-    anz_q_PE_Energieträger.schreibe(muster(primaer, 1));
+    anz_q_PE_Energieträger.schreibe(muster(primaerenergie(p, k), 1));
     anz_q_PE_Strom.schreibe(muster(p.q_PE_Strom, 1));
     anz_Primärenergiefaktor_Energieträger.schreibe(muster(k.f_p, 1));
     anz_Primärenergiefaktor_Strom.schreibe(muster(f_p_Strom, 1));

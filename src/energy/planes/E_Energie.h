@@ -56,6 +56,10 @@ struct E_Energie {
     Bildfeld Monatsübersicht_Energieträger{"Monatsübersicht_Energieträger"};
     Tooltip tooltip;
 
+    /// The figures of `Frame1` and of `Frame8`; what is hidden is not among them.
+    [[nodiscard]] Wertetafel endenergiewerte() const;
+    [[nodiscard]] Wertetafel faktorwerte() const;
+
     /// Fills the catalogue and the captions in the language of the run.
     void laden();
 
