@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <algorithm>
+#include <array>
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <map>
@@ -57,11 +58,26 @@ BENCHMARK_CAPTURE(Erstes_Bild, Heizen, "Heizen")->UseManualTime()->Unit(benchmar
 BENCHMARK_CAPTURE(Erstes_Bild, Kuehlen, "Kuehlen")->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Erstes_Bild, Sankey, "Sankey")->UseManualTime()->Unit(benchmark::kMillisecond);
 
+/// The sizes of the main window: the smallest, and maximised on two usual screens.
+constexpr std::array fenstergroessen{QSize(800, 567), QSize(1920, 1050), QSize(3840, 2130)};
+
+/// The benchmark for each of the sizes, by number.
+void alle_groessen(benchmark::internal::Benchmark* messung) {
+    messung->DenseRange(0, static_cast<int>(fenstergroessen.size()) - 1)->Unit(benchmark::kMillisecond);
+}
+
+void gib_groesse(Programm& programm, benchmark::State& zustand) {
+    const QSize groesse = fenstergroessen.at(static_cast<std::size_t>(zustand.range(0)));
+    programm.fenster().resize(groesse);
+    zustand.SetLabel(std::to_string(groesse.width()) + " x " + std::to_string(groesse.height()));
+}
+
 /// One step of a scroll field, all visible charts repainted, with each output plane in front.
 void Schritt(benchmark::State& zustand, const char* ebene) {
     const Ordner ordner;
     Programm programm(ordner.pfad(), "d", Befehlszeile("d"));
     programm.starten();
+    gib_groesse(programm, zustand);
     programm.haupt().a_menue.klicke(ebene);
     QApplication::processEvents();
     Bildfeld& plan = programm.haupt().e_geometrie.AV_Picture;
@@ -79,10 +95,31 @@ void Schritt(benchmark::State& zustand, const char* ebene) {
     }
     if (gezeichnet < zustand.iterations()) zustand.SkipWithError("not every step was painted");
 }
-BENCHMARK_CAPTURE(Schritt, Uebersicht, "Uebersicht")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Schritt, Heizen, "Heizen")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Schritt, Kuehlen, "Kuehlen")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Schritt, Sankey, "Sankey")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Schritt, Uebersicht, "Uebersicht")->Apply(alle_groessen);
+BENCHMARK_CAPTURE(Schritt, Heizen, "Heizen")->Apply(alle_groessen);
+BENCHMARK_CAPTURE(Schritt, Kuehlen, "Kuehlen")->Apply(alle_groessen);
+BENCHMARK_CAPTURE(Schritt, Sankey, "Sankey")->Apply(alle_groessen);
+
+/// One step of a drag at the edge of the window, with each output plane in front: 30 pictures a second are
+/// wanted.
+void Groesse_ziehen(benchmark::State& zustand, const char* ebene) {
+    const Ordner ordner;
+    Programm programm(ordner.pfad(), "d", Befehlszeile("d"));
+    programm.starten();
+    gib_groesse(programm, zustand);
+    programm.haupt().a_menue.klicke(ebene);
+    QApplication::processEvents();
+    const QSize groesse = programm.fenster().size();
+    constexpr int weite = 40;
+    int schritt = 0;
+    for ([[maybe_unused]] auto _ : zustand) {
+        schritt = (schritt + 1) % weite;
+        programm.fenster().resize(groesse + QSize(schritt, schritt) * 2);
+        QApplication::processEvents();
+    }
+}
+BENCHMARK_CAPTURE(Groesse_ziehen, Uebersicht, "Uebersicht")->Apply(alle_groessen);
+BENCHMARK_CAPTURE(Groesse_ziehen, Sankey, "Sankey")->Apply(alle_groessen);
 
 using Uhr = std::chrono::steady_clock;
 

@@ -154,7 +154,7 @@ void Hauptfenster::zeigen() {
 void Hauptfenster::einpassen() {
     massstab_.setze(passender_massstab(size(), hauptfenstergroesse));
     tippschrift_setzen(massstab(*this));
-    const QSize groesse = (QSizeF(flaechengroesse) * massstab(*this)).toSize();
+    const QSize groesse = in_pixeln(massstab(*this), flaechengroesse);
     const QSize rest = (centralWidget()->size() - groesse).expandedTo(QSize(0, 0)) / 2;
     flaeche_->setGeometry(QRect(QPoint(rest.width(), rest.height()), groesse));
 }

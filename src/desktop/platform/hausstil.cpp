@@ -96,18 +96,18 @@ int Hausstil::pixelMetric(PixelMetric groesse, const QStyleOption* option, const
     const double s = massstab_von(fenster);
     switch (groesse) {
         case PM_ScrollBarExtent:
-            return qRound(mass::leiste * s);
+            return in_pixeln(s, mass::leiste);
         case PM_LayoutLeftMargin:
         case PM_LayoutTopMargin:
         case PM_LayoutRightMargin:
         case PM_LayoutBottomMargin:
-            return qRound(mass::rand * s);
+            return in_pixeln(s, mass::rand);
         case PM_LayoutHorizontalSpacing:
         case PM_LayoutVerticalSpacing:
-            return qRound(mass::abstand * s);
+            return in_pixeln(s, mass::abstand);
         default: {
             const int einheiten = QProxyStyle::pixelMetric(groesse, option, fenster);
-            return waechst(groesse) ? qRound(einheiten * s) : einheiten;
+            return waechst(groesse) ? in_pixeln(s, einheiten) : einheiten;
         }
     }
 }
@@ -119,8 +119,8 @@ QRect Hausstil::subControlRect(ComplexControl bedienteil, const QStyleOptionComp
     const QRect feld = QProxyStyle::subControlRect(bedienteil, option, teil, fenster);
     if (bedienteil != CC_GroupBox) return feld;
     const double s = massstab_von(fenster);
-    const int tiefer = qRound(titelabstand * s);
-    if (teil == SC_GroupBoxLabel) return feld.translated(qRound(mass::rand * s), tiefer);
+    const int tiefer = in_pixeln(s, titelabstand);
+    if (teil == SC_GroupBoxLabel) return feld.translated(in_pixeln(s, mass::rand), tiefer);
     if (teil == SC_GroupBoxContents) return feld.adjusted(0, tiefer, 0, 0);
     return feld;
 }

@@ -12,6 +12,9 @@ namespace {
 constexpr const char* faktor = "massstab";
 constexpr const char* platz = "platz_in_einheiten";
 
+/// Takes up what products of a scale lack of a whole number.
+constexpr double rundungsrest = 1e-6;
+
 }  // namespace
 
 double massstab(const QWidget& fenster) {
@@ -45,13 +48,27 @@ QSize bildschirmplatz(const QWidget& fenster) {
     return fenster.screen()->availableSize() - QSize(0, rest);
 }
 
+int in_pixeln(double massstab, double einheiten) {
+    return static_cast<int>(std::floor(einheiten * massstab + rundungsrest));
+}
+
+QSize in_pixeln(double massstab, QSizeF einheiten) {
+    return {in_pixeln(massstab, einheiten.width()), in_pixeln(massstab, einheiten.height())};
+}
+
 int in_pixeln(const QWidget& fenster, double einheiten) {
-    return qRound(einheiten * massstab(fenster));
+    return in_pixeln(massstab(fenster), einheiten);
+}
+
+QSize in_einheiten(double massstab, QSize pixel) {
+    const auto laenge = [massstab](int p) {
+        return static_cast<int>(std::ceil(p / massstab - rundungsrest));
+    };
+    return {laenge(pixel.width()), laenge(pixel.height())};
 }
 
 int schriftpixel(double einheiten, double massstab) {
-    constexpr double rundungsrest = 1e-6;
-    return std::max(1, static_cast<int>(std::floor(einheiten * massstab + rundungsrest)));
+    return std::max(1, in_pixeln(massstab, einheiten));
 }
 
 void schrift_anpassen(QWidget& dialog) {
@@ -74,12 +91,13 @@ void neu_legen(QWidget& fenster) {
     const QVariant ort = fenster.property(platz);
     if (!ort.isValid()) return;
     const double s = massstab(fenster);
+    const auto ecke = [s](QPointF e) { return QPoint(in_pixeln(s, e.x()), in_pixeln(s, e.y())); };
     if (ort.typeId() == QMetaType::QPointF) {
         fenster.adjustSize();
-        fenster.move((ort.toPointF() * s).toPoint());
+        fenster.move(ecke(ort.toPointF()));
     } else {
         const QRectF lage = ort.toRectF();
-        fenster.setGeometry(QRect((lage.topLeft() * s).toPoint(), (lage.size() * s).toSize()));
+        fenster.setGeometry(QRect(ecke(lage.topLeft()), in_pixeln(s, lage.size())));
     }
 }
 

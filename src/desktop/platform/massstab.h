@@ -28,8 +28,16 @@ inline constexpr QSize hauptfenstergroesse(800, 567);
 /// What the screen of a window has room for, without the window's frame and the desktop's bars.
 [[nodiscard]] QSize bildschirmplatz(const QWidget& fenster);
 
-/// A length in units as whole pixels of the window around a widget.
+/// Lengths in units as whole pixels. They are cut off, so that parts that fit beside each other at 1 do so at
+/// every scale.
+[[nodiscard]] int in_pixeln(double massstab, double einheiten);
+[[nodiscard]] QSize in_pixeln(double massstab, QSizeF einheiten);
+
+/// The same at the scale of the window around a widget.
 [[nodiscard]] int in_pixeln(const QWidget& fenster, double einheiten);
+
+/// The size in units that `in_pixeln` has made so many pixels.
+[[nodiscard]] QSize in_einheiten(double massstab, QSize pixel);
 
 /// Pixels of a font that is `einheiten` high. Never more than the scale asks for, so that a text that fits
 /// its place at 1 fits it at every scale.

@@ -57,7 +57,7 @@ QtFlaeche& Bildflaeche::flaeche() {
 
 /// The size of the surface as its plane draws on it, whatever the scale of the window.
 QSize Bildflaeche::in_einheiten() const {
-    return (QSizeF(size()) / massstab(*this)).toSize().expandedTo(QSize(1, 1));
+    return velmaris::in_einheiten(massstab(*this), size()).expandedTo(QSize(1, 1));
 }
 
 /// A place in the units of the surface.

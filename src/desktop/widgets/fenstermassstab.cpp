@@ -38,14 +38,14 @@ QTextDocument* langer_text(const QWidget& ding) {
 /// A limit of sizes; the toolkit's for "none" stays.
 QSize mal(QSize grenze, double massstab) {
     const auto seite = [massstab](int laenge) {
-        return laenge >= QWIDGETSIZE_MAX ? QWIDGETSIZE_MAX : qRound(laenge * massstab);
+        return laenge >= QWIDGETSIZE_MAX ? QWIDGETSIZE_MAX : in_pixeln(massstab, laenge);
     };
     return {seite(grenze.width()), seite(grenze.height())};
 }
 
 QMargins mal(const QMargins& raender, double massstab) {
-    return {qRound(raender.left() * massstab), qRound(raender.top() * massstab),
-            qRound(raender.right() * massstab), qRound(raender.bottom() * massstab)};
+    return {in_pixeln(massstab, raender.left()), in_pixeln(massstab, raender.top()),
+            in_pixeln(massstab, raender.right()), in_pixeln(massstab, raender.bottom())};
 }
 
 }  // namespace
@@ -157,11 +157,11 @@ void Fenstermassstab::wende_an(QWidget& ding, const Urmass& mass) const {
         ding.setMaximumSize(mal(mass.groesste, massstab_));
     }
     if (auto* schild = qobject_cast<QLabel*>(&ding)) {
-        if (mass.einzug > 0) schild->setIndent(qRound(mass.einzug * massstab_));
-        if (mass.rand > 0) schild->setMargin(qRound(mass.rand * massstab_));
+        if (mass.einzug > 0) schild->setIndent(in_pixeln(massstab_, mass.einzug));
+        if (mass.rand > 0) schild->setMargin(in_pixeln(massstab_, mass.rand));
     }
     if (auto* knopf = qobject_cast<QAbstractButton*>(&ding); knopf && !mass.symbol.isEmpty())
-        knopf->setIconSize((QSizeF(mass.symbol) * massstab_).toSize());
+        knopf->setIconSize(in_pixeln(massstab_, mass.symbol));
     if (QTextDocument* text = langer_text(ding)) text->setDocumentMargin(mass.textrand * massstab_);
     if (ding.layout() != nullptr) wende_an(*ding.layout(), mass);
     // Sizes that a control keeps follow the measures of the style.
@@ -174,7 +174,7 @@ void Fenstermassstab::wende_an(QLayout& layout, const Urmass& mass) const {
     const auto ort = mass.layouts.find(&layout);
     if (ort == mass.layouts.end()) return;
     const Layoutmass& eigen = ort->second;
-    const auto laenge = [this](int einheiten) { return qRound(einheiten * massstab_); };
+    const auto laenge = [this](int einheiten) { return in_pixeln(massstab_, einheiten); };
     layout.setContentsMargins(mal(eigen.raender, massstab_));
     for (const auto& [stelle, groesse] : eigen.luft) {
         QSpacerItem* luft = layout.itemAt(stelle)->spacerItem();
