@@ -24,6 +24,8 @@ constexpr int ausgabe_links = 352;
 constexpr int ausgabeleiste_oben = 502;
 constexpr QSize flaechengroesse(800, 546);
 
+constexpr QSize kleinstes_fenster(800, 565);
+
 /// Entries with a key of their own.
 struct Tastenzeile {
     std::string_view punkt;
@@ -62,7 +64,7 @@ Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
     setObjectName(QStringLiteral("Haupt"));
     setAcceptDrops(true);
     setCentralWidget(flaeche_->parentWidget());
-    centralWidget()->setMinimumSize(flaechengroesse);
+    setMinimumSize(kleinstes_fenster);
     flaeche_->resize(flaechengroesse);
     menue_bauen();
     leiste_bauen(haupt.e_menue, QRect(0, 0, ausgabe_links, leistenhoehe));

@@ -85,7 +85,7 @@ QWidget* startfenster(Start& start, const Ansichtsmittel& mittel,
     knopf->setDefault(true);
     knopf->setMinimumWidth(90);
     tafel->addWidget(knopf, 2, 0, 1, 2, Qt::AlignRight);
-    fenster->einheitsgroesse(kleinste, kleinste);
+    fenster->einheitsgroesse(kleinste, kleinste.expandedTo(fenster->sizeHint()));
     mittel.binder.binde(static_cast<QWidget&>(*fenster), start.fenster);
     return fenster;
 }

@@ -19,13 +19,14 @@ struct Fenstergroesse {
     double s;
 };
 constexpr std::array<Fenstergroesse, 4> fenster{
-    {{800, 565, 1.0}, {1366, 768, 768 / 567.0}, {1920, 1080, 1080 / 567.0}, {3840, 2160, 2160 / 567.0}}};
+    {{800, 565, 1.0}, {1920, 1080, 1080 / 567.0}, {3840, 2160, 2160 / 567.0}, {1366, 768, 768 / 567.0}}};
 
 class MassstabTest : public test::Programmprobe {
   protected:
     void gib_groesse(QSize groesse) {
         programm->fenster().resize(groesse);
         QApplication::processEvents();
+        ASSERT_EQ(programm->fenster().size(), groesse);
     }
 
     /// The middle of a unit of a widget, in its pixels.
