@@ -52,7 +52,8 @@ void karten_schreiben(const fs::path& daten, const Bilderordner& ordner) {
     const std::vector<Strecke> grenzen = linien_lesen(daten / "welt_grenzen.csv");
     const std::pair<const char*, double> weltkarten[] = {{"welt", 1}, {"welt_gross", weltvergroesserung}};
     for (const auto& [name, massstab] : weltkarten)
-        ordner.schreiben(name, [&](int feinheit) { return welt_bild(land, grenzen, massstab, feinheit); });
+        ordner.schreiben(name,
+                         [&, s = massstab](int feinheit) { return welt_bild(land, grenzen, s, feinheit); });
 }
 
 void haeuser_und_sinnbilder_schreiben(const Bilderordner& ordner) {

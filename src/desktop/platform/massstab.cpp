@@ -39,8 +39,8 @@ double passender_massstab(QSize pixel, QSize einheiten) {
 double erster_massstab(const QWidget& fenster) {
     constexpr QSize rahmen(8, 36);
     constexpr double stufen = 4;
-    const QSize platz = fenster.screen()->availableSize() - rahmen;
-    return std::floor(passender_massstab(platz, hauptfenstergroesse) * stufen) / stufen;
+    const QSize frei = fenster.screen()->availableSize() - rahmen;
+    return std::floor(passender_massstab(frei, hauptfenstergroesse) * stufen) / stufen;
 }
 
 QSize bildschirmplatz(const QWidget& fenster) {
