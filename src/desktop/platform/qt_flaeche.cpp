@@ -3,9 +3,9 @@
 #include "desktop/platform/qt_text.h"
 #include "toolkit/zahlen.h"
 
-#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 namespace velmaris {
@@ -40,15 +40,15 @@ QRgb gemischt(QRgb unten, Farbe oben, int deckung) {
     return qRgb(anteil(qRed(unten), oben.r), anteil(qGreen(unten), oben.g), anteil(qBlue(unten), oben.b));
 }
 
-/// The edge around the letters of a text that begins at `ort` on the base line.
-void hof_zeichnen(QPainter& maler, const QPointF& ort, const QString& text, Farbe farbe) {
-    QPainterPath buchstaben;
-    buchstaben.addText(ort, maler.font(), text);
-    const QPen stift(qfarbe(farbe), 2 * hofbreite, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    maler.setRenderHint(QPainter::Antialiasing);
-    maler.strokePath(buchstaben, stift);
-    maler.setRenderHint(QPainter::Antialiasing, false);
+std::uint8_t gedeckt(int vorher, int dazu) {
+    return static_cast<std::uint8_t>(std::min(255, vorher + dazu));
 }
+
+/// A piece of a row, logical pixels from the middle of what is drawn.
+struct Spanne {
+    double von = -std::numeric_limits<double>::infinity();
+    double bis = std::numeric_limits<double>::infinity();
+};
 
 /// The sector between two angles, counter-clockwise, about the origin with y downward.
 class Winkelraum {
@@ -68,11 +68,26 @@ class Winkelraum {
         return weite_ <= std::numbers::pi ? nach_von && vor_bis : nach_von || vor_bis;
     }
 
+    /// Where in row y of the plane points can be inside.
+    [[nodiscard]] Spanne spanne(double y) const {
+        Spanne ergebnis;
+        if (weite_ > std::numbers::pi) return ergebnis;
+        einengen(ergebnis, von_.y, von_.x * y - 0.5);
+        einengen(ergebnis, -bis_.y, -bis_.x * y - 0.5);
+        return ergebnis;
+    }
+
   private:
     struct Richtung {
         double x;
         double y;
     };
+
+    /// Leaves of a piece what satisfies `steigung` * x >= `grenze`.
+    static void einengen(Spanne& spanne, double steigung, double grenze) {
+        if (steigung > 0) spanne.von = std::max(spanne.von, grenze / steigung);
+        if (steigung < 0) spanne.bis = std::min(spanne.bis, grenze / steigung);
+    }
 
     /// Distance of the point from the ray's line, positive on its counter-clockwise side.
     [[nodiscard]] static double kreuz(Richtung r, double x, double y) { return r.y * x - r.x * y; }
@@ -99,8 +114,9 @@ QtFlaeche::QtFlaeche(QSize groesse, double verhaeltnis, Farbe hintergrund)
 }
 
 void QtFlaeche::hintergrundbild(const QImage& bild, const QImage& fein) {
-    if (bild.cacheKey() != hintergrundbild_.cacheKey() || fein.cacheKey() != feines_bild_.cacheKey())
-        grund_ = {};
+    if (bild.cacheKey() == hintergrundbild_.cacheKey() && fein.cacheKey() == feines_bild_.cacheKey()) return;
+    grund_ = {};
+    leer_ = false;
     hintergrundbild_ = bild;
     feines_bild_ = fein;
 }
@@ -114,6 +130,12 @@ const QImage& QtFlaeche::bild() {
 /// The device pixel at which a logical pixel begins.
 int QtFlaeche::kante(int logisch) const {
     return static_cast<int>(std::lround(logisch * verhaeltnis_));
+}
+
+/// The column of the device pixel nearest to a place that many logical pixels right of the centre of another.
+int QtFlaeche::geraetespalte(int logisch, double rechts_davon) const {
+    return static_cast<int>(std::clamp((logisch + 0.5 + rechts_davon) * verhaeltnis_ - 0.5,
+                                       -weitester_pixel * 8, weitester_pixel * 8));
 }
 
 /// The device pixel in the middle of a logical pixel, the first one of two.
@@ -130,8 +152,14 @@ QRect QtFlaeche::geraet(Punkt a, Punkt b) const {
     return QRect(anfang, ende) & bild_.rect();
 }
 
-void QtFlaeche::fuelle(Punkt a, Punkt b, Farbe farbe) {
+/// Before anything but slanted lines is drawn: lines that wait lie under it.
+void QtFlaeche::beginne() {
     striche_ablegen();
+    leer_ = false;
+}
+
+void QtFlaeche::fuelle(Punkt a, Punkt b, Farbe farbe) {
+    beginne();
     const QRect feld = geraet(a, b);
     for (int y = feld.top(); y <= feld.bottom(); ++y) {
         auto* zeile = reinterpret_cast<QRgb*>(bild_.scanLine(y));
@@ -140,10 +168,11 @@ void QtFlaeche::fuelle(Punkt a, Punkt b, Farbe farbe) {
 }
 
 /// Fills what `innen` accepts of the disc about the centre of pixel (cx, cy); it is given the offset of
-/// a device pixel's centre from there, in logical pixels.
-template <typename Innen>
-void QtFlaeche::fuelle_wo(double cx, double cy, double radius, Farbe farbe, Innen innen) {
-    striche_ablegen();
+/// a device pixel's centre from there, in logical pixels. `spanne` tells for a row where to look.
+template <typename Innen, typename Zeilenspanne>
+void QtFlaeche::fuelle_wo(double cx, double cy, double radius, Farbe farbe, Innen innen,
+                          Zeilenspanne spanne) {
+    beginne();
     const Punkt mitte{pixel(cx), pixel(cy)};
     const int r = pixel(std::ceil(radius));
     const QRect feld = geraet({mitte.x - r, mitte.y - r}, {mitte.x + r, mitte.y + r});
@@ -151,7 +180,11 @@ void QtFlaeche::fuelle_wo(double cx, double cy, double radius, Farbe farbe, Inne
     for (int j = feld.top(); j <= feld.bottom(); ++j) {
         auto* zeile = reinterpret_cast<QRgb*>(bild_.scanLine(j));
         const double y = (j + 0.5) / verhaeltnis_ - mitte.y - 0.5;
-        for (int i = feld.left(); i <= feld.right(); ++i) {
+        const double halb = std::sqrt(std::max(0.0, aussen - y * y));
+        const Spanne suche = spanne(y);
+        const int links = geraetespalte(mitte.x, std::max(suche.von, -halb)) - 1;
+        const int rechts = geraetespalte(mitte.x, std::min(suche.bis, halb)) + 1;
+        for (int i = std::max(links, feld.left()); i <= std::min(rechts, feld.right()); ++i) {
             const double x = (i + 0.5) / verhaeltnis_ - mitte.x - 0.5;
             if (x * x + y * y <= aussen && innen(x, y)) zeile[i] = rgb(farbe);
         }
@@ -159,8 +192,9 @@ void QtFlaeche::fuelle_wo(double cx, double cy, double radius, Farbe farbe, Inne
 }
 
 void QtFlaeche::Cls() {
-    striche_.bereich = {};
-    std::fill(striche_.deckung.begin(), striche_.deckung.end(), std::uint8_t{0});
+    if (leer_) return;
+    striche_ablegen();
+    leer_ = true;
     maler_.reset();
     if (hintergrundbild_.isNull()) {
         bild_.fill(rgb(hintergrund_));
@@ -211,11 +245,7 @@ void QtFlaeche::gerade(Punkt a, Punkt b, Farbe farbe, int dicke) {
 /// A slanted line without its last pixel along its longer side. A thin one is one pixel thick across that
 /// side, so that neighbours at a distance of one pixel meet exactly.
 void QtFlaeche::schraege(Punkt a, Punkt b, Farbe farbe, int dicke) {
-    if (striche_.farbe != farbe) striche_ablegen();
-    striche_.farbe = farbe;
-    striche_.deckung.resize(static_cast<std::size_t>(bild_.width()) *
-                            static_cast<std::size_t>(bild_.height()));
-
+    striche_beginnen(farbe);
     const bool steil = std::abs(b.y - a.y) > std::abs(b.x - a.x);
     const Punkt p = steil ? Punkt{a.y, a.x} : a;
     const Punkt q = steil ? Punkt{b.y, b.x} : b;
@@ -226,35 +256,50 @@ void QtFlaeche::schraege(Punkt a, Punkt b, Farbe farbe, int dicke) {
     const int laenge = steil ? bild_.height() : bild_.width();
     for (int u = std::max(0, kante(von)); u < std::min(laenge, kante(bis)); ++u) {
         const double mitte = (p.y + 0.5) * verhaeltnis_ + steigung * (u + 0.5 - (p.x + 0.5) * verhaeltnis_);
-        const double unten = mitte - quer / 2;
-        const double oben = mitte + quer / 2;
-        for (double v = std::floor(unten); v < oben; ++v) {
-            const double anteil = std::min(v + 1, oben) - std::max(v, unten);
-            decke(steil ? static_cast<int>(v) : u, steil ? u : static_cast<int>(v), anteil);
-        }
+        decke(steil, u, mitte - quer / 2, mitte + quer / 2);
     }
 }
 
-/// Adds coverage to a device pixel of the pending lines.
-void QtFlaeche::decke(int x, int y, double anteil) {
-    if (!bild_.rect().contains(x, y)) return;
-    const auto stelle = static_cast<std::size_t>(y) * static_cast<std::size_t>(bild_.width());
-    std::uint8_t& deckung = striche_.deckung[stelle + static_cast<std::size_t>(x)];
-    deckung = static_cast<std::uint8_t>(std::min(255L, deckung + std::lround(anteil * 255)));
-    striche_.bereich |= QRect(x, y, 1, 1);
+/// Makes ready for coverage of a colour; that of another one is settled first.
+void QtFlaeche::striche_beginnen(Farbe farbe) {
+    leer_ = false;
+    if (striche_.farbe != farbe) striche_ablegen();
+    striche_.farbe = farbe;
+    striche_.deckung.resize(static_cast<std::size_t>(bild_.width()) *
+                            static_cast<std::size_t>(bild_.height()));
+}
+
+/// Adds to the coverage of column u, or of row u if `steil`, what lies between two places along it.
+void QtFlaeche::decke(bool steil, int u, double unten, double oben) {
+    const int anfang = std::max(0, static_cast<int>(std::floor(unten)));
+    const int ende = std::min(steil ? bild_.width() : bild_.height(), static_cast<int>(std::ceil(oben)));
+    if (anfang >= ende) return;
+    const std::ptrdiff_t breite = bild_.width();
+    const std::ptrdiff_t schritt = steil ? 1 : breite;
+    std::uint8_t* deckung = striche_.deckung.data() + (steil ? u * breite : u) + anfang * schritt;
+    for (int v = anfang; v < ende; ++v, deckung += schritt) {
+        const double anteil = std::min(v + 1.0, oben) - std::max(static_cast<double>(v), unten);
+        *deckung = gedeckt(*deckung, static_cast<int>(anteil * 255 + 0.5));
+    }
+    striche_.bereich |= steil ? QRect(anfang, u, ende - anfang, 1) : QRect(u, anfang, 1, ende - anfang);
 }
 
 void QtFlaeche::striche_ablegen() const {
     const QRect feld = striche_.bereich;
     if (feld.isEmpty()) return;
+    const QRgb voll = rgb(striche_.farbe);
     for (int y = feld.top(); y <= feld.bottom(); ++y) {
         auto* zeile = reinterpret_cast<QRgb*>(bild_.scanLine(y));
         std::uint8_t* deckung =
             striche_.deckung.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(bild_.width());
         for (int x = feld.left(); x <= feld.right(); ++x) {
-            if (deckung[x] != 0) zeile[x] = gemischt(zeile[x], striche_.farbe, deckung[x]);
-            deckung[x] = 0;
+            if (deckung[x] == 255) {
+                zeile[x] = voll;
+            } else if (deckung[x] != 0) {
+                zeile[x] = gemischt(zeile[x], striche_.farbe, deckung[x]);
+            }
         }
+        std::fill(deckung + feld.left(), deckung + feld.right() + 1, std::uint8_t{0});
     }
     striche_.bereich = {};
 }
@@ -276,15 +321,20 @@ void QtFlaeche::flaeche(double x1, double y1, double x2, double y2, Farbe farbe)
 void QtFlaeche::kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) {
     if (!zahlen(cx, cy, radius) || radius <= 0) return;
     const double innen = (radius - 0.5) * (radius - 0.5);
+    const auto ueberall = [](double) { return Spanne{}; };
     const auto im_rand = [&](double x, double y) { return radius < 0.5 || x * x + y * y > innen; };
-    if (fuellung) fuelle_wo(cx, cy, radius, *fuellung, [](double, double) { return true; });
-    fuelle_wo(cx, cy, radius, rand, im_rand);
+    if (fuellung)
+        fuelle_wo(
+            cx, cy, radius, *fuellung, [](double, double) { return true; }, ueberall);
+    fuelle_wo(cx, cy, radius, rand, im_rand, ueberall);
 }
 
 void QtFlaeche::sektor(double cx, double cy, double radius, double von, double bis, Farbe farbe) {
     if (!zahlen(cx, cy, radius, von, bis) || radius <= 0) return;
     const Winkelraum raum(von, bis);
-    fuelle_wo(cx, cy, radius, farbe, [&](double x, double y) { return raum.enthaelt(x, y); });
+    fuelle_wo(
+        cx, cy, radius, farbe, [&](double x, double y) { return raum.enthaelt(x, y); },
+        [&](double y) { return raum.spanne(y); });
 }
 
 void QtFlaeche::punkt(double x, double y, Farbe farbe) {
@@ -293,7 +343,9 @@ void QtFlaeche::punkt(double x, double y, Farbe farbe) {
 
 void QtFlaeche::text(double x, double y, std::string_view text, Farbe farbe) {
     if (!zahlen(x, y)) return;
-    striche_ablegen();
+    beginne();
+    const QPointF ort(pixel(x), pixel(y) + schriftbild_->masse.ascent());
+    if (schrift_ && schrift_->hof) hof_zeichnen(ort, qtext(text), *schrift_->hof);
     if (!maler_) {
         maler_.emplace(&bild_);
         schrift_des_malers_ = nullptr;
@@ -302,10 +354,24 @@ void QtFlaeche::text(double x, double y, std::string_view text, Farbe farbe) {
         schrift_des_malers_ = schriftbild_;
         maler_->setFont(schriftbild_->font);
     }
-    const QPointF ort(pixel(x), pixel(y) + schriftbild_->masse.ascent());
-    if (schrift_ && schrift_->hof) hof_zeichnen(*maler_, ort, qtext(text), *schrift_->hof);
     maler_->setPen(qfarbe(farbe));
     maler_->drawText(ort, qtext(text));
+}
+
+/// The edge around the letters of a text that begins at `ort` on the base line.
+void QtFlaeche::hof_zeichnen(QPointF ort, const QString& text, Farbe farbe) {
+    striche_beginnen(farbe);
+    for (const auto& [links_oben, hof] : schriftbild_->hoefe.um(text, ort * verhaeltnis_, verhaeltnis_)) {
+        const QRect feld = QRect(links_oben, hof->size()) & bild_.rect();
+        for (int y = feld.top(); y <= feld.bottom(); ++y) {
+            const std::uint8_t* von = hof->constScanLine(y - links_oben.y());
+            std::uint8_t* nach = striche_.deckung.data() + std::ptrdiff_t{y} * bild_.width();
+            for (int x = feld.left(); x <= feld.right(); ++x)
+                nach[x] = gedeckt(nach[x], von[x - links_oben.x()]);
+        }
+        striche_.bereich |= feld;
+    }
+    striche_ablegen();
 }
 
 double QtFlaeche::textbreite(std::string_view text) const {

@@ -57,7 +57,8 @@ class QtFlaeche final : public Zeichenflaeche {
         int y;
     };
 
-    /// Slanted lines of one colour that are not in the image yet, as coverage per device pixel.
+    /// Slanted lines and edges of letters of one colour that are not in the image yet, as coverage per device
+    /// pixel.
     struct Strichlage {
         Farbe farbe;
         QRect bereich;  ///< device pixels touched, empty for none
@@ -66,19 +67,24 @@ class QtFlaeche final : public Zeichenflaeche {
 
     [[nodiscard]] int kante(int logisch) const;
     [[nodiscard]] int mitte(int logisch) const;
+    [[nodiscard]] int geraetespalte(int logisch, double rechts_davon) const;
     [[nodiscard]] QRect geraet(Punkt a, Punkt b) const;
+    void beginne();
     void fuelle(Punkt a, Punkt b, Farbe farbe);
-    template <typename Innen>
-    void fuelle_wo(double cx, double cy, double radius, Farbe farbe, Innen innen);
+    template <typename Innen, typename Zeilenspanne>
+    void fuelle_wo(double cx, double cy, double radius, Farbe farbe, Innen innen, Zeilenspanne spanne);
     void gerade(Punkt a, Punkt b, Farbe farbe, int dicke);
     void schraege(Punkt a, Punkt b, Farbe farbe, int dicke);
-    void decke(int x, int y, double anteil);
+    void hof_zeichnen(QPointF ort, const QString& text, Farbe farbe);
+    void striche_beginnen(Farbe farbe);
+    void decke(bool steil, int u, double unten, double oben);
     void striche_ablegen() const;
     void grund_malen();
 
     QSize groesse_;
     double verhaeltnis_;
     Farbe hintergrund_;
+    bool leer_ = false;  ///< cleared, and nothing drawn since
     QImage hintergrundbild_;
     QImage feines_bild_;
     QImage grund_;  ///< what `Cls` shows if there is an image, null before it is needed

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/platform/buchstabenhof.h"
 #include "toolkit/zeichenflaeche.h"
 
 #include <QFont>
@@ -30,10 +31,11 @@ namespace velmaris {
 /// widths are kept.
 class Schriftbild {
   public:
-    explicit Schriftbild(const QFont& schrift) : font(schrift), masse(schrift) {}
+    explicit Schriftbild(const QFont& schrift) : font(schrift), masse(schrift), hoefe(schrift) {}
 
     const QFont font;
     const QFontMetricsF masse;
+    mutable Buchstabenhoefe hoefe;
 
     /// Width of a UTF-8 text, pixels.
     [[nodiscard]] double breite(std::string_view text) const;

@@ -3,6 +3,8 @@
 #include "desktop/platform/qt_schrift.h"
 
 #include <QFontDatabase>
+#include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
@@ -160,6 +162,65 @@ TEST(QtFlaeche, TextHatSeineSchriftUndSeinenHof) {
     bild.schrift({.name = "Arial", .groesse = 30});
     bild.text(30, 0, "H", farben::rot);
     EXPECT_NEAR(zeilen_mit('o'), 40 * 1409 / 2048.0, 1) << "30 points are 40 pixels";
+}
+
+/// As the toolkit draws the outline of the whole text with a pen, but for a level of 255 in a pixel, for a
+/// few where letters begin between two pixels.
+TEST(QtFlaeche, DerHofIstDerUmrissDesTextesSoDickWieVerlangt) {
+    const std::vector<std::pair<double, int>> faelle{{1, 1}, {2, 1}, {1.9, 8}, {3.8, 8}};
+    for (const auto& [verhaeltnis, erlaubt] : faelle) {
+        QtFlaeche mit(QSize(90, 30), verhaeltnis, farben::schwarz);
+        mit.schrift({.hof = farben::weiss});
+        for (const char* text : {"Wo 17", "Tänze: 1 AV/a"})  // the second time with letters that are known
+            mit.Cls(), mit.text(10, 8, text, farben::schwarz);
+        QtFlaeche ohne(QSize(90, 30), verhaeltnis, farben::schwarz);
+        QImage erwartet = ohne.bild();
+        const Schriftbild& schrift = schriftbild({});
+        QPainterPath umriss;
+        umriss.addText(QPointF(10, 8 + schrift.masse.ascent()), schrift.font,
+                       QStringLiteral("Tänze: 1 AV/a"));
+        QPainter maler(&erwartet);
+        maler.setRenderHint(QPainter::Antialiasing);
+        maler.strokePath(umriss, QPen(Qt::white, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        maler.setRenderHint(QPainter::Antialiasing, false);
+        maler.setFont(schrift.font);
+        maler.drawText(QPointF(10, 8 + schrift.masse.ascent()), QStringLiteral("Tänze: 1 AV/a"));
+        maler.end();
+        int groesste = 0;
+        for (int y = 0; y < erwartet.height(); ++y) {
+            for (int x = 0; x < erwartet.width(); ++x)
+                groesste =
+                    std::max(groesste, std::abs(qRed(mit.bild().pixel(x, y)) - qRed(erwartet.pixel(x, y))));
+        }
+        EXPECT_LE(groesste, erlaubt) << verhaeltnis;
+    }
+}
+
+/// A device pixel belongs to a sector if its direction lies between the angles; along the radii half a pixel
+/// is left open, and at the rim one.
+TEST(QtFlaeche, SektorenReichenVonWinkelZuWinkel) {
+    constexpr double verhaeltnis = 3.75, mitte = 20.5, radius = 16;
+    for (int von = 0; von < 360; von += 15) {
+        for (const int weite : {10, 90, 180, 250}) {
+            QtFlaeche f(QSize(41, 41), verhaeltnis, farben::weiss);
+            f.sektor(20, 20, radius, von * pi / 180, (von + weite) * pi / 180, farben::schwarz);
+            int fehler = 0;
+            for (int j = 0; j < f.bild().height(); ++j) {
+                for (int i = 0; i < f.bild().width(); ++i) {
+                    const double x = (i + 0.5) / verhaeltnis - mitte, y = mitte - (j + 0.5) / verhaeltnis;
+                    const double abstand = std::hypot(x, y), winkel = std::atan2(y, x) * 180 / pi - von;
+                    const double ab_von = winkel - 360 * std::floor(winkel / 360);
+                    const double rand = std::asin(std::min(1.0, 0.6 / abstand)) * 180 / pi;
+                    const bool innen = abstand < radius && ab_von < weite;
+                    const bool aussen =
+                        abstand > radius + 1 || (ab_von > weite + rand && ab_von < 360 - rand && abstand > 1);
+                    const bool schwarz = f.bild().pixel(i, j) == qRgb(0, 0, 0);
+                    fehler += (innen && !schwarz) || (aussen && schwarz);
+                }
+            }
+            EXPECT_EQ(fehler, 0) << von << " + " << weite;
+        }
+    }
 }
 
 TEST(Schrift, GroessenSindGanzePixelUndFamilienVorhanden) {
