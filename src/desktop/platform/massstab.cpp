@@ -1,5 +1,6 @@
 #include "desktop/platform/massstab.h"
 
+#include <QLabel>
 #include <QScreen>
 #include <QVariant>
 #include <QWidget>
@@ -14,6 +15,17 @@ constexpr const char* platz = "platz_in_einheiten";
 
 /// Takes up what products of a scale lack of a whole number.
 constexpr double rundungsrest = 1e-6;
+
+/// Makes a widget as large as its text; one that wraps keeps its width.
+void groesse_des_textes(QWidget& fenster) {
+    const auto* schild = qobject_cast<const QLabel*>(&fenster);
+    if (schild == nullptr || !schild->wordWrap()) {
+        fenster.adjustSize();
+        return;
+    }
+    const int breite = std::clamp(fenster.width(), fenster.minimumWidth(), fenster.maximumWidth());
+    fenster.resize(breite, fenster.heightForWidth(breite));
+}
 
 }  // namespace
 
@@ -93,7 +105,7 @@ void neu_legen(QWidget& fenster) {
     const double s = massstab(fenster);
     const auto ecke = [s](QPointF e) { return QPoint(in_pixeln(s, e.x()), in_pixeln(s, e.y())); };
     if (ort.typeId() == QMetaType::QPointF) {
-        fenster.adjustSize();
+        groesse_des_textes(fenster);
         fenster.move(ecke(ort.toPointF()));
     } else {
         const QRectF lage = ort.toRectF();

@@ -172,6 +172,7 @@ std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog&
 }
 
 std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialog& dialog) {
+    constexpr QSize bevorzugte_groesse(640, 440);
     Dateisymbole symbole;
     QFileDialog fenster(besitzer());
     schrift_anpassen(fenster);
@@ -190,6 +191,7 @@ std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialo
     fenster.setDirectory(ordner.isDir() ? ordner.absoluteFilePath() : QDir::homePath());
     if (!dialog.dateiname.empty()) vorschlagen(fenster, dialog.dateiname);
     spalten_weiten(fenster);
+    fenster.resize(in_pixeln(massstab(fenster), bevorzugte_groesse).boundedTo(bildschirmplatz(fenster)));
     if (fenster.exec() != QDialog::Accepted || fenster.selectedFiles().isEmpty()) return std::nullopt;
     return QFileInfo(fenster.selectedFiles().constFirst()).filesystemFilePath();
 }
