@@ -6,6 +6,7 @@
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/ebenenbalken.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QMenu>
@@ -175,14 +176,22 @@ void Hauptfenster::closeEvent(QCloseEvent* ereignis) {
     mittel_.wache.fuehre_aus([this] { haupt_.datei.fenster_schliessen(); });
 }
 
+/// A window over this one keeps dropped files out, as it keeps out keys and clicks.
 void Hauptfenster::dragEnterEvent(QDragEnterEvent* ereignis) {
-    if (!projektdatei(*ereignis->mimeData()).isEmpty()) ereignis->acceptProposedAction();
+    if (QApplication::activeModalWidget() == nullptr && !projektdatei(*ereignis->mimeData()).isEmpty())
+        ereignis->acceptProposedAction();
 }
 
+/// The source of the drag waits until this returns, and a question may follow; so the file is opened after
+/// it. The source keeps its file, whatever it proposes.
 void Hauptfenster::dropEvent(QDropEvent* ereignis) {
-    const std::string datei = utf8(projektdatei(*ereignis->mimeData()));
-    ereignis->acceptProposedAction();
-    mittel_.wache.fuehre_aus([&] { haupt_.datei.datei_oeffnen(datei); });
+    ereignis->setDropAction(Qt::CopyAction);
+    ereignis->accept();
+    activateWindow();
+    const auto oeffnen = [this, datei = utf8(projektdatei(*ereignis->mimeData()))] {
+        mittel_.wache.fuehre_aus([&] { haupt_.datei.datei_oeffnen(datei); });
+    };
+    QMetaObject::invokeMethod(this, oeffnen, Qt::QueuedConnection);
 }
 
 }  // namespace velmaris

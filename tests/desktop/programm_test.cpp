@@ -25,6 +25,20 @@ class ProgrammTest : public test::Programmprobe {
         programm = std::make_unique<Programm>(ordner.pfad(), sprache, Befehlszeile(""));
         programm->starten();
     }
+    /// Drops a file of the folder on the main window; returns whether the window takes it.
+    bool lasse_fallen(const char* datei) {
+        constexpr Qt::DropActions beides = Qt::CopyAction | Qt::MoveAction;
+        QMimeData ding;
+        ding.setUrls({QUrl::fromLocalFile(QString::fromStdString((ordner / datei).string()))});
+        QDragEnterEvent kommt(QPoint(9, 9), beides, &ding, Qt::LeftButton, Qt::ShiftModifier);
+        kommt.ignore();
+        QApplication::sendEvent(&programm->fenster(), &kommt);
+        QDropEvent faellt(QPointF(9, 9), beides, &ding, Qt::LeftButton, Qt::ShiftModifier);
+        if (kommt.isAccepted()) QApplication::sendEvent(&programm->fenster(), &faellt);
+        EXPECT_EQ(faellt.dropAction() == Qt::CopyAction, kommt.isAccepted())
+            << "a copy, though Shift asks for a move";
+        return kommt.isAccepted();
+    }
     void laenge_aendern() { QTest::keyClick(&such("E_Geometrie", "l_sb"), Qt::Key_Right); }
 
     QString titel() { return programm->fenster().windowTitle(); }
@@ -63,19 +77,20 @@ TEST_F(ProgrammTest, SpeichertOeffnetUndNimmtEineFallengelasseneDatei) {
     EXPECT_TRUE(laenge.isVisible()) << "back on the first plane";
 
     menue("mnuFileNeu").trigger();
-    QMimeData ding;
-    for (const char* datei : {"bild.png", "mein haus.vel"}) {
-        ding.setUrls({QUrl::fromLocalFile(QString::fromStdString((ordner / datei).string()))});
-        QDragEnterEvent kommt(QPoint(9, 9), Qt::CopyAction, &ding, Qt::LeftButton, Qt::NoModifier);
-        kommt.ignore();
-        QApplication::sendEvent(&programm->fenster(), &kommt);
-        EXPECT_EQ(kommt.isAccepted(), *datei == 'm') << datei;
-    }
-    QDropEvent faellt(QPointF(9, 9), Qt::CopyAction, &ding, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&programm->fenster(), &faellt);
-    EXPECT_EQ(titel(), "Velmaris - MEIN HAUS.VEL");
+    EXPECT_FALSE(lasse_fallen("bild.png"));
+    EXPECT_TRUE(lasse_fallen("mein haus.vel"));
+    EXPECT_EQ(titel(), "Velmaris - [unbenannt]") << "the source of the drag need not wait";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return titel() == "Velmaris - MEIN HAUS.VEL"; }));
 
     p().Geaendert = 1;
+    bool gefragt = false;
+    antworte(QMessageBox::Cancel, [&](QMessageBox&) {
+        EXPECT_FALSE(lasse_fallen("mein haus.vel")) << "while there is a question";
+        antworte(QMessageBox::Ok, [&](QMessageBox&) { gefragt = true; });
+    });
+    EXPECT_TRUE(lasse_fallen("mein haus.vel"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return gefragt; }));
+    EXPECT_EQ(p().Geaendert, 1);
     antworte(QMessageBox::Cancel);
     EXPECT_FALSE(programm->fenster().close());
     antworte(QMessageBox::No);
