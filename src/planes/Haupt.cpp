@@ -7,6 +7,7 @@
 #include "planes/dokumentquelle.h"
 #include "planes/menueverbindung.h"
 #include "planes/neues_projekt.h"
+#include "planes/projektvorschau.h"
 #include "project/klimaordner.h"
 #include "toolkit/fehler.h"
 #include "toolkit/sanduhr.h"
@@ -120,6 +121,10 @@ bool Haupt::stellen(std::string_view feld, int wert) {
         return false;
     }
     return true;
+}
+
+std::string Haupt::vorschau(const std::filesystem::path& datei) const {
+    return projektvorschau(p.AppPfad, p.Sprache, datei);
 }
 
 void Haupt::neues_projekt() {

@@ -86,6 +86,7 @@ struct Haupt : private Projektbetrieb {
     void station_lesen() override;
     void station_laden() override;
     bool stellen(std::string_view feld, int wert) override;
+    [[nodiscard]] std::string vorschau(const std::filesystem::path& datei) const override;
 
     void leisten_fuellen();
     void rechnen();

@@ -214,6 +214,11 @@ void FILEIO::datei_neu() {
     projekt_aufbauen();
 }
 
+/// What the file dialogs of projects show of a file.
+std::function<std::string(const std::filesystem::path&)> FILEIO::vorschau() const {
+    return [this](const std::filesystem::path& datei) { return betrieb_.vorschau(datei); };
+}
+
 void FILEIO::datei_oeffnen(const std::string& datei) {
     Meldung fehlermeldung{.text = "Dateifehler!"};
     try {
@@ -226,7 +231,9 @@ void FILEIO::datei_oeffnen(const std::string& datei) {
             const auto wahl =
                 datei_erfragen(s_, {.art = Dateidialog::Art::oeffnen,
                                     .filter = "Alle Dateien (*.*)|*.*|VELM Dateien (*.vel)|*.vel",
-                                    .filterindex = 2});
+                                    .filterindex = 2,
+                                    .ort = s_.p.AppPfad / "beispiele",
+                                    .vorschau = vorschau()});
             if (!wahl) {
                 s_.plattform.melde(fehlermeldung);
                 return;
@@ -300,7 +307,8 @@ FILEIO::Sicherung FILEIO::sichern_in(const std::filesystem::path& ordner) {
                        .filter = "VELM Dateien (*.vel)|*.vel",
                        .filterindex = 1,
                        .ordner = ordner,
-                       .dateiname = pfadtext(s_.projektdatei.filename())};
+                       .dateiname = pfadtext(s_.projektdatei.filename()),
+                       .vorschau = vorschau()};
     do {
         const auto wahl = datei_erfragen(s_, dialog);
         if (!wahl) return Sicherung::abgebrochen;

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <string>
 
 namespace velmaris {
@@ -80,6 +81,7 @@ class FILEIO {
     void kanal_schliessen();
     void kanal_oeffnen();
     void titel_der_datei();
+    [[nodiscard]] std::function<std::string(const std::filesystem::path&)> vorschau() const;
     bool ersetzen_erlaubt();
     Sicherung schreiben_oder_melden();
 

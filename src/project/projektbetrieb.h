@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace velmaris {
@@ -36,6 +38,10 @@ class Projektbetrieb {
 
     /// The same without the climate plane.
     virtual void bauteile_anzeigen() = 0;
+
+    /// One line on what is in a project file: size, floors, station and heat demand, or why it cannot be
+    /// opened; empty for a file of another ending. Nothing of the present project changes.
+    [[nodiscard]] virtual std::string vorschau(const std::filesystem::path& datei) const = 0;
 
     /// Shows the first input and the first output plane; the user goes on at the input plane.
     virtual void erste_ebenen() = 0;

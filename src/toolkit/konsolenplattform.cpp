@@ -46,8 +46,10 @@ bool versuchen(std::ostream& fehler, const std::string& sprache, const std::stri
     return false;
 }
 
+Konsolenplattform::Konsolenplattform() : Konsolenplattform(std::cerr) {}
+
 Antwort Konsolenplattform::melde(const Meldung& meldung) {
-    std::cerr << in_einer_zeile(meldung.text) << '\n';
+    meldungen_ << in_einer_zeile(meldung.text) << '\n';
     switch (meldung.knoepfe) {
         case Knoepfe::ja_nein:
             return Antwort::nein;

@@ -19,6 +19,11 @@ bool versuchen(std::ostream& fehler, const std::string& sprache, const std::stri
 /// The platform of a program without a screen: no dialogs, no timers, messages to stderr.
 class Konsolenplattform final : public Plattform {
   public:
+    Konsolenplattform();
+
+    /// Messages to another stream, which must outlive the object.
+    explicit Konsolenplattform(std::ostream& meldungen) : meldungen_(meldungen) {}
+
     Antwort melde(const Meldung& meldung) override;
     std::optional<std::string> eingabe(const std::string& text, const std::string& titel,
                                        const std::string& vorgabe) override;
@@ -35,6 +40,9 @@ class Konsolenplattform final : public Plattform {
     void drucker_waehlen(const std::string& name) override;
     [[nodiscard]] std::filesystem::path datenordner() const override;
     void beenden() override;
+
+  private:
+    std::ostream& meldungen_;
 };
 
 }  // namespace velmaris

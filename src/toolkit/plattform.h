@@ -31,7 +31,11 @@ struct Dateidialog {
     int filterindex = 1;
     std::filesystem::path ordner = {};
     std::string dateiname = {};
-    std::string endung = {};  ///< added to a name that has none, with its point
+    std::string endung = {};         ///< added to a name that has none, with its point
+    std::filesystem::path ort = {};  ///< a folder to offer beside the desktop's own places, where it exists
+
+    /// One line on what is in a file, shown while the file is chosen; empty where there is nothing to say.
+    std::function<std::string(const std::filesystem::path&)> vorschau = {};
 };
 
 /// A point of the screen in pixels.

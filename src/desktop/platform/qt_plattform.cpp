@@ -2,6 +2,7 @@
 
 #include "desktop/platform/dateifilter.h"
 #include "desktop/platform/dateisymbole.h"
+#include "desktop/platform/dateivorschau.h"
 #include "desktop/platform/massstab.h"
 #include "desktop/platform/meldungstext.h"
 #include "desktop/platform/qt_text.h"
@@ -19,11 +20,13 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTreeView>
+#include <QUrl>
 #include <algorithm>
 #include <array>
 
@@ -104,6 +107,32 @@ void vorschlagen(QFileDialog& fenster, const std::string& name) {
     if (auto* liste = fenster.findChild<QAbstractItemView*>(QStringLiteral("listView")))
         liste->clearSelection();
 }
+
+/// A folder among the places of a file dialog as long as this lives: the toolkit would keep it in its
+/// settings and show it in the dialogs of all programs.
+class Ortsangebot {
+  public:
+    Ortsangebot(QFileDialog& fenster, const std::filesystem::path& ordner)
+        : fenster_(fenster), ort_(QUrl::fromLocalFile(QFileInfo(ordner).absoluteFilePath())) {
+        QList<QUrl> orte = fenster.sidebarUrls();
+        neu_ = !ordner.empty() && QFileInfo(ordner).isDir() && !orte.contains(ort_);
+        if (!neu_) return;
+        fenster.setSidebarUrls(orte << ort_);
+        if (auto* leiste = fenster.findChild<QListView*>(QStringLiteral("sidebar")))
+            leiste->setMinimumWidth(leiste->sizeHintForColumn(0) + 2 * leiste->frameWidth());
+    }
+    Ortsangebot(const Ortsangebot&) = delete;
+    Ortsangebot& operator=(const Ortsangebot&) = delete;
+    ~Ortsangebot() {
+        QList<QUrl> orte = fenster_.sidebarUrls();
+        if (neu_ && orte.removeOne(ort_)) fenster_.setSidebarUrls(orte);
+    }
+
+  private:
+    QFileDialog& fenster_;
+    QUrl ort_;
+    bool neu_ = false;
+};
 
 }  // namespace
 
@@ -191,6 +220,8 @@ std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialo
     fenster.setDirectory(ordner.isDir() ? ordner.absoluteFilePath() : QDir::homePath());
     if (!dialog.dateiname.empty()) vorschlagen(fenster, dialog.dateiname);
     spalten_weiten(fenster);
+    Dateivorschau::einsetzen(fenster, dialog.vorschau, wache_);
+    const Ortsangebot ort(fenster, dialog.ort);
     fenster.resize(in_pixeln(massstab(fenster), bevorzugte_groesse).boundedTo(bildschirmplatz(fenster)));
     if (fenster.exec() != QDialog::Accepted || fenster.selectedFiles().isEmpty()) return std::nullopt;
     return QFileInfo(fenster.selectedFiles().constFirst()).filesystemFilePath();

@@ -5,11 +5,14 @@
 #include "tests/hilfen.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
+#include <QUrl>
 #include <gtest/gtest.h>
 
 namespace velmaris {
@@ -114,6 +117,34 @@ TEST_F(QtPlattformTest, DateidialogOeffnetUndBrichtAb) {
         QTest::keyClick(&box, Qt::Key_Escape);
     });
     EXPECT_EQ(plattform.dateidialog(dialog), std::nullopt);
+}
+
+/// The place is offered for this dialog only; a file that is chosen has its line, once the choice rests.
+TEST_F(QtPlattformTest, DateidialogBietetEinenOrtAnUndZeigtWasInEinerDateiIst) {
+    const Testordner ordner;
+    ordner.schreibe("orte/haus.vel", "x");
+    const QUrl ort = QUrl::fromLocalFile(QFileInfo(ordner / "orte").absoluteFilePath());
+    std::vector<std::string> gelesen;
+    const Dateidialog dialog{.filter = "VELM Dateien|*.vel",
+                             .ordner = ordner / "orte",
+                             .ort = ordner / "orte",
+                             .vorschau = [&](const std::filesystem::path& datei) {
+                                 gelesen.push_back(datei.filename().string());
+                                 return std::string("10 m & 2 Geschosse");
+                             }};
+    am_naechsten_dialog<QFileDialog>([&](QFileDialog& box) {
+        EXPECT_EQ(box.sidebarUrls().last(), ort);
+        auto* liste = box.findChild<QAbstractItemView*>(QStringLiteral("treeView"));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return liste->model()->rowCount(liste->rootIndex()) > 0; }));
+        QTest::keyClick(liste, Qt::Key_Down);
+        const auto* zeile = box.findChild<QLabel*>(QStringLiteral("Vorschau"));
+        EXPECT_EQ(zeile->text(), "");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return zeile->text() == "10 m & 2 Geschosse"; }));
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    EXPECT_EQ(plattform.dateidialog(dialog), std::nullopt);
+    EXPECT_EQ(gelesen, std::vector<std::string>{"haus.vel"});
+    EXPECT_FALSE(QFileDialog().sidebarUrls().contains(ort));
 }
 
 TEST_F(QtPlattformTest, SpeichernSchlaegtVorUndHaengtDieEndungAn) {
