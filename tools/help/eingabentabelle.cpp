@@ -1,53 +1,51 @@
 #include "tools/help/eingabentabelle.h"
 
+#include "planes/eingabehinweise.h"
 #include "planes/neues_projekt.h"
-#include "toolkit/wort.h"
+#include "planes/scrolltabelle.h"
+#include "toolkit/fehler.h"
 #include "toolkit/zahlen.h"
-#include "tools/help/groessen.h"
 #include "tools/help/tabelle.h"
 
-#include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <memory>
 
 namespace velmaris::hilfe {
 namespace {
 
-std::string zahl(double wert, int stellen) {
-    const std::string text = muster(wert, stellen);
-    return text.starts_with('-') ? "&minus;" + text.substr(1) : text;
+/// A sign in front of a number becomes a minus of its width; other strokes stay.
+std::string mit_minus(std::string text) {
+    for (std::size_t i = 0; (i = text.find('-', i)) != std::string::npos; ++i) {
+        const bool vorzeichen = (i == 0 || text[i - 1] == ' ') && i + 1 < text.size() &&
+                                std::isdigit(static_cast<unsigned char>(text[i + 1])) != 0;
+        if (vorzeichen) text.replace(i, 1, "&minus;");
+    }
+    return text;
 }
 
-/// A number of positions as the value that the plane shows.
-double gezeigt(const Scrollzeile& z, int positionen) {
-    return positionen / z.teiler * z.anzeigefaktor;
-}
-
-std::string bereich(const Scrollzeile& z, std::string_view sprache) {
-    const double ende = gezeigt(z, z.minimum);
-    const double anderes_ende = gezeigt(z, z.maximum);
-    return zahl(std::min(ende, anderes_ende), z.stellen) + Zweisprachig{" bis ", " to "}.in(sprache) +
-           zahl(std::max(ende, anderes_ende), z.stellen);
+const Scrollzeile& zeile(const Eingabehinweis& eingabe) {
+    return *scrollzeile(eingabe.felder.front());
 }
 
 std::string schritt(const Scrollzeile& z, int positionen) {
-    return zahl(std::abs(gezeigt(z, positionen)), z.stellen) + (positionen < 0 ? " *" : "");
+    return muster(std::abs(z.gezeigt(positionen)), z.stellen) + (positionen < 0 ? " *" : "");
 }
 
 std::string neuer_wert(std::string_view feld, const Projekt& neu) {
-    const Scrollzeile& z = scrollzeile(feld);
+    const Scrollzeile& z = *scrollzeile(feld);
     double wert = 0;
     if (const auto* gleitzahl = std::get_if<float Projekt::*>(&z.ziel)) wert = neu.*(*gleitzahl);
     if (const auto* ganzzahl = std::get_if<std::int16_t Projekt::*>(&z.ziel)) wert = neu.*(*ganzzahl);
-    return zahl(wert * z.anzeigefaktor, z.stellen);
+    return muster(wert * z.anzeigefaktor, z.stellen);
 }
 
 /// The value of a new project; where the facades differ, all of them in their order.
-std::string neue_werte(const Groesse& groesse, const Projekt& neu) {
-    const std::string erster = neuer_wert(groesse.felder.front(), neu);
+std::string neue_werte(const Eingabehinweis& eingabe, const Projekt& neu) {
+    const std::string erster = neuer_wert(eingabe.felder.front(), neu);
     std::string alle;
     bool verschieden = false;
-    for (const std::string_view feld : groesse.felder) {
+    for (const std::string_view feld : eingabe.felder) {
         const std::string wert = neuer_wert(feld, neu);
         verschieden = verschieden || wert != erster;
         alle += (alle.empty() ? "" : " / ") + wert;
@@ -56,13 +54,19 @@ std::string neue_werte(const Groesse& groesse, const Projekt& neu) {
 }
 
 /// A scroll field is named like its quantity and three characters more.
-std::string namen(const Groesse& groesse) {
+std::string namen(const Eingabehinweis& eingabe) {
     std::string text;
-    for (const std::string_view feld : groesse.felder) {
+    for (const std::string_view feld : eingabe.felder) {
         text += text.empty() ? "<code>" : ", <code>";
         text.append(feld.substr(0, feld.size() - 3)).append("</code>");
     }
     return text;
+}
+
+std::string richtwerte(const Eingabehinweis& eingabe, std::string_view sprache) {
+    const std::string_view quelle = eingabe.quelle.in(sprache);
+    const std::string werte = mit_minus(html(richtwerttext(eingabe, sprache)));
+    return quelle.empty() ? werte : werte + " (" + html(quelle) + ")";
 }
 
 std::vector<std::string> kopf(bool mit_namen, std::string_view sprache) {
@@ -73,6 +77,7 @@ std::vector<std::string> kopf(bool mit_namen, std::string_view sprache) {
                                      {"großer Schritt", "Large step"},
                                      {"Einheit", "Unit"},
                                      {"neues Projekt", "New project"},
+                                     {"übliche Werte", "Common values"},
                                      {"Name", "Name"}}) {
         zellen.push_back(wort.in(sprache));
     }
@@ -80,17 +85,18 @@ std::vector<std::string> kopf(bool mit_namen, std::string_view sprache) {
     return zellen;
 }
 
-std::vector<std::string> zellen(const Groesse& groesse, const Projekt& neu, bool mit_namen,
+std::vector<std::string> zellen(const Eingabehinweis& eingabe, const Projekt& neu, bool mit_namen,
                                 std::string_view sprache) {
-    const Scrollzeile& z = zeile(groesse);
-    std::vector<std::string> zellen{html(groesse.name.in(sprache)),
-                                    bereich(z, sprache),
+    const Scrollzeile& z = zeile(eingabe);
+    std::vector<std::string> zellen{html(eingabe.name.in(sprache)),
+                                    mit_minus(z.bereich(sprache)),
                                     schritt(z, z.klein),
                                     schritt(z, z.gross),
                                     html(z.einheit),
-                                    neue_werte(groesse, neu)};
+                                    neue_werte(eingabe, neu),
+                                    richtwerte(eingabe, sprache)};
     if (z.einheit.empty()) zellen[4] = "&ndash;";
-    if (mit_namen) zellen.push_back(namen(groesse));
+    if (mit_namen) zellen.push_back(namen(eingabe));
     return zellen;
 }
 
@@ -109,14 +115,20 @@ std::string eingabentabelle(std::string_view ebene, bool mit_namen, std::string_
     Tabelle tabelle(kopf(mit_namen, sprache));
     bool leer = true;
     bool gegenlauf = false;
-    for (const Groesse& groesse : groessen()) {
-        if (groesse.ebene != ebene) continue;
+    for (const Eingabehinweis& eingabe : eingabehinweise()) {
+        if (eingabe.ebene != ebene || scrollzeile(eingabe.felder.front()) == nullptr) continue;
         tabelle.zeile(zellen(groesse, *neu, mit_namen, sprache));
         leer = false;
-        gegenlauf = gegenlauf || zeile(groesse).gross < 0;
+        gegenlauf = gegenlauf || zeile(eingabe).gross < 0;
     }
     if (leer) throw Laufzeitfehler({"keine Scrollfelder", "no scroll fields"}, std::string(ebene));
     return tabelle.text() + (gegenlauf ? fussnote(sprache) : "");
+}
+
+std::string erklaerung(std::string_view ebene, std::string_view feld, std::string_view sprache) {
+    const Eingabehinweis* eingabe = eingabehinweis(ebene, feld);
+    if (eingabe == nullptr) throw Laufzeitfehler({"keine Eingabe", "no input"}, std::string(feld));
+    return html(eingabe->erklaerung.in(sprache));
 }
 
 }  // namespace velmaris::hilfe

@@ -3,7 +3,6 @@
 #include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
 #include "tools/help/chmprojekt.h"
-#include "tools/help/groessen.h"
 #include "tools/help/seitenbau.h"
 #include "tools/lauf.h"
 
@@ -16,7 +15,6 @@ using namespace velmaris::hilfe;
 namespace fs = std::filesystem;
 
 void hilfe_schreiben(const std::string& sprache, const fs::path& quelle, const fs::path& ziel) {
-    vollstaendigkeit_pruefen();
     const Inhalt inhalt = inhalt_lesen(quelle, sprache);
     fs::create_directories(ziel);
     for (const Seite* seite : alle_seiten(inhalt))

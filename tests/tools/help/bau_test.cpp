@@ -79,6 +79,8 @@ TEST_F(Hilfebau, MeldetWasNichtStimmt) {
         EXPECT_THAT(meldung("Dach", quelle("Dach", "Dach", rumpf)), HasSubstr("unknown mark")) << rumpf;
     EXPECT_THAT(meldung("Dach", quelle("Dach", "Dach", "<!-- eingaben A_Heizen -->")),
                 HasSubstr("no scroll fields"));
+    EXPECT_THAT(meldung("Dach", quelle("Dach", "Dach", "<!-- erklaerung l_sb -->")), HasSubstr("no input"))
+        << "of this page";
     EXPECT_THAT(meldung("Fremd", quelle("Fremd", "fremd", "")),
                 HasSubstr("Fremd.html: is not in the table of contents"));
     EXPECT_THAT(meldung("Dach", "<title>Dach</title>"), HasSubstr("content=\" is missing"));
