@@ -327,6 +327,11 @@ Hinweise klima_und_energie() {
          {"Command2", "Label_Übergabe"},
          {"Entweder Heizflächen oder integrierte Heizflächen (z. B. Fußbodenheizung).",
           "Either radiators or underfloor heating."}},
+        {"E_Energie",
+         {"Energieträger", "source of energy"},
+         {"Command3", "Label_Energieträger"},
+         {"Von ihm hängt ab, wie viel Primärenergie die Endenergie kostet.",
+          "On it depends how much primary energy the end energy costs."}},
     };
 }
 

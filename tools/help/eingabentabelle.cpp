@@ -117,7 +117,7 @@ std::string eingabentabelle(std::string_view ebene, bool mit_namen, std::string_
     bool gegenlauf = false;
     for (const Eingabehinweis& eingabe : eingabehinweise()) {
         if (eingabe.ebene != ebene || scrollzeile(eingabe.felder.front()) == nullptr) continue;
-        tabelle.zeile(zellen(groesse, *neu, mit_namen, sprache));
+        tabelle.zeile(zellen(eingabe, *neu, mit_namen, sprache));
         leer = false;
         gegenlauf = gegenlauf || zeile(eingabe).gross < 0;
     }

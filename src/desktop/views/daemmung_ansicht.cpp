@@ -37,7 +37,7 @@ QHBoxLayout* gegen(std::string_view wort, std::initializer_list<Auswahlliste*> l
                    const std::string& zweck, const Ebenenbau& bau) {
     auto* reihe = new QHBoxLayout;
     reihe->setSpacing(mass::gruppenabstand);
-    reihe->addWidget(bau.wort(wort));
+    reihe->addWidget(bau.mit_tipp(bau.wort(wort), (*listen.begin())->name));
     for (Auswahlliste* liste : listen)
         reihe->addWidget(bau.liste(*liste, zweck), 1);
     return reihe;
@@ -70,7 +70,7 @@ QGroupBox* absorption(E_Daemmung& e, const Ebenenbau& bau) {
 /// Each surcharge with the note that explains it.
 QGroupBox* waermebruecken(E_Daemmung& e, const Ebenenbau& bau) {
     constexpr int unter_dem_text = 19;
-    QGroupBox* rahmen = bau.rahmen("Frame5");
+    QGroupBox* rahmen = bau.mit_tipp(bau.rahmen("Frame5"), e.Waermebruecken_opt.name);
     QVBoxLayout& spalte = *stapel(*rahmen);
     spalte.setSpacing(1);
     spalte.setContentsMargins(mass::ebenenabstand, 0, mass::ebenenabstand, mass::innenrand);

@@ -49,8 +49,9 @@ QWidget* versorgung(E_Energie& e, const Ebenenbau& bau, QWidget* ebene, Auswahlt
     tabelle->setColumnStretch(0, 1);
     int reihe = 0;
     for (const Wahl& wahl : wahlen(e)) {
-        tabelle->addWidget(bau.anzeige(wahl.wort), reihe++, 0, 1, 2);
-        Auswahlschild* feld = auswahlfeld(wahl.feld, bau.mittel().binder, block);
+        tabelle->addWidget(bau.mit_tipp(bau.anzeige(wahl.wort), wahl.feld.name), reihe++, 0, 1, 2);
+        Auswahlschild* feld =
+            bau.mit_tipp(auswahlfeld(wahl.feld, bau.mittel().binder, block), wahl.feld.name);
         tabelle->addWidget(feld, reihe, 0);
         QPushButton* knopf = bau.knopf(wahl.knopf);
         knopf->setText(QStringLiteral("▾"));

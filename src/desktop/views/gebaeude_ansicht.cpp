@@ -54,7 +54,7 @@ QGroupBox* ueberwaermung(E_Gebaeude& e, const Ebenenbau& bau) {
 
 QGroupBox* bauart(std::string_view frame, Auswahlliste& liste, const Ebenenbau& bau) {
     constexpr int titelschrift = 10;  // half a plane is narrow for the titles
-    QGroupBox* rahmen = bau.rahmen(frame);
+    QGroupBox* rahmen = bau.mit_tipp(bau.rahmen(frame), liste.name);
     QFont schrift = rahmen->font();
     QComboBox* kasten = bau.liste(liste, bau.text(frame));
     kasten->setFont(schrift);
@@ -66,7 +66,7 @@ QGroupBox* bauart(std::string_view frame, Auswahlliste& liste, const Ebenenbau& 
 
 /// The four walls as they lie on a map.
 QGroupBox* nachbarn(E_Gebaeude& e, const Ebenenbau& bau) {
-    QGroupBox* rahmen = bau.rahmen("Frame1");
+    QGroupBox* rahmen = bau.mit_tipp(bau.rahmen("Frame1"), e.awn_cb.name);
     auto* rose = new QGridLayout(rahmen);
     rose->setContentsMargins(mass::rand, 0, mass::rand, mass::innenrand);
     rose->setSpacing(0);

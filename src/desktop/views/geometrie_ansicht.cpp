@@ -62,14 +62,14 @@ void haus(E_Geometrie& e, const Ebenenbau& bau, QWidget* ebene) {
 void masse(E_Geometrie& e, const Ebenenbau& bau, QWidget* ebene) {
     constexpr int leiste_links = 78;
     const std::string dachhoehe = e.Label4.text();
-    setze(umbrochen(bau.anzeige(e.Label4)), ebene, 2, 44, 74, 28);
+    setze(umbrochen(bau.mit_tipp(bau.anzeige(e.Label4), e.hd_sb.name)), ebene, 2, 44, 74, 28);
     QLabel* hd = setze(mittig(bau.anzeige(e.hd_anz)), ebene, 2, 72, 74, 16);
     setze(bau.eingabe(e.hd_sb, *hd, dachhoehe, Qt::Vertical), ebene, leiste_links, 44, mass::leiste, 78);
-    setze(umbrochen(bau.wort("Label22")), ebene, 2, 128, 74, 40);
+    setze(umbrochen(bau.mit_tipp(bau.wort("Label22"), e.h_sb.name)), ebene, 2, 128, 74, 40);
     QLabel* h = setze(mittig(bau.anzeige(e.h_anz)), ebene, 2, 168, 74, 16);
     setze(bau.eingabe(e.h_sb, *h, bau.text("Label22"), Qt::Vertical), ebene, leiste_links, 111, mass::leiste,
           97);
-    setze(umbrochen(bau.wort("Label1")), ebene, 288, 44, 62, 40);
+    setze(umbrochen(bau.mit_tipp(bau.wort("Label1"), e.ag_sb.name)), ebene, 288, 44, 62, 40);
     QLabel* ag = setze(mittig(bau.anzeige(e.ag_anz)), ebene, 316, 128, 28, 16);
     setze(bau.eingabe(e.ag_sb, *ag, bau.text("Label1"), Qt::Vertical), ebene, 296, 88, mass::leiste, 97);
 
@@ -80,7 +80,7 @@ void masse(E_Geometrie& e, const Ebenenbau& bau, QWidget* ebene) {
 }
 
 QGroupBox* dachfirst(E_Geometrie& e, const Ebenenbau& bau) {
-    QGroupBox* rahmen = bau.rahmen(e.Frame3);
+    QGroupBox* rahmen = bau.mit_tipp(bau.rahmen(e.Frame3), e.Option_Dachfirst.name);
     QVBoxLayout& spalte = *stapel(*rahmen);
     for (QRadioButton* option : bau.optionen(e.Option_Dachfirst))
         spalte.addWidget(option);
@@ -137,7 +137,7 @@ QGroupBox* orientierung(E_Geometrie& e, const Ebenenbau& bau) {
     enden->addWidget(bau.wort("Label30"));
     rose->addLayout(enden, 3, 0, 1, 3);
     rose->addWidget(bau.eingabe(e.orient_sb, *wert, bau.text("Label23")), 4, 0, 1, 3);
-    QLabel* zweck = umbrochen(bau.wort("Label23"));
+    QLabel* zweck = umbrochen(bau.mit_tipp(bau.wort("Label23"), e.orient_sb.name));
     QFont schrift = zweck->font();
     schrift.setPixelSize(zweckschrift);
     zweck->setFont(schrift);

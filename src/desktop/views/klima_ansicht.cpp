@@ -25,7 +25,7 @@ constexpr int kartenrand = 5;  ///< between the frame and the maps
 constexpr int karten_oben = 22;
 
 void rahmen_mit_liste(Anzeige& titel, Auswahlliste& liste, const Ebenenbau& bau, QWidget* ebene) {
-    QGroupBox* rahmen = setze(bau.rahmen(titel), ebene, 6, 28, 340, 48);
+    QGroupBox* rahmen = setze(bau.mit_tipp(bau.rahmen(titel), liste.name), ebene, 6, 28, 340, 48);
     stapel(*rahmen)->addWidget(bau.liste(liste, titel.text()));
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
+#include "desktop/widgets/eingabetipp.h"
 #include "desktop/widgets/scrollleiste.h"
 
 #include <QAction>
@@ -62,13 +63,14 @@ void eintraege_zeigen(QComboBox& kasten, const std::vector<std::string>& eintrae
     kasten.addItems(texte);
 }
 
-void liste_zeigen(QComboBox& kasten, const Auswahlliste& liste) {
+/// The whole text of the list comes before the tip that the view gave it, for the box may be narrow.
+void liste_zeigen(QComboBox& kasten, const Auswahlliste& liste, const QString& tipp) {
     const QSignalBlocker still(kasten);
     eintraege_zeigen(kasten, liste.eintraege());
     const QString text = qtext(liste.text());
     kasten.setPlaceholderText(liste.index() < 0 ? text : QString());
     kasten.setCurrentIndex(liste.index());
-    kasten.setToolTip(text);
+    kasten.setToolTip(tipp.isEmpty() ? text : tippabsatz(text) + tipp);
     grundzustand(kasten, liste);
 }
 
@@ -170,7 +172,7 @@ void Binder::binde(QComboBox& kasten, Auswahlliste& liste) const {
     QPalette palette = kasten.palette();
     palette.setColor(QPalette::PlaceholderText, palette.color(QPalette::ButtonText));
     kasten.setPalette(palette);
-    const auto zeigen = [&kasten, &liste] { liste_zeigen(kasten, liste); };
+    const auto zeigen = [&kasten, &liste, tipp = kasten.toolTip()] { liste_zeigen(kasten, liste, tipp); };
     anschliessen(kasten, liste, zeigen);
     QObject::connect(&kasten, &QComboBox::activated, &kasten, [&liste, zeigen, wache = wache_](int zeile) {
         wache->fuehre_aus([&] { liste.setze(zeile); });

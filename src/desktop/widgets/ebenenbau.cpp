@@ -7,6 +7,7 @@
 #include "desktop/widgets/aufklappliste.h"
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebenenknopf.h"
+#include "desktop/widgets/eingabetipp.h"
 #include "desktop/widgets/scrollleiste.h"
 #include "desktop/widgets/taste.h"
 #include "desktop/widgets/werteingabe.h"
@@ -57,6 +58,11 @@ void als_einheit(QLabel& schild) {
 }
 
 }  // namespace
+
+void Ebenenbau::tipp(QWidget& fenster, std::string_view feld) const {
+    const Eingabehinweis* hinweis = eingabehinweis(name_, feld);
+    if (hinweis != nullptr) eingabetipp(fenster, *hinweis, mittel_.sprache);
+}
 
 std::string Ebenenbau::text(std::string_view feld) const {
     return beschriftung(name_, feld, mittel_.sprache);
@@ -137,13 +143,14 @@ Scrollleiste* Ebenenbau::leiste(Scrollfeld& feld, const std::string& zweck, Qt::
 
 Scrollleiste* Ebenenbau::eingabe(Eingabefeld& feld, QLabel& wert, const std::string& zweck,
                                  Qt::Orientation richtung) const {
-    Scrollleiste* neu = leiste(feld, zweck, richtung);
+    Scrollleiste* neu = mit_tipp(leiste(feld, zweck, richtung), feld.name);
+    tipp(wert, feld.name);
     new Werteingabe(feld, *neu, wert, ebene_, mittel_.sprache);
     return neu;
 }
 
 QComboBox* Ebenenbau::liste(Auswahlliste& liste, const std::string& zweck) const {
-    auto* neu = new Aufklappliste(&ebene_);
+    auto* neu = mit_tipp(new Aufklappliste(&ebene_), liste.name);
     neu->setFixedHeight(mass::liste);
     neu->setAccessibleName(qtext(zweck));
     mittel_.binder.binde(*neu, liste);
@@ -151,7 +158,7 @@ QComboBox* Ebenenbau::liste(Auswahlliste& liste, const std::string& zweck) const
 }
 
 QLineEdit* Ebenenbau::textfeld(Textfeld& feld, const std::string& zweck) const {
-    auto* neu = new QLineEdit(&ebene_);
+    auto* neu = mit_tipp(new QLineEdit(&ebene_), feld.name);
     neu->setAccessibleName(qtext(zweck));
     mittel_.binder.binde(*neu, feld);
     return neu;
@@ -173,7 +180,7 @@ QPlainTextEdit* Ebenenbau::textansicht(Anzeige& anzeige, int schriftpixel, const
 }
 
 QCheckBox* Ebenenbau::pruefung(Pruefeld& feld) const {
-    auto* neu = new QCheckBox(qtext(text(feld.name)), &ebene_);
+    auto* neu = mit_tipp(new QCheckBox(qtext(text(feld.name)), &ebene_), feld.name);
     mittel_.binder.binde(*neu, feld);
     return neu;
 }
@@ -181,13 +188,14 @@ QCheckBox* Ebenenbau::pruefung(Pruefeld& feld) const {
 std::vector<QRadioButton*> Ebenenbau::optionen(Optionsgruppe& gruppe) const {
     std::vector<QRadioButton*> neue;
     for (int i = gruppe.erste(); i < gruppe.erste() + gruppe.anzahl(); ++i)
-        neue.push_back(new QRadioButton(qtext(text(gruppe.name + std::to_string(i))), &ebene_));
+        neue.push_back(
+            mit_tipp(new QRadioButton(qtext(text(gruppe.name + std::to_string(i))), &ebene_), gruppe.name));
     mittel_.binder.binde(neue, gruppe);
     return neue;
 }
 
 QPushButton* Ebenenbau::knopf(Knopf& knopf) const {
-    return beschriftet(new Taste(&ebene_), knopf);
+    return beschriftet(mit_tipp(new Taste(&ebene_), knopf.name), knopf);
 }
 
 QPushButton* Ebenenbau::reiter(Knopf& knopf) const {
@@ -212,10 +220,12 @@ void Ebenenbau::zeile(QGridLayout& tabelle, std::string_view beschriftung, Einga
                       QLabel* einheit) const {
     const int reihe = tabelle.rowCount();
     const int anfang = beschriftung.empty() ? 0 : 1;
-    const std::string frame = utf8(static_cast<QGroupBox*>(tabelle.parentWidget())->title());
-    std::string zweck = frame;
-    if (!beschriftung.empty()) {
-        tabelle.addWidget(wort(beschriftung), reihe, 0);
+    auto* rahmen = static_cast<QGroupBox*>(tabelle.parentWidget());
+    std::string zweck = utf8(rahmen->title());
+    if (beschriftung.empty()) {
+        tipp(*rahmen, feld.name);
+    } else {
+        tabelle.addWidget(mit_tipp(wort(beschriftung), feld.name), reihe, 0);
         zweck += " " + text(beschriftung);
     }
     QLabel* anzeige = zahl(wert);

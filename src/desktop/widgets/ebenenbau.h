@@ -92,9 +92,18 @@ class Ebenenbau {
     void zeile(QGridLayout& tabelle, std::string_view beschriftung, Eingabefeld& feld, Anzeige& wert,
                QLabel* einheit) const;
 
+    /// Gives a widget the tip of an input of this window, if there is one. The scroll fields, lists, fields
+    /// and buttons made here have theirs; captions and frames get it by this.
+    template <typename Fenster>
+    Fenster* mit_tipp(Fenster* fenster, std::string_view feld) const {
+        tipp(*fenster, feld);
+        return fenster;
+    }
+
     [[nodiscard]] const Ansichtsmittel& mittel() const { return mittel_; }
 
   private:
+    void tipp(QWidget& fenster, std::string_view feld) const;
     [[nodiscard]] QLabel* schild(const std::string& text) const;
     [[nodiscard]] QGroupBox* tafel() const;
     QPushButton* beschriftet(QPushButton* neu, Knopf& knopf) const;

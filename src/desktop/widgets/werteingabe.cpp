@@ -1,6 +1,7 @@
 #include "desktop/widgets/werteingabe.h"
 
 #include "desktop/platform/qt_text.h"
+#include "desktop/widgets/eingabetipp.h"
 #include "desktop/widgets/schwebeschild.h"
 #include "desktop/widgets/scrollleiste.h"
 #include "planes/eingabewert.h"
@@ -42,6 +43,8 @@ Werteingabe::Werteingabe(const Eingabefeld& feld, Scrollleiste& leiste, QLabel& 
     leiste.installEventFilter(this);
     anzeige.installEventFilter(this);
     anzeige.setCursor(Qt::IBeamCursor);
+    const Zweisprachig wie{"Doppelklick oder F2: Wert eintippen", "Double click or F2: type a value"};
+    anzeige.setToolTip(anzeige.toolTip() + tippabsatz(qtext(wie.in(sprache_))));
 }
 
 bool Werteingabe::eventFilter(QObject* ziel, QEvent* ereignis) {
