@@ -123,8 +123,8 @@ bool Haupt::stellen(std::string_view feld, int wert) {
     return true;
 }
 
-std::string Haupt::vorschau(const std::filesystem::path& datei) const {
-    return projektvorschau(p.AppPfad, p.Sprache, datei);
+std::string Haupt::vorschau(const std::filesystem::path& projekt) const {
+    return projektvorschau(p.AppPfad, p.Sprache, projekt);
 }
 
 void Haupt::neues_projekt() {
