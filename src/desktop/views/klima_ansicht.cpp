@@ -1,4 +1,5 @@
 #include "climate/karten.h"
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/stil.h"
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/bildflaeche.h"
@@ -44,7 +45,7 @@ void europa_und_welt(E_Klima& e, const Ebenenbau& bau, QGroupBox* karte) {
     constexpr int europa_links = 53;
     setze(bau.bild(e.Picture2), karte, europa_links, karten_oben, europagroesse.breite, europagroesse.hoehe);
     auto* ausschnitt = new QWidget(karte);
-    ausschnitt->setGeometry(kartenrand, karten_oben, E_Klima::rahmenbreite, weltgroesse.hoehe);
+    lege(*ausschnitt, QRectF(kartenrand, karten_oben, E_Klima::rahmenbreite, weltgroesse.hoehe));
     bau.mittel().binder.binde(*ausschnitt, e.picture3f);
     bau.bild(e.Picture3)->setParent(ausschnitt);
     e.Picture3.ansicht();
