@@ -19,6 +19,7 @@ class Testplattform : public Plattform {
     std::vector<Antwort> antworten;  ///< taken from the front
     std::vector<std::string> eingaben;
     std::vector<std::filesystem::path> dateien;
+    int filterwahl = 1;  ///< the filter that file dialogs are left with
     Bildschirmpunkt zeiger_ort;
     double zufallszahl = 0;
     std::vector<std::string> drucker;
@@ -53,7 +54,7 @@ class Testplattform : public Plattform {
         dialoge.push_back(dialog);
         std::filesystem::path datei = naechste(dateien);
         if (datei.empty()) return std::nullopt;
-        return datei.has_extension() ? datei : datei += dialog.endung;
+        return mit_endung(dialog, std::move(datei), filterwahl);
     }
     void sanduhr(bool an) override { sanduhren.push_back(an); }
     void fenstertitel(const std::string& text) override { titel = text; }

@@ -38,9 +38,9 @@ void qt_deutsch(QTranslator& texte) {
 Programm::Programm(const std::filesystem::path& programmordner, const std::string& sprache,
                    const Befehlszeile& befehlszeile)
     : binder_(wache_),
-      mittel_{wache_, binder_, sprache},
       plattform_(wache_, [sprache] { return sprache; }),
       haupt_(std::make_unique<Haupt>(plattform_, programmordner, sprache)),
+      mittel_{wache_, binder_, sprache, haupt_->sitzung},
       start_(std::make_unique<Start>(*haupt_, befehlszeile, [this] { fenster_->zeigen(); })),
       fenster_(std::make_unique<Hauptfenster>(*haupt_, mittel_)),
       startfenster_(startfenster(*start_, mittel_, programmordner)),

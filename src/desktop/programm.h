@@ -39,9 +39,9 @@ class Programm {
     QTranslator qt_texte_;
     Fehlerwache wache_;
     Binder binder_;
-    Ansichtsmittel mittel_;
     QtPlattform plattform_;
     std::unique_ptr<Haupt> haupt_;
+    Ansichtsmittel mittel_;
     std::unique_ptr<Start> start_;
     std::unique_ptr<Hauptfenster> fenster_;
     std::unique_ptr<QWidget> startfenster_;

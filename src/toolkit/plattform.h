@@ -36,7 +36,15 @@ struct Dateidialog {
 
     /// One line on what is in a file, shown while the file is chosen; empty where there is nothing to say.
     std::function<std::string(const std::filesystem::path&)> vorschau = {};
+
+    /// Where each filter is a format of its own, their endings: a name that has none of them gets that of the
+    /// filter chosen.
+    std::vector<std::string> endungen = {};
 };
+
+/// The file of a dialog that was left with the filter `filterindex`, with the ending that its name lacks.
+[[nodiscard]] std::filesystem::path mit_endung(const Dateidialog& dialog, std::filesystem::path datei,
+                                               int filterindex);
 
 /// A point of the screen in pixels.
 struct Bildschirmpunkt {

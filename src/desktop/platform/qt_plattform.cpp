@@ -134,6 +134,14 @@ class Ortsangebot {
     bool neu_ = false;
 };
 
+/// Number (from 1) of a filter in a dialog, which may tell it without its patterns; 0 if it is none of them.
+int filternummer(const QStringList& filter, const QString& gewaehlt) {
+    const auto ort = std::ranges::find_if(filter, [&gewaehlt](const QString& zeile) {
+        return zeile == gewaehlt || zeile.startsWith(gewaehlt + QLatin1String(" ("));
+    });
+    return ort == filter.end() ? 0 : static_cast<int>(ort - filter.begin()) + 1;
+}
+
 }  // namespace
 
 QtPlattform::QtPlattform(const Fehlerwache& wache, std::function<std::string()> sprache)
@@ -195,9 +203,7 @@ std::optional<std::string> QtPlattform::eingabe(const std::string& text, const s
 
 std::optional<std::filesystem::path> QtPlattform::dateidialog(const Dateidialog& dialog) {
     const Zeigerpause pause(sanduhr_);
-    std::optional<std::filesystem::path> datei = datei_waehlen(dialog);
-    if (datei && !datei->has_extension()) *datei += dialog.endung;
-    return datei;
+    return datei_waehlen(dialog);
 }
 
 std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialog& dialog) {
@@ -224,7 +230,8 @@ std::optional<std::filesystem::path> QtPlattform::datei_waehlen(const Dateidialo
     const Ortsangebot ort(fenster, dialog.ort);
     fenster.resize(in_pixeln(massstab(fenster), bevorzugte_groesse).boundedTo(bildschirmplatz(fenster)));
     if (fenster.exec() != QDialog::Accepted || fenster.selectedFiles().isEmpty()) return std::nullopt;
-    return QFileInfo(fenster.selectedFiles().constFirst()).filesystemFilePath();
+    return mit_endung(dialog, QFileInfo(fenster.selectedFiles().constFirst()).filesystemFilePath(),
+                      filternummer(filter, fenster.selectedNameFilter()));
 }
 
 void QtPlattform::beschriften(QFileDialog& fenster, Dateidialog::Art art) const {

@@ -5,6 +5,7 @@
 #include "desktop/widgets/auswahltafel.h"
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebene.h"
+#include "desktop/widgets/mitnehmen.h"
 #include "desktop/widgets/tooltip_ansicht.h"
 
 #include <QGridLayout>
@@ -88,6 +89,8 @@ QGroupBox* endenergie(E_Energie& e, const Ebenenbau& bau) {
         if (reihe.einheit != nullptr) tabelle->addWidget(bau.anzeige(*reihe.einheit), nummer, 2);
         ++nummer;
     }
+    wertemenue(
+        *rahmen, [&e] { return e.endenergiewerte(); }, bau.mittel());
     return rahmen;
 }
 
@@ -101,6 +104,8 @@ QGroupBox* faktoren(E_Energie& e, const Ebenenbau& bau) {
     tabelle->addWidget(bau.zahl(e.anz_Primärenergiefaktor_Energieträger), 0, 1);
     tabelle->addWidget(bau.anzeige(e.Label34), 1, 0);
     tabelle->addWidget(bau.zahl(e.anz_Primärenergiefaktor_Strom), 1, 1);
+    wertemenue(
+        *rahmen, [&e] { return e.faktorwerte(); }, bau.mittel());
     return rahmen;
 }
 

@@ -1,9 +1,11 @@
 #include "charts/balkenfarben.h"
+#include "desktop/platform/qt_text.h"
 #include "desktop/platform/stil.h"
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebene.h"
 #include "desktop/widgets/legende.h"
+#include "desktop/widgets/mitnehmen.h"
 #include "desktop/widgets/tooltip_ansicht.h"
 
 #include <QGridLayout>
@@ -49,6 +51,9 @@ void jahrestabelle(A_Heizen& a, const Ebenenbau& bau, QWidget* ebene) {
         tabelle->addWidget(bau.zahl(reihe.absolut), nummer, 2);
         ++nummer;
     }
+    tafel->setAccessibleName(qtext(a.jahreswerte().titel));
+    wertemenue(
+        *tafel, [&a] { return a.jahreswerte(); }, bau.mittel());
     setze(tafel, ebene, 8, 362, 288, 132);
 }
 

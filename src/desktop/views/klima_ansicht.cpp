@@ -4,6 +4,7 @@
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebene.h"
+#include "desktop/widgets/mitnehmen.h"
 #include "desktop/widgets/nebenfenster.h"
 #include "desktop/widgets/schwebeschild.h"
 #include "desktop/widgets/scrollleiste.h"
@@ -80,6 +81,8 @@ QGroupBox* klimadaten(E_Klima& e, const Ebenenbau& bau) {
         tabelle->addWidget(bau.einheit(reihe.einheit), nummer, 2);
         ++nummer;
     }
+    wertemenue(
+        *rahmen, [&e] { return e.klimawerte(); }, bau.mittel());
     return rahmen;
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/platform/stil.h"
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/ebene.h"
+#include "desktop/widgets/mitnehmen.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -49,6 +50,9 @@ QGroupBox* klima(A_Klima& a, const Ebenenbau& bau) {
              {"Label_MinMonatName", a.anz_MinMonatName, ""},
              {"Label_MinJahrTemp", a.anz_MinJahrTemp, "Einheit_MinJahrTemp"},
              {"Label_Heizgradtage", a.anz_Heizgradtage, "Einheit_Heizgradtage"}});
+    const Projekt& p = bau.mittel().sitzung.p;
+    wertemenue(
+        *rahmen, [&p] { return A_Klima::klimawerte(p); }, bau.mittel());
     return rahmen;
 }
 
@@ -66,6 +70,9 @@ QGroupBox* gebaeude(A_Klima& a, const Ebenenbau& bau) {
              {"Label_kuehllast_spez", a.anz_kuehllast_spez, "Einheit_kuehllast_spez"},
              {"Label_Heizgrenztemp", a.anz_Heizgrenztemp, "Einheit_Heizgrenztemp"},
              {"Label_Heiztage", a.anz_Heiztage, "Einheit_Heiztage"}});
+    const Projekt& p = bau.mittel().sitzung.p;
+    wertemenue(
+        *rahmen, [&p] { return A_Klima::gebaeudewerte(p); }, bau.mittel());
     return rahmen;
 }
 

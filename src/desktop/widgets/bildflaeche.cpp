@@ -4,10 +4,12 @@
 #include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/platform/stil.h"
+#include "desktop/widgets/bildzugang.h"
 #include "desktop/widgets/binde.h"
 #include "desktop/widgets/taste.h"
 #include "toolkit/text.h"
 
+#include <QAccessible>
 #include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
@@ -18,10 +20,11 @@ namespace velmaris {
 Bildflaeche::Bildflaeche(Bildfeld& feld, const Fehlerwache& wache, QWidget* eltern, Farbe hintergrund)
     : QWidget(eltern), feld_(feld), wache_(wache), hintergrund_(hintergrund) {
     setObjectName(qtext(feld.name));
-    setAccessibleName(qtext(feld.name));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
-    if (feld.gedrueckt) setFocusPolicy(Qt::StrongFocus);
+    // A click on a chart that does nothing is a click on its plane.
+    if (feld.gedrueckt || feld.werte) setFocusPolicy(feld.gedrueckt ? Qt::StrongFocus : Qt::TabFocus);
+    bildzugang_einrichten();
     feld.ansicht = [this] { feld_zeigen(); };
     feld.lies_punkt = [this](double x, double y) { return flaeche().lies_punkt(x, y); };
     feld_zeigen();
@@ -72,6 +75,9 @@ void Bildflaeche::feld_zeigen() {
     veraltet_ = true;
     grundzustand(*this, feld_);
     update();
+    if (!feld_.werte || !QAccessible::isActive()) return;
+    QAccessibleEvent neue_werte(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&neue_werte);
 }
 
 void Bildflaeche::bild_laden() {

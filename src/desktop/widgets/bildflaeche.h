@@ -12,7 +12,7 @@ namespace velmaris {
 
 /// The widget of a picture or chart surface. It keeps what was drawn and draws anew when it is about to be
 /// seen and the record has asked for it since: a hidden surface costs nothing. A picture that stands for
-/// a button takes the focus and shows it by a frame. The record must outlive the widget.
+/// a button, or shows values, takes the focus and shows it by a frame. The record must outlive the widget.
 class Bildflaeche : public QWidget {
     Q_OBJECT
 
@@ -22,6 +22,8 @@ class Bildflaeche : public QWidget {
     Bildflaeche(const Bildflaeche&) = delete;
     Bildflaeche& operator=(const Bildflaeche&) = delete;
     ~Bildflaeche() override;
+
+    [[nodiscard]] const Bildfeld& feld() const { return feld_; }
 
     /// The surface as it is now, drawn anew first if it is out of date.
     [[nodiscard]] QtFlaeche& flaeche();

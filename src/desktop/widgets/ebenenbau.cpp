@@ -8,6 +8,7 @@
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebenenknopf.h"
 #include "desktop/widgets/eingabetipp.h"
+#include "desktop/widgets/mitnehmen.h"
 #include "desktop/widgets/scrollleiste.h"
 #include "desktop/widgets/taste.h"
 #include "desktop/widgets/werteingabe.h"
@@ -213,7 +214,9 @@ QPushButton* Ebenenbau::beschriftet(QPushButton* neu, Knopf& knopf) const {
 }
 
 Bildflaeche* Ebenenbau::bild(Bildfeld& feld, Farbe hintergrund) const {
-    return new Bildflaeche(feld, mittel_.wache, &ebene_, hintergrund);
+    auto* neu = new Bildflaeche(feld, mittel_.wache, &ebene_, hintergrund);
+    bildmenue(*neu, feld, mittel_);
+    return neu;
 }
 
 void Ebenenbau::zeile(QGridLayout& tabelle, std::string_view beschriftung, Eingabefeld& feld, Anzeige& wert,

@@ -3,6 +3,7 @@
 #include "desktop/platform/fehlerwache.h"
 #include "desktop/widgets/binde.h"
 #include "planes/scrolltabelle.h"
+#include "project/sitzung.h"
 #include "toolkit/felder.h"
 
 #include <QEvent>
@@ -35,6 +36,7 @@ struct Ansichtsmittel {
     const Fehlerwache& wache;
     const Binder& binder;
     std::string sprache;  ///< language letter of the captions
+    Sitzung& sitzung;
 };
 
 /// Makes the widgets of one window, bound and captioned. A widget belongs to the window until a layout or
@@ -85,6 +87,7 @@ class Ebenenbau {
 
     /// A button that shows one of several panels.
     QPushButton* reiter(Knopf& knopf) const;
+    /// A picture with its context menu.
     Bildflaeche* bild(Bildfeld& feld, Farbe hintergrund = farben::weiss) const;
 
     /// A row of a table of inputs: caption, scroll field, value, unit. An empty caption leaves its column to
