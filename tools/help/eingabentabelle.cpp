@@ -9,6 +9,7 @@
 
 #include <cctype>
 #include <cmath>
+#include <functional>
 #include <memory>
 
 namespace velmaris::hilfe {
@@ -63,10 +64,19 @@ std::string namen(const Eingabehinweis& eingabe) {
     return text;
 }
 
-std::string richtwerte(const Eingabehinweis& eingabe, std::string_view sprache) {
-    const std::string_view quelle = eingabe.quelle.in(sprache);
-    const std::string werte = mit_minus(html(richtwerttext(eingabe, sprache)));
-    return quelle.empty() ? werte : werte + " (" + html(quelle) + ")";
+std::string oder_strich(std::string_view text) {
+    return text.empty() ? "&ndash;" : html(text);
+}
+
+/// Runs a routine for each input of a plane that is a scroll field; a plane without any is a Laufzeitfehler.
+void fuer_jedes_scrollfeld(std::string_view ebene, const std::function<void(const Eingabehinweis&)>& tu) {
+    bool leer = true;
+    for (const Eingabehinweis& eingabe : eingabehinweise()) {
+        if (eingabe.ebene != ebene || scrollzeile(eingabe.felder.front()) == nullptr) continue;
+        tu(eingabe);
+        leer = false;
+    }
+    if (leer) throw Laufzeitfehler({"keine Scrollfelder", "no scroll fields"}, std::string(ebene));
 }
 
 std::vector<std::string> kopf(bool mit_namen, std::string_view sprache) {
@@ -77,7 +87,6 @@ std::vector<std::string> kopf(bool mit_namen, std::string_view sprache) {
                                      {"großer Schritt", "Large step"},
                                      {"Einheit", "Unit"},
                                      {"neues Projekt", "New project"},
-                                     {"übliche Werte", "Common values"},
                                      {"Name", "Name"}}) {
         zellen.push_back(wort.in(sprache));
     }
@@ -92,10 +101,8 @@ std::vector<std::string> zellen(const Eingabehinweis& eingabe, const Projekt& ne
                                     mit_minus(z.bereich(sprache)),
                                     schritt(z, z.klein),
                                     schritt(z, z.gross),
-                                    html(z.einheit),
-                                    neue_werte(eingabe, neu),
-                                    richtwerte(eingabe, sprache)};
-    if (z.einheit.empty()) zellen[4] = "&ndash;";
+                                    oder_strich(z.einheit),
+                                    neue_werte(eingabe, neu)};
     if (mit_namen) zellen.push_back(namen(eingabe));
     return zellen;
 }
@@ -113,16 +120,23 @@ std::string eingabentabelle(std::string_view ebene, bool mit_namen, std::string_
     const auto neu = std::make_unique<Projekt>();
     neue_eingaben(*neu);
     Tabelle tabelle(kopf(mit_namen, sprache));
-    bool leer = true;
     bool gegenlauf = false;
-    for (const Eingabehinweis& eingabe : eingabehinweise()) {
-        if (eingabe.ebene != ebene || scrollzeile(eingabe.felder.front()) == nullptr) continue;
+    fuer_jedes_scrollfeld(ebene, [&](const Eingabehinweis& eingabe) {
         tabelle.zeile(zellen(eingabe, *neu, mit_namen, sprache));
-        leer = false;
         gegenlauf = gegenlauf || zeile(eingabe).gross < 0;
-    }
-    if (leer) throw Laufzeitfehler({"keine Scrollfelder", "no scroll fields"}, std::string(ebene));
+    });
     return tabelle.text() + (gegenlauf ? fussnote(sprache) : "");
+}
+
+std::string richtwerttabelle(std::string_view ebene, std::string_view sprache) {
+    const auto wort = [sprache](const Wort& text) { return std::string(text.in(sprache)); };
+    Tabelle tabelle({wort({"Eingabe", "Input"}), wort({"übliche Werte", "Common values"}),
+                     wort({"Einheit", "Unit"}), wort({"Quelle", "Source"})});
+    fuer_jedes_scrollfeld(ebene, [&](const Eingabehinweis& eingabe) {
+        tabelle.zeile({html(eingabe.name.in(sprache)), mit_minus(html(richtwerttext(eingabe, sprache))),
+                       oder_strich(zeile(eingabe).einheit), oder_strich(eingabe.quelle.in(sprache))});
+    });
+    return tabelle.text();
 }
 
 std::string erklaerung(std::string_view ebene, std::string_view feld, std::string_view sprache) {

@@ -53,6 +53,7 @@ std::optional<std::string> fuellung(std::string_view marke, const Inhalt& inhalt
     if (wort == "blaettern") return blaettern(inhalt, seite, sprache);
     if (wort == "eingaben") return eingabentabelle(zusatz, false, sprache);
     if (wort == "eingabenliste") return eingabentabelle(zusatz, true, sprache);
+    if (wort == "richtwerte") return richtwerttabelle(zusatz, sprache);
     if (wort == "erklaerung") return erklaerung(seite.name, zusatz, sprache);
     if (wort == "fenstertypen") return fenstertypentabelle(sprache);
     if (wort == "heizsysteme") return heizsystemtabelle(sprache);
