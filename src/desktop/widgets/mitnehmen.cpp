@@ -83,6 +83,7 @@ class Kontextmenue : public QObject {
   private:
     void zeigen(QPoint ort) {
         auto* menue = new QMenu(&fenster_);
+        schrift_anpassen(*menue);
         menue->setAttribute(Qt::WA_DeleteOnClose);
         for (const Eintrag& eintrag : eintraege_) {
             QAction* aktion = menue->addAction(qtext(mitnahmetext(eintrag.was).in(sprache_)));
