@@ -4,6 +4,7 @@
 #include "tests/desktop/programmprobe.h"
 #include "toolkit/text.h"
 
+#include <QClipboard>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QScreen>
@@ -43,6 +44,24 @@ class DokumenteTest : public test::Programmprobe {
 
     void blaettere(int seite) { klicke("A_Report", ("Seite" + std::to_string(seite)).c_str()); }
 };
+
+TEST_F(DokumenteTest, TextLaesstSichKopierenWoImmerDerFokusIst) {
+    for (const auto& [eintrag, seite, wort, ansicht] :
+         {std::tuple{"mnuBerechnungsergebnisseExportieren", 4, "Wärmebilanz", "Report1"},
+          {"mnuTemperaturExport", 3, "Monat:      März", "Temperaturverlauf1"}}) {
+        QWidget& fenster = oeffne("d", eintrag, "A_Report");
+        QGuiApplication::clipboard()->setText("vorher");
+        blaettere(seite);
+        ASSERT_TRUE(aktiv(fenster));
+        for (QWidget* ort : {&such("A_Report", "Command_Speichern"), &such("A_Report", ansicht)}) {
+            ort->setFocus();
+            taste(Qt::Key_A, Qt::ControlModifier);
+            taste(Qt::Key_C, Qt::ControlModifier);
+            EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(QString::fromUtf8(wort))) << wort;
+            QGuiApplication::clipboard()->clear();
+        }
+    }
+}
 
 TEST_F(DokumenteTest, ReportStehtFormatiertAufDemSchirm) {
     QWidget& fenster = oeffne("d", "mnuBerechnungsergebnisseExportieren", "A_Report");

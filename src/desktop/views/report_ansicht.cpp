@@ -1,3 +1,4 @@
+#include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/platform/stil.h"
 #include "desktop/views/ansichten.h"
@@ -7,10 +8,13 @@
 #include "language/beschriftungen.h"
 
 #include <QLabel>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTextEdit>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -28,6 +32,18 @@ class Reportfeld : public QTextEdit {
 
     Textskala skala{*this};
 };
+
+/// The text's own menu in the letters of the window.
+template <class Textansicht>
+void textmenue(Textansicht& feld) {
+    feld.setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(&feld, &QWidget::customContextMenuRequested, &feld, [&feld](QPoint ort) {
+        QMenu* menue = feld.createStandardContextMenu();
+        menue->setAttribute(Qt::WA_DeleteOnClose);
+        schrift_anpassen(*menue);
+        menue->popup(feld.viewport()->mapToGlobal(ort));
+    });
+}
 
 /// The text of the report: a new one is shown from its top, while the same text keeps its place.
 QWidget* reportfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, Nebenfenster* fenster) {
@@ -57,12 +73,14 @@ QWidget* reportfeld(Anzeige& anzeige, const Ansichtsmittel& mittel, Nebenfenster
         grundzustand(*feld, anzeige);
     };
     anzeige.ansicht();
+    textmenue(*feld);
     return feld;
 }
 
 QWidget* temperaturfeld(Anzeige& anzeige, const Ebenenbau& bau, const QWidget& fenster) {
     QPlainTextEdit* feld = bau.textansicht(anzeige, mass::schrift, utf8(fenster.windowTitle()));
     feld->document()->setDocumentMargin(seitenrand);
+    textmenue(*feld);
     return feld;
 }
 
@@ -72,6 +90,18 @@ void hinweisfeld(Anzeige& anzeige, const Ebenenbau& bau, const QWidget& fenster)
     feld->setFont(fenster.font());
     feld->setLineWrapMode(QPlainTextEdit::WidgetWidth);
     feld->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+/// The keys that copy and select are those of the text shown, wherever the focus is in the window; a text
+/// that has it takes them itself.
+void kopiertasten(const A_Report& a, Nebenfenster* fenster, QWidget* report, QWidget* temperaturen) {
+    for (const auto& [tasten, tat] :
+         {std::pair{QKeySequence::Copy, "copy"}, {QKeySequence::SelectAll, "selectAll"}}) {
+        auto* kuerzel = new QShortcut(tasten, fenster);
+        QObject::connect(kuerzel, &QShortcut::activated, fenster, [&a, report, temperaturen, tat = tat] {
+            QMetaObject::invokeMethod(a.Report1.sichtbar() ? report : temperaturen, tat);
+        });
+    }
 }
 
 /// The number of the page shown, over the button of the page.
@@ -104,6 +134,7 @@ QWidget* report_ansicht(A_Report& a, const Ansichtsmittel& mittel, QWidget* elte
     QWidget* report = reportfeld(a.Report1, mittel, fenster);
     QWidget* temperaturen = temperaturfeld(a.Temperaturverlauf1, bau, *fenster);
     hinweisfeld(a.Hinweis, bau, *fenster);
+    kopiertasten(a, fenster, report, temperaturen);
     for (int i = 1; i <= A_Report::knoepfe; ++i)
         bau.knopf(a.Seite(i));
     bau.knopf(a.Command_Speichern);

@@ -11,7 +11,9 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QFocusEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
@@ -85,6 +87,7 @@ class Kontextmenue : public QObject {
         auto* menue = new QMenu(&fenster_);
         schrift_anpassen(*menue);
         menue->setAttribute(Qt::WA_DeleteOnClose);
+        schrift_anpassen(*menue);
         for (const Eintrag& eintrag : eintraege_) {
             QAction* aktion = menue->addAction(qtext(mitnahmetext(eintrag.was).in(sprache_)));
             QObject::connect(aktion, &QAction::triggered, &fenster_,
@@ -114,7 +117,9 @@ class Fokusrahmen : public QWidget {
             raise();
             show();
         } else if (ereignis->type() == QEvent::FocusOut) {
-            hide();
+            // The menu of the widget borrows the focus.
+            const bool menue = static_cast<const QFocusEvent&>(*ereignis).reason() == Qt::PopupFocusReason;
+            if (!menue) hide();
         } else if (ereignis->type() == QEvent::Resize) {
             setGeometry(parentWidget()->rect());
         }
