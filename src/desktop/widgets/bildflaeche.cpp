@@ -13,6 +13,7 @@
 #include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 namespace velmaris {
@@ -105,7 +106,8 @@ void Bildflaeche::melde_bildfehler() {
 }
 
 void Bildflaeche::paintEvent(QPaintEvent*) {
-    const qreal fokusrahmen = 2 * massstab(*this);
+    const qreal fokusrahmen =
+        std::max(2.0, massstab(*this));  // the letters of a chart begin close to its edge
     QPainter maler(this);
     const QImage& bild = flaeche().bild();
     QImage pixel(bild.constBits(), bild.width(), bild.height(), bild.bytesPerLine(), bild.format());
