@@ -1,6 +1,8 @@
 #include "planes/eingabewert.h"
 
 #include <gtest/gtest.h>
+#include <map>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -12,42 +14,22 @@ std::string gelesen(const char* feld, const char* text) {
 }
 
 TEST(Eingabewert, NimmtDieNaechsteStellung) {
-    const struct {
-        const char *feld, *text, *stellung;
-    } faelle[] = {
-        {"Troom_sb", "21", "210"},
-        {"Troom_sb", "21,0", "210"},
-        {"Troom_sb", " 21.04 °C ", "210"},
-        {"Troom_sb", "21.06°C", "211"},
-        {"Troom_sb", "-9,9C", "-99"},
-        {"Troom_sb", "\u22129.9\u00A0°c", "-99"},
-        {"Troom_sb", "+5.", "50"},
-        {"Troom_sb", ",5", "5"},
-        {"Troom_sb", "40.04", "400"},
-        {"l_sb", "Länge: 12.5 m", "125"},
-        {"h_sb", "7.2m", "-72"},
-        {"hd_sb", "0", "0"},
-        {"ag_sb", "3", "-3"},
-        {"orient_sb", "45°", "-45"},
-        {"ft_sb", "2.2 m2", "22"},
-        {"kwn_sb", "0,24", "24"},
-        {"kwn_sb", "0.24 W/(m²K)", "24"},
-        {"kwn_sb", ".24W/(m² K)", "24"},
-        {"kwn_sb", "0.24 W/m^2*K", "24"},
-        {"kwn_sb", "0.246", "25"},
-        {"intg_sb", "16.5 kWh/(m²a)", "33"},
-        {"intg_sb", "16.4", "33"},
-        {"intg_sb", "25 kWh m² a", "50"},
-        {"infiltration_sb", "0.6 1/h", "60"},
-        {"infiltration_sb", "0.61/h", "61"},
-        {"infiltration_sb", "10.001/h", "1000"},
-        {"WRG_Sb", "57 %", "57"},
-        {"verschn_sb", "29%", "29"},
-        {"fn_sb", "12", "12"},
-        {"Klimaeffizienz_sb", "3.2 kWh kWh", "32"},
-    };
-    for (const auto& [feld, text, stellung] : faelle)
-        EXPECT_EQ(gelesen(feld, text), stellung) << text;
+    const std::map<const char*, std::vector<std::pair<const char*, const char*>>> faelle{
+        {"Troom_sb",
+         {{"21", "210"}, {"21,0", "210"}, {" 21.04 °C ", "210"}, {"21.06°C", "211"}, {"-9,9C", "-99"}}},
+        {"Tueber_sb", {{"\u2009+25.", "250"}, {"39,9\u00A0°c", "399"}, {"40.04", "400"}}},
+        {"hd_sb", {{"\u22120.0", "0"}, {",5", "-5"}, {"Dachhöhe: 3.2 m", "-32"}}},
+        {"orient_sb", {{"45°", "-45"}, {"-45", "45"}}},
+        {"ft_sb", {{"2.2 m2", "22"}}},
+        {"kwn_sb", {{"0.24 W/(m²K)", "24"}, {".24W/(m² K)", "24"}, {"0.24 W/m^2*K", "24"}, {"0.246", "25"}}},
+        {"intg_sb", {{"16.5 kWh/(m²a)", "33"}, {"16.4", "33"}, {"25 kWh m² a", "50"}}},
+        {"infiltration_sb", {{"0.6 1/h", "60"}, {"0.61/h", "61"}, {"10.001/h", "1000"}}},
+        {"WRG_Sb", {{"57 %", "57"}, {"29%", "29"}}},
+        {"Klimaeffizienz_sb", {{"3.2 kWh kWh", "32"}}}};
+    for (const auto& [feld, paare] : faelle) {
+        for (const auto& [text, stellung] : paare)
+            EXPECT_EQ(gelesen(feld, text), stellung) << text;
+    }
 }
 
 TEST(Eingabewert, SagtDenBereich) {
@@ -62,9 +44,6 @@ TEST(Eingabewert, SagtDenBereich) {
                   "Außerhalb des Bereichs: -10.0 bis 40.0 °C"
                   "|Out of range: -10.0 to 40.0 °C")
             << text;
-    EXPECT_EQ(gelesen("kwn_sb", "0"),
-              "Außerhalb des Bereichs: 0.01 bis 1.50 W/(m² K)"
-              "|Out of range: 0.01 to 1.50 W/(m² K)");
     EXPECT_EQ(gelesen("h_sb", "-5"), "Außerhalb des Bereichs: 2.0 bis 50.0 m|Out of range: 2.0 to 50.0 m");
     EXPECT_EQ(gelesen("ag_sb", "21"), "Außerhalb des Bereichs: 1 bis 20|Out of range: 1 to 20");
     EXPECT_EQ(gelesen("orient_sb", "90"), "Außerhalb des Bereichs: -45 bis 45°|Out of range: -45 to 45°");

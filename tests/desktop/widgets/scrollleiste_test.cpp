@@ -79,53 +79,35 @@ TEST(Scrollleiste, GehtMitMausRadUndTasten) {
 
 /// With Shift and Ctrl by one position; what has no such meaning keeps its step, and so do the next moves.
 TEST(Scrollleiste, GehtUmEineStellung) {
-    const auto umschalt = Qt::ShiftModifier, strg = Qt::ControlModifier;
-    const auto hin = QStyle::SC_ScrollBarAddLine, zurueck = QStyle::SC_ScrollBarSubLine;
-    const auto danach = [](const Zug& eins, const Zug& zwei) {
-        return [=](Scrollleiste& leiste) { eins(leiste), zwei(leiste); };
-    };
+    const Qt::KeyboardModifier um = Qt::ShiftModifier, strg = Qt::ControlModifier;
+    const Zug hin = klick(QStyle::SC_ScrollBarAddLine, um), her = klick(QStyle::SC_ScrollBarSubLine, um);
+    const Zug auf = taste(Qt::Key_Up, um), rechts = taste(Qt::Key_Right, um), ende = taste(Qt::Key_End, um);
+    const Zug danach = [&](Scrollleiste& leiste) { hin(leiste), klick(QStyle::SC_ScrollBarAddLine)(leiste); };
+    const Zug rechts_zweimal = [&](Scrollleiste& leiste) { rechts(leiste), taste(Qt::Key_Right)(leiste); };
+    const Zug seite = klick(QStyle::SC_ScrollBarAddPage, um), seite_ab = taste(Qt::Key_PageDown, um);
     const std::vector<std::pair<Zug, int>> laenge{
-        {klick(hin, umschalt), 101},
-        {klick(zurueck, umschalt), 99},
-        {taste(Qt::Key_Right, umschalt), 101},
-        {taste(Qt::Key_Left, umschalt), 99},
-        {taste(Qt::Key_Up, umschalt), 101},
-        {rasten(1, strg), 101},
-        {rasten(-3, strg), 97},
-        {rasten(1, umschalt), 110},
-        {klick(QStyle::SC_ScrollBarAddPage, umschalt), 120},
-        {taste(Qt::Key_PageDown, umschalt), 80},
-        {taste(Qt::Key_Home, umschalt), 20},
-        {danach(klick(hin, umschalt), klick(hin)), 111},
-        {danach(taste(Qt::Key_Right, umschalt), taste(Qt::Key_Right)), 111}};
+        {hin, 101},    {her, 99},     {rechts, 101},         {auf, 101},   {rasten(-3, strg), 97},
+        {ende, 500},   {danach, 111}, {rechts_zweimal, 111}, {seite, 120}, {rasten(1, um), 110},
+        {seite_ab, 80}};
     pruefe({Qt::Horizontal, 20, 500, 10, 20, 100}, laenge);
-    const std::vector<std::pair<Zug, int>> hoehe{{klick(zurueck, umschalt), -101},
-                                                 {klick(QStyle::SC_ScrollBarSubPage, umschalt), -80},
-                                                 {taste(Qt::Key_Up, umschalt), -101},
-                                                 {taste(Qt::Key_Down, umschalt), -99},
-                                                 {rasten(2, strg), -102}};
-    pruefe({Qt::Vertical, -500, -20, 2, -20, -100}, hoehe);
+    const Zug ab = taste(Qt::Key_Down, um);
+    pruefe({Qt::Vertical, -500, -20, 2, -20, -100},
+           {{her, -101}, {auf, -101}, {ab, -99}, {seite, -120}, {rasten(2, strg), -102}});
 }
 
 /// Escape gives back the position from before the drag, and the pointer has let go of the thumb.
 TEST(Scrollleiste, EscBrichtDenZugAb) {
-    const auto ziehe = [](Scrollleiste& leiste, int weg) {
-        const QPoint griff = test::teil(leiste, QStyle::SC_ScrollBarSlider);
+    const Zug zug = [](Scrollleiste& leiste) {
+        const QPoint griff = test::teil(leiste, QStyle::SC_ScrollBarSlider), weiter(20, 0);
         QTest::mousePress(&leiste, Qt::LeftButton, {}, griff);
-        QTest::mouseMove(&leiste, griff + QPoint(weg, 0));
-        EXPECT_TRUE(leiste.isSliderDown() && leiste.value() != 100);
-        return griff + QPoint(weg + 20, 0);
+        QTest::mouseMove(&leiste, griff + weiter);
+        EXPECT_NE(leiste.value(), 100);
+        QTest::keyClick(&leiste, Qt::Key_Escape);
+        EXPECT_EQ(leiste.value(), 100);
+        QTest::mouseMove(&leiste, griff + 2 * weiter);
+        QTest::mouseRelease(&leiste, Qt::LeftButton, {}, griff + 2 * weiter);
     };
-    pruefe({Qt::Horizontal, 20, 500, 10, 20, 100}, {{[&](Scrollleiste& leiste) {
-                                                         const QPoint weiter = ziehe(leiste, 30);
-                                                         QTest::keyClick(&leiste, Qt::Key_Escape);
-                                                         EXPECT_EQ(leiste.value(), 100);
-                                                         EXPECT_FALSE(leiste.isSliderDown());
-                                                         QTest::mouseMove(&leiste, weiter);
-                                                         QTest::mouseRelease(&leiste, Qt::LeftButton, {},
-                                                                             weiter);
-                                                     },
-                                                     100}});
+    pruefe({Qt::Horizontal, 20, 500, 10, 20, 100}, {{zug, 100}});
 }
 
 /// Both arrows point away from the thumb, which is drawn only where it can be moved.
