@@ -15,14 +15,8 @@ void felder_anhaengen(Json& objekt, const Datensatz& satz, const Zeilen& zeilen)
 }
 
 void kennwerte_anhaengen(Json& objekt, const Kennwerte& werte) {
-    objekt["q_ce"] = werte.q_ce;
-    objekt["q_d"] = werte.q_d;
-    objekt["q_s"] = werte.q_s;
-    objekt["e_g"] = werte.e_g;
-    objekt["q_d_he"] = werte.q_d_he;
-    objekt["q_s_he"] = werte.q_s_he;
-    objekt["q_g_he"] = werte.q_g_he;
-    objekt["f_p"] = werte.f_p;
+    for (const Kennwertzeile& zeile : kennwertfelder())
+        objekt[std::string(zeile.name)] = werte.*zeile.zeiger;
     objekt["Traegername"] = werte.name.Traegername;
     objekt["Traegername_e"] = werte.name.Traegername_e;
 }

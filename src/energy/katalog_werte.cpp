@@ -14,6 +14,15 @@ namespace {
 /// The floor areas (m2) at which the tables hold values; a shorter table uses the first ones.
 constexpr std::array<double, 11> stuetzstellen{100, 150, 200, 300, 500, 750, 1000, 1500, 2500, 5000, 10000};
 
+constexpr std::array<Kennwertzeile, 8> kennwertzeilen{{{"q_ce", &Kennwerte::q_ce},
+                                                       {"q_d", &Kennwerte::q_d},
+                                                       {"q_s", &Kennwerte::q_s},
+                                                       {"e_g", &Kennwerte::e_g},
+                                                       {"q_d_he", &Kennwerte::q_d_he},
+                                                       {"q_s_he", &Kennwerte::q_s_he},
+                                                       {"q_g_he", &Kennwerte::q_g_he},
+                                                       {"f_p", &Kennwerte::f_p}}};
+
 using Reihe_voll = std::array<double, stuetzstellen.size()>;
 using Reihe_biomasse = std::array<double, 5>;
 
@@ -120,6 +129,10 @@ double primaerenergiefaktor(int system, int energietraeger) {
 }
 
 }  // namespace
+
+std::span<const Kennwertzeile> kennwertfelder() {
+    return kennwertzeilen;
+}
 
 float interpolieren(double x, double x0, double x1, double y0, double y1) {
     return f32((y1 - y0) / (x1 - x0) * x + (x1 * y0 - x0 * y1) / (x1 - x0));

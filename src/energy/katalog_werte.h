@@ -2,6 +2,7 @@
 
 #include "toolkit/wort.h"
 
+#include <span>
 #include <string_view>
 
 namespace velmaris {
@@ -36,6 +37,15 @@ struct Kennwerte {
     float f_p = 0;     ///< primary energy factor of the carrier, no unit
     Kurzname name;
 };
+
+/// One characteristic value: its name and its place.
+struct Kennwertzeile {
+    std::string_view name;
+    float Kennwerte::*zeiger;
+};
+
+/// All characteristic values that are numbers, in their order.
+[[nodiscard]] std::span<const Kennwertzeile> kennwertfelder();
 
 /// Linear interpolation between (x0, y0) and (x1, y1) at x, in double, rounded to float.
 [[nodiscard]] float interpolieren(double x, double x0, double x1, double y0, double y1);

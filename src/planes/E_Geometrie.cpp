@@ -89,7 +89,8 @@ void E_Geometrie::orient_geaendert() {
     s_.p.Geaendert = 1;
     orient_sb.uebernehmen(s_.p);
     orient_zeigen();
-    monatsstrahlung_berechnen(s_.p);
+    // Whoever builds up a project works it out with the station.
+    if (s_.p.FormLoadGuard == 0) monatsstrahlung_berechnen(s_.p);
     s_.alles_berechnen();
     Picture1.neu_zeichnen();
 }

@@ -11,16 +11,11 @@
 #include "climate/planes/E_Klimaimport.h"
 #include "documents/planes/A_Report.h"
 #include "documents/planes/Drucken.h"
-#include "energy/planes/E_Energie.h"
-#include "planes/E_Daemmung.h"
-#include "planes/E_Fenster.h"
-#include "planes/E_Gebaeude.h"
-#include "planes/E_Geometrie.h"
 #include "planes/ebenenleiste.h"
+#include "planes/eingabeebenen.h"
 #include "planes/hauptmenue.h"
 #include "project/FILEIO.h"
 #include "project/projektbetrieb.h"
-#include "project/sitzung.h"
 
 #include <filesystem>
 #include <functional>
@@ -29,20 +24,13 @@
 
 namespace velmaris {
 
-/// The composition root: the one record, all planes over it, the life of the project and the recalculation.
+/// The composition root: all planes over the one record, the life of the project and the recalculation.
 /// Large; keep it on the heap.
-struct Haupt : private Projektbetrieb {
+struct Haupt : private Projektbetrieb, public Eingabeebenen {
     /// `sprache` is "d" or "e"; `programmordner` holds klima/ and Grafiken/.
     Haupt(Plattform& plattform, const std::filesystem::path& programmordner, const std::string& sprache);
 
-    Projekt p;
-    Sitzung sitzung;
-    E_Daemmung e_daemmung;
-    E_Geometrie e_geometrie;
-    E_Fenster e_fenster;
-    E_Gebaeude e_gebaeude;
     E_Klima e_klima;
-    E_Energie e_energie;
     Monatswahl monatswahl;
     A_Zoom a_zoom;
     A_Uebersicht a_uebersicht;

@@ -1,7 +1,6 @@
 #include "planes/projekt_rechnen.h"
 
 #include "project/projektdatei.h"
-#include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
@@ -18,9 +17,7 @@ std::unique_ptr<Haupt> programm_vorbereiten(Plattform& plattform, const std::fil
 std::unique_ptr<Haupt> projekt_rechnen(Plattform& plattform, const std::filesystem::path& programmordner,
                                        const std::string& sprache, const std::string& datei) {
     if (!bekannte_version(bytes_lesen(pfad(datei), hoechste_projektgroesse))) {
-        throw Dateifehler(datei,
-                          {"keine gültige Velmaris-Datendatei: die erste Zeile nennt keine bekannte Version",
-                           "not a valid Velmaris data file: line 1 names no known version"});
+        throw unbekannte_version(datei);
     }
     auto haupt = programm_vorbereiten(plattform, programmordner, sprache);
     haupt->datei.projekt_laden(datei);

@@ -16,7 +16,8 @@ namespace velmaris {
 namespace {
 
 constexpr int letzte_zeile_frueher = 67;
-constexpr int letzte_zeile_jetzt = 69;
+constexpr double infiltration_frueher = 0;
+constexpr double waermebruecken_frueher = 0.1;
 
 double zahl_des_postens(std::string_view posten) {
     const std::optional<double> zahl = zahl_pruefen(posten);
@@ -36,29 +37,20 @@ float f32_des_postens(std::string_view posten) {
     return f32(zahl);
 }
 
-void ablegen(Projekt& p, const Feldzeile& feld, std::string_view posten, const Feldsteller& stellen) {
-    if (const auto* text = std::get_if<std::string Projekt::*>(&feld.zeiger)) {
-        if (const auto fehler = klimanamensfehler(posten)) throw Laufzeitfehler(*fehler);
-        p.*(*text) = posten;
-    } else if (const auto* gleitzahl = std::get_if<float Projekt::*>(&feld.zeiger)) {
-        p.*(*gleitzahl) = f32_des_postens(posten);
-    } else if (const auto* ganzzahl = std::get_if<std::int16_t Projekt::*>(&feld.zeiger)) {
-        const std::int16_t wert = i16(zahl_des_postens(posten), feld.name);
-        if (!stellen(feld.name, wert)) p.*(*ganzzahl) = wert;
-    }
+std::string_view naechster_posten(Listenleser& leser, int zeile, const std::string& name) {
+    if (const auto posten = leser.naechster()) return *posten;
+    throw Dateifehler(name, {"die Datei endet zu früh", "the file ends too early"}, zeile,
+                      std::string(feld_der_zeile(zeile).name));
 }
 
 void zeile_lesen(Projekt& p, int zeile, Listenleser& leser, const std::string& name,
                  const Feldsteller& stellen) {
     const Feldzeile& feld = feld_der_zeile(zeile);
-    const std::string feldname(feld.name);
-    const auto posten = leser.naechster();
-    if (!posten)
-        throw Dateifehler(name, {"die Datei endet zu früh", "the file ends too early"}, zeile, feldname);
+    const std::string_view posten = naechster_posten(leser, zeile, name);
     try {
-        ablegen(p, feld, *posten, stellen);
+        posten_ablegen(p, feld, posten, stellen);
     } catch (const Laufzeitfehler& fehler) {
-        throw Dateifehler(name, fehler.grund(), leser.zeile(), feldname);
+        throw Dateifehler(name, fehler.grund(), leser.zeile(), std::string(feld.name));
     }
 }
 
@@ -78,9 +70,42 @@ std::string zeilentext(const Projekt& p, const Feldzeile& feld) {
 
 }  // namespace
 
+Dateifehler unbekannte_version(const std::string& name) {
+    return {name,
+            {"keine gültige Velmaris-Datendatei: die erste Zeile nennt keine bekannte Version",
+             "not a valid Velmaris data file: line 1 names no known version"}};
+}
+
 bool bekannte_version(std::string_view bytes) {
     const auto version = Listenleser(bytes).naechster();
     return version == version_jetzt || version == version_frueher;
+}
+
+void posten_ablegen(Projekt& p, const Feldzeile& feld, std::string_view posten, const Feldsteller& stellen) {
+    if (const auto* text = std::get_if<std::string Projekt::*>(&feld.zeiger)) {
+        if (const auto fehler = klimanamensfehler(posten)) throw Laufzeitfehler(*fehler);
+        p.*(*text) = posten;
+    } else if (const auto* gleitzahl = std::get_if<float Projekt::*>(&feld.zeiger)) {
+        p.*(*gleitzahl) = f32_des_postens(posten);
+    } else if (const auto* ganzzahl = std::get_if<std::int16_t Projekt::*>(&feld.zeiger)) {
+        const std::int16_t wert = i16(zahl_des_postens(posten), feld.name);
+        if (!stellen(feld.name, wert)) p.*(*ganzzahl) = wert;
+    }
+}
+
+Projektposten projektposten(std::string_view bytes, const std::string& name) {
+    if (!bekannte_version(bytes)) throw unbekannte_version(name);
+    const std::string text = aus_windows1252(bytes);
+    Listenleser leser(text);
+    const bool frueher = leser.naechster() == version_frueher;
+    Projektposten posten;
+    for (int zeile = 2; zeile <= (frueher ? letzte_zeile_frueher : letzte_projektzeile); ++zeile)
+        posten(zeile) = naechster_posten(leser, zeile, name);
+    if (frueher) {
+        posten(feld_suchen("infiltration")->zeile) = zahltext(infiltration_frueher);
+        posten(feld_suchen("Waermebruecken")->zeile) = zahltext(waermebruecken_frueher);
+    }
+    return posten;
 }
 
 bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, const Feldsteller& stellen) {
@@ -91,11 +116,11 @@ bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, 
     for (int zeile = 2; zeile <= letzte_zeile_frueher; ++zeile)
         zeile_lesen(p, zeile, leser, name, stellen);
     if (version == version_frueher) {
-        p.infiltration = 0;
-        p.Waermebruecken = f32(0.1);
+        p.infiltration = f32(infiltration_frueher);
+        p.Waermebruecken = f32(waermebruecken_frueher);
         return true;
     }
-    for (int zeile = letzte_zeile_frueher + 1; zeile <= letzte_zeile_jetzt; ++zeile) {
+    for (int zeile = letzte_zeile_frueher + 1; zeile <= letzte_projektzeile; ++zeile) {
         zeile_lesen(p, zeile, leser, name, stellen);
     }
     return true;
@@ -104,7 +129,7 @@ bool projekt_lesen(Projekt& p, std::string_view bytes, const std::string& name, 
 std::string projekt_schreiben(const Projekt& p) {
     std::string text(version_jetzt);
     text += "\r\n";
-    for (int zeile = 2; zeile <= letzte_zeile_jetzt; ++zeile) {
+    for (int zeile = 2; zeile <= letzte_projektzeile; ++zeile) {
         text += zeilentext(p, feld_der_zeile(zeile));
         text += "\r\n";
     }
