@@ -7,6 +7,7 @@ set(stockwerke
     "documents/report documents/print"
     "charts/planes climate/planes energy/planes documents/planes"
     "planes"
+    "studies"
     "desktop/platform" "desktop/widgets" "desktop/views desktop/help"
     "desktop console tools"
 )
@@ -55,6 +56,8 @@ foreach(quelle IN LISTS quellen)
             endif()
         elseif(zeile MATCHES "^#include <Q" AND NOT raum MATCHES "^desktop")
             list(APPEND fund "${kurz}: Qt outside desktop: ${zeile}")
+        elseif(zeile MATCHES "^#include <(oneapi/)?tbb/" AND NOT kurz STREQUAL "studies/fliessband.cpp")
+            list(APPEND fund "${kurz}: threads outside studies/fliessband.cpp: ${zeile}")
         elseif(zeile MATCHES "^#include <(CLI|nlohmann)/" AND NOT raum STREQUAL "console")
             list(APPEND fund "${kurz}: a library of the console outside console: ${zeile}")
         endif()

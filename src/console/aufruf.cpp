@@ -2,6 +2,8 @@
 
 #include "console/auftrag.h"
 #include "documents/report/report.h"
+#include "studies/studienplan.h"
+#include "toolkit/fehler.h"
 #include "toolkit/text.h"
 
 #include <CLI/CLI.hpp>
@@ -13,6 +15,8 @@
 
 namespace velmaris {
 namespace {
+
+constexpr int hoechste_kernzahl = 1024;
 
 void import_beschreiben(CLI::App& app, Importauftrag& auftrag) {
     CLI::Option* quelle = app.add_option(
@@ -55,6 +59,65 @@ void beschreiben(CLI::App& app, Auftrag& auftrag, std::string& ordner) {
     app.add_option("--ordner", ordner, "Programmordner mit klima/ / program folder with klima/");
 }
 
+/// The words of a study as they stand in the call.
+struct Studienworte {
+    std::vector<std::string> variiere;
+    std::string ergebnis{hauptergebnisse};
+    std::string teil = "1/1";
+};
+
+void studie_beschreiben(CLI::App& app, Studienauftrag& auftrag, Studienworte& worte) {
+    CLI::Option* variiere =
+        app.add_option("--variiere", worte.variiere,
+                       "NAME=VON:BIS:SCHRITT oder NAME=a,b,c; mehrere bilden alle Kombinationen / "
+                       "NAME=FROM:TO:STEP or NAME=a,b,c; several make all combinations")
+            ->allow_extra_args(false);
+    app.add_option("--plan", auftrag.plan,
+                   "CSV-Datei, deren Zeilen Eingaben setzen / CSV file whose rows set inputs")
+        ->excludes(variiere);
+    app.add_option("--ergebnis", worte.ergebnis,
+                   "Namen von --json mit Kommas dazwischen / names of --json with commas between them");
+    app.add_option("--ausgabe", auftrag.ausgabe,
+                   "Ergebnisse der Studie als CSV, - ist die Standardausgabe / results of the study as CSV");
+    app.add_option("--teil", worte.teil, "K/N: nur der K-te von N Teilen / only the K-th of N parts");
+    app.add_option("--kerne", auftrag.kerne, "Zahl der Rechenkerne, 0: alle / number of cores, 0: all")
+        ->check(CLI::Range(0, hoechste_kernzahl));
+    app.add_flag("--fortsetzen", auftrag.fortsetzen,
+                 "rechnet nur, was in der Ausgabe fehlt / calculates only what the output lacks");
+}
+
+/// True if the call asks for a study; options of one that is not asked for are a wrong call.
+bool verlangt_studie(const CLI::App& app) {
+    if (app.count("--variiere") + app.count("--plan") > 0) return true;
+    for (const char* option : {"--ergebnis", "--ausgabe", "--teil", "--kerne", "--fortsetzen"}) {
+        if (app.count(option) > 0)
+            throw CLI::ValidationError(option, "nur mit / only with --variiere, --plan");
+    }
+    return false;
+}
+
+/// Carries out a reading of words; what is wrong with them is a wrong call.
+template <class Lesen>
+auto gelesen(const char* option, const Lesen& lesen) {
+    try {
+        return lesen();
+    } catch (const Laufzeitfehler& fehler) {
+        throw CLI::ValidationError(option, fehler.text("d") + " / " + fehler.text("e"));
+    }
+}
+
+Studienauftrag studie_lesen(Studienauftrag auftrag, const Studienworte& worte) {
+    for (const std::string& text : worte.variiere)
+        auftrag.variiert.push_back(gelesen("--variiere", [&] { return Wertereihe(text); }));
+    gelesen("--variiere", [&] { return Gitterplan(auftrag.variiert).anzahl(); });
+    auftrag.ergebnisse = gelesen("--ergebnis", [&] { return ergebnisse_lesen(worte.ergebnis); });
+    auftrag.teil = gelesen("--teil", [&] { return teil_lesen(worte.teil); });
+    if (auftrag.ausgabe == standardausgabe) auftrag.ausgabe.clear();
+    if (auftrag.fortsetzen && auftrag.ausgabe.empty())
+        throw CLI::ValidationError("--fortsetzen", "braucht eine Datei / needs a file: --ausgabe");
+    return auftrag;
+}
+
 /// No option is taken for the value of the option before it.
 void werte_verlangen(CLI::App& app) {
     const CLI::Validator wert(
@@ -87,7 +150,7 @@ std::filesystem::path ort(const std::string& datei) {
 }
 
 std::filesystem::path ort_der_tabelle(const std::string& datei) {
-    return datei == standardausgabe ? std::filesystem::path() : ort(datei);
+    return datei.empty() || datei == standardausgabe ? std::filesystem::path() : ort(datei);
 }
 
 /// The outputs that are made of a project.
@@ -99,6 +162,7 @@ std::vector<Ziel> ausgaben(const Auftrag& auftrag) {
     if (auftrag.csv_stunden) ziele.push_back({"--csv-stunden", ort_der_tabelle(*auftrag.csv_stunden)});
     if (auftrag.temperaturen) ziele.push_back({"--temperaturen", ort(*auftrag.temperaturen)});
     if (auftrag.bericht) ziele.push_back({"--bericht", ort(*auftrag.bericht)});
+    if (auftrag.studie) ziele.push_back({"--ausgabe", ort_der_tabelle(auftrag.studie->ausgabe)});
     return ziele;
 }
 
@@ -109,6 +173,8 @@ void ziele_pruefen(const Auftrag& auftrag) {
         belegt.push_back({"PROJEKT", ort(projekt)});
     if (auftrag.speichern) belegt.push_back({"--speichern", ort(*auftrag.speichern)});
     if (auftrag.neu) belegt.push_back({"--neu", ort(*auftrag.neu)});
+    if (auftrag.studie && !auftrag.studie->plan.empty())
+        belegt.push_back({"--plan", ort(auftrag.studie->plan)});
     for (const Ziel& ziel : ausgaben(auftrag)) {
         const auto treffer = std::ranges::find(belegt, ziel.ort, &Ziel::ort);
         if (treffer != belegt.end()) {
@@ -119,7 +185,18 @@ void ziele_pruefen(const Auftrag& auftrag) {
     }
 }
 
+/// A study takes one project and gives nothing but its table.
+void studie_pruefen(const Auftrag& auftrag) {
+    const bool anderes = auftrag.json || auftrag.csv || auftrag.csv_stunden || nur_eines(auftrag);
+    if (auftrag.projekte.size() != 1 || anderes) {
+        throw CLI::ValidationError("--variiere, --plan",
+                                   "gelten einem einzigen Projekt und geben nur ihre Tabelle aus / take one "
+                                   "project and give their table alone");
+    }
+}
+
 void pruefen(const Auftrag& auftrag) {
+    if (auftrag.studie) studie_pruefen(auftrag);
     const bool anderes = auftrag.neu || auftrag.klimaimport;
     if (auftrag.projekte.empty() &&
         (!anderes || auftrag.json || auftrag.csv || auftrag.csv_stunden || nur_eines(auftrag))) {
@@ -147,13 +224,17 @@ int aufrufen(int argc, const char* const* argv, std::ostream& aus, std::ostream&
         "velmaris_rechnen - Heiz- und Kühlenergie eines Gebäudes / heating and cooling energy of a building");
     Auftrag auftrag;
     Importauftrag klimaimport;
+    Studienauftrag studie;
+    Studienworte studienworte;
     std::string ordner;
     beschreiben(app, auftrag, ordner);
     import_beschreiben(app, klimaimport);
+    studie_beschreiben(app, studie, studienworte);
     werte_verlangen(app);
     try {
         app.parse(argc, argv);
         if (app.count("--import") > 0) auftrag.klimaimport = klimaimport;
+        if (verlangt_studie(app)) auftrag.studie = studie_lesen(studie, studienworte);
         pruefen(auftrag);
     } catch (const CLI::ParseError& grund) {
         return app.exit(grund, aus, fehler) == 0 ? alles_gut : falscher_aufruf;

@@ -11,6 +11,7 @@
 #include "planes/dokumentquelle.h"
 #include "planes/projekt_rechnen.h"
 #include "project/projektdatei.h"
+#include "studies/fortschritt.h"
 #include "toolkit/fehler.h"
 #include "toolkit/konsolenplattform.h"
 #include "toolkit/text.h"
@@ -100,6 +101,20 @@ class Ausfuehrung {
         });
     }
 
+    bool studie_rechnen(const Studienauftrag& studie) {
+        bool gut = true;
+        const std::string& projekt = a_.projekte.front();
+        const Studienumgebung umgebung{
+            .projekt = projekt,
+            .programmordner = a_.programmordner,
+            .datenordner = datenordner_bestimmen(a_.programmordner, plattform_.datenordner()),
+            .sprache = a_.sprache,
+            .aus = aus_,
+            .fehler = fehler_,
+            .fortschritt = fehler_auf_terminal()};
+        return versuche(projekt, [&] { gut = velmaris::studie_rechnen(studie, umgebung); }) && gut;
+    }
+
     /// A table without a project that could be calculated is not written; an older file stays.
     bool tabellen_schreiben() {
         bool gut = true;
@@ -157,8 +172,12 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
     bool gut = true;
     if (auftrag.klimaimport) gut &= ausfuehrung.klima_importieren(*auftrag.klimaimport);
     if (auftrag.neu) gut &= ausfuehrung.neues_schreiben(*auftrag.neu);
-    for (const std::string& datei : auftrag.projekte)
-        gut &= ausfuehrung.rechnen(datei);
+    if (auftrag.studie) {
+        gut &= ausfuehrung.studie_rechnen(*auftrag.studie);
+    } else {
+        for (const std::string& datei : auftrag.projekte)
+            gut &= ausfuehrung.rechnen(datei);
+    }
     if (auftrag.json && !auftrag.projekte.empty()) gut &= ausfuehrung.json_schreiben();
     gut &= ausfuehrung.tabellen_schreiben();
     gut &= ausfuehrung.abschliessen();

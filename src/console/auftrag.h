@@ -1,5 +1,7 @@
 #pragma once
 
+#include "studies/studie.h"
+
 #include <filesystem>
 #include <iosfwd>
 #include <optional>
@@ -31,6 +33,7 @@ struct Auftrag {
     std::optional<std::string> bericht;        ///< all pages of the report as Rich Text
     std::optional<int> berichtsseite;          ///< 1..7: that page as text, in place of the summary
     std::optional<Importauftrag> klimaimport;  ///< done before all else
+    std::optional<Studienauftrag> studie;      ///< over the one project, in place of its summary
     std::filesystem::path programmordner;
 };
 
