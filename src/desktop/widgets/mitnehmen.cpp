@@ -87,7 +87,6 @@ class Kontextmenue : public QObject {
         auto* menue = new QMenu(&fenster_);
         schrift_anpassen(*menue);
         menue->setAttribute(Qt::WA_DeleteOnClose);
-        schrift_anpassen(*menue);
         for (const Eintrag& eintrag : eintraege_) {
             QAction* aktion = menue->addAction(qtext(mitnahmetext(eintrag.was).in(sprache_)));
             QObject::connect(aktion, &QAction::triggered, &fenster_,
