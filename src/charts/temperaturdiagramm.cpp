@@ -29,6 +29,12 @@ struct Plan {
     double y_faktor;
 
     [[nodiscard]] double x(double tag) const { return X_(tag, links, x_faktor); }
+
+    /// The same between the pixels, for surfaces with finer ones.
+    [[nodiscard]] double x_genau(double tag) const { return links + x_faktor * tag; }
+    [[nodiscard]] double y_genau(double temperatur) const {
+        return unten + achse.unten * y_faktor - y_faktor * temperatur;
+    }
     [[nodiscard]] double y(double temperatur) const {
         return Y_(temperatur, unten + achse.unten * y_faktor, y_faktor);
     }
@@ -106,11 +112,11 @@ void temperaturachse_zeichnen(Zeichenflaeche& bild, const Plan& plan) {
 
 /// The curve of the month: each hour is joined to the one before by the filled box between the two points.
 void kurve(Zeichenflaeche& bild, const Plan& plan, const Stundenreihe& reihe, int monat, Farbe farbe) {
-    double x_vorher = plan.x(1.0 / stunden);
-    double y_vorher = plan.y(reihe(monat, 1, 1));
+    double x_vorher = plan.x_genau(1.0 / stunden);
+    double y_vorher = plan.y_genau(reihe(monat, 1, 1));
     fuer_jede_stunde_des_monats(monat, 1, [&](int m, int d, int h, int) {
-        const double x = plan.x(d - 1 + static_cast<double>(h) / stunden);
-        const double y = plan.y(reihe(m, d, h));
+        const double x = plan.x_genau(d - 1 + static_cast<double>(h) / stunden);
+        const double y = plan.y_genau(reihe(m, d, h));
         bild.flaeche(x_vorher, y_vorher, x, y, farbe);
         x_vorher = x;
         y_vorher = y;

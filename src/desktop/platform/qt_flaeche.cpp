@@ -147,8 +147,14 @@ int QtFlaeche::mitte(int logisch) const {
 QRect QtFlaeche::geraet(Punkt a, Punkt b) const {
     const auto [links, rechts] = std::minmax(a.x, b.x);
     const auto [oben, unten] = std::minmax(a.y, b.y);
-    const QPoint anfang(kante(links), kante(oben));
-    const QPoint ende(kante(rechts + 1) - 1, kante(unten + 1) - 1);
+    return zwischen(links, oben, rechts + 1.0, unten + 1.0);
+}
+
+/// The device pixels between edges in logical pixels, inside the image.
+QRect QtFlaeche::zwischen(double links, double oben, double rechts, double unten) const {
+    const auto ganz = [this](double kante) { return static_cast<int>(std::lround(kante * verhaeltnis_)); };
+    const QPoint anfang(ganz(links), ganz(oben));
+    const QPoint ende(ganz(rechts) - 1, ganz(unten) - 1);
     return QRect(anfang, ende) & bild_.rect();
 }
 
@@ -159,8 +165,11 @@ void QtFlaeche::beginne() {
 }
 
 void QtFlaeche::fuelle(Punkt a, Punkt b, Farbe farbe) {
+    fuelle(geraet(a, b), farbe);
+}
+
+void QtFlaeche::fuelle(const QRect& feld, Farbe farbe) {
     beginne();
-    const QRect feld = geraet(a, b);
     for (int y = feld.top(); y <= feld.bottom(); ++y) {
         auto* zeile = reinterpret_cast<QRgb*>(bild_.scanLine(y));
         std::fill_n(zeile + feld.left(), feld.width(), rgb(farbe));
@@ -315,7 +324,15 @@ void QtFlaeche::kasten(double x1, double y1, double x2, double y2, Farbe farbe) 
 }
 
 void QtFlaeche::flaeche(double x1, double y1, double x2, double y2, Farbe farbe) {
-    if (zahlen(x1, y1, x2, y2)) fuelle({pixel(x1), pixel(y1)}, {pixel(x2), pixel(y2)}, farbe);
+    if (!zahlen(x1, y1, x2, y2)) return;
+    if (verhaeltnis_ == 1) {
+        fuelle({pixel(x1), pixel(y1)}, {pixel(x2), pixel(y2)}, farbe);
+        return;
+    }
+    const auto ort = [](double k) { return std::clamp(k, -weitester_pixel, weitester_pixel); };
+    const auto [links, rechts] = std::minmax({ort(x1), ort(x2)});
+    const auto [oben, unten] = std::minmax({ort(y1), ort(y2)});
+    fuelle(zwischen(links, oben, rechts + 1, unten + 1), farbe);
 }
 
 void QtFlaeche::kreis(double cx, double cy, double radius, Farbe rand, std::optional<Farbe> fuellung) {

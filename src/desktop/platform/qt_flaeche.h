@@ -14,9 +14,10 @@
 namespace velmaris {
 
 /// The chart surface over an image of the screen's resolution. Its pixels are logical ones: at a device pixel
-/// ratio of 2 each is a square of four, and round and slanted shapes use the finer grid. Shapes are solid,
-/// with no half-tones at their edges, but for slanted lines: these are smooth, and parallel ones of one
-/// colour that lie beside each other close to a solid area. A coordinate that is not a number draws nothing.
+/// ratio of 2 each is a square of four; areas between two of them, round and slanted shapes use the finer
+/// grid, so that curves and bars have the steps of the screen. Shapes are solid, with no half-tones at their
+/// edges, but for slanted lines: these are smooth, and parallel ones of one colour that lie beside each other
+/// close to a solid area. A coordinate that is not a number draws nothing.
 class QtFlaeche final : public Zeichenflaeche {
   public:
     /// `groesse` in logical pixels; `verhaeltnis` is the device pixel ratio. The surface starts cleared.
@@ -70,7 +71,9 @@ class QtFlaeche final : public Zeichenflaeche {
     [[nodiscard]] int geraetespalte(int logisch, double rechts_davon) const;
     [[nodiscard]] QRect geraet(Punkt a, Punkt b) const;
     void beginne();
+    [[nodiscard]] QRect zwischen(double links, double oben, double rechts, double unten) const;
     void fuelle(Punkt a, Punkt b, Farbe farbe);
+    void fuelle(const QRect& feld, Farbe farbe);
     template <typename Innen, typename Zeilenspanne>
     void fuelle_wo(double cx, double cy, double radius, Farbe farbe, Innen innen, Zeilenspanne spanne);
     void gerade(Punkt a, Punkt b, Farbe farbe, int dicke);

@@ -149,6 +149,19 @@ TEST(QtFlaeche, IstAufFeinemSchirmGleichGross) {
     EXPECT_EQ(vergleich, grob.bild().scaled(60, 40));
 }
 
+/// From (0.5, 0.25) to (1.25, 1), a unit thick: at a ratio of 4 the pixels (2, 1) to (5 + 3, 4 + 3).
+TEST(QtFlaeche, EineKurveHatDieStufenDesSchirms) {
+    for (const int verhaeltnis : {1, 4}) {
+        QtFlaeche kurve(QSize(4, 3), verhaeltnis, farben::weiss);
+        QImage erwartet = kurve.bild();
+        const QRect feld = verhaeltnis == 1 ? QRect(0, 0, 2, 2) : QRect(2, 1, 7, 7);
+        for (int i = 0; i < feld.width() * feld.height(); ++i)
+            erwartet.setPixel(feld.left() + i % feld.width(), feld.top() + i / feld.width(), qRgb(0, 0, 0));
+        kurve.flaeche(1.25, 0.25, 0.5, 1, s);
+        EXPECT_EQ(kurve.bild(), erwartet) << verhaeltnis;
+    }
+}
+
 TEST(QtFlaeche, TextHatSeineSchriftUndSeinenHof) {
     QtFlaeche bild(QSize(60, 60), 1, farben::schwarz);
     const auto zeilen_mit = [&](char farbe) {
