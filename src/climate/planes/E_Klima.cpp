@@ -105,7 +105,8 @@ E_Klima::E_Klima(Sitzung& sitzung, std::function<void()> wetter_laden)
                  .karte = Picture3,
                  .liste = Klimaregionwahl2,
                  .MausRegion = MausRegion,
-                 .farbe = kartenfarbe} {
+                 .farbe = kartenfarbe,
+                 .in_sicht = [this](const Station& station) { station_in_sicht(station); }} {
     ebene.zeige(false);
     Label2.zeige(false);
     beschriften<Anzeige>(ebene.name, s_.p.Sprache,
@@ -337,14 +338,39 @@ bool E_Klima::in_region(double x, double y, int region) const {
     return farbe && farbe == kartenfarbe(Picture1, bezug.x, bezug.y);
 }
 
-void E_Klima::karte_bewegt(double x, double y) {
-    Label2.setze({x, y + hinweis_unter_dem_zeiger});
+Kartenweg E_Klima::weg_der_regionen() {
+    return Kartenweg(
+        {.orte = [] { return std::vector<Kartenpunkt>(bezugspunkte.begin(), bezugspunkte.end()); },
+         .gewaehlt = [this] { return Klimaregionwahl.index(); },
+         .name = [](int stelle) { return std::string(klimaregion(stelle + 1).text); },
+         .zeigen = [this](int stelle) { region_andeuten(stelle); },
+         .waehlen = [this](int stelle) { Klimaregionwahl.setze(stelle); }});
+}
+
+void E_Klima::region_andeuten(int stelle) {
+    hinweis_legen(stelle < 0 ? Kartenpunkt{} : bezugspunkte[static_cast<std::size_t>(stelle)]);
+    if (stelle < 0) return;
+    region_nennen(stelle + 1);
+    Label2.zeige(true);
+}
+
+/// Puts the hint, hidden still, below a place of the map.
+void E_Klima::hinweis_legen(Kartenpunkt ort) {
+    Label2.setze({ort.x, ort.y + hinweis_unter_dem_zeiger});
     Label2.zeige(false);
     s_.plattform.zeitgeber_stoppen(Timer1);
+}
+
+void E_Klima::region_nennen(int region) {
+    const Klimaregion& texte = klimaregion(region);
+    Label2.schreibe(std::string(texte.hinweis_1) + "\r" + std::string(texte.hinweis_2));
+}
+
+void E_Klima::karte_bewegt(double x, double y) {
+    hinweis_legen({x, y});
     for (int region = 1; region <= klimaregionen; ++region) {
         if (!in_region(x, y, region)) continue;
-        const Klimaregion& texte = klimaregion(region);
-        Label2.schreibe(std::string(texte.hinweis_1) + "\r" + std::string(texte.hinweis_2));
+        region_nennen(region);
         s_.plattform.zeitgeber_starten(Timer1, hinweis_nach_millisekunden, [this] { hinweis_ein(); });
         return;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "climate/planes/E_Zoom_Klima.h"
+#include "climate/planes/kartenweg.h"
 #include "climate/planes/stationskarte.h"
 #include "climate/stationslisten.h"
 #include "project/klimabereich.h"
@@ -113,6 +114,8 @@ struct E_Klima {
     void uebernehmen(const std::string& datei);
     void karte_bewegt(double x, double y);
     void karte_geklickt(double x, double y);
+    void hinweis_legen(Kartenpunkt ort);
+    void region_nennen(int region);
     void hinweis_ein();
     void plz_suchen();
     void melde(const std::string& text);
@@ -126,6 +129,15 @@ struct E_Klima {
     std::string gewarnt_vor_;  ///< the station whose warning was the last one
     Stationskarte europakarte_;
     Stationskarte weltkarte_;
+
+    [[nodiscard]] Kartenweg weg_der_regionen();
+    void region_andeuten(int stelle);
+
+  public:
+    /// The ways over the maps by keyboard: `Picture1`, `Picture2` and `Picture3`.
+    Kartenweg regionenweg = weg_der_regionen();
+    Kartenweg europaweg = europakarte_.weg();
+    Kartenweg weltweg = weltkarte_.weg();
 };
 
 }  // namespace velmaris

@@ -29,6 +29,9 @@ struct E_Zoom_Klima {
 
     Auswahlliste& ziel_;
     Stationskarte karte_;
+
+  public:
+    Kartenweg weg = karte_.weg();  ///< the way over `Picture1` by keyboard
 };
 
 }  // namespace velmaris

@@ -57,6 +57,27 @@ void Stationskarte::maus_geklickt(double x, double y) const {
     if (treffer >= 0) liste.setze(treffer);
 }
 
+Kartenweg Stationskarte::weg() const {
+    const auto orte = [this] {
+        std::vector<Kartenpunkt> alle;
+        for (const Station& station : stationen)
+            alle.push_back(ort(station));
+        return alle;
+    };
+    return Kartenweg({.orte = orte,
+                      .gewaehlt = [this] { return liste.index(); },
+                      .name = [this](int stelle) { return stationen[static_cast<std::size_t>(stelle)].name; },
+                      .zeigen = [this](int stelle) { zeigen(stelle); },
+                      .waehlen = [this](int stelle) { liste.setze(stelle); }});
+}
+
+void Stationskarte::zeigen(int stelle) const {
+    if (stelle < 0) return MausRegion.schreibe({});
+    const Station& station = stationen[static_cast<std::size_t>(stelle)];
+    MausRegion.schreibe(station.name);
+    if (in_sicht) in_sicht(station);
+}
+
 const Station* Stationskarte::ausgeloste_station(double x, double y) const {
     const auto zahl = static_cast<double>(stationen.size());
     for (int i = 0; i < ziehungen && !stationen.empty(); ++i) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "climate/planes/kartenweg.h"
 #include "climate/stationslisten.h"
 #include "toolkit/felder.h"
 #include "toolkit/plattform.h"
@@ -27,6 +28,9 @@ struct Stationskarte {
     Anzeige& MausRegion;       ///< name of the station under the pointer
     const Kartenfarbe& farbe;  ///< may be unset
 
+    /// Brings a station into view, where the map is larger than its frame.
+    std::function<void(const Station&)> in_sicht = {};
+
     /// Takes over drawing and pointer events of the map.
     void verbinden();
 
@@ -41,7 +45,12 @@ struct Stationskarte {
     /// before the one that `MausRegion` shows.
     void maus_geklickt(double x, double y) const;
 
+    /// The way over the stations by keyboard; goes on using this object. Shows the name of the station
+    /// pointed at, and takes one on the list.
+    [[nodiscard]] Kartenweg weg() const;
+
   private:
+    void zeigen(int stelle) const;
     [[nodiscard]] Kartenpunkt ort(const Station& station) const;
     [[nodiscard]] bool nahe(const Station& station, double x, double y, double reichweite) const;
     [[nodiscard]] std::optional<Farbe> farbe_bei(double x, double y) const;

@@ -4,6 +4,7 @@
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebene.h"
+#include "desktop/widgets/kartenwahl.h"
 #include "desktop/widgets/mitnehmen.h"
 #include "desktop/widgets/nebenfenster.h"
 #include "desktop/widgets/schwebeschild.h"
@@ -34,6 +35,7 @@ void rahmen_mit_liste(Anzeige& titel, Auswahlliste& liste, const Ebenenbau& bau,
 void deutschland(E_Klima& e, const Ebenenbau& bau, QGroupBox* karte) {
     Bildflaeche* bild = setze(bau.bild(e.Picture1), karte, kartenrand, karten_oben, deutschlandgroesse.breite,
                               deutschlandgroesse.hoehe);
+    new Kartenwahl(e.regionenweg, *bild, bau.mittel().wache);
     auto* hinweis = new Schwebeschild(bild);
     bau.mittel().binder.binde(*hinweis, e.Label2);
     QGroupBox* rahmen = setze(bau.rahmen(e.Frame_plz), karte, 240, karten_oben, 95, 78);
@@ -44,11 +46,15 @@ void deutschland(E_Klima& e, const Ebenenbau& bau, QGroupBox* karte) {
 
 void europa_und_welt(E_Klima& e, const Ebenenbau& bau, QGroupBox* karte) {
     constexpr int europa_links = 53;
-    setze(bau.bild(e.Picture2), karte, europa_links, karten_oben, europagroesse.breite, europagroesse.hoehe);
+    Bildflaeche* europa = setze(bau.bild(e.Picture2), karte, europa_links, karten_oben, europagroesse.breite,
+                                europagroesse.hoehe);
+    new Kartenwahl(e.europaweg, *europa, bau.mittel().wache);
     auto* ausschnitt = new QWidget(karte);
     lege(*ausschnitt, QRectF(kartenrand, karten_oben, E_Klima::rahmenbreite, weltgroesse.hoehe));
     bau.mittel().binder.binde(*ausschnitt, e.picture3f);
-    bau.bild(e.Picture3)->setParent(ausschnitt);
+    Bildflaeche* welt = bau.bild(e.Picture3);
+    welt->setParent(ausschnitt);
+    new Kartenwahl(e.weltweg, *welt, bau.mittel().wache);
     e.Picture3.ansicht();
     setze(bau.leiste(e.HScroll1, e.Frame_Karte.text()), karte, kartenrand, karten_oben + 248,
           E_Klima::rahmenbreite, mass::leiste);
@@ -113,6 +119,7 @@ QWidget* zoom_klima_ansicht(E_Zoom_Klima& e, const Ansichtsmittel& mittel, QWidg
     auto* spalte = new QVBoxLayout(fenster);
     Bildflaeche* karte = bau.bild(e.Picture1);
     karte->setFixedSize(QSize(weltgroesse.breite, weltgroesse.hoehe) * weltvergroesserung);
+    new Kartenwahl(e.weg, *karte, mittel.wache);
     spalte->addWidget(karte);
     auto* reihe = new QHBoxLayout;
     reihe->addWidget(bau.liste(e.Klimaregionwahl2, e.ebene.text()), 1);
