@@ -3,6 +3,7 @@
 #include "tests/desktop/programmprobe.h"
 
 #include <QAccessible>
+#include <QRadioButton>
 
 namespace velmaris {
 namespace {
@@ -54,9 +55,9 @@ TEST_F(BedienbarkeitTest, TabulatorGehtVonObenNachUnten) {
                 << utf8(davor.objectName()) << " to " << utf8(teil.objectName());
         }
     });
-    // geometry 8, windows 14, insulation 13, building 13, climate 2, energy 3, overview: chart and 12 months,
+    // geometry 8, windows 14, insulation 13, building 13, climate 3, energy 3, overview: chart and 12 months,
     // 28 other charts with values and 6 frames of figures
-    EXPECT_EQ(besucht, 100U);
+    EXPECT_EQ(besucht, 101U);
     const QStringList namen{
         such("Haupt", "E_Daemmung").accessibleName(), such("E_Geometrie", "l_sb").accessibleName(),
         such("E_Daemmung", "kwn_sb").accessibleName(), such("E_Klima", "Image1").accessibleName()};
@@ -70,7 +71,7 @@ TEST_F(BedienbarkeitTest, FokusLiegtInDerGewaehltenEbeneUndBleibtBeiTastenInDerL
     for (const auto& [ebene, erstes, eintrag] : {std::tuple{"E_Fenster", "fn_sb", "mnuWinFens"},
                                                  {"E_Daemmung", "kwn_sb", "mnuWinDaem"},
                                                  {"E_Gebaeude", "Troom_sb", "mnuWinGeb"},
-                                                 {"E_Klima", "Option1", "mnuWinKlima"},
+                                                 {"E_Klima", "Option2", "mnuWinKlima"},
                                                  {"E_Energie", "Command1", "mnuWinEnerg"},
                                                  {"E_Geometrie", "h_sb", "mnuWinGeo"},
                                                  {"A_Klima", "Frame1", ""},
@@ -98,6 +99,61 @@ TEST_F(BedienbarkeitTest, FokusLiegtInDerGewaehltenEbeneUndBleibtBeiTastenInDerL
     EXPECT_EQ(f1(), "A_Uebersicht") << "the plane that had the focus last";
     QTest::mouseClick(&such("A_Uebersicht", "UeberGrafik"), Qt::LeftButton);
     EXPECT_EQ(fokus(), "A_Uebersicht") << "a click on a chart is a click on its plane";
+}
+
+/// Tab, the bar and the menu come to the option that is set, not to the first one.
+TEST_F(BedienbarkeitTest, DerFokusKommtZurGewaehltenOption) {
+    starte("d");
+    haupt().e_klima.Option.setze(3);
+    haupt().e_daemmung.Waermebruecken_opt.setze(1);
+    menue("mnuWinKlima").trigger();
+    EXPECT_EQ(fokus(), "Option3");
+    taste(Qt::Key_Left);
+    EXPECT_EQ(p().Klimaauswahl, 2);
+    menue("mnuWinGeo").trigger();
+    menue("mnuWinKlima").trigger();
+    EXPECT_EQ(fokus(), "Option2");
+    klicke("E_Menue", "Daemmung");
+    std::string optionen;
+    for (const QWidget* teil : tabulatorweg(such("Haupt", "E_Daemmung")))
+        if (qobject_cast<const QRadioButton*>(teil) != nullptr) optionen += utf8(teil->objectName());
+    EXPECT_EQ(optionen, "Waermebruecken_opt1");
+}
+
+/// The region or station that the keys lead to is marked, told and taken by Enter.
+TEST_F(BedienbarkeitTest, KartenLassenSichMitTastenBedienen) {
+    starte("d");
+    haupt().e_klima.Option.setze(1);
+    klicke("E_Menue", "Klima");
+    const auto karte = [&](const char* ebene, const char* name) -> QWidget& {
+        QWidget& bild = such(ebene, name);
+        EXPECT_TRUE(aktiv(*bild.window()));
+        bild.setFocus(Qt::TabFocusReason);
+        EXPECT_TRUE(bild.hasFocus());
+        return bild;
+    };
+    QWidget& land = karte("E_Klima", "Picture1");
+    const QImage vorher = land.grab().toImage();
+    taste(Qt::Key_Down);
+    EXPECT_NE(land.grab().toImage(), vorher);
+    EXPECT_TRUE(land.accessibleDescription().contains("6: N")) << utf8(land.accessibleDescription());
+    EXPECT_EQ(haupt().e_klima.Klimaregionwahl.index(), 3) << "region 6 is pointed at, 4 is chosen";
+    const auto& liste = such<QComboBox>("E_Klima", "Klimaregionwahl2");
+    for (const auto& [option, bild] : {std::pair{2, "Picture2"}, {3, "Picture3"}}) {
+        haupt().e_klima.Option.setze(option);
+        karte("E_Klima", bild);
+        for (const auto& [taste_dahin, index] : {std::pair{Qt::Key_Home, 0}, {Qt::Key_PageDown, 1}}) {
+            taste(taste_dahin);
+            taste(Qt::Key_Return);
+            EXPECT_EQ(liste.currentIndex(), index) << bild;
+        }
+    }
+    klicke("E_Klima", "Image1");
+    karte("E_Zoom_Klima", "Picture1");
+    taste(Qt::Key_Home);
+    taste(Qt::Key_Space);
+    EXPECT_EQ(such<QComboBox>("E_Zoom_Klima", "Klimaregionwahl2").currentIndex(), 0);
+    EXPECT_EQ(liste.currentIndex(), 1) << "not before the button takes it over";
 }
 
 TEST_F(BedienbarkeitTest, TemperaturdiagrammOeffnetDenZoomMitDerTaste) {

@@ -83,11 +83,14 @@ void zeile_zeigen(QLineEdit& zeile, const QString& text) {
     zeile.setCursorPosition(static_cast<int>(std::max<qsizetype>(text.size() - dahinter, 0)));
 }
 
+/// Tab comes to the option that is set; without one it comes to each.
 void optionen_zeigen(std::span<QAbstractButton* const> knoepfe, const Optionsgruppe& gruppe) {
     for (int i = 0; i < static_cast<int>(knoepfe.size()); ++i) {
         QAbstractButton& knopf = *knoepfe[static_cast<std::size_t>(i)];
         const QSignalBlocker still(knopf);
-        knopf.setChecked(gruppe.gesetzt(gruppe.erste() + i));
+        const bool gesetzt = gruppe.gesetzt(gruppe.erste() + i);
+        knopf.setChecked(gesetzt);
+        knopf.setFocusPolicy(gesetzt || !gruppe.gesetzt() ? Qt::StrongFocus : Qt::ClickFocus);
         grundzustand(knopf, gruppe);
     }
 }
