@@ -3,6 +3,7 @@
 #include "desktop/platform/massstab.h"
 #include "desktop/platform/stil.h"
 
+#include <QAbstractScrollArea>
 #include <QDialogButtonBox>
 #include <QPainter>
 #include <QPainterPath>
@@ -19,6 +20,23 @@ void rundes_feld(QPainter& maler, const QRect& feld, QColor grund, QColor rand) 
     maler.setPen(rand);
     maler.setBrush(grund);
     maler.drawRoundedRect(QRectF(feld).adjusted(0.5, 0.5, -0.5, -0.5), rundung, rundung);
+}
+
+/// What the base style draws with the focus as without it: buttons that Enter presses from anywhere, and
+/// texts to be scrolled.
+bool zeigt_fokus_kaum(QStyle::PrimitiveElement element, const QWidget* fenster) {
+    const bool text = qobject_cast<const QAbstractScrollArea*>(fenster) != nullptr;
+    return element == QStyle::PE_PanelButtonCommand || (element == QStyle::PE_Frame && text);
+}
+
+void fokusring(QPainter& maler, const QRect& feld, double massstab) {
+    const double strich = 1.5 * massstab;
+    maler.save();
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(QPen(QColor(stilfarben::betonung), strich));
+    maler.setBrush(Qt::NoBrush);
+    maler.drawRoundedRect(QRectF(feld).adjusted(strich, strich, -strich, -strich), rundung, rundung);
+    maler.restore();
 }
 
 /// A small triangle in the middle of a button, that points the way the button moves.
@@ -133,6 +151,8 @@ void Hausstil::drawPrimitive(PrimitiveElement element, const QStyleOption* optio
     }
     if (element != PE_FrameGroupBox) {
         QProxyStyle::drawPrimitive(element, option, maler, fenster);
+        if (option->state.testFlag(State_HasFocus) && zeigt_fokus_kaum(element, fenster))
+            fokusring(*maler, option->rect, massstab_von(fenster));
         return;
     }
     maler->save();

@@ -49,9 +49,10 @@ void Ebenenknopf::paintEvent(QPaintEvent*) {
         grund = QColor(stilfarben::griff);
     QPainter maler(this);
     maler.setRenderHint(QPainter::Antialiasing);
-    maler.setPen(hasFocus() ? betonung : QColor(stilfarben::tafelrand));
+    const qreal strich = hasFocus() ? 2 : 1, mitte = strich / 2;
+    maler.setPen(QPen(hasFocus() ? betonung : QColor(stilfarben::tafelrand), strich));
     maler.setBrush(grund);
-    maler.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), rundung, rundung);
+    maler.drawRoundedRect(QRectF(rect()).adjusted(mitte, mitte, -mitte, -mitte), rundung, rundung);
     if (betont_) {
         maler.setPen(Qt::white);
         maler.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), rundung, rundung);
