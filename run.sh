@@ -5,7 +5,7 @@ set -euo pipefail
 aufruf=$PWD
 cd "$(dirname "$(readlink -f "$0")")"
 . cmake/pakete.sh
-pakete_holen $PAKETE_PROGRAMM
+pakete_holen $PAKETE_PROGRAMM ${WAYLAND_DISPLAY:+$PAKETE_WAYLAND}
 cmake --preset release -DVELMARIS_TESTS=OFF -DVELMARIS_BENCH=OFF -B build/run
 cmake --build build/run
 projekt=${1:-samples/niedrigenergiehaus.vel}

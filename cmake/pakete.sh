@@ -1,5 +1,7 @@
 # The distribution's packages that the house is built from (Debian 12, Ubuntu 24.04), and how to get them.
 PAKETE_PROGRAMM="cmake ninja-build g++ pkg-config libcli11-dev nlohmann-json3-dev libtbb-dev qt6-base-dev qt6-qpa-plugins qt6-translations-l10n fonts-liberation fp-utils libchm-dev"
+# Where the desktop speaks Wayland, so that the program need not go through its X server.
+PAKETE_WAYLAND="qt6-wayland"
 PAKETE_TESTS="libgtest-dev libgmock-dev libbenchmark-dev poppler-utils python3 parallel"
 # An office that opens the saved report and the tables; about 300 MB, so it is fetched only where tests run unattended.
 PAKETE_TESTS_CI="libreoffice-writer-nogui libreoffice-calc-nogui"
