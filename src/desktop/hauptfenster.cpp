@@ -5,6 +5,7 @@
 #include "desktop/platform/stil.h"
 #include "desktop/views/ansichten.h"
 #include "desktop/widgets/ebenenbalken.h"
+#include "desktop/widgets/zugang.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -62,6 +63,7 @@ Hauptfenster::Hauptfenster(Haupt& haupt, const Ansichtsmittel& mittel)
       flaeche_(new QWidget(new QWidget(this))),
       ebenenfokus_(*flaeche_),
       massstab_(*this) {
+    zugang_einrichten();
     setObjectName(QStringLiteral("Haupt"));
     setAcceptDrops(true);
     setCentralWidget(flaeche_->parentWidget());

@@ -66,6 +66,11 @@ const Scrollzeile& zeile_suchen(std::string_view name) {
     return *treffer;
 }
 
+std::string einheit_dahinter(std::string_view einheit) {
+    const bool eng = einheit.empty() || einheit == "°";
+    return (eng ? "" : " ") + std::string(einheit);
+}
+
 }  // namespace
 
 double Scrollzeile::gezeigt(int position) const {
@@ -82,9 +87,12 @@ std::string Scrollzeile::bereich(std::string_view sprache) const {
            zahl(aufwaerts ? maximum : minimum);
 }
 
+std::string Scrollzeile::zahl_mit_einheit(int position) const {
+    return zahl(position) + einheit_dahinter(einheit);
+}
+
 std::string Scrollzeile::bereich_mit_einheit(std::string_view sprache) const {
-    const bool eng = einheit.empty() || einheit == "°";
-    return bereich(sprache) + (eng ? "" : " ") + std::string(einheit);
+    return bereich(sprache) + einheit_dahinter(einheit);
 }
 
 std::span<const Scrollzeile> scrollzeilen() {

@@ -29,6 +29,9 @@ struct Scrollzeile {
     /// That number by the display's pattern.
     [[nodiscard]] std::string zahl(int position) const;
 
+    /// The same with its unit.
+    [[nodiscard]] std::string zahl_mit_einheit(int position) const;
+
     /// The range of what is shown, "2.0 to 50.0" or "2,0 bis 50,0", and the same with its unit.
     [[nodiscard]] std::string bereich(std::string_view sprache) const;
     [[nodiscard]] std::string bereich_mit_einheit(std::string_view sprache) const;

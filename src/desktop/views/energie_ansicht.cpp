@@ -59,6 +59,12 @@ QWidget* versorgung(E_Energie& e, const Ebenenbau& bau, QWidget* ebene, Auswahlt
         knopf->setAccessibleName(schildtext(wahl.wort.text()));
         knopf->setFixedSize(mass::knopf, mass::knopf);
         tabelle->addWidget(knopf, reihe++, 1, Qt::AlignTop);
+        const QString tipp = knopf->accessibleDescription();
+        wahl.feld.ansicht = [zeigen = wahl.feld.ansicht, knopf, tipp, &text = wahl.feld] {
+            zeigen();
+            knopf->setAccessibleDescription(tipp + u'\n' + schildtext(text.text()));
+        };
+        wahl.feld.ansicht();
         liste.bediene(*feld, *knopf);
     }
     return block;

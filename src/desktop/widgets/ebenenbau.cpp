@@ -137,7 +137,8 @@ QLabel* Ebenenbau::zahl(Anzeige& anzeige) const {
 
 Scrollleiste* Ebenenbau::leiste(Scrollfeld& feld, const std::string& zweck, Qt::Orientation richtung) const {
     auto* neu = new Scrollleiste(richtung, &ebene_);
-    neu->setAccessibleName(qtext(zweck));
+    neu->setObjectName(qtext(feld.name));  // screen readers are told what it is by this, from here on
+    neu->setAccessibleName(qtext(zweck).simplified());
     mittel_.binder.binde(*neu, feld);
     return neu;
 }
@@ -153,14 +154,14 @@ Scrollleiste* Ebenenbau::eingabe(Eingabefeld& feld, QLabel& wert, const std::str
 QComboBox* Ebenenbau::liste(Auswahlliste& liste, const std::string& zweck) const {
     auto* neu = mit_tipp(new Aufklappliste(&ebene_), liste.name);
     neu->setFixedHeight(mass::liste);
-    neu->setAccessibleName(qtext(zweck));
+    neu->setAccessibleName(qtext(zweck).simplified());
     mittel_.binder.binde(*neu, liste);
     return neu;
 }
 
 QLineEdit* Ebenenbau::textfeld(Textfeld& feld, const std::string& zweck) const {
     auto* neu = mit_tipp(new QLineEdit(&ebene_), feld.name);
-    neu->setAccessibleName(qtext(zweck));
+    neu->setAccessibleName(qtext(zweck).simplified());
     mittel_.binder.binde(*neu, feld);
     return neu;
 }
@@ -175,7 +176,7 @@ QPlainTextEdit* Ebenenbau::textansicht(Anzeige& anzeige, int schriftpixel, const
     neu->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     neu->setLineWrapMode(QPlainTextEdit::NoWrap);
     neu->setTabChangesFocus(true);
-    neu->setAccessibleName(qtext(zweck));
+    neu->setAccessibleName(qtext(zweck).simplified());
     mittel_.binder.binde(*neu, anzeige);
     return neu;
 }
