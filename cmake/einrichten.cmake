@@ -15,7 +15,7 @@ endforeach()
 install(DIRECTORY samples/ DESTINATION beispiele)
 
 # The build tree has them beside the program as well, where its dialogs offer them.
-file(GLOB beispiele CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}/samples ${CMAKE_SOURCE_DIR}/samples/*)
+file(GLOB beispiele CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}/samples ${CMAKE_SOURCE_DIR}/samples/*.vel)
 foreach(beispiel IN LISTS beispiele)
     configure_file(samples/${beispiel} ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/beispiele/${beispiel} COPYONLY)
 endforeach()
