@@ -29,13 +29,6 @@ double groesster_verlust(const Projekt& p) {
     return M;
 }
 
-double groesster_bedarf(const Projekt& p) {
-    double M = 0;
-    for (const Monatswerte& monat : p.Monat)
-        M = std::max({M, double{monat.Qh} / p.f_nutz, double{monat.Kuehlbedarf} / p.f_nutz});
-    return M;
-}
-
 constexpr Wort waermebilanz{"Wärmebilanz", "Heat balance"};
 constexpr Wort bedarf{"Heizwärme- und Kühlbedarf", "Heat energy and cooling demand"};
 constexpr Wort stundenarten{"Heiz-, Nullenergie- und Kühlstunden", "Heating, zero energy and cooling hours"};
@@ -68,6 +61,21 @@ void stunden_zeichnen(const Balkendiagramm& diagramm, double x1, double x2, cons
 
 }  // namespace
 
+double groesster_monatsbedarf(const Projekt& p) {
+    double M = 0;
+    for (const Monatswerte& monat : p.Monat)
+        M = std::max({M, double{monat.Qh} / p.f_nutz, double{monat.Kuehlbedarf} / p.f_nutz});
+    return M;
+}
+
+double groesster_jahresbedarf(const Projekt& p) {
+    return std::max(double{p.qhs_sum}, jahreskuehlbedarf(p));
+}
+
+double groesster_jahresverlust(const Projekt& p) {
+    return p.qverl_s;
+}
+
 void FassadenbalkenZeichnen(const Projekt& p, const Fassadenbalken& balken, Zeichenflaeche& bild) {
     const double y = 50 - 50 * double{p.*balken.wert} / fassadenmaximum(p);
     bild.Cls();
@@ -89,8 +97,9 @@ Wertetafel FassadenbalkenWerte(const Projekt& p) {
             .sprache = p.Sprache};
 }
 
-void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
-    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_heizjahr.schritt(p.qverl_s), bilanzteile};
+void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala) {
+    const double groesster = std::max(groesster_jahresverlust(p), skala);
+    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_heizjahr.schritt(groesster), bilanzteile};
     achsen_zeichnen(diagramm, jahresachse);
     jahresname_zeichnen(bild, p.texte.txt_Jahresbilanz);
     bild.text(5, 0, einheit_je_jahr(p));
@@ -136,9 +145,9 @@ Wertetafel HeizbilanzWerte(const Projekt& p) {
     });
 }
 
-void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
-    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsmonat.schritt(groesster_bedarf(p)),
-                                  bilanzteile};
+void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala) {
+    const double groesster = std::max(groesster_monatsbedarf(p), skala);
+    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsmonat.schritt(groesster), bilanzteile};
     achsen_zeichnen(diagramm, monatsachse);
     monatsnamen_zeichnen(bild, p);
     bild.text(3, 0, einheit_je_monat(p));
@@ -157,11 +166,11 @@ Wertetafel MonatsbilanzWerte(const Projekt& p) {
     });
 }
 
-void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala) {
     const double heizen = p.qhs_sum;
     const double kuehlen = jahreskuehlbedarf(p);
-    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsjahr.schritt(std::max(heizen, kuehlen)),
-                                  bilanzteile};
+    const double groesster = std::max(groesster_jahresbedarf(p), skala);
+    const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsjahr.schritt(groesster), bilanzteile};
     achsen_zeichnen(diagramm, jahresachse);
     jahresname_zeichnen(bild, p.texte.txt_Jahresbilanz);
     bild.text(5, 0, einheit_je_jahr(p));

@@ -23,8 +23,12 @@ void FassadenbalkenZeichnen(const Projekt& p, const Fassadenbalken& balken, Zeic
 /// The numbers of all eight; below, those of each chart stand behind its drawing.
 [[nodiscard]] Wertetafel FassadenbalkenWerte(const Projekt& p);
 
+/// The scale of a chart of its own: that of its largest value. A larger one is given where several projects
+/// share it.
+inline constexpr double eigene_skala = 0;
+
 /// Heating plane: losses and supply of the year, kWh/(m2 a).
-void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
+void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala = eigene_skala);
 [[nodiscard]] Wertetafel JahrBilanzWerte(const Projekt& p);
 
 /// Heating plane: losses and supply of each month, kWh/(m2 month).
@@ -32,9 +36,9 @@ void HeizbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
 [[nodiscard]] Wertetafel HeizbilanzWerte(const Projekt& p);
 
 /// Overview plane: heat and cooling demand of each month, kWh/(m2 month), and of the year, kWh/(m2 a).
-void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
+void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala = eigene_skala);
 [[nodiscard]] Wertetafel MonatsbilanzWerte(const Projekt& p);
-void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild);
+void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala = eigene_skala);
 [[nodiscard]] Wertetafel JahresbedarfWerte(const Projekt& p);
 
 /// Overview plane: hours of heating (at the bottom), zero energy and cooling (on top) of each month, and of
@@ -43,5 +47,10 @@ void UeberGrafikZeichnen(const Projekt& p, Zeichenflaeche& bild);
 [[nodiscard]] Wertetafel UeberGrafikWerte(const Projekt& p);
 void UeberJahrZeichnen(const Projekt& p, Zeichenflaeche& bild);
 [[nodiscard]] Wertetafel UeberJahrWerte(const Projekt& p);
+
+/// The values that settle the scales of the three charts above that take one.
+[[nodiscard]] double groesster_monatsbedarf(const Projekt& p);
+[[nodiscard]] double groesster_jahresbedarf(const Projekt& p);
+[[nodiscard]] double groesster_jahresverlust(const Projekt& p);
 
 }  // namespace velmaris

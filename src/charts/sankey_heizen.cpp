@@ -196,8 +196,8 @@ void bauteile_beschriften(const Heizbild& b) {
 
 }  // namespace
 
-void SankeyHeizen(const Projekt& p, Zeichenflaeche& bild) {
-    const Heizbild b{p, {bild, farbe_heizen}, sankey_heizmasse(p, bild)};
+void SankeyHeizen(const Projekt& p, Zeichenflaeche& bild, double massstab) {
+    const Heizbild b{p, {bild, farbe_heizen}, sankey_heizmasse(p, bild, massstab)};
     Sankey_anfangen(bild);
     boegen_zeichnen(b);
     stuecke_zeichnen(b);

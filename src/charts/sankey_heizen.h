@@ -54,12 +54,14 @@ struct Sankey_Heizmasse : Sankey_Heizwerte {
     std::array<int, 4> grenzen{};
 };
 
-/// Lays the diagram out for a surface. A record whose values do not fit the pixels is a Laufzeitfehler.
-[[nodiscard]] Sankey_Heizmasse sankey_heizmasse(const Projekt& p, const Zeichenflaeche& bild);
+/// Lays the diagram out for a surface. `massstab` makes a pixel stand for at least so much, kWh/(m2 a), where
+/// several projects share a scale. A record whose values do not fit the pixels is a Laufzeitfehler.
+[[nodiscard]] Sankey_Heizmasse sankey_heizmasse(const Projekt& p, const Zeichenflaeche& bild,
+                                                double massstab = 0);
 
 /// Draws the flow of the heating energy: from the primary energy through the heat demand, with the gains of
 /// sun and house, to the losses and their parts. The surface is white.
-void SankeyHeizen(const Projekt& p, Zeichenflaeche& bild);
+void SankeyHeizen(const Projekt& p, Zeichenflaeche& bild, double massstab = 0);
 
 /// The flows of the diagram, the parts of the transmission losses among them, kWh/(m2 a).
 [[nodiscard]] Wertetafel SankeyHeizenWerte(const Projekt& p);

@@ -28,7 +28,7 @@ int breite(double wert, double massstab) {
     return i16(ganzzahl(wert / massstab), "Sankey");
 }
 
-double massstab(const Projekt& p, const Zeichenflaeche& bild, const Sankey_Heizmasse& m, double qh) {
+double eigener_massstab(const Projekt& p, const Zeichenflaeche& bild, const Sankey_Heizmasse& m, double qh) {
     const double qi = p.qis;
     const double qs = p.qsols;
     const double quer = m.SV < 0 ? -m.SV : 2 * m.SV;
@@ -104,11 +104,11 @@ Sankey_Heizwerte sankey_heizwerte(const Projekt& p) {
     return werte;
 }
 
-Sankey_Heizmasse sankey_heizmasse(const Projekt& p, const Zeichenflaeche& bild) {
+Sankey_Heizmasse sankey_heizmasse(const Projekt& p, const Zeichenflaeche& bild, double massstab) {
     Sankey_Heizmasse m;
     static_cast<Sankey_Heizwerte&>(m) = sankey_heizwerte(p);
     const double qh = waermebedarf(p);
-    m.S = massstab(p, bild, m, qh);
+    m.S = std::max(eigener_massstab(p, bild, m, qh), massstab);
     breiten_legen(p, m, qh);
     kanten_legen(m, pixel(bild.hoehe()));
     if (p.qtr > 0) teilung_legen(p, m);

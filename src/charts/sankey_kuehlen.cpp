@@ -129,14 +129,14 @@ void ohne_bedarf(const Projekt& p, Zeichenflaeche& bild) {
 
 }  // namespace
 
-void SankeyKuehlen(const Projekt& p, Zeichenflaeche& bild) {
+void SankeyKuehlen(const Projekt& p, Zeichenflaeche& bild, double massstab) {
     const Sankey_Kuehlwerte werte = sankey_kuehlwerte(p);
     Sankey_anfangen(bild);
     if (werte.C == 0) {
         ohne_bedarf(p, bild);
         return;
     }
-    const Kuehlbild b{p, {bild, farbe_kuehlen}, werte, sankey_kuehlmasse(werte, bild)};
+    const Kuehlbild b{p, {bild, farbe_kuehlen}, werte, sankey_kuehlmasse(werte, bild, massstab)};
     baender_zeichnen(b);
     stroeme_beschriften(b);
     einlaesse_beschriften(b);

@@ -45,13 +45,18 @@ struct Sankey_Kuehlmasse {
     int xSammlung = 0;  ///< where they have come together
 };
 
-/// Lays the diagram out for a surface; there is a demand. Energies that do not fit the pixels are
-/// a Laufzeitfehler.
-[[nodiscard]] Sankey_Kuehlmasse sankey_kuehlmasse(const Sankey_Kuehlwerte& werte, const Zeichenflaeche& bild);
+/// Lays the diagram out for a surface; there is a demand. `massstab` makes a pixel stand for at least so
+/// much, kWh/(m2 a), where several projects share a scale. Energies that do not fit the pixels are a
+/// Laufzeitfehler.
+[[nodiscard]] Sankey_Kuehlmasse sankey_kuehlmasse(const Sankey_Kuehlwerte& werte, const Zeichenflaeche& bild,
+                                                  double massstab = 0);
+
+/// Energy per pixel of a diagram by itself, kWh/(m2 a); 0 without a demand.
+[[nodiscard]] double sankey_kuehlmassstab(const Projekt& p, const Zeichenflaeche& bild);
 
 /// Draws the flow of the cooling energy: what the surplus comes from and the electricity that carries it out
 /// of the building, or a line of text without a cooling demand. The surface is white.
-void SankeyKuehlen(const Projekt& p, Zeichenflaeche& bild);
+void SankeyKuehlen(const Projekt& p, Zeichenflaeche& bild, double massstab = 0);
 
 /// The flows of the diagram, kWh/(m2 a); all 0 without a cooling demand.
 [[nodiscard]] Wertetafel SankeyKuehlenWerte(const Projekt& p);

@@ -74,9 +74,18 @@ Sankey_Kuehlwerte sankey_kuehlwerte(const Projekt& p) {
     return w;
 }
 
-Sankey_Kuehlmasse sankey_kuehlmasse(const Sankey_Kuehlwerte& werte, const Zeichenflaeche& bild) {
+double sankey_kuehlmassstab(const Projekt& p, const Zeichenflaeche& bild) {
+    const Sankey_Kuehlwerte w = sankey_kuehlwerte(p);
+    if (w.C == 0) return 0;
+    const Sankey_Kuehlmasse m = sankey_kuehlmasse(w, bild);
+    return m.C > 0 ? w.C / m.C : 0;
+}
+
+Sankey_Kuehlmasse sankey_kuehlmasse(const Sankey_Kuehlwerte& werte, const Zeichenflaeche& bild,
+                                    double massstab) {
     Sankey_Kuehlmasse m;
-    breiten_legen(m, werte.teile, werte.effizienz, (bild.hoehe() - raender) / (werte.C + werte.E));
+    const double eigener = (bild.hoehe() - raender) / (werte.C + werte.E);
+    breiten_legen(m, werte.teile, werte.effizienz, massstab > 0 ? std::min(eigener, 1 / massstab) : eigener);
     if (m.L > breitester_verlust) {
         const auto teile = m.teile;
         breiten_legen(m, teile, werte.effizienz, static_cast<double>(breitester_verlust) / m.L);

@@ -123,6 +123,21 @@ void kurve(Zeichenflaeche& bild, const Plan& plan, const Stundenreihe& reihe, in
     });
 }
 
+/// Both axes for all curves, and the curves.
+void kurven_zeichnen(std::span<const Temperaturkurve> kurven, int monat, Zeichenflaeche& bild) {
+    double T_min = std::numeric_limits<double>::infinity();
+    double T_max = -T_min;
+    for (const Temperaturkurve& eine : kurven) {
+        T_min = std::min(T_min, min_suchen(eine.reihe, monat));
+        T_max = std::max(T_max, max_suchen(eine.reihe, monat));
+    }
+    const Plan flaechenplan = plan(bild, temperaturachse(T_min, T_max));
+    tagesachse(bild, flaechenplan);
+    temperaturachse_zeichnen(bild, flaechenplan);
+    for (const Temperaturkurve& eine : kurven)
+        kurve(bild, flaechenplan, eine.reihe, monat, eine.farbe);
+}
+
 }  // namespace
 
 double max_suchen(const Stundenreihe& reihe, int m) {
@@ -161,19 +176,17 @@ Temperaturachse temperaturachse(double T_min, double T_max) {
     return achse;
 }
 
+void TemperaturvergleichZeichnen(std::span<const Temperaturkurve> kurven, int monat, Zeichenflaeche& bild) {
+    bild.Cls();
+    bild.schrift(schrift);
+    kurven_zeichnen(kurven, monat, bild);
+}
+
 void TemperaturDiagrammZeichnen(const Projekt& p, Zeichenflaeche& bild) {
-    const int monat = p.Monat_Uebersicht;
-    const Stundenreihe Ta = aussenluft(p);
-    const Stundenreihe Ti = raumluft(p);
-    const double T_min = std::min(min_suchen(Ta, monat), min_suchen(Ti, monat));
-    const double T_max = std::max(max_suchen(Ta, monat), max_suchen(Ti, monat));
-    const Plan flaechenplan = plan(bild, temperaturachse(T_min, T_max));
+    const std::array<Temperaturkurve, 2> kurven{{{aussenluft(p), farbe_aussen}, {raumluft(p), farbe_raum}}};
     bild.Cls();
     legende(bild, p);
-    tagesachse(bild, flaechenplan);
-    temperaturachse_zeichnen(bild, flaechenplan);
-    kurve(bild, flaechenplan, Ta, monat, farbe_aussen);
-    kurve(bild, flaechenplan, Ti, monat, farbe_raum);
+    kurven_zeichnen(kurven, p.Monat_Uebersicht, bild);
 }
 
 Wertetafel TemperaturDiagrammWerte(const Projekt& p) {

@@ -5,6 +5,7 @@
 #include "toolkit/zeichenflaeche.h"
 
 #include <functional>
+#include <span>
 
 namespace velmaris {
 
@@ -32,6 +33,15 @@ struct Temperaturachse {
 
 /// Outdoor air and free-running room temperature of the month `Monat_Uebersicht`, on a surface of any size.
 void TemperaturDiagrammZeichnen(const Projekt& p, Zeichenflaeche& bild);
+
+/// A curve of a comparison.
+struct Temperaturkurve {
+    Stundenreihe reihe;
+    Farbe farbe;
+};
+
+/// Curves of the month (1..12) over one axis, the last on top; what they are stands beside the chart.
+void TemperaturvergleichZeichnen(std::span<const Temperaturkurve> kurven, int monat, Zeichenflaeche& bild);
 
 /// Its numbers, hour by hour.
 [[nodiscard]] Wertetafel TemperaturDiagrammWerte(const Projekt& p);

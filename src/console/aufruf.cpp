@@ -3,6 +3,7 @@
 #include "console/auftrag.h"
 #include "documents/report/report.h"
 #include "studies/studienplan.h"
+#include "studies/vergleich.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 
@@ -56,6 +57,15 @@ void beschreiben(CLI::App& app, Auftrag& auftrag, std::string& ordner) {
                    "gibt eine Seite (1 bis 7) des Reports als Text aus / prints a page of the report as text")
         ->check(CLI::Range(1, reportseiten))
         ->excludes(json);
+    CLI::Option* seite = app.add_option(
+        "--vergleich", auftrag.vergleich,
+        "vergleicht 2 bis 12 Projekte auf einer HTML-Seite / compares 2 to 12 projects on a page");
+    app.add_option("--vergleich-csv", auftrag.vergleich_csv,
+                   "die Zahlen des Vergleichs als CSV / the figures of the comparison as CSV");
+    app.add_option("--monat", auftrag.monat,
+                   "Monat der Temperaturen im Vergleich (1 bis 12) / month of the comparison's temperatures")
+        ->check(CLI::Range(1, monate))
+        ->needs(seite);
     app.add_option("--ordner", ordner, "Programmordner mit klima/ / program folder with klima/");
 }
 
@@ -160,6 +170,8 @@ std::vector<Ziel> ausgaben(const Auftrag& auftrag) {
     if (auftrag.berichtsseite) ziele.push_back({"--bericht-seite", {}});
     if (auftrag.csv) ziele.push_back({"--csv", ort_der_tabelle(*auftrag.csv)});
     if (auftrag.csv_stunden) ziele.push_back({"--csv-stunden", ort_der_tabelle(*auftrag.csv_stunden)});
+    if (auftrag.vergleich) ziele.push_back({"--vergleich", ort_der_tabelle(*auftrag.vergleich)});
+    if (auftrag.vergleich_csv) ziele.push_back({"--vergleich-csv", ort_der_tabelle(*auftrag.vergleich_csv)});
     if (auftrag.temperaturen) ziele.push_back({"--temperaturen", ort(*auftrag.temperaturen)});
     if (auftrag.bericht) ziele.push_back({"--bericht", ort(*auftrag.bericht)});
     if (auftrag.studie) ziele.push_back({"--ausgabe", ort_der_tabelle(auftrag.studie->ausgabe)});
@@ -207,6 +219,11 @@ void pruefen(const Auftrag& auftrag) {
             "PROJEKT",
             "--temperaturen, --speichern, --diagramme, --bericht und --bericht-seite gelten einem einzigen "
             "Projekt / take one project");
+    }
+    const std::size_t zahl = auftrag.projekte.size();
+    if (vergleicht(auftrag) && (zahl < kleinster_vergleich || zahl > groesster_vergleich)) {
+        throw CLI::ValidationError(
+            "--vergleich", "braucht 2 bis 12 Projekte / takes 2 to 12 projects, not " + std::to_string(zahl));
     }
     ziele_pruefen(auftrag);
 }

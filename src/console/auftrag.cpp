@@ -12,6 +12,7 @@
 #include "planes/projekt_rechnen.h"
 #include "project/projektdatei.h"
 #include "studies/fortschritt.h"
+#include "studies/vergleichsseite.h"
 #include "toolkit/fehler.h"
 #include "toolkit/konsolenplattform.h"
 #include "toolkit/text.h"
@@ -87,7 +88,7 @@ class Ausfuehrung {
 
     bool rechnen(const std::string& datei) {
         return versuche(datei, [&] {
-            const auto haupt = projekt_rechnen(plattform_, a_.programmordner, a_.sprache, datei);
+            auto haupt = projekt_rechnen(plattform_, a_.programmordner, a_.sprache, datei);
             dateien_schreiben(a_, *haupt);
             for (Wertetabelle& tabelle : tabellen_)
                 tabelle.nimm_auf(haupt->p, a_.projekte.size() > 1);
@@ -95,9 +96,10 @@ class Ausfuehrung {
                 ergebnisse_.push_back(als_json(*haupt));
             } else if (a_.berichtsseite) {
                 aus_ << seitentext(report_in_sprache(dokumentquelle(*haupt), *a_.berichtsseite));
-            } else if (!nur_daten()) {
+            } else if (!nur_daten() && !vergleicht(a_)) {
                 aus_ << zusammenfassung(*haupt) << '\n';
             }
+            if (vergleicht(a_)) verglichene_.push_back(std::move(haupt));
         });
     }
 
@@ -115,18 +117,27 @@ class Ausfuehrung {
         return versuche(projekt, [&] { gut = velmaris::studie_rechnen(studie, umgebung); }) && gut;
     }
 
+    /// A comparison without one of its projects would mislead: it is not written then, and older files stay.
+    bool vergleich_schreiben() {
+        if (verglichene_.size() < a_.projekte.size()) return false;
+        const Vergleich vergleich = vergleichen(verglichene_);
+        bool gut = true;
+        if (a_.vergleich)
+            gut &= versuche(*a_.vergleich, [&] {
+                schreibe(*a_.vergleich, vergleichsseite(verglichene_, vergleich, a_.monat));
+            });
+        if (a_.vergleich_csv)
+            gut &= versuche(*a_.vergleich_csv,
+                            [&] { schreibe(*a_.vergleich_csv, vergleich_csv(vergleich, a_.sprache)); });
+        return gut;
+    }
+
     /// A table without a project that could be calculated is not written; an older file stays.
     bool tabellen_schreiben() {
         bool gut = true;
         for (const Wertetabelle& tabelle : tabellen_) {
             if (tabelle.text.text().empty()) continue;
-            gut &= versuche(*tabelle.ziel, [&] {
-                if (tabelle.auf_der_standardausgabe()) {
-                    aus_ << tabelle.text.text();
-                } else {
-                    datei_ersetzen(pfad(*tabelle.ziel), tabelle.text.text());
-                }
-            });
+            gut &= versuche(*tabelle.ziel, [&] { schreibe(*tabelle.ziel, tabelle.text.text()); });
         }
         return gut;
     }
@@ -152,6 +163,14 @@ class Ausfuehrung {
         return a_.json || std::ranges::any_of(tabellen_, &Wertetabelle::auf_der_standardausgabe);
     }
 
+    void schreibe(const std::string& ziel, const std::string& inhalt) {
+        if (ziel == standardausgabe) {
+            aus_ << inhalt;
+        } else {
+            datei_ersetzen(pfad(ziel), inhalt);
+        }
+    }
+
     bool versuche(const std::string& datei, const std::function<void()>& stueck) {
         return versuchen(fehler_, a_.sprache, datei, stueck);
     }
@@ -161,6 +180,7 @@ class Ausfuehrung {
     std::ostream& fehler_;
     Konsolenplattform plattform_;
     Json ergebnisse_ = Json::array();
+    std::vector<std::unique_ptr<Haupt>> verglichene_;
     std::array<Wertetabelle, 2> tabellen_{
         {{a_.csv, monatskopf, monatszeilen}, {a_.csv_stunden, stundenkopf, stundenzeilen}}};
 };
@@ -180,6 +200,7 @@ int ausfuehren(const Auftrag& auftrag, std::ostream& aus, std::ostream& fehler) 
     }
     if (auftrag.json && !auftrag.projekte.empty()) gut &= ausfuehrung.json_schreiben();
     gut &= ausfuehrung.tabellen_schreiben();
+    if (vergleicht(auftrag)) gut &= ausfuehrung.vergleich_schreiben();
     gut &= ausfuehrung.abschliessen();
     return gut ? alles_gut : projekt_fehlerhaft;
 }

@@ -32,6 +32,9 @@ struct Auftrag {
     std::optional<std::string> diagramme;
     std::optional<std::string> bericht;        ///< all pages of the report as Rich Text
     std::optional<int> berichtsseite;          ///< 1..7: that page as text, in place of the summary
+    std::optional<std::string> vergleich;      ///< page that compares 2 to 12 projects
+    std::optional<std::string> vergleich_csv;  ///< its figures
+    int monat = 7;                             ///< of its temperatures
     std::optional<Importauftrag> klimaimport;  ///< done before all else
     std::optional<Studienauftrag> studie;      ///< over the one project, in place of its summary
     std::filesystem::path programmordner;
@@ -39,6 +42,11 @@ struct Auftrag {
 
 /// The name that stands for the standard output, where a table goes to a file.
 inline constexpr const char* standardausgabe = "-";
+
+/// True for an order that sets projects beside each other.
+[[nodiscard]] inline bool vergleicht(const Auftrag& auftrag) {
+    return auftrag.vergleich || auftrag.vergleich_csv;
+}
 
 inline constexpr int alles_gut = 0;
 inline constexpr int projekt_fehlerhaft = 1;

@@ -1,0 +1,416 @@
+#include "studies/vergleich.h"
+
+#include "calc/jahressummen.h"
+#include "energy/energiebilanz.h"
+#include "language/beschriftungen.h"
+#include "planes/eingabehinweise.h"
+#include "toolkit/csv.h"
+#include "toolkit/text.h"
+#include "toolkit/zahlen.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <limits>
+#include <set>
+
+namespace velmaris {
+namespace {
+
+/// The facades in the order of the fields of an input that has one for each.
+constexpr std::array<Wort, 4> fassaden{
+    {{"Nord", "north"}, {"Süd", "south"}, {"Ost", "east"}, {"West", "west"}}};
+constexpr std::size_t suedseite = 1;
+
+constexpr std::string_view ja_nein(bool ja, std::string_view sprache) {
+    return ja ? Wort{"ja", "yes"}.in(sprache) : Wort{"nein", "no"}.in(sprache);
+}
+
+/// An input that no scroll field moves: a control that its plane's hints know, and what it says.
+struct Wahl {
+    std::string_view ebene;
+    std::string_view feld;
+    Wort zusatz;  ///< of the facade
+    std::function<std::string(const Haupt&)> text;
+    Wort name = {};  ///< in place of the hint's where that is of two inputs
+};
+
+std::string option(const Haupt& h, std::string_view ebene, const Optionsgruppe& gruppe) {
+    const std::optional<int> nummer = gruppe.gesetzt();
+    return nummer ? beschriftung(std::string(ebene), gruppe.name + std::to_string(*nummer), h.p.Sprache)
+                  : std::string();
+}
+
+Wahl haken(std::string_view ebene, std::string_view feld, std::function<const Pruefeld&(const Haupt&)> kasten,
+           const Wort& zusatz = {}) {
+    return {ebene, feld, zusatz, [kasten = std::move(kasten)](const Haupt& h) {
+                return std::string(ja_nein(kasten(h).wert() != 0, h.p.Sprache));
+            }};
+}
+
+std::vector<Wahl> gebaeudewahlen() {
+    const Wort aussen{"Art der Außenwände", "construction types of exterior walls"};
+    const Wort innen{"Art der Innenwände", "construction types of interior walls"};
+    return {
+        haken(
+            "E_Gebaeude", "awn_cb", [](const Haupt& h) -> auto& { return h.e_gebaeude.awn_cb; }, fassaden[0]),
+        haken(
+            "E_Gebaeude", "aws_cb", [](const Haupt& h) -> auto& { return h.e_gebaeude.aws_cb; }, fassaden[1]),
+        haken(
+            "E_Gebaeude", "awo_cb", [](const Haupt& h) -> auto& { return h.e_gebaeude.awo_cb; }, fassaden[2]),
+        haken(
+            "E_Gebaeude", "aww_cb", [](const Haupt& h) -> auto& { return h.e_gebaeude.aww_cb; }, fassaden[3]),
+        {"E_Gebaeude",
+         "Aussenwandart",
+         {},
+         [](const Haupt& h) { return h.e_gebaeude.Aussenwandart.text(); },
+         aussen},
+        {"E_Gebaeude",
+         "Innenwandart",
+         {},
+         [](const Haupt& h) { return h.e_gebaeude.Innenwandart.text(); },
+         innen},
+    };
+}
+
+std::vector<Wahl> fensterwahlen() {
+    const auto typ = [](std::string_view feld, std::size_t fassade, auto seite) {
+        return Wahl{"E_Fenster", feld, fassaden.at(fassade),
+                    [seite](const Haupt& h) { return (h.e_fenster.*seite).typ.text(); }};
+    };
+    return {
+        {"E_Fenster",
+         "Option1",
+         {},
+         [](const Haupt& h) { return option(h, "E_Fenster", h.e_fenster.Option1); }},
+        typ("fenstern_typ", 0, &E_Fenster::nord),
+        typ("fensters_typ", 1, &E_Fenster::sued),
+        typ("fenstero_typ", 2, &E_Fenster::ost),
+        typ("fensterw_typ", 3, &E_Fenster::west),
+    };
+}
+
+std::vector<Wahl> wahlen() {
+    std::vector<Wahl> alle{
+        haken(
+            "E_Geometrie", "Check_Dachgeschoss",
+            [](const Haupt& h) -> auto& { return h.e_geometrie.Check_Dachgeschoss; }),
+        {"E_Geometrie",
+         "Option_Dachfirst",
+         {},
+         [](const Haupt& h) { return option(h, "E_Geometrie", h.e_geometrie.Option_Dachfirst); }},
+        {"E_Daemmung",
+         "ogd",
+         {},
+         [](const Haupt& h) {
+             const E_Daemmung& e = h.e_daemmung;
+             return e.ogd.sichtbar() ? e.ogd.text() : e.ogd_Dach.text();
+         }},
+        {"E_Daemmung", "ugd", {}, [](const Haupt& h) { return h.e_daemmung.ugd.text(); }},
+        haken(
+            "E_Daemmung", "cbk_hDach", [](const Haupt& h) -> auto& { return h.e_daemmung.cbk_hDach; }),
+        {"E_Daemmung",
+         "Waermebruecken_opt",
+         {},
+         [](const Haupt& h) { return option(h, "E_Daemmung", h.e_daemmung.Waermebruecken_opt); }},
+        {"E_Klima", "Klimaregionwahl2", {}, [](const Haupt& h) { return h.p.Stationsname; }},
+        {"E_Energie", "Label_System", {}, [](const Haupt& h) { return h.e_energie.Label_System.text(); }},
+        {"E_Energie", "Label_Übergabe", {}, [](const Haupt& h) { return h.e_energie.Label_Übergabe.text(); }},
+        {"E_Energie",
+         "Label_Energieträger",
+         {},
+         [](const Haupt& h) { return h.e_energie.Label_Energieträger.text(); }},
+    };
+    for (const auto& weitere : {fensterwahlen(), gebaeudewahlen()})
+        alle.insert(alle.end(), weitere.begin(), weitere.end());
+    return alle;
+}
+
+/// A word in front of what says of which facade or wall it is.
+std::string mit_zusatz(const Eingabehinweis& hinweis, std::string_view zusatz, std::string_view sprache) {
+    std::string name(hinweis.name.in(sprache));
+    if (!zusatz.empty()) name.append(" ").append(zusatz);
+    return name;
+}
+
+/// The rows as they are found, if the projects differ.
+class Eingabensammlung {
+  public:
+    explicit Eingabensammlung(Projektreihe projekte) : projekte_(projekte) {}
+
+    void pruefe(std::string name, const Scrollzeile* zahl,
+                const std::function<std::string(const Haupt&)>& text) {
+        Eingabevergleich zeile{
+            std::move(name), zahl == nullptr ? "" : std::string(zahl->einheit), zahl != nullptr, {}};
+        for (const auto& haupt : projekte_) {
+            const std::string wert = text(*haupt);
+            zeile.werte.push_back(wert.empty() ? "-" : wert);
+        }
+        const std::set<std::string> verschiedene(zeile.werte.begin(), zeile.werte.end());
+        if (verschiedene.size() > 1) zeilen.push_back(std::move(zeile));
+    }
+
+    std::vector<Eingabevergleich> zeilen;
+
+  private:
+    Projektreihe projekte_;
+};
+
+std::string gezeigt(const Scrollzeile& zeile, const Projekt& p) {
+    double wert = 0;
+    if (const auto* gleitzahl = std::get_if<float Projekt::*>(&zeile.ziel)) wert = p.*(*gleitzahl);
+    if (const auto* ganzzahl = std::get_if<std::int16_t Projekt::*>(&zeile.ziel)) wert = p.*(*ganzzahl);
+    return muster(wert * zeile.anzeigefaktor, zeile.stellen);
+}
+
+/// Windows that are the same in all projects have the properties of the south side; its rows tell all.
+bool nur_wiederholung(const Eingabehinweis& hinweis, std::size_t fassade, Projektreihe projekte) {
+    const bool eigenschaft = hinweis.ebene == "E_Fenster" && hinweis.felder.front() != "fn_sb";
+    return eigenschaft && fassade != suedseite &&
+           std::ranges::all_of(projekte, [](const auto& haupt) { return haupt->p.Option1 == 0; });
+}
+
+void schieber_pruefen(const Eingabehinweis& hinweis, Projektreihe projekte, Eingabensammlung& sammlung) {
+    const std::string& sprache = projekte[0]->p.Sprache;
+    for (std::size_t i = 0; i < hinweis.felder.size(); ++i) {
+        const Scrollzeile* zeile = scrollzeile(hinweis.felder[i]);
+        if (zeile == nullptr || nur_wiederholung(hinweis, i, projekte)) continue;
+        const bool je_fassade = hinweis.felder.size() == fassaden.size();
+        const std::string_view zusatz = je_fassade ? fassaden.at(i).in(sprache) : std::string_view();
+        sammlung.pruefe(mit_zusatz(hinweis, zusatz, sprache), zeile,
+                        [&](const Haupt& h) { return gezeigt(*zeile, h.p); });
+    }
+}
+
+void wahlen_pruefen(const Eingabehinweis& hinweis, Projektreihe projekte, const std::vector<Wahl>& alle,
+                    Eingabensammlung& sammlung) {
+    const std::string& sprache = projekte[0]->p.Sprache;
+    for (std::size_t i = 0; i < hinweis.felder.size(); ++i) {
+        const auto wahl = std::ranges::find_if(
+            alle, [&](const Wahl& w) { return w.ebene == hinweis.ebene && w.feld == hinweis.felder[i]; });
+        if (wahl == alle.end() || nur_wiederholung(hinweis, i, projekte)) continue;
+        const std::string_view eigener = wahl->name.in(sprache);
+        sammlung.pruefe(
+            eigener.empty() ? mit_zusatz(hinweis, wahl->zusatz.in(sprache), sprache) : std::string(eigener),
+            nullptr, wahl->text);
+    }
+}
+
+std::vector<Eingabevergleich> eingaben(Projektreihe projekte) {
+    const std::vector<Wahl> alle = wahlen();
+    Eingabensammlung sammlung(projekte);
+    for (const Eingabehinweis& hinweis : eingabehinweise()) {
+        schieber_pruefen(hinweis, projekte, sammlung);
+        wahlen_pruefen(hinweis, projekte, alle, sammlung);
+    }
+    return std::move(sammlung.zeilen);
+}
+
+/// A row of the results: what it is, its unit and decimals, and where it comes from.
+struct Ergebniszeile {
+    Wort name;
+    const char* einheit;
+    int stellen;
+    double (*wert)(const Projekt&);
+};
+
+/// Hours of the year in degC: largest and mean value.
+template <class Stunden>
+double groesste_temperatur(const Stunden& reihe) {
+    double groesste = -std::numeric_limits<double>::infinity();
+    fuer_jede_stunde(
+        [&](int m, int d, int h, int) { groesste = std::max(groesste, double{reihe(m, d, h)}); });
+    return groesste;
+}
+
+template <class Stunden>
+double mittlere_temperatur(const Stunden& reihe) {
+    double summe = 0;
+    int zahl = 0;
+    fuer_jede_stunde([&](int m, int d, int h, int) {
+        summe += reihe(m, d, h);
+        ++zahl;
+    });
+    return summe / zahl;
+}
+
+constexpr const char* je_flaeche = "kWh/(m² a)";
+
+const std::vector<Ergebniszeile>& ergebniszeilen() {
+    static const std::vector<Ergebniszeile> zeilen{
+        {{"Heizwärmebedarf", "heat energy demand"},
+         je_flaeche,
+         1,
+         [](const Projekt& p) { return ohne_heizbedarf(p) ? 0.0 : p.qhs_sum; }},
+        {{"Kühlbedarf", "cooling demand"}, je_flaeche, 1, jahreskuehlbedarf},
+        {{"Endenergie Heizung", "end energy for heating"},
+         je_flaeche,
+         1,
+         [](const Projekt& p) { return double{p.q_HE_Energietraeger} + p.q_HE_Strom; }},
+        {{"Endenergie Kühlung", "end energy for cooling"},
+         je_flaeche,
+         1,
+         [](const Projekt& p) { return kuehlenergie_im_jahr(p).Endenergie; }},
+        {{"Primärenergie Heizung", "primary energy for heating"},
+         je_flaeche,
+         1,
+         [](const Projekt& p) { return double{p.q_PE_Energietraeger} + p.q_PE_Strom; }},
+        {{"Primärenergie Kühlung", "primary energy for cooling"},
+         je_flaeche,
+         1,
+         [](const Projekt& p) { return kuehlenergie_im_jahr(p).Primaerenergie; }},
+        {{"Maximale Heizlast", "maximum heating load"},
+         "kW",
+         1,
+         [](const Projekt& p) { return double{p.Heizlast_max}; }},
+        {{"Maximale Kühllast", "maximum cooling load"},
+         "kW",
+         1,
+         [](const Projekt& p) { return double{p.Kuehllast_max}; }},
+        {{"Heizstunden", "heating hours"},
+         "h",
+         0,
+         [](const Projekt& p) { return double(betriebsstunden_im_jahr(p).kalt); }},
+        {{"Nullenergiestunden", "zero energy hours"},
+         "h",
+         0,
+         [](const Projekt& p) { return double(betriebsstunden_im_jahr(p).komfort); }},
+        {{"Kühlstunden", "cooling hours"},
+         "h",
+         0,
+         [](const Projekt& p) { return double(betriebsstunden_im_jahr(p).heiss); }},
+        {{"Kühlgradstunden", "cooling degree hours"},
+         "Kh",
+         0,
+         [](const Projekt& p) { return summe_der_monate(p, &Monatswerte::Kuehlgradstunden); }},
+        {{"Höchste freie Raumtemperatur", "highest free-running room temperature"},
+         "°C",
+         1,
+         [](const Projekt& p) { return groesste_temperatur(p.T_frei); }},
+        {{"Mittlere freie Raumtemperatur", "mean free-running room temperature"},
+         "°C",
+         1,
+         [](const Projekt& p) { return mittlere_temperatur(p.T_frei); }},
+        {{"Mittlere geregelte Raumtemperatur", "mean controlled room temperature"},
+         "°C",
+         1,
+         [](const Projekt& p) { return mittlere_temperatur(p.T_regel); }},
+        {{"Zeitkonstante", "time constant"}, "h", 1, [](const Projekt& p) { return p.tau / 3600.0; }},
+    };
+    return zeilen;
+}
+
+std::vector<Ergebnisvergleich> ergebnisse(Projektreihe projekte) {
+    std::vector<Ergebnisvergleich> alle;
+    for (const Ergebniszeile& zeile : ergebniszeilen()) {
+        Ergebnisvergleich ergebnis{
+            std::string(zeile.name.in(projekte[0]->p.Sprache)), zeile.einheit, zeile.stellen, {}};
+        for (const auto& haupt : projekte)
+            ergebnis.werte.push_back(zeile.wert(haupt->p));
+        alle.push_back(std::move(ergebnis));
+    }
+    return alle;
+}
+
+/// What changed in project i: the first inputs by name with both values, the others by number.
+std::string aenderungen(const Vergleich& v, std::size_t i, std::string_view sprache) {
+    constexpr std::size_t genannt = 5;
+    std::string text;
+    std::size_t zahl = 0;
+    for (const Eingabevergleich& eingabe : v.eingaben) {
+        if (eingabe.werte[i] == eingabe.werte[0] || ++zahl > genannt) continue;
+        if (!text.empty()) text += "; ";
+        text += eingabe.name + " " + eingabe.werte[0] + " → " + eingabe.werte[i];
+        if (!eingabe.einheit.empty()) text += " " + eingabe.einheit;
+    }
+    if (zahl == 0) return std::string(Wort{"gleiche Eingaben", "the same inputs"}.in(sprache));
+    if (zahl > genannt)
+        text += std::string(Wort{"; weitere Eingaben: ", "; further inputs: "}.in(sprache)) +
+                std::to_string(zahl - genannt);
+    return text;
+}
+
+std::string satz(const Vergleich& v, std::size_t i, std::string_view sprache) {
+    constexpr std::size_t genannt = 2;  // heat and cooling demand
+    std::string text = aenderungen(v, i, sprache) + ": ";
+    for (std::size_t k = 0; k < genannt; ++k) {
+        const Ergebnisvergleich& e = v.ergebnisse[k];
+        if (k > 0) text += ", ";
+        text += e.name + " " + mit_vorzeichen(e.abweichung(i), e.stellen) + " " + e.einheit;
+    }
+    return text + ".";
+}
+
+/// Names of the files, with their folders where two have the same name.
+std::vector<std::string> projektnamen(Projektreihe projekte) {
+    std::vector<std::string> namen;
+    for (const auto& haupt : projekte)
+        namen.push_back(pfadtext(pfad(haupt->p.Datei).stem()));
+    if (std::set<std::string>(namen.begin(), namen.end()).size() == namen.size()) return namen;
+    for (std::size_t i = 0; i < namen.size(); ++i)
+        namen[i] = projekte[i]->p.Datei;
+    return namen;
+}
+
+}  // namespace
+
+std::string mit_vorzeichen(double wert, int stellen) {
+    const std::string zahl = muster(wert, stellen);
+    return zahl.starts_with('-') ? zahl : "+" + zahl;
+}
+
+double Ergebnisvergleich::prozent(std::size_t i) const {
+    return werte[0] == 0 ? std::numeric_limits<double>::quiet_NaN() : 100 * abweichung(i) / werte[0];
+}
+
+Vergleich vergleichen(Projektreihe projekte) {
+    Vergleich v{projektnamen(projekte), eingaben(projekte), ergebnisse(projekte), {}};
+    for (std::size_t i = 1; i < projekte.size(); ++i)
+        v.saetze.push_back(satz(v, i, projekte[0]->p.Sprache));
+    return v;
+}
+
+std::string vergleich_csv(const Vergleich& v, std::string_view sprache) {
+    Csvtext tabelle;
+    const std::size_t n = v.projekte.size();
+    for (const Wort& kopf : {Wort{"Art", "kind"}, Wort{"Größe", "quantity"}, Wort{"Einheit", "unit"}})
+        tabelle.zelle(kopf.in(sprache));
+    for (const std::string& name : v.projekte)
+        tabelle.zelle(name);
+    for (const Wort& art : {Wort{"Differenz ", "difference "}, Wort{"Prozent ", "per cent "}}) {
+        for (std::size_t i = 1; i < n; ++i)
+            tabelle.zelle(std::string(art.in(sprache)) + v.projekte[i]);
+    }
+    tabelle.zeilenende();
+    for (const Eingabevergleich& eingabe : v.eingaben) {
+        for (const std::string_view text :
+             {Wort{"Eingabe", "input"}.in(sprache), std::string_view(eingabe.name),
+              std::string_view(eingabe.einheit)})
+            tabelle.zelle(text);
+        for (const std::string& wert : eingabe.werte)
+            tabelle.zelle(wert);
+        for (std::size_t i = 0; i < 2 * (n - 1); ++i)
+            tabelle.zelle("");
+        tabelle.zeilenende();
+    }
+    for (const Ergebnisvergleich& e : v.ergebnisse) {
+        for (const std::string_view text :
+             {Wort{"Ergebnis", "result"}.in(sprache), std::string_view(e.name), std::string_view(e.einheit)})
+            tabelle.zelle(text);
+        for (const double wert : e.werte)
+            tabelle.zelle(static_cast<float>(wert));
+        for (std::size_t i = 1; i < n; ++i)
+            tabelle.zelle(static_cast<float>(e.abweichung(i)));
+        for (std::size_t i = 1; i < n; ++i) {
+            if (e.werte[0] == 0) {
+                tabelle.zelle("");
+            } else {
+                tabelle.zelle(static_cast<float>(e.prozent(i)));
+            }
+        }
+        tabelle.zeilenende();
+    }
+    return tabelle.text();
+}
+
+}  // namespace velmaris
