@@ -97,8 +97,11 @@ Wertetafel FassadenbalkenWerte(const Projekt& p) {
             .sprache = p.Sprache};
 }
 
-void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala) {
-    const double groesster = std::max(groesster_jahresverlust(p), skala);
+void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    JahrBilanzVergleichen(p, bild, groesster_jahresverlust(p));
+}
+
+void JahrBilanzVergleichen(const Projekt& p, Zeichenflaeche& bild, double groesster) {
     const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_heizjahr.schritt(groesster), bilanzteile};
     achsen_zeichnen(diagramm, jahresachse);
     jahresname_zeichnen(bild, p.texte.txt_Jahresbilanz);
@@ -145,8 +148,11 @@ Wertetafel HeizbilanzWerte(const Projekt& p) {
     });
 }
 
-void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala) {
-    const double groesster = std::max(groesster_monatsbedarf(p), skala);
+void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    MonatsbilanzVergleichen(p, bild, groesster_monatsbedarf(p));
+}
+
+void MonatsbilanzVergleichen(const Projekt& p, Zeichenflaeche& bild, double groesster) {
     const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsmonat.schritt(groesster), bilanzteile};
     achsen_zeichnen(diagramm, monatsachse);
     monatsnamen_zeichnen(bild, p);
@@ -166,10 +172,13 @@ Wertetafel MonatsbilanzWerte(const Projekt& p) {
     });
 }
 
-void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala) {
+void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild) {
+    JahresbedarfVergleichen(p, bild, groesster_jahresbedarf(p));
+}
+
+void JahresbedarfVergleichen(const Projekt& p, Zeichenflaeche& bild, double groesster) {
     const double heizen = p.qhs_sum;
     const double kuehlen = jahreskuehlbedarf(p);
-    const double groesster = std::max(groesster_jahresbedarf(p), skala);
     const Balkendiagramm diagramm{bild, bilanzrahmen, stufen_bedarfsjahr.schritt(groesster), bilanzteile};
     achsen_zeichnen(diagramm, jahresachse);
     jahresname_zeichnen(bild, p.texte.txt_Jahresbilanz);

@@ -23,12 +23,8 @@ void FassadenbalkenZeichnen(const Projekt& p, const Fassadenbalken& balken, Zeic
 /// The numbers of all eight; below, those of each chart stand behind its drawing.
 [[nodiscard]] Wertetafel FassadenbalkenWerte(const Projekt& p);
 
-/// The scale of a chart of its own: that of its largest value. A larger one is given where several projects
-/// share it.
-inline constexpr double eigene_skala = 0;
-
 /// Heating plane: losses and supply of the year, kWh/(m2 a).
-void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala = eigene_skala);
+void JahrBilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
 [[nodiscard]] Wertetafel JahrBilanzWerte(const Projekt& p);
 
 /// Heating plane: losses and supply of each month, kWh/(m2 month).
@@ -36,9 +32,9 @@ void HeizbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
 [[nodiscard]] Wertetafel HeizbilanzWerte(const Projekt& p);
 
 /// Overview plane: heat and cooling demand of each month, kWh/(m2 month), and of the year, kWh/(m2 a).
-void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala = eigene_skala);
+void MonatsbilanzZeichnen(const Projekt& p, Zeichenflaeche& bild);
 [[nodiscard]] Wertetafel MonatsbilanzWerte(const Projekt& p);
-void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild, double skala = eigene_skala);
+void JahresbedarfZeichnen(const Projekt& p, Zeichenflaeche& bild);
 [[nodiscard]] Wertetafel JahresbedarfWerte(const Projekt& p);
 
 /// Overview plane: hours of heating (at the bottom), zero energy and cooling (on top) of each month, and of
@@ -48,9 +44,15 @@ void UeberGrafikZeichnen(const Projekt& p, Zeichenflaeche& bild);
 void UeberJahrZeichnen(const Projekt& p, Zeichenflaeche& bild);
 [[nodiscard]] Wertetafel UeberJahrWerte(const Projekt& p);
 
-/// The values that settle the scales of the three charts above that take one.
+// Three of the charts at a scale that several projects share: that of the largest of their values.
+
+void JahrBilanzVergleichen(const Projekt& p, Zeichenflaeche& bild, double groesster);
+void MonatsbilanzVergleichen(const Projekt& p, Zeichenflaeche& bild, double groesster);
+void JahresbedarfVergleichen(const Projekt& p, Zeichenflaeche& bild, double groesster);
+
+/// The value that settles the scale of each, in its unit.
+[[nodiscard]] double groesster_jahresverlust(const Projekt& p);
 [[nodiscard]] double groesster_monatsbedarf(const Projekt& p);
 [[nodiscard]] double groesster_jahresbedarf(const Projekt& p);
-[[nodiscard]] double groesster_jahresverlust(const Projekt& p);
 
 }  // namespace velmaris

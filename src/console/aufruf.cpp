@@ -199,7 +199,8 @@ void ziele_pruefen(const Auftrag& auftrag) {
 
 /// A study takes one project and gives nothing but its table.
 void studie_pruefen(const Auftrag& auftrag) {
-    const bool anderes = auftrag.json || auftrag.csv || auftrag.csv_stunden || nur_eines(auftrag);
+    const bool anderes =
+        auftrag.json || auftrag.csv || auftrag.csv_stunden || nur_eines(auftrag) || vergleicht(auftrag);
     if (auftrag.projekte.size() != 1 || anderes) {
         throw CLI::ValidationError("--variiere, --plan",
                                    "gelten einem einzigen Projekt und geben nur ihre Tabelle aus / take one "

@@ -160,7 +160,8 @@ class Ausfuehrung {
   private:
     /// True if a program is to read the output, so that nothing else may stand there.
     [[nodiscard]] bool nur_daten() const {
-        return a_.json || std::ranges::any_of(tabellen_, &Wertetabelle::auf_der_standardausgabe);
+        return a_.json || a_.vergleich == standardausgabe || a_.vergleich_csv == standardausgabe ||
+               std::ranges::any_of(tabellen_, &Wertetabelle::auf_der_standardausgabe);
     }
 
     void schreibe(const std::string& ziel, const std::string& inhalt) {

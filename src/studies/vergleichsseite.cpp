@@ -215,17 +215,17 @@ class Seite {
         reihe({"Heizwärmebedarf (rot) und Kühlbedarf (blau) je Monat",
                "Heat demand (red) and cooling demand (blue) of each month"},
               monatsflaeche_breite, chart_hoehe,
-              [&](const Projekt& p, Zeichenflaeche& b) { MonatsbilanzZeichnen(p, b, monat); });
+              [&](const Projekt& p, Zeichenflaeche& b) { MonatsbilanzVergleichen(p, b, monat); });
         reihe({"Heizwärmebedarf (rot) und Kühlbedarf (blau) im Jahr",
                "Heat demand (red) and cooling demand (blue) of the year"},
               jahresflaeche_breite, chart_hoehe,
-              [&](const Projekt& p, Zeichenflaeche& b) { JahresbedarfZeichnen(p, b, jahr); });
+              [&](const Projekt& p, Zeichenflaeche& b) { JahresbedarfVergleichen(p, b, jahr); });
         reihe({"Verluste (Transmission, Lüftung) und ihre Deckung (Heizwärme, interne und solare Gewinne) im "
                "Jahr",
                "Losses (transmission, ventilation) and their supply (heat, internal and solar gains) of the "
                "year"},
               jahresflaeche_breite, chart_hoehe,
-              [&](const Projekt& p, Zeichenflaeche& b) { JahrBilanzZeichnen(p, b, verlust); });
+              [&](const Projekt& p, Zeichenflaeche& b) { JahrBilanzVergleichen(p, b, verlust); });
     }
 
     void energiefluesse() {
