@@ -14,6 +14,8 @@ template <class... Faelle>
 struct Je : Faelle... {
     using Faelle::operator()...;
 };
+template <class... Faelle>
+Je(Faelle...) -> Je<Faelle...>;
 
 template <class Zeilen>
 auto suchen(const Zeilen& zeilen, std::string_view name) -> decltype(&*zeilen.begin()) {
@@ -31,7 +33,7 @@ const Monatszeile& mit_jahreswert(const Monatszeile& zeile) {
 std::optional<Klimatext> klimatext(std::string_view name) {
     const A_Klima klima;
     const auto anzeigen = klima.anzeigen();
-    const auto treffer = std::ranges::find(anzeigen, name, [](const Anzeige* a) { return a->name; });
+    const auto* const treffer = std::ranges::find(anzeigen, name, [](const Anzeige* a) { return a->name; });
     if (treffer == anzeigen.end()) return std::nullopt;
     return Klimatext{static_cast<std::size_t>(treffer - anzeigen.begin())};
 }

@@ -22,6 +22,7 @@ using Fenster = std::shared_ptr<Studienfenster>;
 using Plaetze = tbb::enumerable_thread_specific<std::unique_ptr<Rechenplatz>>;
 
 void fenster_rechnen(const Fliessband& band, Plaetze& plaetze, Studienfenster& fenster) {
+    band.ordnen(fenster);
     const tbb::blocked_range<std::size_t> alle(0, fenster.zeilen.size(), zeilen_am_stueck);
     tbb::parallel_for(alle, [&](const tbb::blocked_range<std::size_t>& stueck) {
         band.rechnen(*plaetze.local(), fenster, stueck.begin(), stueck.end());

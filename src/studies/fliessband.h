@@ -22,6 +22,7 @@ struct Studienfenster {
 /// order in which they came.
 struct Fliessband {
     std::function<std::unique_ptr<Studienfenster>()> lesen;  ///< nothing at the end
+    std::function<void(Studienfenster&)> ordnen;             ///< settles the order of its rows
     std::function<std::unique_ptr<Rechenplatz>()> einrichten;
 
     /// The rows at places `von` to before `bis` of the order; any number of workers at a time.

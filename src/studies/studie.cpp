@@ -93,6 +93,7 @@ class Studienlauf {
         Fortschritt balken(umgebung_.fortschritt ? &umgebung_.fehler : nullptr, umgebung_.sprache, offen_);
         balken_ = &balken;
         laufen({.lesen = [this] { return fenster_lesen(); },
+                .ordnen = [this](Studienfenster& fenster) { ordnen(fenster); },
                 .einrichten = [this] { return std::make_unique<Rechenplatz>(grundlage_); },
                 .rechnen = [this](Rechenplatz& platz, Studienfenster& fenster, std::size_t von,
                                   std::size_t bis) { stueck_rechnen(platz, fenster, von, bis); },
@@ -128,7 +129,6 @@ class Studienlauf {
         gelesen_ += groesse;
         fenster->texte.resize(groesse);
         fenster->meldungen.resize(groesse);
-        ordnen(*fenster);
         return fenster;
     }
 
