@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <mutex>
 #include <numeric>
 #include <ostream>
 #include <system_error>
@@ -184,10 +185,13 @@ class Studienlauf {
             if (++gemeldet_ <= gemeldete_zeilen) melde(fenster.meldungen[i]);
         }
         geschrieben_ += anzahl;
+        const std::scoped_lock sperre(meldeschloss_);
         balken_->zeige(geschrieben_);
     }
 
+    /// From any thread: a station that is read may have something to say while rows are written.
     void melde(const std::string& text) {
+        const std::scoped_lock sperre(meldeschloss_);
         if (balken_ != nullptr) balken_->weiche();
         umgebung_.fehler << in_einer_zeile(text) << '\n';
     }
@@ -214,8 +218,9 @@ class Studienlauf {
     Stationsvorrat stationen_;
     Studiengrundlage grundlage_;
     Studienausgabe ausgabe_;
-    Fortschritt* balken_ = nullptr;
-    std::uint64_t offen_ = 0;  ///< rows to calculate
+    std::mutex meldeschloss_;
+    Fortschritt* balken_ = nullptr;  ///< while rows are calculated
+    std::uint64_t offen_ = 0;        ///< rows to calculate
     std::uint64_t gelesen_ = 0;
     std::uint64_t geschrieben_ = 0;
     std::uint64_t gemeldet_ = 0;  ///< faulty ones among them
