@@ -39,7 +39,8 @@ TEST_F(MassstabTest, AlleEbenenFuellenJedesFensterInIhremVerhaeltnis) {
     for (const char* sprache : {"d", "e"}) {
         starte(sprache);
         haupt().e_geometrie.Check_Dachgeschoss.setze(1);
-        for (const auto& [breite, hoehe, s] : fenster) {
+        for (const auto& [breite, hoehe, massstab_dann] : fenster) {
+            const double s = massstab_dann;
             gib_groesse({breite, hoehe});
             const std::string wo = sprache + std::to_string(breite);
             QWidget& flaeche = *such("Haupt", "E_Menue").parentWidget();
