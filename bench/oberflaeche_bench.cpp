@@ -66,20 +66,21 @@ void alle_groessen(benchmark::internal::Benchmark* messung) {
     messung->DenseRange(0, static_cast<int>(fenstergroessen.size()) - 1)->Unit(benchmark::kMillisecond);
 }
 
-void gib_groesse(Programm& programm, benchmark::State& zustand) {
+/// The program in its window of that size, with an output plane in front, all painted.
+void vorbereiten(Programm& programm, benchmark::State& zustand, const char* ebene) {
+    programm.starten();
     const QSize groesse = fenstergroessen.at(static_cast<std::size_t>(zustand.range(0)));
     programm.fenster().resize(groesse);
     zustand.SetLabel(std::to_string(groesse.width()) + " x " + std::to_string(groesse.height()));
+    programm.haupt().a_menue.klicke(ebene);
+    QApplication::processEvents();
 }
 
 /// One step of a scroll field, all visible charts repainted, with each output plane in front.
 void Schritt(benchmark::State& zustand, const char* ebene) {
     const Ordner ordner;
     Programm programm(ordner.pfad(), "d", Befehlszeile("d"));
-    programm.starten();
-    gib_groesse(programm, zustand);
-    programm.haupt().a_menue.klicke(ebene);
-    QApplication::processEvents();
+    vorbereiten(programm, zustand, ebene);
     Bildfeld& plan = programm.haupt().e_geometrie.AV_Picture;
     int gezeichnet = 0;
     plan.zeichnen = [&gezeichnet, vorher = plan.zeichnen](Zeichenflaeche& flaeche) {
@@ -105,10 +106,7 @@ BENCHMARK_CAPTURE(Schritt, Sankey, "Sankey")->Apply(alle_groessen);
 void Groesse_ziehen(benchmark::State& zustand, const char* ebene) {
     const Ordner ordner;
     Programm programm(ordner.pfad(), "d", Befehlszeile("d"));
-    programm.starten();
-    gib_groesse(programm, zustand);
-    programm.haupt().a_menue.klicke(ebene);
-    QApplication::processEvents();
+    vorbereiten(programm, zustand, ebene);
     const QSize groesse = programm.fenster().size();
     constexpr int weite = 40;
     int schritt = 0;

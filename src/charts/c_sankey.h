@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/wort.h"
 #include "toolkit/zeichenflaeche.h"
 
 #include <initializer_list>
@@ -20,6 +21,13 @@ struct Sankeyblatt {
 /// Size of the surface of a diagram, on which all its labels have room, pixels.
 inline constexpr double sankey_breite = 440;
 inline constexpr double sankey_hoehe = 232;
+
+/// What both diagrams name.
+namespace sankeynamen {
+inline constexpr Wort primaer{"Primärenergiebedarf", "primary energy demand"};
+inline constexpr Wort umwandlung{"Umwandlungs- und Transportverluste",
+                                 "losses for transformation and transport"};
+}  // namespace sankeynamen
 
 /// Energy per pixel if `wert` has the height of the surface, less 50 pixels and the margin.
 [[nodiscard]] double Sankey_Massstab(const Zeichenflaeche& bild, double wert, double rand);

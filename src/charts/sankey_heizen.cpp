@@ -119,8 +119,6 @@ void teilung_zeichnen(const Heizbild& b) {
 }
 
 namespace namen {
-constexpr Wort primaer{"Primärenergiebedarf", "primary energy demand"};
-constexpr Wort umwandlung{"Umwandlungs- und Transportverluste", "losses for transformation and transport"};
 constexpr Wort erneuerbar{"Erneuerbare Energien", "renewable energies"};
 constexpr Wort solar{"nutzbare solare Gewinne", "usable solar gains"};
 constexpr Wort intern{"nutzbare interne Gewinne", "usable internal gains"};
@@ -167,7 +165,7 @@ void stroeme_beschriften(const Heizbild& b) {
     const Strom verlust{namen::systemverlust, m.SV, Buendig::rechts, 123, m.yA + 5.0};
     const Strom gewinn{namen::systemgewinn, -m.SV, Buendig::rechts, 103, m.yA + 5.0};
     const auto stroeme = std::to_array<Strom>({
-        {namen::primaer, primaerenergie(p), Buendig::links, 2, m.yP - m.bPE - 24.0},
+        {sankeynamen::primaer, primaerenergie(p), Buendig::links, 2, m.yP - m.bPE - 24.0},
         {namen::solar, p.qsols, Buendig::mitte, 215, 0},
         {namen::lueftung, p.qinfs, Buendig::rechts, 415, 0},
         m.bSV >= 0 ? verlust : gewinn,
@@ -214,8 +212,8 @@ Wertetafel SankeyHeizenWerte(const Projekt& p) {
     const auto zeile = [&](const Wort& name, double wert) {
         tafel.zeilen.push_back({.namen = {wort(name)}, .werte = {wert}});
     };
-    zeile(namen::primaer, primaerenergie(p));
-    zeile(TV > 0 ? namen::umwandlung : namen::erneuerbar, std::abs(TV));
+    zeile(sankeynamen::primaer, primaerenergie(p));
+    zeile(TV > 0 ? sankeynamen::umwandlung : namen::erneuerbar, std::abs(TV));
     zeile(SV >= 0 ? namen::systemverlust : namen::systemgewinn, std::abs(SV));
     zeile(namen::heizwaerme, p.qhs_sum);
     zeile(namen::solar, p.qsols);

@@ -19,11 +19,6 @@ constexpr int beschriftung_unten = 25;
 /// What rounding can leave of the balances of a building that needs no heat.
 constexpr double kein_rest = 1E-6;
 
-/// The heat demand that the diagram shows, kWh/(m2 a).
-double waermebedarf(const Projekt& p) {
-    return ohne_heizbedarf(p) ? 0 : p.qhs_sum;
-}
-
 int breite(double wert, double massstab) {
     return i16(ganzzahl(wert / massstab), "Sankey");
 }
@@ -97,7 +92,7 @@ Sankey_Heizwerte sankey_heizwerte(const Projekt& p) {
     Sankey_Heizwerte werte;
     const bool ohne_bedarf = ohne_heizbedarf(p);
     const double ende = double{p.q_HE_Strom} + p.q_HE_Energietraeger;
-    werte.SV = ende - waermebedarf(p);
+    werte.SV = ende - heizwaermebedarf(p);
     werte.TV = double{p.q_PE_Strom} + p.q_PE_Energietraeger - p.q_HE_Energietraeger - p.q_HE_Strom;
     if (ohne_bedarf && std::abs(werte.SV) < kein_rest) werte.SV = 0;
     if (ohne_bedarf && std::abs(werte.TV) < kein_rest) werte.TV = 0;
@@ -107,7 +102,7 @@ Sankey_Heizwerte sankey_heizwerte(const Projekt& p) {
 Sankey_Heizmasse sankey_heizmasse(const Projekt& p, const Zeichenflaeche& bild, double massstab) {
     Sankey_Heizmasse m;
     static_cast<Sankey_Heizwerte&>(m) = sankey_heizwerte(p);
-    const double qh = waermebedarf(p);
+    const double qh = heizwaermebedarf(p);
     m.S = std::max(eigener_massstab(p, bild, m, qh), massstab);
     breiten_legen(p, m, qh);
     kanten_legen(m, pixel(bild.hoehe()));

@@ -20,8 +20,6 @@ constexpr int xBogen = 60;
 constexpr int xSpitze = 410;
 
 namespace namen {
-constexpr Wort primaer{"Primärenergiebedarf", "primary energy demand"};
-constexpr Wort umwandlung{"Umwandlungs- und Transportverluste", "losses for transformation and transport"};
 constexpr Wort ende{"End-Kühlenergiebedarf", "end energy demand for cooling"};
 constexpr Wort abgefuehrt{"Aus dem Gebäude abgeführte Wärme", "Heat removed from the building"};
 constexpr Wort abwaerme{"Abwärme Kühlgerät", "Waste heat from cooling system"};
@@ -94,7 +92,7 @@ void stroeme_beschriften(const Kuehlbild& b) {
         Sankey_Text(b.blatt.bild, buendig, x, y, {beschriftung(b.p, name), zweite});
     };
     const double unten = b.blatt.bild.hoehe() - 25;
-    schreibe(Buendig::links, 2, b.m.yP - b.m.P - 24, namen::primaer, Sankey_Wert(b.werte.P));
+    schreibe(Buendig::links, 2, b.m.yP - b.m.P - 24, sankeynamen::primaer, Sankey_Wert(b.werte.P));
     schreibe(Buendig::mitte, std::min(b.m.L / 2.0 + 70, 90.0), 0,
              {"Umwandlungs- und Transport-", "losses for transformation"},
              beschriftung(b.p, {"verluste ", "and transport "}) + Sankey_Wert(b.werte.L));
@@ -145,8 +143,8 @@ void SankeyKuehlen(const Projekt& p, Zeichenflaeche& bild, double massstab) {
 Wertetafel SankeyKuehlenWerte(const Projekt& p) {
     const auto wort = [&p](const Wort& name) { return std::string(name.in(p.Sprache)); };
     const Sankey_Kuehlwerte werte = sankey_kuehlwerte(p);
-    std::vector<Wertezeile> zeilen{{.namen = {wort(namen::primaer)}, .werte = {werte.P}},
-                                   {.namen = {wort(namen::umwandlung)}, .werte = {werte.L}},
+    std::vector<Wertezeile> zeilen{{.namen = {wort(sankeynamen::primaer)}, .werte = {werte.P}},
+                                   {.namen = {wort(sankeynamen::umwandlung)}, .werte = {werte.L}},
                                    {.namen = {wort(namen::ende)}, .werte = {werte.E}},
                                    {.namen = {wort(namen::abgefuehrt)}, .werte = {werte.C}},
                                    {.namen = {wort(namen::abwaerme)}, .werte = {werte.E}}};

@@ -60,15 +60,6 @@ void eintrag(Zeichenflaeche& bild, double abstand, const std::string& text, Farb
     bild.text(x + legendentext, mitte - bild.texthoehe("T") / 2, text);
 }
 
-/// The two series of the chart.
-Stundenreihe aussenluft(const Projekt& p) {
-    return [&p](int m, int d, int h) { return p.Wetter(m, d, h).Ta; };
-}
-
-Stundenreihe raumluft(const Projekt& p) {
-    return [&p](int m, int d, int h) { return p.T_frei(m, d, h); };
-}
-
 /// Both entries in one font, in which the second one ends above the right end of the axis.
 void legende(Zeichenflaeche& bild, const Projekt& p) {
     constexpr double raum = 280, aussen = 130;
@@ -160,6 +151,14 @@ double X_(double tag, double ursprung, double faktor) {
 
 double Y_(double temperatur, double ursprung, double faktor) {
     return runden(ursprung - faktor * temperatur);
+}
+
+Stundenreihe aussenluft(const Projekt& p) {
+    return [&p](int m, int d, int h) { return p.Wetter(m, d, h).Ta; };
+}
+
+Stundenreihe raumluft(const Projekt& p) {
+    return [&p](int m, int d, int h) { return p.T_frei(m, d, h); };
 }
 
 Temperaturachse temperaturachse(double T_min, double T_max) {

@@ -31,8 +31,15 @@ struct Temperaturachse {
 /// of air beyond the range; an end at exactly 0 stays there.
 [[nodiscard]] Temperaturachse temperaturachse(double T_min, double T_max);
 
+/// Temperatures of the outdoor air and of the free-running room of a project, which must outlive the series.
+[[nodiscard]] Stundenreihe aussenluft(const Projekt& p);
+[[nodiscard]] Stundenreihe raumluft(const Projekt& p);
+
 /// Outdoor air and free-running room temperature of the month `Monat_Uebersicht`, on a surface of any size.
 void TemperaturDiagrammZeichnen(const Projekt& p, Zeichenflaeche& bild);
+
+/// Its numbers, hour by hour.
+[[nodiscard]] Wertetafel TemperaturDiagrammWerte(const Projekt& p);
 
 /// A curve of a comparison.
 struct Temperaturkurve {
@@ -42,8 +49,5 @@ struct Temperaturkurve {
 
 /// Curves of the month (1..12) over one axis, the last on top; what they are stands beside the chart.
 void TemperaturvergleichZeichnen(std::span<const Temperaturkurve> kurven, int monat, Zeichenflaeche& bild);
-
-/// Its numbers, hour by hour.
-[[nodiscard]] Wertetafel TemperaturDiagrammWerte(const Projekt& p);
 
 }  // namespace velmaris

@@ -27,6 +27,10 @@ bool ohne_heizbedarf(const Projekt& p) {
     return p.qhs_sum <= kein_heizbedarf;
 }
 
+double heizwaermebedarf(const Projekt& p) {
+    return ohne_heizbedarf(p) ? 0 : p.qhs_sum;
+}
+
 double heizanteil(const Projekt& p, int m) {
     return ohne_heizbedarf(p) ? 0 : double{p.Monat(m).Qh} / p.f_nutz / p.qhs_sum;
 }

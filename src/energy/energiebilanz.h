@@ -18,6 +18,9 @@ inline constexpr float kein_heizbedarf = 1E-10F;
 /// True for a building that needs no heat in the year.
 [[nodiscard]] bool ohne_heizbedarf(const Projekt& p);
 
+/// The heat demand of the year, kWh/(m2 a): 0 in a building that needs none.
+[[nodiscard]] double heizwaermebedarf(const Projekt& p);
+
 /// Share of month m (1..12) in the year's heat demand; 0 in a building that needs none, where the months hold
 /// nothing but what rounding left.
 [[nodiscard]] double heizanteil(const Projekt& p, int m);

@@ -238,10 +238,7 @@ constexpr const char* je_flaeche = "kWh/(m² a)";
 
 const std::vector<Ergebniszeile>& ergebniszeilen() {
     static const std::vector<Ergebniszeile> zeilen{
-        {{"Heizwärmebedarf", "heat energy demand"},
-         je_flaeche,
-         1,
-         [](const Projekt& p) { return ohne_heizbedarf(p) ? 0.0 : p.qhs_sum; }},
+        {{"Heizwärmebedarf", "heat energy demand"}, je_flaeche, 1, heizwaermebedarf},
         {{"Kühlbedarf", "cooling demand"}, je_flaeche, 1, jahreskuehlbedarf},
         {{"Endenergie Heizung", "end energy for heating"},
          je_flaeche,

@@ -1,5 +1,6 @@
 #include "toolkit/svg_flaeche.h"
 
+#include "toolkit/auszeichnung.h"
 #include "toolkit/schriftmasse.h"
 #include "toolkit/zahlen.h"
 
@@ -21,37 +22,6 @@ std::string wert(double zahl) {
     std::string text = koordinate(zahl);
     if (text.front() == ' ') text.erase(0, 1);
     return text;
-}
-
-std::string attribut(std::string_view name, std::string_view inhalt) {
-    return std::string(" ").append(name).append("=\"").append(inhalt).append("\"");
-}
-
-std::string farbtext(Farbe farbe) {
-    constexpr std::string_view ziffern = "0123456789abcdef";
-    std::string text = "#";
-    for (const unsigned anteil : {farbe.r, farbe.g, farbe.b}) {
-        text.push_back(ziffern[anteil / 16]);
-        text.push_back(ziffern[anteil % 16]);
-    }
-    return text;
-}
-
-/// Text content of an element.
-std::string maskiert(std::string_view text) {
-    std::string ergebnis;
-    for (const char zeichen : text) {
-        if (zeichen == '&') {
-            ergebnis += "&amp;";
-        } else if (zeichen == '<') {
-            ergebnis += "&lt;";
-        } else if (zeichen == '>') {
-            ergebnis += "&gt;";
-        } else {
-            ergebnis.push_back(zeichen);
-        }
-    }
-    return ergebnis;
 }
 
 /// The edge of a letter is a stroke under it, half of which the letter covers.

@@ -21,7 +21,7 @@ constexpr const char* wortpaare =
     "ost\\b|ost-=east;west=west;dachhöhe=height of roof;dach=roof;volumen=volume;wänd|wand(?!sz)=wall;"
     "u-wert=u-value;g-wert=g-value;rahmen=frame;glas=glazing;lüft=vent;innenw=interior;außenw=exterior;"
     "gewinne= gains;verlust=loss;kühl=cool|overheated h;heiz|wärm|nutzfl|speicherf=heat;nicht=non;temp=temp;"
-    "solar=solar;jahr=year;monat|durchschn=month;stunden=hours;daten=data;druck=print;seite=page;spez=spec;"
+    "solar=solar;jahr=year;monat|durchschn=month;stunden=hours;daten=data;druck=print;seite=page;spez=spe;"
     "bedarf=demand;primär=primary;max=max;min=min;mittlere|mittelt|mittelw=mean;trägheit=inertia;obere=upper;"
     "0,10=0.10;region=region;last=load;grad=degree|itude;breiteng=latitude;°c=°c;1/h=1/h;%=%;m²=m²;m³=m³;"
     "kw\\b=kw\\b;w/=w/;diagramm=chart|diagram;bilanz=balance;report=report;anzeigen=show ;welt=world;"

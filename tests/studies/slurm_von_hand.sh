@@ -72,7 +72,7 @@ while [ ! -s ergebnis_3.csv ] || [ "$(wc -l < ergebnis_3.csv)" -lt 2 ]; do sleep
 opfer=$(pgrep -f "^$programm altes_haus.vel .*--teil 3/$teile" | head -1) || true
 if [ -n "$opfer" ]; then
     kill -KILL "$opfer"
-    echo "killed the worker of part 3 after $(wc -l < ergebnis_3.csv) lines"
+    echo "killed the worker of the third task after $(wc -l < ergebnis_3.csv) lines"
     until scontrol show job "${auftrag}_3" | grep -q JobState=FAILED; do sleep 0.2; done
     scontrol requeue "${auftrag}_3"
 fi

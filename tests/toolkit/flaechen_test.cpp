@@ -106,7 +106,7 @@ TEST(SvgFlaeche, SchreibtElementeUndTeiltPfadeGleicherFarbe) {
 <path fill="#ff0000" stroke="#ff0000" stroke-linejoin="round" d="M 10.5 10.5L 15.5 10.5A 5 5 0 0 0 10.5 5.5Z"/>
 <path fill="#0000ff" stroke="#0000ff" stroke-linejoin="round" d="M 10.5 10.5L 15.5 10.5A 5 5 0 1 1 10.5 5.5Z"/>
 <circle cx="2.5" cy="2.5" r="1" fill="#ff0000" stroke="#ff0000"/>
-<text x="1.5" y="12" font-size="11" font-weight="bold" fill="#0000ff">a &lt; b &gt; "c" &amp;</text>
+<text x="1.5" y="12" font-size="11" font-weight="bold" fill="#0000ff">a &lt; b &gt; &quot;c&quot; &amp;</text>
 )"
         "<text x=\"0\" y=\"10\" font-size=\"11\" paint-order=\"stroke\" stroke=\"#ffffff\" "
         "stroke-width=\"3\" stroke-linejoin=\"round\">a</text>\n</svg>\n";

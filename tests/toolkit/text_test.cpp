@@ -1,5 +1,6 @@
 #include "toolkit/text.h"
 
+#include "toolkit/auszeichnung.h"
 #include "toolkit/csv.h"
 
 #include <gtest/gtest.h>
@@ -65,6 +66,10 @@ TEST(Text, FuelltNachZeichenUndNimmtBeideTrennerVonPfaden) {
     EXPECT_EQ(rechtsbuendig("Mär", 5), "  Mär");
     EXPECT_EQ(rechtsbuendig("12345678901", 10), "12345678901");
     EXPECT_EQ(pfadtext(pfad("\\klima/münchen.met")), "/klima/münchen.met");
+}
+
+TEST(Auszeichnung, SchuetztIhreZeichen) {
+    EXPECT_EQ(maskiert("Klima & \"Wetter\" < 5 > ä"), "Klima &amp; &quot;Wetter&quot; &lt; 5 &gt; ä");
 }
 
 }  // namespace

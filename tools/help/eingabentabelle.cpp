@@ -3,6 +3,7 @@
 #include "planes/eingabehinweise.h"
 #include "planes/neues_projekt.h"
 #include "planes/scrolltabelle.h"
+#include "toolkit/auszeichnung.h"
 #include "toolkit/fehler.h"
 #include "toolkit/zahlen.h"
 #include "tools/help/tabelle.h"
@@ -65,7 +66,7 @@ std::string namen(const Eingabehinweis& eingabe) {
 }
 
 std::string oder_strich(std::string_view text) {
-    return text.empty() ? "&ndash;" : html(text);
+    return text.empty() ? "&ndash;" : maskiert(text);
 }
 
 /// Runs a routine for each input of a plane that is a scroll field; a plane without any is a Laufzeitfehler.
@@ -97,7 +98,7 @@ std::vector<std::string> kopf(bool mit_namen, std::string_view sprache) {
 std::vector<std::string> zellen(const Eingabehinweis& eingabe, const Projekt& neu, bool mit_namen,
                                 std::string_view sprache) {
     const Scrollzeile& z = zeile(eingabe);
-    std::vector<std::string> zellen{html(eingabe.name.in(sprache)),
+    std::vector<std::string> zellen{maskiert(eingabe.name.in(sprache)),
                                     mit_minus(z.bereich(sprache)),
                                     schritt(z, z.klein),
                                     schritt(z, z.gross),
@@ -133,7 +134,8 @@ std::string richtwerttabelle(std::string_view ebene, std::string_view sprache) {
     Tabelle tabelle({wort({"Eingabe", "Input"}), wort({"übliche Werte", "Common values"}),
                      wort({"Einheit", "Unit"}), wort({"Quelle", "Source"})});
     fuer_jedes_scrollfeld(ebene, [&](const Eingabehinweis& eingabe) {
-        tabelle.zeile({html(eingabe.name.in(sprache)), mit_minus(html(richtwerttext(eingabe, sprache))),
+        tabelle.zeile({maskiert(eingabe.name.in(sprache)),
+                       mit_minus(maskiert(richtwerttext(eingabe, sprache))),
                        oder_strich(zeile(eingabe).einheit), oder_strich(eingabe.quelle.in(sprache))});
     });
     return tabelle.text();
@@ -142,7 +144,7 @@ std::string richtwerttabelle(std::string_view ebene, std::string_view sprache) {
 std::string erklaerung(std::string_view ebene, std::string_view feld, std::string_view sprache) {
     const Eingabehinweis* eingabe = eingabehinweis(ebene, feld);
     if (eingabe == nullptr) throw Laufzeitfehler({"keine Eingabe", "no input"}, std::string(feld));
-    return html(eingabe->erklaerung.in(sprache));
+    return maskiert(eingabe->erklaerung.in(sprache));
 }
 
 }  // namespace velmaris::hilfe

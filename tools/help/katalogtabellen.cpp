@@ -4,6 +4,7 @@
 #include "energy/katalog_werte.h"
 #include "planes/fensterseite.h"
 #include "project/feldtabelle.h"
+#include "toolkit/auszeichnung.h"
 #include "toolkit/fehler.h"
 #include "toolkit/wort.h"
 #include "toolkit/zahlen.h"
@@ -31,8 +32,8 @@ std::string traeger(int system, const Heizsystemzeile& zeile) {
         const std::string& name = zeile.Energietraeger(i);
         if (name.empty()) continue;
         const float f_p = katalog_werte(system, 1, i, nutzflaeche_der_tabelle).f_p;
-        text +=
-            (text.empty() ? "" : "<br>") + std::to_string(i) + " " + html(name) + " (" + muster(f_p, 1) + ")";
+        text += (text.empty() ? "" : "<br>") + std::to_string(i) + " " + maskiert(name) + " (" +
+                muster(f_p, 1) + ")";
     }
     return text;
 }
@@ -53,7 +54,7 @@ std::string fenstertypentabelle(std::string_view sprache) {
                          sprache));
     int nummer = 0;
     for (const Fenstertyp& typ : fenstertypen()) {
-        tabelle.zeile({std::to_string(nummer++), html(typ.name.in(sprache)), muster(typ.kfg, 1),
+        tabelle.zeile({std::to_string(nummer++), maskiert(typ.name.in(sprache)), muster(typ.kfg, 1),
                        muster(typ.gf, 2), muster(typ.kfr, 1)});
     }
     return tabelle.text();
@@ -67,7 +68,7 @@ std::string heizsystemtabelle(std::string_view sprache) {
                          sprache));
     const Heizsystemkatalog katalog = katalog_laden(sprache);
     for (int system = 1; system <= heizsysteme; ++system) {
-        tabelle.zeile({std::to_string(system), html(katalog(system).Bezeichnung),
+        tabelle.zeile({std::to_string(system), maskiert(katalog(system).Bezeichnung),
                        traeger(system, katalog(system)),
                        muster(katalog_werte(system, 1, 1, nutzflaeche_der_tabelle).e_g, 2)});
     }
@@ -85,7 +86,7 @@ std::string projektdateitabelle(std::string_view sprache) {
         std::vector<std::string> zellen;
         for (int zeile = erste_wertzeile + i; zeile <= letzte_wertzeile; zeile += zeilen_der_tabelle) {
             zellen.push_back(std::to_string(zeile));
-            zellen.push_back("<code>" + html(feld_der_zeile(zeile).name) + "</code>");
+            zellen.push_back("<code>" + maskiert(feld_der_zeile(zeile).name) + "</code>");
         }
         tabelle.zeile(zellen);
     }

@@ -2,29 +2,6 @@
 
 namespace velmaris::hilfe {
 
-std::string html(std::string_view text) {
-    std::string ergebnis;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                ergebnis += "&amp;";
-                break;
-            case '<':
-                ergebnis += "&lt;";
-                break;
-            case '>':
-                ergebnis += "&gt;";
-                break;
-            case '"':
-                ergebnis += "&quot;";
-                break;
-            default:
-                ergebnis += c;
-        }
-    }
-    return ergebnis;
-}
-
 Tabelle::Tabelle(const std::vector<std::string>& kopf)
     : text_("<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\">\n") {
     reihe("th", kopf);

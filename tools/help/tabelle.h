@@ -6,9 +6,6 @@
 
 namespace velmaris::hilfe {
 
-/// Text for HTML: the signs that mean something there become entities.
-[[nodiscard]] std::string html(std::string_view text);
-
 /// A table as it stands on a page. Cells are HTML.
 class Tabelle {
   public:

@@ -31,8 +31,8 @@ class Hilfefenster : public QMainWindow {
     /// that is missing or damaged, or does not have the page, is a Dateifehler; the window stays as it was.
     void zeige(const std::filesystem::path& datei, const std::string& seite);
 
-    /// Scale at which it comes up the next time it was closed; where it is the one of before, the size that
-    /// the user gave stays.
+    /// Scale for the next time that the window comes up after it was closed; if it is the one of before, the
+    /// size that the user gave stays.
     void massstab_vorschlagen(double massstab);
 
     /// Is given links that lead out of the help; without it they lead nowhere.

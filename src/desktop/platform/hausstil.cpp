@@ -9,6 +9,7 @@
 #include <QPainterPath>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <algorithm>
 #include <cmath>
 
 namespace velmaris {
@@ -93,6 +94,14 @@ bool waechst(QStyle::PixelMetric groesse) {
 }
 
 }  // namespace
+
+void fokusrahmen(QPainter& maler, const QRect& feld, double massstab) {
+    const qreal breite = std::max(2.0, massstab);  // the letters of a chart begin close to its edge
+    maler.save();
+    maler.setPen(QPen(QColor(stilfarben::betonung), breite, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    maler.drawRect(QRectF(feld).adjusted(breite / 2, breite / 2, -breite / 2, -breite / 2));
+    maler.restore();
+}
 
 Hausstil::Hausstil() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 

@@ -2,10 +2,15 @@
 
 #include <QProxyStyle>
 
+class QPainter;
 class QStyleOptionComboBox;
 class QStyleOptionSlider;
 
 namespace velmaris {
+
+/// The frame of a picture or a group of figures that has the keyboard, inside the edge of its field; the
+/// scale is that of the window.
+void fokusrahmen(QPainter& maler, const QRect& feld, double massstab);
 
 /// Fusion with the program's own scroll bars and frames, and the same behaviour on every desktop. Its
 /// measures are those of the scale of the window that is drawn.

@@ -1,9 +1,9 @@
 #include "desktop/widgets/bildflaeche.h"
 
 #include "desktop/platform/bilddatei.h"
+#include "desktop/platform/hausstil.h"
 #include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
-#include "desktop/platform/stil.h"
 #include "desktop/widgets/bildzugang.h"
 #include "desktop/widgets/binde.h"
 #include "desktop/widgets/taste.h"
@@ -106,18 +106,12 @@ void Bildflaeche::melde_bildfehler() {
 }
 
 void Bildflaeche::paintEvent(QPaintEvent*) {
-    const qreal fokusrahmen =
-        std::max(2.0, massstab(*this));  // the letters of a chart begin close to its edge
     QPainter maler(this);
     const QImage& bild = flaeche().bild();
     QImage pixel(bild.constBits(), bild.width(), bild.height(), bild.bytesPerLine(), bild.format());
     pixel.setDevicePixelRatio(devicePixelRatioF());
     maler.drawImage(QPointF(0, 0), pixel);
-    if (!hasFocus()) return;
-    maler.setPen(
-        QPen(QColor(stilfarben::betonung), fokusrahmen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    const qreal halb = fokusrahmen / 2;
-    maler.drawRect(QRectF(rect()).adjusted(halb, halb, -halb, -halb));
+    if (hasFocus()) fokusrahmen(maler, rect(), massstab(*this));
 }
 
 void Bildflaeche::keyPressEvent(QKeyEvent* ereignis) {

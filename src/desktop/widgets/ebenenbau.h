@@ -87,6 +87,7 @@ class Ebenenbau {
 
     /// A button that shows one of several panels.
     QPushButton* reiter(Knopf& knopf) const;
+
     /// A picture with its context menu.
     Bildflaeche* bild(Bildfeld& feld, Farbe hintergrund = farben::weiss) const;
 

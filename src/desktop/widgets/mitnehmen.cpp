@@ -1,9 +1,9 @@
 #include "desktop/widgets/mitnehmen.h"
 
 #include "desktop/platform/bildausgabe.h"
+#include "desktop/platform/hausstil.h"
 #include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
-#include "desktop/platform/stil.h"
 #include "desktop/widgets/bildflaeche.h"
 #include "desktop/widgets/ebenenbau.h"
 #include "project/bild_speichern.h"
@@ -127,10 +127,8 @@ class Fokusrahmen : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent*) override {
-        const qreal breite = 2 * massstab(*this);
         QPainter maler(this);
-        maler.setPen(QPen(QColor(stilfarben::betonung), breite, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        maler.drawRect(QRectF(rect()).adjusted(breite / 2, breite / 2, -breite / 2, -breite / 2));
+        fokusrahmen(maler, rect(), massstab(*this));
     }
 };
 
