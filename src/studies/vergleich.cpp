@@ -2,150 +2,29 @@
 
 #include "calc/jahressummen.h"
 #include "energy/energiebilanz.h"
-#include "language/beschriftungen.h"
-#include "planes/eingabehinweise.h"
+#include "studies/eingabegroessen.h"
 #include "toolkit/csv.h"
 #include "toolkit/text.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
 #include <array>
-#include <functional>
 #include <limits>
 #include <set>
 
 namespace velmaris {
 namespace {
 
-/// The facades in the order of the fields of an input that has one for each.
-constexpr std::array<Wort, 4> fassaden{
-    {{"Nord", "north"}, {"Süd", "south"}, {"Ost", "east"}, {"West", "west"}}};
-constexpr std::size_t suedseite = 1;
-
-constexpr std::string_view ja_nein(bool ja, std::string_view sprache) {
-    return ja ? Wort{"ja", "yes"}.in(sprache) : Wort{"nein", "no"}.in(sprache);
-}
-
-/// An input that no scroll field moves: a control that its plane's hints know, and what it says.
-struct Wahl {
-    std::string_view ebene;
-    std::string_view feld;
-    Wort zusatz;  ///< of the facade
-    std::function<std::string(const Haupt&)> text;
-    Wort name = {};  ///< in place of the hint's where that is of two inputs
-};
-
-std::string option(const Haupt& h, std::string_view ebene, const Optionsgruppe& gruppe) {
-    const std::optional<int> nummer = gruppe.gesetzt();
-    return nummer ? beschriftung(std::string(ebene), gruppe.name + std::to_string(*nummer), h.p.Sprache)
-                  : std::string();
-}
-
-Wahl haken(std::string_view ebene, std::string_view feld, std::function<const Pruefeld&(const Haupt&)> kasten,
-           const Wort& zusatz = {}) {
-    return {ebene, feld, zusatz, [kasten = std::move(kasten)](const Haupt& h) {
-                return std::string(ja_nein(kasten(h).wert() != 0, h.p.Sprache));
-            }};
-}
-
-std::vector<Wahl> gebaeudewahlen() {
-    const Wort aussen{"Art der Außenwände", "construction types of exterior walls"};
-    const Wort innen{"Art der Innenwände", "construction types of interior walls"};
-    return {
-        haken(
-            "E_Gebaeude", "awn_cb", [](const Haupt& h) -> auto& { return h.e_gebaeude.awn_cb; }, fassaden[0]),
-        haken(
-            "E_Gebaeude", "aws_cb", [](const Haupt& h) -> auto& { return h.e_gebaeude.aws_cb; }, fassaden[1]),
-        haken(
-            "E_Gebaeude", "awo_cb", [](const Haupt& h) -> auto& { return h.e_gebaeude.awo_cb; }, fassaden[2]),
-        haken(
-            "E_Gebaeude", "aww_cb", [](const Haupt& h) -> auto& { return h.e_gebaeude.aww_cb; }, fassaden[3]),
-        {"E_Gebaeude",
-         "Aussenwandart",
-         {},
-         [](const Haupt& h) { return h.e_gebaeude.Aussenwandart.text(); },
-         aussen},
-        {"E_Gebaeude",
-         "Innenwandart",
-         {},
-         [](const Haupt& h) { return h.e_gebaeude.Innenwandart.text(); },
-         innen},
-    };
-}
-
-std::vector<Wahl> fensterwahlen() {
-    const auto typ = [](std::string_view feld, std::size_t fassade, auto seite) {
-        return Wahl{"E_Fenster", feld, fassaden.at(fassade),
-                    [seite](const Haupt& h) { return (h.e_fenster.*seite).typ.text(); }};
-    };
-    return {
-        {"E_Fenster",
-         "Option1",
-         {},
-         [](const Haupt& h) { return option(h, "E_Fenster", h.e_fenster.Option1); }},
-        typ("fenstern_typ", 0, &E_Fenster::nord),
-        typ("fensters_typ", 1, &E_Fenster::sued),
-        typ("fenstero_typ", 2, &E_Fenster::ost),
-        typ("fensterw_typ", 3, &E_Fenster::west),
-    };
-}
-
-std::vector<Wahl> wahlen() {
-    std::vector<Wahl> alle{
-        haken(
-            "E_Geometrie", "Check_Dachgeschoss",
-            [](const Haupt& h) -> auto& { return h.e_geometrie.Check_Dachgeschoss; }),
-        {"E_Geometrie",
-         "Option_Dachfirst",
-         {},
-         [](const Haupt& h) { return option(h, "E_Geometrie", h.e_geometrie.Option_Dachfirst); }},
-        {"E_Daemmung",
-         "ogd",
-         {},
-         [](const Haupt& h) {
-             const E_Daemmung& e = h.e_daemmung;
-             return e.ogd.sichtbar() ? e.ogd.text() : e.ogd_Dach.text();
-         }},
-        {"E_Daemmung", "ugd", {}, [](const Haupt& h) { return h.e_daemmung.ugd.text(); }},
-        haken(
-            "E_Daemmung", "cbk_hDach", [](const Haupt& h) -> auto& { return h.e_daemmung.cbk_hDach; }),
-        {"E_Daemmung",
-         "Waermebruecken_opt",
-         {},
-         [](const Haupt& h) { return option(h, "E_Daemmung", h.e_daemmung.Waermebruecken_opt); }},
-        {"E_Klima", "Klimaregionwahl2", {}, [](const Haupt& h) { return h.p.Stationsname; }},
-        {"E_Energie", "Label_System", {}, [](const Haupt& h) { return h.e_energie.Label_System.text(); }},
-        {"E_Energie", "Label_Übergabe", {}, [](const Haupt& h) { return h.e_energie.Label_Übergabe.text(); }},
-        {"E_Energie",
-         "Label_Energieträger",
-         {},
-         [](const Haupt& h) { return h.e_energie.Label_Energieträger.text(); }},
-    };
-    for (const auto& weitere : {fensterwahlen(), gebaeudewahlen()})
-        alle.insert(alle.end(), weitere.begin(), weitere.end());
-    return alle;
-}
-
-/// A word in front of what says of which facade or wall it is.
-std::string mit_zusatz(const Eingabehinweis& hinweis, std::string_view zusatz, std::string_view sprache) {
-    std::string name(hinweis.name.in(sprache));
-    if (!zusatz.empty()) name.append(" ").append(zusatz);
-    return name;
-}
-
 /// The rows as they are found, if the projects differ.
 class Eingabensammlung {
   public:
     explicit Eingabensammlung(Projektreihe projekte) : projekte_(projekte) {}
 
-    void pruefe(std::string name, const Scrollzeile* zahl,
-                const std::function<std::string(const Haupt&)>& text) {
+    void pruefe(const Eingabegroesse& groesse) {
         Eingabevergleich zeile{
-            std::move(name), zahl == nullptr ? "" : std::string(zahl->einheit), zahl != nullptr, {}};
-        for (const auto& haupt : projekte_) {
-            const std::string wert = text(*haupt);
-            zeile.werte.push_back(wert.empty() ? "-" : wert);
-        }
+            groesse.bezeichnung(projekte_[0]->p.Sprache), groesse.einheit(), groesse.regler != nullptr, {}};
+        for (const auto& haupt : projekte_)
+            zeile.werte.push_back(groesse.wert(*haupt));
         const std::set<std::string> verschiedene(zeile.werte.begin(), zeile.werte.end());
         if (verschiedene.size() > 1) zeilen.push_back(std::move(zeile));
     }
@@ -156,52 +35,18 @@ class Eingabensammlung {
     Projektreihe projekte_;
 };
 
-std::string gezeigt(const Scrollzeile& zeile, const Projekt& p) {
-    double wert = 0;
-    if (const auto* gleitzahl = std::get_if<float Projekt::*>(&zeile.ziel)) wert = p.*(*gleitzahl);
-    if (const auto* ganzzahl = std::get_if<std::int16_t Projekt::*>(&zeile.ziel)) wert = p.*(*ganzzahl);
-    return muster(wert * zeile.anzeigefaktor, zeile.stellen);
-}
-
 /// Windows that are the same in all projects have the properties of the south side; its rows tell all.
-bool nur_wiederholung(const Eingabehinweis& hinweis, std::size_t fassade, Projektreihe projekte) {
-    const bool eigenschaft = hinweis.ebene == "E_Fenster" && hinweis.felder.front() != "fn_sb";
-    return eigenschaft && fassade != suedseite &&
+bool nur_wiederholung(const Eingabegroesse& groesse, Projektreihe projekte) {
+    const bool eigenschaft =
+        groesse.hinweis.ebene == "E_Fenster" && groesse.hinweis.felder.front() != "fn_sb";
+    return eigenschaft && groesse.fassade && groesse.fassade != suedseite &&
            std::ranges::all_of(projekte, [](const auto& haupt) { return haupt->p.Option1 == 0; });
 }
 
-void schieber_pruefen(const Eingabehinweis& hinweis, Projektreihe projekte, Eingabensammlung& sammlung) {
-    const std::string& sprache = projekte[0]->p.Sprache;
-    for (std::size_t i = 0; i < hinweis.felder.size(); ++i) {
-        const Scrollzeile* zeile = scrollzeile(hinweis.felder[i]);
-        if (zeile == nullptr || nur_wiederholung(hinweis, i, projekte)) continue;
-        const bool je_fassade = hinweis.felder.size() == fassaden.size();
-        const std::string_view zusatz = je_fassade ? fassaden.at(i).in(sprache) : std::string_view();
-        sammlung.pruefe(mit_zusatz(hinweis, zusatz, sprache), zeile,
-                        [&](const Haupt& h) { return gezeigt(*zeile, h.p); });
-    }
-}
-
-void wahlen_pruefen(const Eingabehinweis& hinweis, Projektreihe projekte, const std::vector<Wahl>& alle,
-                    Eingabensammlung& sammlung) {
-    const std::string& sprache = projekte[0]->p.Sprache;
-    for (std::size_t i = 0; i < hinweis.felder.size(); ++i) {
-        const auto wahl = std::ranges::find_if(
-            alle, [&](const Wahl& w) { return w.ebene == hinweis.ebene && w.feld == hinweis.felder[i]; });
-        if (wahl == alle.end() || nur_wiederholung(hinweis, i, projekte)) continue;
-        const std::string_view eigener = wahl->name.in(sprache);
-        sammlung.pruefe(
-            eigener.empty() ? mit_zusatz(hinweis, wahl->zusatz.in(sprache), sprache) : std::string(eigener),
-            nullptr, wahl->text);
-    }
-}
-
 std::vector<Eingabevergleich> eingaben(Projektreihe projekte) {
-    const std::vector<Wahl> alle = wahlen();
     Eingabensammlung sammlung(projekte);
-    for (const Eingabehinweis& hinweis : eingabehinweise()) {
-        schieber_pruefen(hinweis, projekte, sammlung);
-        wahlen_pruefen(hinweis, projekte, alle, sammlung);
+    for (const Eingabegroesse& groesse : eingabegroessen()) {
+        if (!nur_wiederholung(groesse, projekte)) sammlung.pruefe(groesse);
     }
     return std::move(sammlung.zeilen);
 }

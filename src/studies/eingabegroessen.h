@@ -1,0 +1,43 @@
+#pragma once
+
+#include "planes/eingabeebenen.h"
+#include "planes/eingabehinweise.h"
+#include "planes/scrolltabelle.h"
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace velmaris {
+
+/// An input as the planes name it and show its value.
+struct Eingabegroesse {
+    std::string groesse;  ///< name of the quantity in the record
+    const Eingabehinweis& hinweis;
+    std::optional<std::size_t> fassade;  ///< 0..3, north, south, east, west; of inputs that each of them has
+    const Scrollzeile* regler;           ///< of a number; nothing for a choice
+    Wort name;                           ///< without the facade
+
+    /// What the planes of a record say, without the unit; a choice that says nothing is "-".
+    std::function<std::string(const Eingabeebenen&)> wert;
+
+    /// The name with its facade, and the unit; a choice has none.
+    [[nodiscard]] std::string bezeichnung(std::string_view sprache) const;
+    [[nodiscard]] std::string einheit() const;
+};
+
+inline constexpr std::size_t suedseite = 1;
+
+/// All inputs in the order of the help.
+[[nodiscard]] std::span<const Eingabegroesse> eingabegroessen();
+
+/// The input behind a quantity of the record, nothing for a quantity that the planes do not show.
+[[nodiscard]] const Eingabegroesse* eingabegroesse(std::string_view groesse);
+
+/// A number of the record in what the planes show of it.
+[[nodiscard]] double reglerwert(const Scrollzeile& regler, const Projekt& p);
+
+}  // namespace velmaris
