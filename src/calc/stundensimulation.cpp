@@ -53,8 +53,7 @@ void kuehlung_aufteilen(Monatswerte& monat, const Hausmodell& haus, const Stunde
         throw Laufzeitfehler(
             {"Das Gebäude wird wärmer als die Überwärmungsgrenze, obwohl es keinerlei Gewinne hat; sein "
              "Kühlbedarf lässt sich keiner Ursache zuordnen. Die Überwärmungsgrenze oder die internen "
-             "Gewinne "
-             "sind zu niedrig.",
+             "Gewinne sind zu niedrig.",
              "The building gets warmer than the overheating limit although it has no gains of any kind, so "
              "that its cooling demand has no cause. The overheating limit or the internal gains are too "
              "low."});

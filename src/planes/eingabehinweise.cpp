@@ -16,8 +16,7 @@ using Hinweise = std::vector<Eingabehinweis>;
 /// parts that are renewed, and the certification criteria of passive houses.
 constexpr Wort quelle_u_werte{
     "Regeln zur Datenaufnahme im Wohngebäudebestand 2015, GEG Anlage 7, Passivhaus Institut",
-    "German rules for existing buildings 2015, German Buildings Energy Act annex 7, "
-    "Passive House Institute"};
+    "German rules for existing buildings 2015, German Buildings Energy Act annex 7, Passive House Institute"};
 constexpr Wort quelle_balance{"DIN V 4108-6", "DIN V 4108-6"};
 
 Hinweise geometrie() {
@@ -76,11 +75,9 @@ Hinweise geometrie() {
          {"Dachfirst", "roof ridge"},
          {"Option_Dachfirst"},
          {"Bei Nord-Süd-Richtung blicken die Dachflächen nach Ost und West und die Giebel nach Nord und Süd; "
-          "bei "
-          "Ost-West-Richtung umgekehrt.",
+          "bei Ost-West-Richtung umgekehrt.",
           "With north-south-direction the roof planes face east and west and the gables north and south; "
-          "with "
-          "east-west-direction it is the other way round."}},
+          "with east-west-direction it is the other way round."}},
     };
 }
 
@@ -129,8 +126,7 @@ Hinweise fenster() {
          {"verschn_sb", "verschs_sb", "verscho_sb", "verschw_sb"},
          {"Anteil der Sonne, den Nachbarhäuser, Bäume oder Blenden wegnehmen. Der Wert gilt das ganze Jahr.",
           "Share of the sun that neighbouring houses, trees or overhangs take away. The value holds the "
-          "whole "
-          "year."},
+          "whole year."},
          {{{"freie Lage", "free position"}, 0}, {{"üblich", "usual"}, 10}},
          quelle_balance},
         {"E_Fenster",
@@ -144,8 +140,7 @@ Hinweise fenster() {
          {"Gleiche Fenster haben an allen Fassaden die Werte der Südseite, individuelle an jeder Fassade "
           "ihre eigenen.",
           "Windows that are the same have the values of the south side at all facades, individual ones their "
-          "own "
-          "at each facade."}},
+          "own at each facade."}},
     };
 }
 
@@ -166,8 +161,7 @@ Hinweise daemmung() {
          {"Wärmedurchgang je m² und Kelvin: mit beheiztem Dachgeschoss der des Dachs, sonst der der obersten "
           "Decke.",
           "Heat flow per m² and kelvin: with a heated attic through the roof, otherwise through the ceiling "
-          "of the "
-          "top floor."},
+          "of the top floor."},
          {{altbau, 1.4}, {neubau, 0.24}, {passivhaus, 0.15}},
          quelle_u_werte},
         {"E_Daemmung",
@@ -196,8 +190,7 @@ Hinweise daemmung() {
          {"Anteil der Sonnenstrahlung, den die äußere Oberfläche aufnimmt. Er wirkt nur in der "
           "Stundensimulation.",
           "Share of the solar radiation that the outer surface takes up. It has an effect in the hourly "
-          "simulation "
-          "only."},
+          "simulation only."},
          {{{"heller Anstrich", "light paint"}, 0.4},
           {{"gedeckter Anstrich", "muted paint"}, 0.6},
           {{"dunkler Anstrich", "dark paint"}, 0.8}},
@@ -215,11 +208,9 @@ Hinweise daemmung() {
          {"Hinterlüftetes Dach", "ventilated roof"},
          {"cbk_hDach"},
          {"Die Sonne auf dem Dach erwärmt das Haus nicht, weil die Luft unter der Deckung die Wärme abführt. "
-          "Wirkt "
-          "nur in der Stundensimulation.",
+          "Wirkt nur in der Stundensimulation.",
           "The sun on the roof does not warm the house, because the air below the covering carries the heat "
-          "away. It "
-          "has an effect in the hourly simulation only."}},
+          "away. It has an effect in the hourly simulation only."}},
         {"E_Daemmung",
          {"Wärmebrücken", "heat bridges"},
          {"Waermebruecken_opt"},
@@ -250,8 +241,7 @@ Hinweise gebaeude() {
          {"Freie Lüftung", "natural ventilation"},
          {"infiltration_sb"},
          {"Luftwechsel durch Fugen und Fenster. 1/h bedeutet, dass die Luft des Hauses in jeder Stunde "
-          "einmal ersetzt "
-          "wird.",
+          "einmal ersetzt wird.",
           "Air change through joints and windows. 1/h means that the air of the house is replaced once in "
           "each hour."},
          {{{"geprüft dicht", "tested airtight"}, 0.6},

@@ -22,8 +22,7 @@ struct Eingabehinweis {
     std::vector<std::string_view> felder;  ///< names of the controls: one, or one for each facade
     Wort erklaerung;
     std::vector<Richtwert> richtwerte = {};  ///< of scroll fields alone
-    Wort quelle =
-        {};  ///< of the values; empty for common sizes and for the program's own tables and defaults
+    Wort quelle = {};  ///< of the values; empty for common sizes and the program's own tables
 };
 
 /// All inputs, plane by plane in the order of the help. Each scroll field of the input planes is in one of
