@@ -14,6 +14,8 @@ namespace {
 /// The facades in the order of the fields of an input that has one for each.
 constexpr std::array<Wort, 4> fassaden{
     {{"Nord", "north"}, {"Süd", "south"}, {"Ost", "east"}, {"West", "west"}}};
+constexpr Wort alle_fassaden{"alle Fassaden", "all facades"};
+constexpr std::size_t suedseite = 1;
 
 using Wertetext = std::function<std::string(const Eingabeebenen&)>;
 
@@ -150,10 +152,19 @@ std::vector<Eingabegroesse> alle_groessen() {
 
 }  // namespace
 
-std::string Eingabegroesse::bezeichnung(std::string_view sprache) const {
+std::string Eingabegroesse::bezeichnung(std::string_view sprache, bool gleiche_fenster) const {
     std::string text(name.in(sprache));
-    if (fassade) text.append(" ").append(fassaden.at(*fassade).in(sprache));
-    return text;
+    if (!fassade) return text;
+    const Wort& wo = gleiche_fenster && fenstereigenschaft() ? alle_fassaden : fassaden.at(*fassade);
+    return text.append(" ").append(wo.in(sprache));
+}
+
+bool Eingabegroesse::fenstereigenschaft() const {
+    return fassade && hinweis.ebene == "E_Fenster" && hinweis.felder.front() != "fn_sb";
+}
+
+bool Eingabegroesse::folgt_dem_sueden() const {
+    return fenstereigenschaft() && fassade != suedseite;
 }
 
 std::string Eingabegroesse::einheit() const {

@@ -24,12 +24,18 @@ struct Eingabegroesse {
     /// What the planes of a record say, without the unit; a choice that says nothing is "-".
     std::function<std::string(const Eingabeebenen&)> wert;
 
-    /// The name with its facade, and the unit; a choice has none.
-    [[nodiscard]] std::string bezeichnung(std::string_view sprache) const;
-    [[nodiscard]] std::string einheit() const;
-};
+    /// The name with its facade; a property of windows that are the same is one of all facades.
+    [[nodiscard]] std::string bezeichnung(std::string_view sprache, bool gleiche_fenster = false) const;
 
-inline constexpr std::size_t suedseite = 1;
+    /// The unit; a choice has none.
+    [[nodiscard]] std::string einheit() const;
+
+    /// True for a property of windows, which are the same at all facades or not; their share is none.
+    [[nodiscard]] bool fenstereigenschaft() const;
+
+    /// True if windows that are the same have it from the south side.
+    [[nodiscard]] bool folgt_dem_sueden() const;
+};
 
 /// All inputs in the order of the help.
 [[nodiscard]] std::span<const Eingabegroesse> eingabegroessen();

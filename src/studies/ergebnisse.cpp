@@ -3,19 +3,13 @@
 #include "calc/jahressummen.h"
 #include "toolkit/csvleser.h"
 #include "toolkit/fehler.h"
+#include "toolkit/je.h"
 
 #include <algorithm>
 #include <optional>
 
 namespace velmaris {
 namespace {
-
-template <class... Faelle>
-struct Je : Faelle... {
-    using Faelle::operator()...;
-};
-template <class... Faelle>
-Je(Faelle...) -> Je<Faelle...>;
 
 template <class Zeilen>
 auto suchen(const Zeilen& zeilen, std::string_view name) -> decltype(&*zeilen.begin()) {

@@ -1,150 +1,41 @@
 #include "studies/vergleich.h"
 
-#include "calc/jahressummen.h"
-#include "energy/energiebilanz.h"
 #include "studies/eingabegroessen.h"
+#include "studies/jahresergebnisse.h"
 #include "toolkit/csv.h"
 #include "toolkit/text.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
-#include <array>
+#include <functional>
 #include <limits>
 #include <set>
 
 namespace velmaris {
 namespace {
 
-/// The rows as they are found, if the projects differ.
-class Eingabensammlung {
-  public:
-    explicit Eingabensammlung(Projektreihe projekte) : projekte_(projekte) {}
-
-    void pruefe(const Eingabegroesse& groesse) {
-        Eingabevergleich zeile{
-            groesse.bezeichnung(projekte_[0]->p.Sprache), groesse.einheit(), groesse.regler != nullptr, {}};
-        for (const auto& haupt : projekte_)
-            zeile.werte.push_back(groesse.wert(*haupt));
-        const std::set<std::string> verschiedene(zeile.werte.begin(), zeile.werte.end());
-        if (verschiedene.size() > 1) zeilen.push_back(std::move(zeile));
-    }
-
-    std::vector<Eingabevergleich> zeilen;
-
-  private:
-    Projektreihe projekte_;
-};
-
-/// Windows that are the same in all projects have the properties of the south side; its rows tell all.
-bool nur_wiederholung(const Eingabegroesse& groesse, Projektreihe projekte) {
-    const bool eigenschaft =
-        groesse.hinweis.ebene == "E_Fenster" && groesse.hinweis.felder.front() != "fn_sb";
-    return eigenschaft && groesse.fassade && groesse.fassade != suedseite &&
-           std::ranges::all_of(projekte, [](const auto& haupt) { return haupt->p.Option1 == 0; });
-}
-
+/// The inputs of which the projects do not all say the same.
 std::vector<Eingabevergleich> eingaben(Projektreihe projekte) {
-    Eingabensammlung sammlung(projekte);
+    const bool gleiche_fenster =
+        std::ranges::all_of(projekte, [](const auto& haupt) { return haupt->p.Option1 == 0; });
+    std::vector<Eingabevergleich> ungleiche;
     for (const Eingabegroesse& groesse : eingabegroessen()) {
-        if (!nur_wiederholung(groesse, projekte)) sammlung.pruefe(groesse);
+        if (gleiche_fenster && groesse.folgt_dem_sueden()) continue;
+        Eingabevergleich zeile{groesse.bezeichnung(projekte[0]->p.Sprache, gleiche_fenster),
+                               groesse.einheit(),
+                               groesse.regler != nullptr,
+                               {}};
+        for (const auto& haupt : projekte)
+            zeile.werte.push_back(groesse.wert(*haupt));
+        if (std::ranges::adjacent_find(zeile.werte, std::not_equal_to{}) != zeile.werte.end())
+            ungleiche.push_back(std::move(zeile));
     }
-    return std::move(sammlung.zeilen);
-}
-
-/// A row of the results: what it is, its unit and decimals, and where it comes from.
-struct Ergebniszeile {
-    Wort name;
-    const char* einheit;
-    int stellen;
-    double (*wert)(const Projekt&);
-};
-
-/// Hours of the year in degC: largest and mean value.
-template <class Stunden>
-double groesste_temperatur(const Stunden& reihe) {
-    double groesste = -std::numeric_limits<double>::infinity();
-    fuer_jede_stunde(
-        [&](int m, int d, int h, int) { groesste = std::max(groesste, double{reihe(m, d, h)}); });
-    return groesste;
-}
-
-template <class Stunden>
-double mittlere_temperatur(const Stunden& reihe) {
-    double summe = 0;
-    int zahl = 0;
-    fuer_jede_stunde([&](int m, int d, int h, int) {
-        summe += reihe(m, d, h);
-        ++zahl;
-    });
-    return summe / zahl;
-}
-
-constexpr const char* je_flaeche = "kWh/(m² a)";
-
-const std::vector<Ergebniszeile>& ergebniszeilen() {
-    static const std::vector<Ergebniszeile> zeilen{
-        {{"Heizwärmebedarf", "heat energy demand"}, je_flaeche, 1, heizwaermebedarf},
-        {{"Kühlbedarf", "cooling demand"}, je_flaeche, 1, jahreskuehlbedarf},
-        {{"Endenergie Heizung", "end energy for heating"},
-         je_flaeche,
-         1,
-         [](const Projekt& p) { return double{p.q_HE_Energietraeger} + p.q_HE_Strom; }},
-        {{"Endenergie Kühlung", "end energy for cooling"},
-         je_flaeche,
-         1,
-         [](const Projekt& p) { return kuehlenergie_im_jahr(p).Endenergie; }},
-        {{"Primärenergie Heizung", "primary energy for heating"},
-         je_flaeche,
-         1,
-         [](const Projekt& p) { return double{p.q_PE_Energietraeger} + p.q_PE_Strom; }},
-        {{"Primärenergie Kühlung", "primary energy for cooling"},
-         je_flaeche,
-         1,
-         [](const Projekt& p) { return kuehlenergie_im_jahr(p).Primaerenergie; }},
-        {{"Maximale Heizlast", "maximum heating load"},
-         "kW",
-         1,
-         [](const Projekt& p) { return double{p.Heizlast_max}; }},
-        {{"Maximale Kühllast", "maximum cooling load"},
-         "kW",
-         1,
-         [](const Projekt& p) { return double{p.Kuehllast_max}; }},
-        {{"Heizstunden", "heating hours"},
-         "h",
-         0,
-         [](const Projekt& p) { return double(betriebsstunden_im_jahr(p).kalt); }},
-        {{"Nullenergiestunden", "zero energy hours"},
-         "h",
-         0,
-         [](const Projekt& p) { return double(betriebsstunden_im_jahr(p).komfort); }},
-        {{"Kühlstunden", "cooling hours"},
-         "h",
-         0,
-         [](const Projekt& p) { return double(betriebsstunden_im_jahr(p).heiss); }},
-        {{"Kühlgradstunden", "cooling degree hours"},
-         "Kh",
-         0,
-         [](const Projekt& p) { return summe_der_monate(p, &Monatswerte::Kuehlgradstunden); }},
-        {{"Höchste freie Raumtemperatur", "highest free-running room temperature"},
-         "°C",
-         1,
-         [](const Projekt& p) { return groesste_temperatur(p.T_frei); }},
-        {{"Mittlere freie Raumtemperatur", "mean free-running room temperature"},
-         "°C",
-         1,
-         [](const Projekt& p) { return mittlere_temperatur(p.T_frei); }},
-        {{"Mittlere geregelte Raumtemperatur", "mean controlled room temperature"},
-         "°C",
-         1,
-         [](const Projekt& p) { return mittlere_temperatur(p.T_regel); }},
-        {{"Zeitkonstante", "time constant"}, "h", 1, [](const Projekt& p) { return p.tau / 3600.0; }},
-    };
-    return zeilen;
+    return ungleiche;
 }
 
 std::vector<Ergebnisvergleich> ergebnisse(Projektreihe projekte) {
     std::vector<Ergebnisvergleich> alle;
-    for (const Ergebniszeile& zeile : ergebniszeilen()) {
+    for (const Ergebniszeile& zeile : jahresergebnisse()) {
         Ergebnisvergleich ergebnis{
             std::string(zeile.name.in(projekte[0]->p.Sprache)), zeile.einheit, zeile.stellen, {}};
         for (const auto& haupt : projekte)

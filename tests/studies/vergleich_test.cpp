@@ -39,6 +39,7 @@ TEST_F(VergleichTest, NenntUngleicheEingabenUndIhreWirkung) {
     nimm("/x/haus.vel", [](Haupt&) {});
     nimm("/x/sued.vel", [](Haupt& h) {
         h.e_fenster.sued.f.sb.setze(45);
+        h.e_fenster.sued.versch.sb.setze(25);
         h.e_gebaeude.Troom_sb.setze(213);
         h.e_gebaeude.awn_cb.setze(1 - h.e_gebaeude.awn_cb.wert());
         h.e_daemmung.ugd.setze(2);
@@ -50,10 +51,11 @@ TEST_F(VergleichTest, NenntUngleicheEingabenUndIhreWirkung) {
     std::vector<std::string> zeilen;
     for (const Eingabevergleich& e : v.eingaben)
         zeilen.push_back(e.name + "|" + e.werte[0] + "|" + e.werte[1] + "|" + e.werte[2] + "|" + e.einheit);
-    EXPECT_THAT(zeilen, testing::ElementsAre("Wandanteil Süd|40|45|40|%",
-                                             testing::StartsWith("Untere Geschoßdecke gegen|"),
-                                             "Soll-Raumlufttemperatur|20.0|21.3|20.0|°C",
-                                             "Wand gegen beheizt Nord|nein|ja|nein|"));
+    EXPECT_THAT(zeilen,
+                testing::ElementsAre("Wandanteil Süd|40|45|40|%", "Verschattung alle Fassaden|20|25|20|%",
+                                     testing::StartsWith("Untere Geschoßdecke gegen|"),
+                                     "Soll-Raumlufttemperatur|20.0|21.3|20.0|°C",
+                                     "Wand gegen beheizt Nord|nein|ja|nein|"));
     const Ergebnisvergleich& heizen = v.ergebnisse[0];
     EXPECT_DOUBLE_EQ(heizen.abweichung(1), double{sued.qhs_sum} - basis.qhs_sum);
     EXPECT_NEAR(heizen.prozent(1), 100 * (double{sued.qhs_sum} / basis.qhs_sum - 1), 1e-9);
