@@ -2,7 +2,7 @@
 # A study on several machines by GNU parallel and ssh: parallel.sh HAUS.vel PLAN.csv ergebnis TEILE [RECHNER]
 # RECHNER names the machines for parallel's --sshlogin, "anna,otto,:" for instance (":" is this one, the default). The
 # program must be found on each of them; project and plan are brought there, the parts are brought back and joined.
-# Relative names only.
+# Relative names only, in a folder below the home folder; the other machines use the one of that name below theirs.
 set -euo pipefail
 [ $# -ge 4 ] || { sed -n 2,5p "$0" >&2; exit 2; }
 hier=$(dirname "$(readlink -f "$0")")
