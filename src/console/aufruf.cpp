@@ -5,6 +5,7 @@
 #include "studies/studienplan.h"
 #include "studies/vergleich.h"
 #include "toolkit/fehler.h"
+#include "toolkit/programmordner.h"
 #include "toolkit/text.h"
 
 #include <CLI/CLI.hpp>
@@ -229,7 +230,7 @@ void pruefen(const Auftrag& auftrag) {
     ziele_pruefen(auftrag);
 }
 
-std::filesystem::path ordner_des_programms(const char* aufruf) {
+std::filesystem::path ordner_der_datei(const char* aufruf) {
     std::error_code fehler;
     const std::filesystem::path selbst = std::filesystem::read_symlink("/proc/self/exe", fehler);
     return (fehler ? std::filesystem::absolute(aufruf) : selbst).parent_path();
@@ -257,7 +258,8 @@ int aufrufen(int argc, const char* const* argv, std::ostream& aus, std::ostream&
     } catch (const CLI::ParseError& grund) {
         return app.exit(grund, aus, fehler) == 0 ? alles_gut : falscher_aufruf;
     }
-    auftrag.programmordner = ordner.empty() ? ordner_des_programms(argv[0]) : pfad(ordner);
+    auftrag.programmordner =
+        ordner.empty() ? programmordner_bestimmen(ordner_der_datei(argv[0])) : pfad(ordner);
     return ausfuehren(auftrag, aus, fehler);
 }
 

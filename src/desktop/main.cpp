@@ -2,6 +2,7 @@
 #include "desktop/platform/stil.h"
 #include "desktop/programm.h"
 #include "desktop/startfenster.h"
+#include "toolkit/programmordner.h"
 #include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
 
@@ -22,7 +23,7 @@ std::string befehlstext() {
 }
 
 std::filesystem::path programmordner() {
-    return QFileInfo(QCoreApplication::applicationDirPath()).filesystemFilePath();
+    return programmordner_bestimmen(QFileInfo(QCoreApplication::applicationDirPath()).filesystemFilePath());
 }
 
 int ausfuehren() {

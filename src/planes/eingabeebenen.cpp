@@ -10,13 +10,13 @@ namespace velmaris {
 namespace {
 
 /// Makes the record ready for the planes: language, texts, folders, and the ridge that the program starts
-/// with.
+/// with. File dialogs begin in the folder of the program only where it may hold projects.
 void vorbereiten(Projekt& p, const Plattform& plattform, const std::filesystem::path& programmordner,
                  const std::string& sprache) {
     p.Sprache = sprache;
     p.AppPfad = programmordner;
     p.Datenordner = datenordner_bestimmen(programmordner, plattform.datenordner());
-    p.InitDir = programmordner;
+    if (p.Datenordner.empty()) p.InitDir = programmordner;
     p.Datei = unbenannt;
     p.Option_Dachfirst = 1;
     sprachtexte_setzen(p);

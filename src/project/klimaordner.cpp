@@ -1,5 +1,6 @@
 #include "project/klimaordner.h"
 
+#include "toolkit/programmordner.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
@@ -11,13 +12,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* unterordner = "klima";
-
 }  // namespace
 
 Klimaordner::Klimaordner(const fs::path& programmordner, const fs::path& datenordner) {
-    if (!datenordner.empty()) ordner_.push_back(datenordner / unterordner);
-    ordner_.push_back(programmordner / unterordner);
+    if (!datenordner.empty()) ordner_.push_back(datenordner / klimaunterordner);
+    ordner_.push_back(programmordner / klimaunterordner);
 }
 
 fs::path Klimaordner::datei(std::string_view name) const {
@@ -41,9 +40,9 @@ fs::path Klimaordner::schreiben(std::string_view name, std::string_view bytes) c
 }
 
 fs::path datenordner_bestimmen(const fs::path& programmordner, const fs::path& benutzerordner) {
-    if (benutzerordner.empty()) return {};
+    if (benutzerordner.empty() || gemeinsamer_ordner(programmordner)) return benutzerordner;
     std::error_code fehler;
-    const fs::path klima = programmordner / unterordner;
+    const fs::path klima = programmordner / klimaunterordner;
     const bool beschreibbar = ordner_beschreibbar(fs::is_directory(klima, fehler) ? klima : programmordner);
     return beschreibbar ? fs::path() : benutzerordner;
 }

@@ -35,8 +35,8 @@ class Klimaordner {
 };
 
 /// The folder of the user that takes what the program stores, empty while the folder "klima" beside the
-/// program (that of the program itself, where there is no "klima") can be written. `benutzerordner` is the
-/// platform's place for it, empty if there is none.
+/// program (that of the program itself, where there is no "klima") can be written and is no shared one.
+/// `benutzerordner` is the platform's place for it, empty if there is none.
 [[nodiscard]] std::filesystem::path datenordner_bestimmen(const std::filesystem::path& programmordner,
                                                           const std::filesystem::path& benutzerordner);
 

@@ -33,6 +33,9 @@ TEST(Klimaordner, DerDesBenutzersGiltNurWoDerProgrammordnerNichtBeschriebenWird)
     EXPECT_EQ(datenordner_bestimmen(ordner.pfad(), "eigen"), "") << "no folder klima, but it could be made";
     EXPECT_EQ(datenordner_bestimmen(ordner / "fehlt", "eigen"), "eigen");
     EXPECT_EQ(datenordner_bestimmen(ordner / "fehlt", {}), "");
+    ordner.schreibe("share/velmaris/klima/ulm.met", "");
+    EXPECT_EQ(datenordner_bestimmen(ordner / "share/velmaris", "eigen"), "eigen")
+        << "shared, though writable";
 }
 
 }  // namespace
