@@ -11,8 +11,10 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
+#include <initializer_list>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace velmaris {
@@ -20,10 +22,15 @@ namespace {
 
 constexpr int hoechste_kernzahl = 1024;
 
+/// The placeholder of a number between two bounds.
+std::string bereich(int von, int bis) {
+    return std::to_string(von) + ".." + std::to_string(bis);
+}
+
 void import_beschreiben(CLI::App& app, Importauftrag& auftrag) {
     CLI::Option* quelle = app.add_option(
         "--import", auftrag.quelle,
-        "liest Klimadaten (Meteonorm, EnergyPlus) in den Programmordner ein / imports climate data");
+        "liest Klimadaten (Meteonorm, EnergyPlus) als Station ein / imports climate data as a station");
     CLI::Option* name = app.add_option("--name", auftrag.name,
                                        "Name der neuen Klimadatei ohne Endung / name of the new climate file")
                             ->needs(quelle);
@@ -38,7 +45,7 @@ void import_beschreiben(CLI::App& app, Importauftrag& auftrag) {
 void beschreiben(CLI::App& app, Auftrag& auftrag, std::string& ordner) {
     app.add_option("PROJEKT", auftrag.projekte, "Projektdateien (.vel) / project files");
     app.add_option("--sprache", auftrag.sprache, "Sprache der Ausgabe: d oder e / language of the output")
-        ->check(CLI::IsMember({"d", "e"}));
+        ->check(CLI::IsMember({"d", "e"}).description(""));
     CLI::Option* json = app.add_flag("--json", auftrag.json, "alle Werte als JSON / all values as JSON");
     app.add_option(
         "--csv", auftrag.csv,
@@ -56,7 +63,7 @@ void beschreiben(CLI::App& app, Auftrag& auftrag, std::string& ordner) {
     app.add_option("--bericht", auftrag.bericht, "schreibt den Report als RTF / writes the report as RTF");
     app.add_option("--bericht-seite", auftrag.berichtsseite,
                    "gibt eine Seite (1 bis 7) des Reports als Text aus / prints a page of the report as text")
-        ->check(CLI::Range(1, reportseiten))
+        ->check(CLI::Range(1, reportseiten).description(""))
         ->excludes(json);
     CLI::Option* seite = app.add_option(
         "--vergleich", auftrag.vergleich,
@@ -65,7 +72,7 @@ void beschreiben(CLI::App& app, Auftrag& auftrag, std::string& ordner) {
                    "die Zahlen des Vergleichs als CSV / the figures of the comparison as CSV");
     app.add_option("--monat", auftrag.monat,
                    "Monat der Temperaturen im Vergleich (1 bis 12) / month of the comparison's temperatures")
-        ->check(CLI::Range(1, monate))
+        ->check(CLI::Range(1, monate).description(""))
         ->needs(seite);
     app.add_option("--ordner", ordner, "Programmordner mit klima/ / program folder with klima/");
 }
@@ -92,9 +99,40 @@ void studie_beschreiben(CLI::App& app, Studienauftrag& auftrag, Studienworte& wo
                    "Ergebnisse der Studie als CSV, - ist die Standardausgabe / results of the study as CSV");
     app.add_option("--teil", worte.teil, "K/N: nur der K-te von N Teilen / only the K-th of N parts");
     app.add_option("--kerne", auftrag.kerne, "Zahl der Rechenkerne, 0: alle / number of cores, 0: all")
-        ->check(CLI::Range(0, hoechste_kernzahl));
+        ->check(CLI::Range(0, hoechste_kernzahl).description(""));
     app.add_flag("--fortsetzen", auftrag.fortsetzen,
                  "rechnet nur, was in der Ausgabe fehlt / calculates only what the output lacks");
+}
+
+/// What the values of the options are called; `Optionszeile` says how.
+void werte_benennen(CLI::App& app) {
+    for (const auto& [option, wert] : std::initializer_list<std::pair<const char*, std::string>>{
+             {"PROJEKT", "DATEI.vel"},
+             {"--sprache", "d|e"},
+             {"--csv", "DATEI.csv"},
+             {"--csv-stunden", "DATEI.csv"},
+             {"--temperaturen", "DATEI.txt"},
+             {"--neu", "DATEI.vel"},
+             {"--speichern", "DATEI.vel"},
+             {"--diagramme", "ORDNER"},
+             {"--bericht", "DATEI.rtf"},
+             {"--bericht-seite", bereich(1, reportseiten)},
+             {"--vergleich", "DATEI.html"},
+             {"--vergleich-csv", "DATEI.csv"},
+             {"--monat", bereich(1, monate)},
+             {"--ordner", "ORDNER"},
+             {"--import", "DATEI"},
+             {"--name", "NAME"},
+             {"--land", "NAME"},
+             {"--ort", "NAME"},
+             {"--variiere", "NAME=WERTE"},
+             {"--plan", "DATEI.csv"},
+             {"--ergebnis", "NAMEN"},
+             {"--ausgabe", "DATEI.csv"},
+             {"--teil", "K/N"},
+             {"--kerne", bereich(0, hoechste_kernzahl)},
+         })
+        app.get_option(option)->type_name(wert);
 }
 
 /// True if the call asks for a study; options of one that is not asked for are a wrong call.
@@ -236,31 +274,52 @@ std::filesystem::path ordner_der_datei(const char* aufruf) {
     return (fehler ? std::filesystem::absolute(aufruf) : selbst).parent_path();
 }
 
-}  // namespace
+/// The words that a call may hold, and where they are put.
+struct Aufruf {
+    Aufruf() {
+        app.set_help_flag("-h,--help", "zeigt diese Hilfe / shows this help");
+        beschreiben(app, auftrag, ordner);
+        import_beschreiben(app, klimaimport);
+        studie_beschreiben(app, studie, studienworte);
+        werte_benennen(app);
+        werte_verlangen(app);
+    }
 
-int aufrufen(int argc, const char* const* argv, std::ostream& aus, std::ostream& fehler) {
-    CLI::App app(
-        "velmaris_rechnen - Heiz- und Kühlenergie eines Gebäudes / heating and cooling energy of a building");
+    CLI::App app{
+        "velmaris_rechnen - Heiz- und Kühlenergie eines Gebäudes / heating and cooling energy of a building"};
     Auftrag auftrag;
     Importauftrag klimaimport;
     Studienauftrag studie;
     Studienworte studienworte;
     std::string ordner;
-    beschreiben(app, auftrag, ordner);
-    import_beschreiben(app, klimaimport);
-    studie_beschreiben(app, studie, studienworte);
-    werte_verlangen(app);
-    try {
-        app.parse(argc, argv);
-        if (app.count("--import") > 0) auftrag.klimaimport = klimaimport;
-        if (verlangt_studie(app)) auftrag.studie = studie_lesen(studie, studienworte);
-        pruefen(auftrag);
-    } catch (const CLI::ParseError& grund) {
-        return app.exit(grund, aus, fehler) == 0 ? alles_gut : falscher_aufruf;
+};
+
+}  // namespace
+
+std::vector<Optionszeile> worte_des_aufrufs() {
+    const Aufruf aufruf;
+    std::vector<Optionszeile> zeilen;
+    for (const CLI::Option* option : aufruf.app.get_options()) {
+        zeilen.push_back({.name = option->get_name(option->get_positional(), true),
+                          .wert = option->get_type_size() > 0 ? option->get_type_name() : std::string(),
+                          .text = zweisprachig(option->get_description())});
     }
-    auftrag.programmordner =
-        ordner.empty() ? programmordner_bestimmen(ordner_der_datei(argv[0])) : pfad(ordner);
-    return ausfuehren(auftrag, aus, fehler);
+    return zeilen;
+}
+
+int aufrufen(int argc, const char* const* argv, std::ostream& aus, std::ostream& fehler) {
+    Aufruf a;
+    try {
+        a.app.parse(argc, argv);
+        if (a.app.count("--import") > 0) a.auftrag.klimaimport = a.klimaimport;
+        if (verlangt_studie(a.app)) a.auftrag.studie = studie_lesen(a.studie, a.studienworte);
+        pruefen(a.auftrag);
+    } catch (const CLI::ParseError& grund) {
+        return a.app.exit(grund, aus, fehler) == 0 ? alles_gut : falscher_aufruf;
+    }
+    a.auftrag.programmordner =
+        a.ordner.empty() ? programmordner_bestimmen(ordner_der_datei(argv[0])) : pfad(a.ordner);
+    return ausfuehren(a.auftrag, aus, fehler);
 }
 
 }  // namespace velmaris

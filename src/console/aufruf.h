@@ -1,6 +1,9 @@
 #pragma once
 
+#include "toolkit/optionszeile.h"
+
 #include <iosfwd>
+#include <vector>
 
 namespace velmaris {
 
@@ -9,5 +12,8 @@ namespace velmaris {
 /// exit status: 0, 1 if something could not be done, 2 for a call that cannot be understood; nothing is
 /// done then.
 int aufrufen(int argc, const char* const* argv, std::ostream& aus, std::ostream& fehler);
+
+/// All that such a call may hold, as its help tells it.
+[[nodiscard]] std::vector<Optionszeile> worte_des_aufrufs();
 
 }  // namespace velmaris

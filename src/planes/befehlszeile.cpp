@@ -41,4 +41,20 @@ std::optional<std::string> Befehlszeile::projekt() const {
     return !vorhanden(klein) && vorhanden(eigene) ? eigene : klein;
 }
 
+std::vector<Optionszeile> worte_der_befehlszeile() {
+    return {
+        {"PROJEKT.vel", "", {"öffnet dieses Projekt", "opens this project"}},
+        {"d, e",
+         "",
+         {"Deutsch oder Englisch, nur für diesen Lauf und ohne Startfenster",
+          "German or English, for this run alone and without the start window"}},
+        {"--drucken",
+         "DATEI.pdf",
+         {"druckt alle Seiten des Projekts als PDF, ohne ein Fenster",
+          "prints all pages of the project as PDF, without a window"}},
+        {"--sprache", "d|e", {"Sprache der gedruckten Seiten", "language of the printed pages"}},
+        {"-h,--help", "", {"zeigt diese Hilfe", "shows this help"}},
+    };
+}
+
 }  // namespace velmaris

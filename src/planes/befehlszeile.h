@@ -1,9 +1,12 @@
 #pragma once
 
+#include "toolkit/optionszeile.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace velmaris {
 
@@ -26,5 +29,12 @@ class Befehlszeile {
   private:
     std::string text_;
 };
+
+/// How the desktop program is called, and all that its command line may hold, with the run that prints
+/// without a window.
+inline constexpr const char* aufruf_des_programms =
+    "velmaris [d | e | PROJEKT.vel]\n"
+    "                 velmaris --drucken DATEI.pdf [--sprache d|e] PROJEKT.vel";
+[[nodiscard]] std::vector<Optionszeile> worte_der_befehlszeile();
 
 }  // namespace velmaris

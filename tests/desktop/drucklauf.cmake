@@ -17,6 +17,12 @@ function(drucke status fehler)
     endif()
 endfunction()
 
+execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY ${PROGRAMM} --help
+    OUTPUT_VARIABLE hilfe COMMAND_ERROR_IS_FATAL ANY)
+if(NOT hilfe MATCHES "velmaris --drucken DATEI.pdf .*--sprache d\\|e\n")
+    message(SEND_ERROR "no help:\n${hilfe}")
+endif()
+
 drucke(0 "^$" --drucken d.pdf Müllers-Haus.vel)
 drucke(0 "^$" --sprache e Müllers-Haus.vel --drucken=e.pdf)
 drucke(1 "^fehlt.vel: file not found\n$" --drucken alt.pdf --sprache e fehlt.vel)
