@@ -9,9 +9,11 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <algorithm>
 #include <exception>
 #include <iostream>
 #include <new>
+#include <string_view>
 
 namespace {
 
@@ -41,6 +43,7 @@ int mit_fenster(int argc, char** argv) {
     QApplication::setDesktopSettingsAware(false);
     const QApplication anwendung(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velmaris"));
+    QApplication::setDesktopFileName(QStringLiteral("velmaris"));
     QApplication::setQuitOnLastWindowClosed(false);
     stil_setzen();
     try {
@@ -66,9 +69,18 @@ int ohne_fenster(int argc, char** argv) {
     return 1;
 }
 
+bool verlangt_hilfe(int argc, const char* const* argv) {
+    return std::any_of(argv + 1, argv + argc,
+                       [](std::string_view wort) { return wort == "--help" || wort == "-h"; });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (verlangt_hilfe(argc, argv)) {
+        std::cout << hilfetext(aufruf_des_programms, worte_der_befehlszeile());
+        return 0;
+    }
     dateigrenze_melden();
     dezimalzeichen_setzen(dezimalzeichen_der_umgebung());
     return ist_drucklauf(argc, argv) ? ohne_fenster(argc, argv) : mit_fenster(argc, argv);

@@ -55,7 +55,8 @@ void tippschrift_setzen(double massstab) {
 }
 
 void symbol_setzen(const std::filesystem::path& programmordner) {
-    QApplication::setWindowIcon(QIcon(QFileInfo(programmordner / "Grafiken" / "velmaris.bmp").filePath()));
+    const QIcon bild(QFileInfo(programmordner / "Grafiken" / "velmaris.bmp").filePath());
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("velmaris"), bild));
 }
 
 }  // namespace velmaris
