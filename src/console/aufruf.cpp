@@ -74,6 +74,12 @@ void beschreiben(CLI::App& app, Auftrag& auftrag, std::string& ordner) {
                    "Monat der Temperaturen im Vergleich (1 bis 12) / month of the comparison's temperatures")
         ->check(CLI::Range(1, monate).description(""))
         ->needs(seite);
+    app.add_option(
+        "--empfindlichkeit", auftrag.empfindlichkeit,
+        "jede Eingabe einen Schritt runter und rauf, nach Wirkung geordnet, auf einer HTML-Seite / "
+        "each input one step down and up, sorted by effect, on a page");
+    app.add_option("--empfindlichkeit-csv", auftrag.empfindlichkeit_csv,
+                   "die Zahlen der Schritte als CSV / the figures of the steps as CSV");
     app.add_option("--ordner", ordner, "Programmordner mit klima/ / program folder with klima/");
 }
 
@@ -119,6 +125,8 @@ void werte_benennen(CLI::App& app) {
              {"--bericht-seite", bereich(1, reportseiten)},
              {"--vergleich", "DATEI.html"},
              {"--vergleich-csv", "DATEI.csv"},
+             {"--empfindlichkeit", "DATEI.html"},
+             {"--empfindlichkeit-csv", "DATEI.csv"},
              {"--monat", bereich(1, monate)},
              {"--ordner", "ORDNER"},
              {"--import", "DATEI"},
@@ -182,7 +190,7 @@ void werte_verlangen(CLI::App& app) {
 /// True for an order whose output takes a single project.
 bool nur_eines(const Auftrag& auftrag) {
     return auftrag.temperaturen || auftrag.speichern || auftrag.diagramme || auftrag.bericht ||
-           auftrag.berichtsseite;
+           auftrag.berichtsseite || schreitet(auftrag);
 }
 
 /// Where an output goes; an empty path is the standard output.
@@ -211,6 +219,10 @@ std::vector<Ziel> ausgaben(const Auftrag& auftrag) {
     if (auftrag.csv_stunden) ziele.push_back({"--csv-stunden", ort_der_tabelle(*auftrag.csv_stunden)});
     if (auftrag.vergleich) ziele.push_back({"--vergleich", ort_der_tabelle(*auftrag.vergleich)});
     if (auftrag.vergleich_csv) ziele.push_back({"--vergleich-csv", ort_der_tabelle(*auftrag.vergleich_csv)});
+    if (auftrag.empfindlichkeit)
+        ziele.push_back({"--empfindlichkeit", ort_der_tabelle(*auftrag.empfindlichkeit)});
+    if (auftrag.empfindlichkeit_csv)
+        ziele.push_back({"--empfindlichkeit-csv", ort_der_tabelle(*auftrag.empfindlichkeit_csv)});
     if (auftrag.temperaturen) ziele.push_back({"--temperaturen", ort(*auftrag.temperaturen)});
     if (auftrag.bericht) ziele.push_back({"--bericht", ort(*auftrag.bericht)});
     if (auftrag.studie) ziele.push_back({"--ausgabe", ort_der_tabelle(auftrag.studie->ausgabe)});
@@ -255,10 +267,9 @@ void pruefen(const Auftrag& auftrag) {
         throw CLI::ValidationError("PROJEKT", "kein Projekt angegeben / no project given");
     }
     if (auftrag.projekte.size() > 1 && nur_eines(auftrag)) {
-        throw CLI::ValidationError(
-            "PROJEKT",
-            "--temperaturen, --speichern, --diagramme, --bericht und --bericht-seite gelten einem einzigen "
-            "Projekt / take one project");
+        throw CLI::ValidationError("PROJEKT",
+                                   "--temperaturen, --speichern, --diagramme, --bericht, --bericht-seite und "
+                                   "--empfindlichkeit gelten einem einzigen Projekt / take one project");
     }
     const std::size_t zahl = auftrag.projekte.size();
     if (vergleicht(auftrag) && (zahl < kleinster_vergleich || zahl > groesster_vergleich)) {

@@ -11,12 +11,14 @@
 #include "planes/dokumentquelle.h"
 #include "planes/projekt_rechnen.h"
 #include "project/projektdatei.h"
+#include "studies/empfindlichkeitsseite.h"
 #include "studies/fortschritt.h"
 #include "studies/vergleichsseite.h"
 #include "toolkit/fehler.h"
 #include "toolkit/konsolenplattform.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
+#include "toolkit/zahlen.h"
 
 #include <algorithm>
 #include <array>
@@ -90,13 +92,14 @@ class Ausfuehrung {
         return versuche(datei, [&] {
             auto haupt = projekt_rechnen(plattform_, a_.programmordner, a_.sprache, datei);
             dateien_schreiben(a_, *haupt);
+            if (schreitet(a_)) empfindlichkeit_schreiben(*haupt);
             for (Wertetabelle& tabelle : tabellen_)
                 tabelle.nimm_auf(haupt->p, a_.projekte.size() > 1);
             if (a_.json) {
                 ergebnisse_.push_back(als_json(*haupt));
             } else if (a_.berichtsseite) {
                 aus_ << seitentext(report_in_sprache(dokumentquelle(*haupt), *a_.berichtsseite));
-            } else if (!nur_daten() && !vergleicht(a_)) {
+            } else if (!nur_daten() && !vergleicht(a_) && !schreitet(a_)) {
                 aus_ << zusammenfassung(*haupt) << '\n';
             }
             if (vergleicht(a_)) verglichene_.push_back(std::move(haupt));
@@ -161,7 +164,15 @@ class Ausfuehrung {
     /// True if a program is to read the output, so that nothing else may stand there.
     [[nodiscard]] bool nur_daten() const {
         return a_.json || a_.vergleich == standardausgabe || a_.vergleich_csv == standardausgabe ||
+               a_.empfindlichkeit == standardausgabe || a_.empfindlichkeit_csv == standardausgabe ||
                std::ranges::any_of(tabellen_, &Wertetabelle::auf_der_standardausgabe);
+    }
+
+    void empfindlichkeit_schreiben(const Haupt& haupt) {
+        const Dezimalzeichenwahl wahl(a_.sprache);
+        const Empfindlichkeit schritte = empfindlichkeit(haupt.p);
+        if (a_.empfindlichkeit) schreibe(*a_.empfindlichkeit, empfindlichkeitsseite(schritte));
+        if (a_.empfindlichkeit_csv) schreibe(*a_.empfindlichkeit_csv, empfindlichkeit_csv(schritte));
     }
 
     void schreibe(const std::string& ziel, const std::string& inhalt) {

@@ -30,13 +30,15 @@ struct Auftrag {
     std::optional<std::string> neu;
     std::optional<std::string> speichern;
     std::optional<std::string> diagramme;
-    std::optional<std::string> bericht;        ///< all pages of the report as Rich Text
-    std::optional<int> berichtsseite;          ///< 1..7: that page as text, in place of the summary
-    std::optional<std::string> vergleich;      ///< page that compares 2 to 12 projects
-    std::optional<std::string> vergleich_csv;  ///< its figures
-    int monat = 7;                             ///< of its temperatures
-    std::optional<Importauftrag> klimaimport;  ///< done before all else
-    std::optional<Studienauftrag> studie;      ///< over the one project, in place of its summary
+    std::optional<std::string> bericht;              ///< all pages of the report as Rich Text
+    std::optional<int> berichtsseite;                ///< 1..7: that page as text, in place of the summary
+    std::optional<std::string> vergleich;            ///< page that compares 2 to 12 projects
+    std::optional<std::string> vergleich_csv;        ///< its figures
+    int monat = 7;                                   ///< of its temperatures
+    std::optional<std::string> empfindlichkeit;      ///< page of the steps of all inputs of a project
+    std::optional<std::string> empfindlichkeit_csv;  ///< their figures
+    std::optional<Importauftrag> klimaimport;        ///< done before all else
+    std::optional<Studienauftrag> studie;            ///< over the one project, in place of its summary
     std::filesystem::path programmordner;
 };
 
@@ -46,6 +48,11 @@ inline constexpr const char* standardausgabe = "-";
 /// True for an order that sets projects beside each other.
 [[nodiscard]] inline bool vergleicht(const Auftrag& auftrag) {
     return auftrag.vergleich || auftrag.vergleich_csv;
+}
+
+/// True for an order that steps the inputs of a project.
+[[nodiscard]] inline bool schreitet(const Auftrag& auftrag) {
+    return auftrag.empfindlichkeit || auftrag.empfindlichkeit_csv;
 }
 
 inline constexpr int alles_gut = 0;

@@ -171,6 +171,20 @@ std::string Eingabegroesse::einheit() const {
     return regler == nullptr ? std::string() : std::string(regler->einheit);
 }
 
+std::string aufzaehlung(std::span<const Eingabeaenderung> aenderungen, std::string_view sprache) {
+    constexpr std::size_t genannt = 5;
+    std::string text;
+    for (const Eingabeaenderung& eine : aenderungen.first(std::min(genannt, aenderungen.size()))) {
+        if (!text.empty()) text += "; ";
+        text += eine.name + " " + eine.von + " → " + eine.nach;
+        if (!eine.einheit.empty()) text += " " + eine.einheit;
+    }
+    if (aenderungen.size() > genannt)
+        text += std::string(Wort{"; weitere Eingaben: ", "; further inputs: "}.in(sprache)) +
+                std::to_string(aenderungen.size() - genannt);
+    return text;
+}
+
 std::span<const Eingabegroesse> eingabegroessen() {
     static const std::vector<Eingabegroesse> groessen = alle_groessen();
     return groessen;

@@ -37,6 +37,18 @@ struct Eingabegroesse {
     [[nodiscard]] bool folgt_dem_sueden() const;
 };
 
+/// An input that was changed, with what the planes show of it.
+struct Eingabeaenderung {
+    std::string name;
+    std::string von;
+    std::string nach;
+    std::string einheit;
+};
+
+/// The first ones by name with both values, the others by number.
+[[nodiscard]] std::string aufzaehlung(std::span<const Eingabeaenderung> aenderungen,
+                                      std::string_view sprache);
+
 /// All inputs in the order of the help.
 [[nodiscard]] std::span<const Eingabegroesse> eingabegroessen();
 

@@ -49,6 +49,11 @@ const Ergebniszeile ergebnis_primaer_kuehlen{
         return kuehlenergie_im_jahr(p).Primaerenergie;
     }};
 
+const Ergebniszeile ergebnis_primaer{
+    {"Primärenergie", "primary energy"}, je_flaeche, 1, [](const Projekt& p) {
+        return ergebnis_primaer_heizen.wert(p) + ergebnis_primaer_kuehlen.wert(p);
+    }};
+
 std::span<const Ergebniszeile> jahresergebnisse() {
     static const std::vector<Ergebniszeile> zeilen{
         ergebnis_heizen,

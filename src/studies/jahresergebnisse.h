@@ -20,6 +20,7 @@ extern const Ergebniszeile ergebnis_heizen;          ///< heat demand
 extern const Ergebniszeile ergebnis_kuehlen;         ///< cooling demand
 extern const Ergebniszeile ergebnis_primaer_heizen;  ///< primary energy for heating
 extern const Ergebniszeile ergebnis_primaer_kuehlen;
+extern const Ergebniszeile ergebnis_primaer;  ///< of both together, which is in no comparison
 
 /// The results by which projects are told apart: demand, end and primary energy, loads, hours, temperatures,
 /// time constant.

@@ -39,6 +39,10 @@ class Rechenplatz {
     /// The results of the row calculated last.
     [[nodiscard]] Rechenstand stand() const { return {ebenen_.p, kennwerte_, klima_.get()}; }
 
+    /// The planes with the inputs of that row. Who sets them further says so in a row of its own: the next
+    /// one begins anew.
+    [[nodiscard]] Eingabeebenen& ebenen() { return ebenen_; }
+
   private:
     void posten_sammeln(const Planzeile& zeile);
     void einlesen();

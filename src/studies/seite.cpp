@@ -26,6 +26,9 @@ figure{margin:0;break-inside:avoid}
 figcaption{font-weight:bold;margin-bottom:2px}
 figure.fluss{margin-bottom:12px}
 svg{border:1px solid #dfe2e5;max-width:100%;height:auto}
+figure.stueck svg{border:0;display:block}
+#schritte td.text{width:46%}
+#schritte small{white-space:normal}
 .farbe{display:inline-block;width:18px;height:10px;margin:0 5px 0 14px}
 @page{size:A4;margin:14mm}
 @media print{body{margin:0;max-width:none;padding:0;font-size:11px}}
@@ -80,6 +83,10 @@ std::string bild(double breite, double hoehe, const std::function<void(Zeichenfl
     SvgFlaeche flaeche(breite, hoehe);
     zeichnen(flaeche);
     return flaeche.svg();
+}
+
+std::string farbfeld(Farbe farbe) {
+    return "<span class=\"farbe\" style=\"background:" + farbtext(farbe) + "\"></span>";
 }
 
 std::string bildtafel(std::string_view name, std::string_view svg, std::string_view klasse) {

@@ -50,6 +50,9 @@ class Seite {
 [[nodiscard]] std::string bild(double breite, double hoehe,
                                const std::function<void(Zeichenflaeche&)>& zeichnen);
 
+/// A swatch of a colour in front of what it stands for.
+[[nodiscard]] std::string farbfeld(Farbe farbe);
+
 /// A drawing (inline SVG) with its caption, which is HTML.
 [[nodiscard]] std::string bildtafel(std::string_view name, std::string_view svg,
                                     std::string_view klasse = {});

@@ -45,22 +45,15 @@ std::vector<Ergebnisvergleich> ergebnisse(Projektreihe projekte) {
     return alle;
 }
 
-/// What changed in project i: the first inputs by name with both values, the others by number.
+/// What changed in project i.
 std::string aenderungen(const Vergleich& v, std::size_t i, std::string_view sprache) {
-    constexpr std::size_t genannt = 5;
-    std::string text;
-    std::size_t zahl = 0;
+    std::vector<Eingabeaenderung> alle;
     for (const Eingabevergleich& eingabe : v.eingaben) {
-        if (eingabe.werte[i] == eingabe.werte[0] || ++zahl > genannt) continue;
-        if (!text.empty()) text += "; ";
-        text += eingabe.name + " " + eingabe.werte[0] + " → " + eingabe.werte[i];
-        if (!eingabe.einheit.empty()) text += " " + eingabe.einheit;
+        if (eingabe.werte[i] != eingabe.werte[0])
+            alle.push_back({eingabe.name, eingabe.werte[0], eingabe.werte[i], eingabe.einheit});
     }
-    if (zahl == 0) return std::string(Wort{"gleiche Eingaben", "the same inputs"}.in(sprache));
-    if (zahl > genannt)
-        text += std::string(Wort{"; weitere Eingaben: ", "; further inputs: "}.in(sprache)) +
-                std::to_string(zahl - genannt);
-    return text;
+    if (alle.empty()) return std::string(Wort{"gleiche Eingaben", "the same inputs"}.in(sprache));
+    return aufzaehlung(alle, sprache);
 }
 
 std::string satz(const Vergleich& v, std::size_t i, std::string_view sprache) {

@@ -175,9 +175,6 @@ class Vergleichsseite {
     void temperaturen() {
         constexpr double breite = 900, hoehe = 320;
         constexpr Farbe aussen{190, 200, 215};
-        const auto farbfeld = [](Farbe farbe) {
-            return "<span class=\"farbe\" style=\"background:" + farbtext(farbe) + "\"></span>";
-        };
         const Projekt& basis = projekte_[0]->p;
         std::vector<Temperaturkurve> kurven{{aussenluft(basis), aussen}};
         std::string legende = farbfeld(aussen) + wort({"Außenluft (Ausgangsfall)", "outdoor air (base)"});

@@ -7,43 +7,11 @@ import io
 import os
 import subprocess
 import sys
-from html.parser import HTMLParser
+
+from studienseite import near, opened
 
 PROGRAM, SAMPLES, FOLDER, BROWSER = sys.argv[1:5]
 PROJECTS = ["altes_haus", "glasbuero", "niedrigenergiehaus"]
-
-
-class Tables(HTMLParser):
-    """Texts of the cells of each table, the small print behind the cell's value, and how many charts there are."""
-
-    def __init__(self):
-        super().__init__()
-        self.tables, self.charts, self.cell = {}, 0, None
-
-    def handle_starttag(self, tag, attrs):
-        if tag == "table":
-            self.rows = self.tables[dict(attrs)["id"]] = []
-        elif tag == "tr":
-            self.rows.append([])
-        elif tag in ("td", "th"):
-            self.rows[-1].append("")
-            self.cell = True
-        elif tag == "small":
-            self.rows[-1][-1] += "|"
-        elif tag == "svg":
-            self.charts += 1
-
-    def handle_endtag(self, tag):
-        if tag in ("td", "th"):
-            self.cell = None
-
-    def handle_data(self, data):
-        if self.cell:
-            self.rows[-1][-1] += data
-
-
-def near(shown, number, decimals):
-    return abs(float(shown) - float(number)) <= 0.5 * 10 ** -decimals + 1e-4 * abs(float(number))
 
 
 def check(language):
@@ -51,10 +19,7 @@ def check(language):
     files = [os.path.join(SAMPLES, name + ".vel") for name in PROJECTS]
     table = subprocess.run([PROGRAM, "--sprache", language, "--vergleich", page, "--vergleich-csv", "-", *files],
                            check=True, capture_output=True).stdout.decode("utf-8")
-    dom = subprocess.run([BROWSER, "--headless", "--no-sandbox", "--disable-gpu", f"--user-data-dir={FOLDER}/profil",
-                          "--dump-dom", "file://" + page], check=True, capture_output=True, timeout=60).stdout
-    shown = Tables()
-    shown.feed(dom.decode("utf-8"))
+    shown = opened(BROWSER, FOLDER, page)
     rows = list(csv.reader(io.StringIO(table)))[1:]
     inputs = [row for row in rows if row[0] in ("Eingabe", "input")]
     results = [row for row in rows if row[0] in ("Ergebnis", "result")]
@@ -70,7 +35,7 @@ def check(language):
             assert near(value, row[4 + i], decimals) and near(difference, row[6 + i], decimals), (cells, row)
             if percent:
                 assert near(percent.removesuffix(" %)"), row[8 + i], 0), (cells, row)
-    assert shown.charts == 5 * len(PROJECTS) + 1, shown.charts
+    assert len(shown.charts) == 5 * len(PROJECTS) + 1, len(shown.charts)
 
 
 os.makedirs(FOLDER, exist_ok=True)
