@@ -76,7 +76,7 @@ void beschreiben(CLI::App& app, Auftrag& auftrag, std::string& ordner) {
         ->needs(seite);
     app.add_option(
         "--empfindlichkeit", auftrag.empfindlichkeit,
-        "jede Eingabe einen Schritt runter und rauf, nach Wirkung geordnet, auf einer HTML-Seite / "
+        "jede Eingabe einen Schritt nach unten und oben, nach Wirkung geordnet, auf einer HTML-Seite / "
         "each input one step down and up, sorted by effect, on a page");
     app.add_option("--empfindlichkeit-csv", auftrag.empfindlichkeit_csv,
                    "die Zahlen der Schritte als CSV / the figures of the steps as CSV");

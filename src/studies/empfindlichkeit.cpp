@@ -211,7 +211,8 @@ const Ergebniszeile& messgroesse(std::size_t i) {
 
 std::string_view richtungswort(const Schritt& schritt, std::string_view sprache) {
     if (!schritt.richtung) return {};
-    return (schritt.richtung == Richtung::rauf ? Wort{"rauf", "up"} : Wort{"runter", "down"}).in(sprache);
+    return (schritt.richtung == Richtung::rauf ? Wort{"nach oben", "up"} : Wort{"nach unten", "down"})
+        .in(sprache);
 }
 
 std::optional<double> Empfindlichkeit::wirkung(const Schritt& schritt, std::size_t groesse) const {

@@ -66,7 +66,7 @@ struct Empfindlichkeit {
     [[nodiscard]] std::vector<const Eingabewirkung*> ohne_wirkung(std::size_t groesse) const;
 };
 
-/// The word for a step: "runter", "rauf"; empty for none.
+/// The word for a step, "nach oben" or "up"; empty for none.
 [[nodiscard]] std::string_view richtungswort(const Schritt& schritt, std::string_view sprache);
 
 /// Takes each input of an opened project one small step down and one up, one at a time, as the planes do it,

@@ -39,7 +39,8 @@ class Empfindlichkeitsseite {
         seite_.absatz(wort({"Ausgangsfall: ", "base: "}) + element("b", maskiert(e_.projekt)) + ", " +
                       maskiert(e_.station));
         seite_.absatz(wort(
-            {"Jede Eingabe geht für sich allein einen kleinen Schritt runter und einen rauf; alles andere "
+            {"Jede Eingabe geht für sich allein einen kleinen Schritt nach unten und einen nach oben; alles "
+             "andere "
              "bleibt, wie es im Ausgangsfall ist. Ein Schritt ist ein Klick auf den Pfeil des Schiebers, "
              "bei einer Liste der Eintrag davor oder dahinter, bei einem Kästchen sein Häkchen. Der Schritt "
              "steht neben den Balken: Wie groß eine Wirkung ist, hängt auch von ihm ab. Die Klimastation "
@@ -48,8 +49,8 @@ class Empfindlichkeitsseite {
              "base. A step is a click on the arrow of the slider, in a list the entry before or behind, at "
              "a check box its tick. The step stands beside the bars: how large an effect is depends on it, "
              "too. The climate station has no steps and stays."}));
-        seite_.absatz(farbfeld(tornadofarben[0]) + wort({"einen Schritt runter", "one step down"}) +
-                      farbfeld(tornadofarben[1]) + wort({"einen Schritt rauf", "one step up"}));
+        seite_.absatz(farbfeld(tornadofarben[0]) + wort({"einen Schritt nach unten", "one step down"}) +
+                      farbfeld(tornadofarben[1]) + wort({"einen Schritt nach oben", "one step up"}));
     }
 
     void wirkungen(std::size_t i) {

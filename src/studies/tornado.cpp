@@ -17,7 +17,7 @@ constexpr double halbe_zeile = 16;
 // Columns, pixels.
 constexpr double rand = 6;
 constexpr double schritt_links = 236;
-constexpr double balken_links = 500;
+constexpr double balken_links = 566;
 constexpr double spalt = 8;
 constexpr double zahlbreite = 56;  ///< beside the longest bar
 

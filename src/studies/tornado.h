@@ -38,7 +38,7 @@ struct Tornado {
 [[nodiscard]] std::size_t tornado_stuecke(const Tornado& tornado);
 
 /// Size of a piece (from 0), pixels.
-inline constexpr double tornado_breite = 900;
+inline constexpr double tornado_breite = 950;
 [[nodiscard]] double tornado_hoehe(const Tornado& tornado, std::size_t stueck);
 
 /// Draws a piece on a surface of its size.

@@ -120,7 +120,7 @@ def steps(base):
     for rule, table in ((slider_step, SLIDERS), (choice_step, CHOICES)):
         for row in table:
             for name, sides in facades(base, row[1]) if "_" in (row[1][-1], row[1][7:8]) else [("", "")]:
-                for direction, sign in (("runter", -1), ("rauf", 1)):
+                for direction, sign in (("nach unten", -1), ("nach oben", 1)):
                     found[row[0] + name, direction] = rule(base, row, sides, sign)
     return found
 

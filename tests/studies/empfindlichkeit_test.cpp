@@ -11,7 +11,7 @@
 namespace velmaris {
 namespace {
 
-/// The words of the steps of an input: "runter", value, note.
+/// The words of the steps of an input: direction, value, note.
 std::vector<std::string> worte(const Empfindlichkeit& e, const std::string& name) {
     std::vector<std::string> zeilen;
     const auto eingabe = std::ranges::find(e.eingaben, name, &Eingabewirkung::name);
