@@ -2,6 +2,7 @@
 
 #include "charts/bilanzdiagramme.h"
 #include "charts/c_sankey.h"
+#include "charts/kurvenfarben.h"
 #include "charts/sankey_heizen.h"
 #include "charts/sankey_kuehlen.h"
 #include "charts/schema.h"
@@ -12,25 +13,12 @@
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
-#include <array>
 #include <functional>
 
 namespace velmaris {
 namespace {
 
-/// The base is black; the others differ in hue and lightness, neighbours most.
-constexpr std::array<Farbe, groesster_vergleich> kurvenfarben{{{0, 0, 0},
-                                                               {213, 94, 0},
-                                                               {0, 114, 178},
-                                                               {0, 158, 115},
-                                                               {204, 121, 167},
-                                                               {230, 159, 0},
-                                                               {86, 180, 233},
-                                                               {120, 60, 20},
-                                                               {110, 80, 180},
-                                                               {150, 150, 0},
-                                                               {90, 90, 90},
-                                                               {240, 60, 60}}};
+static_assert(kurvenfarben.size() >= groesster_vergleich);
 
 /// The page of a comparison, section by section.
 class Vergleichsseite {
