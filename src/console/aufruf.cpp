@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -88,6 +89,7 @@ struct Studienworte {
     std::vector<std::string> variiere;
     std::string ergebnis{hauptergebnisse};
     std::string teil = "1/1";
+    std::optional<std::string> bild = {};
 };
 
 void studie_beschreiben(CLI::App& app, Studienauftrag& auftrag, Studienworte& worte) {
@@ -103,6 +105,9 @@ void studie_beschreiben(CLI::App& app, Studienauftrag& auftrag, Studienworte& wo
                    "Namen von --json mit Kommas dazwischen / names of --json with commas between them");
     app.add_option("--ausgabe", auftrag.ausgabe,
                    "Ergebnisse der Studie als CSV, - ist die Standardausgabe / results of the study as CSV");
+    app.add_option("--bild", worte.bild,
+                   "zeichnet die Ergebnisse über eine oder zwei Eingaben auf einer HTML-Seite / draws the "
+                   "results over one or two inputs on a page");
     app.add_option("--teil", worte.teil, "K/N: nur der K-te von N Teilen / only the K-th of N parts");
     app.add_option("--kerne", auftrag.kerne, "Zahl der Rechenkerne, 0: alle / number of cores, 0: all")
         ->check(CLI::Range(0, hoechste_kernzahl).description(""));
@@ -137,6 +142,7 @@ void werte_benennen(CLI::App& app) {
              {"--plan", "DATEI.csv"},
              {"--ergebnis", "NAMEN"},
              {"--ausgabe", "DATEI.csv"},
+             {"--bild", "DATEI.html"},
              {"--teil", "K/N"},
              {"--kerne", bereich(0, hoechste_kernzahl)},
          })
@@ -146,7 +152,7 @@ void werte_benennen(CLI::App& app) {
 /// True if the call asks for a study; options of one that is not asked for are a wrong call.
 bool verlangt_studie(const CLI::App& app) {
     if (app.count("--variiere") + app.count("--plan") > 0) return true;
-    for (const char* option : {"--ergebnis", "--ausgabe", "--teil", "--kerne", "--fortsetzen"}) {
+    for (const char* option : {"--ergebnis", "--ausgabe", "--bild", "--teil", "--kerne", "--fortsetzen"}) {
         if (app.count(option) > 0)
             throw CLI::ValidationError(option, "nur mit / only with --variiere, --plan");
     }
@@ -163,12 +169,26 @@ auto gelesen(const char* option, const Lesen& lesen) {
     }
 }
 
+/// A page of pictures has all rows of one run, and the table is written beside it only where that is asked
+/// for.
+void bild_pruefen(Studienauftrag& auftrag, bool geteilt, bool mit_tabelle) {
+    if (geteilt || auftrag.fortsetzen)
+        throw CLI::ValidationError(
+            "--bild",
+            "braucht alle Zeilen in einem Lauf, ohne --teil und --fortsetzen / needs all "
+            "rows in one run, without --teil and --fortsetzen");
+    auftrag.tabelle = mit_tabelle;
+    if (auftrag.plan.empty())
+        gelesen("--bild", [&] { return Studienbild(*plan_anlegen(auftrag), auftrag.ergebnisse).zeilen(); });
+}
+
 Studienauftrag studie_lesen(Studienauftrag auftrag, const Studienworte& worte) {
     for (const std::string& text : worte.variiere)
         auftrag.variiert.push_back(gelesen("--variiere", [&] { return Wertereihe(text); }));
     gelesen("--variiere", [&] { return Gitterplan(auftrag.variiert).anzahl(); });
     auftrag.ergebnisse = gelesen("--ergebnis", [&] { return ergebnisse_lesen(worte.ergebnis); });
     auftrag.teil = gelesen("--teil", [&] { return teil_lesen(worte.teil); });
+    if (worte.bild) bild_pruefen(auftrag, auftrag.teil.teile > 1, !auftrag.ausgabe.empty());
     if (auftrag.ausgabe == standardausgabe) auftrag.ausgabe.clear();
     if (auftrag.fortsetzen && auftrag.ausgabe.empty())
         throw CLI::ValidationError("--fortsetzen", "braucht eine Datei / needs a file: --ausgabe");
@@ -225,7 +245,9 @@ std::vector<Ziel> ausgaben(const Auftrag& auftrag) {
         ziele.push_back({"--empfindlichkeit-csv", ort_der_tabelle(*auftrag.empfindlichkeit_csv)});
     if (auftrag.temperaturen) ziele.push_back({"--temperaturen", ort(*auftrag.temperaturen)});
     if (auftrag.bericht) ziele.push_back({"--bericht", ort(*auftrag.bericht)});
-    if (auftrag.studie) ziele.push_back({"--ausgabe", ort_der_tabelle(auftrag.studie->ausgabe)});
+    if (auftrag.studie && auftrag.studie->tabelle)
+        ziele.push_back({"--ausgabe", ort_der_tabelle(auftrag.studie->ausgabe)});
+    if (auftrag.bild) ziele.push_back({"--bild", ort_der_tabelle(*auftrag.bild)});
     return ziele;
 }
 
@@ -248,14 +270,14 @@ void ziele_pruefen(const Auftrag& auftrag) {
     }
 }
 
-/// A study takes one project and gives nothing but its table.
+/// A study takes one project and gives nothing but its table and its pictures.
 void studie_pruefen(const Auftrag& auftrag) {
     const bool anderes =
         auftrag.json || auftrag.csv || auftrag.csv_stunden || nur_eines(auftrag) || vergleicht(auftrag);
     if (auftrag.projekte.size() != 1 || anderes) {
         throw CLI::ValidationError("--variiere, --plan",
-                                   "gelten einem einzigen Projekt und geben nur ihre Tabelle aus / take one "
-                                   "project and give their table alone");
+                                   "gelten einem einzigen Projekt und geben nur Tabelle und Bild aus / take "
+                                   "one project and give their table and pictures alone");
     }
 }
 
@@ -323,7 +345,10 @@ int aufrufen(int argc, const char* const* argv, std::ostream& aus, std::ostream&
     try {
         a.app.parse(argc, argv);
         if (a.app.count("--import") > 0) a.auftrag.klimaimport = a.klimaimport;
-        if (verlangt_studie(a.app)) a.auftrag.studie = studie_lesen(a.studie, a.studienworte);
+        if (verlangt_studie(a.app)) {
+            a.auftrag.studie = studie_lesen(a.studie, a.studienworte);
+            a.auftrag.bild = a.studienworte.bild;
+        }
         pruefen(a.auftrag);
     } catch (const CLI::ParseError& grund) {
         return a.app.exit(grund, aus, fehler) == 0 ? alles_gut : falscher_aufruf;

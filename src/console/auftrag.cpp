@@ -11,6 +11,7 @@
 #include "planes/dokumentquelle.h"
 #include "planes/projekt_rechnen.h"
 #include "project/projektdatei.h"
+#include "studies/bildseite.h"
 #include "studies/empfindlichkeitsseite.h"
 #include "studies/fortschritt.h"
 #include "studies/vergleichsseite.h"
@@ -117,7 +118,15 @@ class Ausfuehrung {
             .aus = aus_,
             .fehler = fehler_,
             .fortschritt = fehler_auf_terminal()};
-        return versuche(projekt, [&] { gut = velmaris::studie_rechnen(studie, umgebung); }) && gut;
+        std::optional<Studienbild> bild;
+        const auto vorbereiten = [&] {
+            if (a_.bild) bild.emplace(*plan_anlegen(studie), studie.ergebnisse);
+        };
+        const auto rechnen = [&] {
+            gut = velmaris::studie_rechnen(studie, umgebung, bild ? &*bild : nullptr);
+        };
+        return versuche(studie.plan, vorbereiten) && versuche(projekt, rechnen) && bild_schreiben(bild) &&
+               gut;
     }
 
     /// A comparison without one of its projects would mislead: it is not written then, and older files stay.
@@ -161,6 +170,15 @@ class Ausfuehrung {
     }
 
   private:
+    /// Pictures of a study that was stopped would mislead: none are written, and an older page stays.
+    bool bild_schreiben(const std::optional<Studienbild>& bild) {
+        if (!bild || !bild->vollstaendig()) return !bild;
+        return versuche(*a_.bild, [&] {
+            const std::string projekt = pfadtext(pfad(a_.projekte.front()).stem());
+            schreibe(*a_.bild, bildseite(*bild, projekt, a_.sprache));
+        });
+    }
+
     /// True if a program is to read the output, so that nothing else may stand there.
     [[nodiscard]] bool nur_daten() const {
         return a_.json || a_.vergleich == standardausgabe || a_.vergleich_csv == standardausgabe ||

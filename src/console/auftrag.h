@@ -39,6 +39,7 @@ struct Auftrag {
     std::optional<std::string> empfindlichkeit_csv;  ///< their figures
     std::optional<Importauftrag> klimaimport;        ///< done before all else
     std::optional<Studienauftrag> studie;            ///< over the one project, in place of its summary
+    std::optional<std::string> bild;                 ///< page with the pictures of that study
     std::filesystem::path programmordner;
 };
 

@@ -87,7 +87,10 @@ Handbuch handbuch_der_konsole() {
             {"zwei Projekte nebeneinander", "two projects side by side"}},
            {"velmaris_rechnen --variiere Troom=19,20,21 --ausgabe studie.csv haus.vel",
             "",
-            {"dasselbe Haus mit drei Raumtemperaturen", "the same house at three room temperatures"}}}},
+            {"dasselbe Haus mit drei Raumtemperaturen", "the same house at three room temperatures"}},
+           {"velmaris_rechnen --variiere fs=0:100:5 --variiere kws=0.1:1.4:0.1 --bild seite.html haus.vel",
+            "",
+            {"Bilder der Ergebnisse über zwei Eingaben", "pictures of the results over two inputs"}}}},
          {siehe_auch, {absatz("velmaris(1)", "velmaris(1)")}}}};
 }
 

@@ -203,4 +203,11 @@ double reglerwert(const Scrollzeile& regler, const Projekt& p) {
     return wert * regler.anzeigefaktor;
 }
 
+std::optional<double> gefragter_reglerwert(const Scrollzeile& regler, std::string_view zahl) {
+    const auto wert = zahl_pruefen(zahl);
+    if (!wert) return std::nullopt;
+    const double stellung = runden(f32(*wert) * regler.teiler);
+    return f32(stellung / regler.teiler + 0.0) * regler.anzeigefaktor;
+}
+
 }  // namespace velmaris

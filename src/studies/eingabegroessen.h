@@ -58,4 +58,8 @@ struct Eingabeaenderung {
 /// A number of the record in what the planes show of it.
 [[nodiscard]] double reglerwert(const Scrollzeile& regler, const Projekt& p);
 
+/// What the planes show where a project asks for that number: the slider's nearest position, also beyond its
+/// ends. Nothing for what is no number.
+[[nodiscard]] std::optional<double> gefragter_reglerwert(const Scrollzeile& regler, std::string_view zahl);
+
 }  // namespace velmaris

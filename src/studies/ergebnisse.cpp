@@ -6,6 +6,7 @@
 #include "toolkit/je.h"
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace velmaris {
@@ -43,6 +44,12 @@ Ergebnis ergebnis_suchen(std::string_view name) {
                           zitat + " is no result (the names are those of --json)"});
 }
 
+float feldwert(const Feldzeile& feld, const Projekt& p) {
+    return std::visit(Je{[](std::string Projekt::*) { return std::numeric_limits<float>::quiet_NaN(); },
+                         [&p](auto zeiger) { return static_cast<float>(p.*zeiger); }},
+                      feld.zeiger);
+}
+
 void feld_schreiben(Csvtext& tabelle, const Feldzeile& feld, const Projekt& p) {
     std::visit([&](auto zeiger) { tabelle.zelle(p.*zeiger); }, feld.zeiger);
 }
@@ -66,6 +73,20 @@ std::vector<Ergebnis> ergebnisse_lesen(std::string_view namen) {
 bool brauchen_klima(const std::vector<Ergebnis>& ergebnisse) {
     return std::ranges::any_of(ergebnisse,
                                [](const Ergebnis& e) { return std::holds_alternative<Klimatext>(e.quelle); });
+}
+
+float ergebniswert(const Ergebnis& ergebnis, const Rechenstand& stand) {
+    return std::visit(Je{[&](const Feldzeile* feld) { return feldwert(*feld, stand.p); },
+                         [&](const Monatszeile* zeile) { return jahreswert(stand.p, *zeile).value(); },
+                         [&](const Kennwertzeile* zeile) { return stand.kennwerte.*zeile->zeiger; },
+                         [](Klimatext) { return std::numeric_limits<float>::quiet_NaN(); }},
+                      ergebnis.quelle);
+}
+
+bool ist_zahl(const Ergebnis& ergebnis) {
+    if (const auto* const* feld = std::get_if<const Feldzeile*>(&ergebnis.quelle))
+        return !std::holds_alternative<std::string Projekt::*>((*feld)->zeiger);
+    return !std::holds_alternative<Klimatext>(ergebnis.quelle);
 }
 
 void ergebnis_schreiben(Csvtext& tabelle, const Ergebnis& ergebnis, const Rechenstand& stand) {

@@ -42,6 +42,12 @@ inline constexpr std::string_view hauptergebnisse =
 /// True if one of them is a text of the climate plane.
 [[nodiscard]] bool brauchen_klima(const std::vector<Ergebnis>& ergebnisse);
 
+/// The value of a result as a number; not a number for a text.
+[[nodiscard]] float ergebniswert(const Ergebnis& ergebnis, const Rechenstand& stand);
+
+/// True unless the result is a text.
+[[nodiscard]] bool ist_zahl(const Ergebnis& ergebnis);
+
 /// Writes the value of a result as a cell: a number with the fewest digits that give it back.
 void ergebnis_schreiben(Csvtext& tabelle, const Ergebnis& ergebnis, const Rechenstand& stand);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "studies/rechenplatz.h"
+#include "studies/studienbild.h"
 
 #include <cstddef>
 #include <functional>
@@ -16,6 +17,7 @@ struct Studienfenster {
     std::vector<std::size_t> reihenfolge;  ///< in which they are calculated best
     std::vector<std::string> texte;        ///< rows of the output, empty for what is not calculated
     std::vector<std::string> meldungen;    ///< what to say of a faulty row, else empty
+    std::vector<Zeilenwerte> bildwerte;    ///< where pictures are wanted
 };
 
 /// The stations of a line: windows come in, their rows are calculated by all workers, windows go out in the

@@ -42,6 +42,7 @@ class Rechenplatz {
     /// The planes with the inputs of that row. Who sets them further says so in a row of its own: the next
     /// one begins anew.
     [[nodiscard]] Eingabeebenen& ebenen() { return ebenen_; }
+    [[nodiscard]] const Eingabeebenen& ebenen() const { return ebenen_; }
 
   private:
     void posten_sammeln(const Planzeile& zeile);

@@ -19,7 +19,10 @@ th:first-child,td:first-child,th:nth-child(2){text-align:left}
 th{background:#f0f2f4}
 td.einheit{text-align:left;color:#5a6068}
 td.text{text-align:left}
-td small{display:block;color:#5a6068;white-space:nowrap}
+td small,th small{display:block;color:#5a6068;white-space:nowrap}
+th small{font-weight:normal}
+table[id^=zahlen]{width:auto}
+table[id^=zahlen] th:nth-child(2){text-align:right}
 tr{break-inside:avoid}
 .reihe{display:flex;flex-wrap:wrap;gap:14px}
 figure{margin:0;break-inside:avoid}
@@ -31,7 +34,7 @@ figure.stueck svg{border:0;display:block}
 #schritte small{white-space:normal}
 .farbe{display:inline-block;width:18px;height:10px;margin:0 5px 0 14px}
 @page{size:A4;margin:14mm}
-@media print{body{margin:0;max-width:none;padding:0;font-size:11px}}
+@media print{body{margin:0;max-width:none;padding:0;font-size:11px}table[id^=zahlen] td,table[id^=zahlen] th{padding:3px 4px}}
 )";
 
 }  // namespace

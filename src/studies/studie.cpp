@@ -39,11 +39,6 @@ std::vector<std::size_t> sortierspalten(const std::vector<const Feldzeile*>& spa
     return stellen;
 }
 
-std::unique_ptr<Studienplan> plan_anlegen(const Studienauftrag& auftrag) {
-    if (!auftrag.plan.empty()) return std::make_unique<Dateiplan>(auftrag.plan);
-    return std::make_unique<Gitterplan>(auftrag.variiert);
-}
-
 std::string kopfzeile(const Studienplan& plan, const std::vector<Ergebnis>& ergebnisse) {
     Csvtext text;
     text.zelle("Nr");
@@ -69,9 +64,10 @@ void ausgabe_pruefen(const Studienauftrag& auftrag, const Studienumgebung& umgeb
 /// A study on its way.
 class Studienlauf {
   public:
-    Studienlauf(const Studienauftrag& auftrag, const Studienumgebung& umgebung)
+    Studienlauf(const Studienauftrag& auftrag, const Studienumgebung& umgebung, Studienbild* bild)
         : auftrag_(auftrag),
           umgebung_(umgebung),
+          bild_(bild),
           plan_(plan_anlegen(auftrag)),
           sortierspalten_(sortierspalten(plan_->spalten())),
           stationen_(umgebung.programmordner, umgebung.datenordner,
@@ -89,7 +85,7 @@ class Studienlauf {
         const std::uint64_t davor = auftrag_.teil.davor(plan_->anzahl());
         offen_ = auftrag_.teil.danach(plan_->anzahl()) - davor;
         plan_->ueberspringen(davor);
-        beginnen();
+        if (auftrag_.tabelle) beginnen();
         const Abbruchwache wache;
         Fortschritt balken(umgebung_.fortschritt ? &umgebung_.fehler : nullptr, umgebung_.sprache, offen_);
         balken_ = &balken;
@@ -101,6 +97,7 @@ class Studienlauf {
                 .schreiben = [this](const Studienfenster& fenster) { fenster_schreiben(fenster); }},
                auftrag_.kerne);
         balken.weiche();
+        if (bild_ != nullptr) basis_rechnen();
         return abschliessen();
     }
 
@@ -130,6 +127,7 @@ class Studienlauf {
         gelesen_ += groesse;
         fenster->texte.resize(groesse);
         fenster->meldungen.resize(groesse);
+        fenster->bildwerte.resize(bild_ == nullptr ? 0 : groesse);
         return fenster;
     }
 
@@ -160,6 +158,7 @@ class Studienlauf {
             for (const Ergebnis& ergebnis : auftrag_.ergebnisse)
                 ergebnis_schreiben(text, ergebnis, stand);
             text.zelle(std::string_view());
+            if (bild_ != nullptr) fenster.bildwerte[stelle] = bild_->lesen(platz);
         } catch (const Laufzeitfehler& fehler) {
             text = Csvtext();
             for (std::size_t i = 0; i < auftrag_.ergebnisse.size(); ++i)
@@ -167,6 +166,7 @@ class Studienlauf {
             text.zelle(in_einer_zeile(fehler.text(umgebung_.sprache)));
             const Dateifehler ort(plan_->name(), fehler.grund(), plan_->zeile(zeile.nummer), fehler.feld());
             fenster.meldungen[stelle] = ort.text(umgebung_.sprache);
+            if (bild_ != nullptr) fenster.bildwerte[stelle].grund = fehler.text(umgebung_.sprache);
         }
         text.zeilenende();
         fenster.texte[stelle] = zeilenanfang(zeile) + text.text();
@@ -178,15 +178,32 @@ class Studienlauf {
         const auto ende = std::ranges::find_if(fenster.texte, &std::string::empty);
         unvollstaendig_ = ende != fenster.texte.end();
         const std::string zeilen = std::accumulate(fenster.texte.begin(), ende, std::string());
-        ausgabe_.schreiben(zeilen);
+        if (auftrag_.tabelle) ausgabe_.schreiben(zeilen);
         const auto anzahl = static_cast<std::size_t>(ende - fenster.texte.begin());
         for (std::size_t i = 0; i < anzahl; ++i) {
             if (fenster.meldungen[i].empty()) continue;
             if (++gemeldet_ <= gemeldete_zeilen) melde(fenster.meldungen[i]);
         }
+        for (std::size_t i = 0; i < anzahl && bild_ != nullptr; ++i)
+            bild_->nimm(fenster.zeilen[i], fenster.bildwerte[i]);
         geschrieben_ += anzahl;
         const std::scoped_lock sperre(meldeschloss_);
         balken_->zeige(geschrieben_);
+    }
+
+    /// A project that cannot be calculated itself may have rows that can.
+    void basis_rechnen() {
+        Studiengrundlage ohne_zeile = grundlage_;
+        ohne_zeile.spalten.clear();
+        Rechenplatz platz(ohne_zeile);
+        try {
+            platz.rechnen({});
+            bild_->nimm_basis(platz);
+        } catch (const Laufzeitfehler& fehler) {
+            melde(Zweisprachig{"der Ausgangsfall fehlt im Bild: " + fehler.text("d"),
+                               "the picture lacks the base: " + fehler.text("e")}
+                      .in(umgebung_.sprache));
+        }
     }
 
     /// From any thread: a station that is read may have something to say while rows are written.
@@ -200,19 +217,25 @@ class Studienlauf {
         fehlerhafte_ += gemeldet_;
         const std::string zahl = std::to_string(fehlerhafte_);
         if (fehlerhafte_ > 0)
-            melde(Zweisprachig{zahl + " fehlerhafte Zeilen; ihre letzte Spalte nennt den Grund",
-                               zahl + " faulty rows; their last column tells the reason"}
+            melde((auftrag_.tabelle
+                       ? Zweisprachig{zahl + " fehlerhafte Zeilen; ihre letzte Spalte nennt den Grund",
+                                      zahl + " faulty rows; their last column tells the reason"}
+                       : Zweisprachig{zahl + " fehlerhafte Zeilen", zahl + " faulty rows"})
                       .in(umgebung_.sprache));
         if (geschrieben_ == offen_) return fehlerhafte_ == 0;
         const std::string rest = std::to_string(offen_ - geschrieben_);
-        melde(Zweisprachig{"abgebrochen; es fehlen " + rest + " Zeilen (--fortsetzen rechnet sie)",
-                           "stopped; " + rest + " rows are missing (--fortsetzen calculates them)"}
+        melde((bild_ == nullptr
+                   ? Zweisprachig{"abgebrochen; es fehlen " + rest + " Zeilen (--fortsetzen rechnet sie)",
+                                  "stopped; " + rest + " rows are missing (--fortsetzen calculates them)"}
+                   : Zweisprachig{"abgebrochen; es fehlen " + rest + " Zeilen, ein Bild gibt es nicht",
+                                  "stopped; " + rest + " rows are missing, there is no picture"})
                   .in(umgebung_.sprache));
         return false;
     }
 
     const Studienauftrag& auftrag_;
     const Studienumgebung& umgebung_;
+    Studienbild* bild_;
     std::unique_ptr<Studienplan> plan_;
     std::vector<std::size_t> sortierspalten_;
     Stationsvorrat stationen_;
@@ -243,9 +266,14 @@ Studienteil teil_lesen(std::string_view text) {
     return teil;
 }
 
-bool studie_rechnen(const Studienauftrag& auftrag, const Studienumgebung& umgebung) {
+std::unique_ptr<Studienplan> plan_anlegen(const Studienauftrag& auftrag) {
+    if (!auftrag.plan.empty()) return std::make_unique<Dateiplan>(auftrag.plan);
+    return std::make_unique<Gitterplan>(auftrag.variiert);
+}
+
+bool studie_rechnen(const Studienauftrag& auftrag, const Studienumgebung& umgebung, Studienbild* bild) {
     ausgabe_pruefen(auftrag, umgebung);
-    return Studienlauf(auftrag, umgebung).rechnen();
+    return Studienlauf(auftrag, umgebung, bild).rechnen();
 }
 
 }  // namespace velmaris

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "studies/ergebnisse.h"
+#include "studies/studienbild.h"
+#include "studies/studienplan.h"
 #include "studies/wertereihe.h"
 
 #include <cstdint>
@@ -32,11 +34,15 @@ struct Studienauftrag {
     std::vector<Wertereihe> variiert;  ///< all combinations, where `plan` names no file
     std::string plan;                  ///< CSV file with the rows
     std::vector<Ergebnis> ergebnisse;
-    std::string ausgabe;  ///< file of the results; empty: the standard output
+    bool tabelle = true;  ///< the results are wanted as a table
+    std::string ausgabe;  ///< file of the table; empty: the standard output
     Studienteil teil;
     bool fortsetzen = false;  ///< what the output has already is not calculated again
     int kerne = 0;            ///< 0: all
 };
+
+/// The rows of a study from the first one on. Errors as in `Gitterplan` and `Dateiplan`.
+[[nodiscard]] std::unique_ptr<Studienplan> plan_anlegen(const Studienauftrag& auftrag);
 
 /// Where a study runs.
 struct Studienumgebung {
@@ -52,7 +58,9 @@ struct Studienumgebung {
 /// Calculates the rows of a study in their order and writes for each its number, what the plan gives, the
 /// results, and in the last column what is wrong with it. A faulty row is told among the faults and keeps no
 /// other one from being calculated. Returns false if a row is faulty or the study was stopped; the rows
-/// written so far are whole then. What keeps the study from beginning or going on is a Laufzeitfehler.
-[[nodiscard]] bool studie_rechnen(const Studienauftrag& auftrag, const Studienumgebung& umgebung);
+/// written so far are whole then. `bild`, where it is given, gets all rows and the project itself. What keeps
+/// the study from beginning or going on is a Laufzeitfehler.
+[[nodiscard]] bool studie_rechnen(const Studienauftrag& auftrag, const Studienumgebung& umgebung,
+                                  Studienbild* bild = nullptr);
 
 }  // namespace velmaris
