@@ -34,9 +34,8 @@ std::vector<Achsenstrich> achsenstriche(const Bildachse& achse, const Achsenteil
 }
 
 std::vector<std::string> strichzahlen(const Achsenteilung& teilung, const std::vector<double>& striche) {
-    std::vector<std::string> zahlen;
-    for (const double strich : striche)
-        zahlen.push_back(teilung.zahl(strich));
+    std::vector<std::string> zahlen(striche.size());
+    std::ranges::transform(striche, zahlen.begin(), [&](double strich) { return teilung.zahl(strich); });
     return zahlen;
 }
 

@@ -77,7 +77,7 @@ class Konturen {
         if (nach == keine) return;
         std::vector<Ort>& linie = alle.emplace_back(std::vector<Ort>{ort(anfang)});
         for (Kante von = anfang; nach != keine; nach = nimm_ab(von)) {
-            loese(nach, von);
+            loese(von, nach);
             linie.push_back(ort(nach));
             von = nach;
         }
@@ -91,7 +91,8 @@ class Konturen {
         return nachbar;
     }
 
-    void loese(Kante kante, Kante nachbar) {
+    /// Takes an edge out of the neighbours of another one.
+    void loese(Kante nachbar, Kante kante) {
         std::array<Kante, 2>& paar = nachbarn_[kante];
         if (paar[0] == nachbar) paar[0] = paar[1];
         paar[1] = keine;

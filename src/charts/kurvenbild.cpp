@@ -19,9 +19,8 @@ constexpr double rand_unten = 44;
 constexpr int striche_hoechstens = 8;
 
 std::vector<std::string> kurvennamen(const std::vector<Kurve>& kurven) {
-    std::vector<std::string> namen;
-    for (const Kurve& kurve : kurven)
-        namen.push_back(kurve.name);
+    std::vector<std::string> namen(kurven.size());
+    std::ranges::transform(kurven, namen.begin(), &Kurve::name);
     return namen;
 }
 
@@ -45,7 +44,7 @@ class Kurvenzeichner {
     }
 
   protected:
-    [[nodiscard]] Farbe farbe(std::size_t kurve) const {
+    [[nodiscard]] static Farbe farbe(std::size_t kurve) {
         return kurvenfarben.at(kurve % kurvenfarben.size());
     }
 

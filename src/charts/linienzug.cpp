@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 #include <vector>
 
 namespace velmaris {
@@ -52,8 +53,8 @@ Umriss streifen(const std::vector<Ort>& orte, double dicke) {
         umriss.ecken.push_back({x + v.x * dicke / 2, y + v.y * dicke / 2});
         zurueck.push_back({x - v.x * dicke / 2, y - v.y * dicke / 2});
     }
-    for (auto ort = zurueck.rbegin(); ort != zurueck.rend(); ++ort)
-        umriss.ecken.push_back({ort->x, ort->y});
+    for (const Ort& ort : std::views::reverse(zurueck))
+        umriss.ecken.push_back({ort.x, ort.y});
     return umriss;
 }
 
