@@ -45,10 +45,10 @@ mount -t proc proc "$wurzel/proc"
 cp /etc/resolv.conf "$wurzel/etc/resolv.conf"
 innen apt-get update -qq
 # What stands for the desktop: a screen, something that sees windows and presses keys, and the opener of files.
-innen apt-get install -y -qq --no-install-recommends xvfb x11-apps xdotool xdg-utils desktop-file-utils shared-mime-info >"$ordner/apt.log" 2>&1
+innen apt-get install -y -qq --no-install-recommends xvfb x11-apps xdotool xdg-utils desktop-file-utils shared-mime-info libfile-mimeinfo-perl >"$ordner/apt.log" 2>&1
 innen useradd --create-home --uid 1000 anna
 touch "$ordner/vorher"
-dateien() { (cd "$wurzel" && find . -xdev -path ./proc -prune -o -path ./home -prune -o -path ./tmp -prune -o -path ./var -prune -o \( -type f -o -type l -o -type d \) -iname '*velmaris*' -print; grep -rlI velmaris usr/share/applications usr/share/mime etc 2>/dev/null || true) | sort; }
+dateien() { (cd "$wurzel" && find . -xdev -path ./proc -prune -o -path ./home -prune -o -path ./root -prune -o -path ./tmp -prune -o -path ./var -prune -o \( -type f -o -type l -o -type d \) -iname '*velmaris*' -print; grep -rlI velmaris usr/share/applications usr/share/mime etc 2>/dev/null || true) | sort; }
 [ -z "$(dateien)" ] || scheitern "the bare system knows the program"
 
 schritt "an older build, by apt"
@@ -115,8 +115,7 @@ sleep 1
 schritt "a project by its kind"
 als_anna 'cp probe.vel "Annas Häuschen.vel"; cp probe.vel ohne_endung'
 for datei in "Annas Häuschen.vel" ohne_endung; do
-    als_anna "xdg-mime query filetype '$datei'" | tee "$ordner/art"
-    [ "$datei" = ohne_endung ] || grep -qx application/x-velmaris "$ordner/art" || scheitern "not recognised: $datei"
+    als_anna "xdg-mime query filetype '$datei'" | grep -x application/x-velmaris || scheitern "not recognised: $datei"
 done
 als_anna "xdg-mime query default application/x-velmaris" | grep -x velmaris.desktop
 als_anna 'xdg-open "Annas Häuschen.vel" >oeffnen.log 2>&1 &'
@@ -127,11 +126,12 @@ programm_beenden
 sleep 1
 
 schritt "removed and purged"
-innen apt-get remove -y velmaris >>"$ordner/apt.log" 2>&1
-innen apt-get purge -y velmaris >>"$ordner/apt.log" 2>&1
-rest=$(dateien)
-[ -z "$rest" ] || scheitern "left behind: $rest"
-find "$wurzel/var" -iname '*velmaris*' -not -path '*/apt/*' | grep . && scheitern "left behind in /var"
+for weg in remove purge; do
+    innen apt-get install -y "/tmp/$(basename "$paket")" >>"$ordner/apt.log" 2>&1
+    innen apt-get "$weg" -y velmaris >>"$ordner/apt.log" 2>&1
+    rest=$(dateien; find "$wurzel/var" -iname '*velmaris*' -not -path '*/apt/*')
+    [ -z "$rest" ] || scheitern "$weg leaves behind: $rest"
+done
 (cd "$wurzel/home/anna" && find . -type f -newer "$ordner/vorher" -not -name '.bash*' | sort | head -20)
 [ -s "$wurzel/home/anna/.local/share/Velmaris/klima/probe.met" ] || scheitern "the user's station is gone"
 schritt "all went well"
