@@ -5,6 +5,7 @@
 #include "tests/testprogramm.h"
 
 #include <algorithm>
+#include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -28,6 +29,7 @@ TEST(Empfindlichkeit, SagtWarumEinSchrittFehltUndWasErMitbewegt) {
     h.e_gebaeude.awn_cb.setze(1);
     h.e_gebaeude.Troom_sb.setze(260);
     h.e_fenster.sued.versch.sb.setze(98);
+    h.p.Heizsystem = 8;
     const Empfindlichkeit e = empfindlichkeit(h.p);
     const struct {
         const char* eingabe;
@@ -49,6 +51,8 @@ TEST(Empfindlichkeit, SagtWarumEinSchrittFehltUndWasErMitbewegt) {
           "→ others",
           "up|0.63|also changes window type all facades heat protection double glazing (U = 1.4 W/(m² K)) → "
           "others"}},
+        {"heat transfer", {"||no other choice with this heating system"}},
+        {"source of energy", {"||no other choice with this heating system"}},
         {"heated roof",
          {"up|yes|also changes height of roof 2.0 → 1.0 m; upper closure towards outside or non-insulated "
           "roof → outside air"}},
@@ -56,6 +60,22 @@ TEST(Empfindlichkeit, SagtWarumEinSchrittFehltUndWasErMitbewegt) {
     for (const auto& fall : faelle)
         EXPECT_EQ(worte(e, fall.eingabe), fall.worte) << fall.eingabe;
     EXPECT_EQ(e.basis[0], h.p.qhs_sum);
+    std::vector<double> wirkungen;
+    for (const Eingabewirkung* eingabe : e.nach_wirkung(0)) {
+        double& groesste = wirkungen.emplace_back(0);
+        for (const Schritt& schritt : eingabe->schritte)
+            groesste = std::max(groesste, schritt.werte ? std::abs(schritt.werte->at(0) - e.basis[0]) : 0);
+    }
+    EXPECT_THAT(wirkungen, testing::SizeIs(testing::Gt(20)));
+    for (std::size_t i = 1; i < wirkungen.size(); ++i)
+        EXPECT_LT(wirkungen[i], wirkungen[i - 1] + 0.01) << i;
+    std::vector<std::string> wirkungslos;
+    for (const Eingabewirkung* eingabe : e.ohne_wirkung(0))
+        wirkungslos.push_back(eingabe->name);
+    EXPECT_THAT(wirkungslos,
+                testing::IsSupersetOf({"overheating", "heating system", "U-values of the walls north"}));
+    EXPECT_THAT(wirkungslos, testing::Not(testing::Contains("height of roof"))) << "its effect is not known";
+    EXPECT_THAT(wirkungslos, testing::Not(testing::Contains("indoor set temperature")));
 }
 
 /// The longest bar of each side ends a number's width from the edges of its column; the others follow.
