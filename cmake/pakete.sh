@@ -2,7 +2,7 @@
 PAKETE_PROGRAMM="cmake ninja-build g++ pkg-config libcli11-dev nlohmann-json3-dev libtbb-dev qt6-base-dev qt6-qpa-plugins qt6-translations-l10n fonts-liberation fp-utils libchm-dev"
 # Where the desktop speaks Wayland, so that the program need not go through its X server.
 PAKETE_WAYLAND="qt6-wayland"
-PAKETE_TESTS="libgtest-dev libgmock-dev libbenchmark-dev poppler-utils python3 parallel desktop-file-utils shared-mime-info groff-base librsvg2-bin"
+PAKETE_TESTS="libgtest-dev libgmock-dev libbenchmark-dev poppler-utils python3 parallel desktop-file-utils shared-mime-info groff-base librsvg2-bin appstream"
 # For the package that tools/packages/debian.sh makes.
 PAKETE_DEBIAN="dpkg-dev file gzip librsvg2-bin"
 # An office that opens the saved report and the tables; about 300 MB, so it is fetched only where tests run unattended.

@@ -1,5 +1,7 @@
 #include "console/vervollstaendigung.h"
 
+#include "project/feldtabelle.h"
+
 #include <algorithm>
 #include <optional>
 #include <string_view>
@@ -30,9 +32,20 @@ std::string auswahl(std::string wert) {
     return wert;
 }
 
+/// The inputs of a project, each ready for its values.
+std::string eingaben() {
+    std::string namen;
+    for (const Feldzeile& feld : felder()) {
+        if (feld.art == Feldart::eingabe)
+            namen.append(namen.empty() ? "" : " ").append(feld.name).append("=");
+    }
+    return namen;
+}
+
 /// What completes a value: a command of the shell.
 std::string befehl(const std::string& wert) {
     if (const std::string worte = auswahl(wert); !worte.empty()) return "_velmaris_worte '" + worte + "'";
+    if (wert == "NAME=WERTE") return "_velmaris_anfaenge '" + eingaben() + "'";
     if (wert == "ORDNER") return "_velmaris_dateien -d";
     if (wert == "DATEI") return "_velmaris_dateien -f";
     if (const std::size_t punkt = wert.find('.'); wert.starts_with("DATEI.") && punkt != std::string::npos)
@@ -51,6 +64,11 @@ std::string namen(std::string alle, std::string_view trenner) {
 constexpr const char* helfer = R"(# Made from the options of the program; do not edit.
 _velmaris_worte() {
     mapfile -t COMPREPLY < <(compgen -W "$1" -- "$wort")
+}
+
+_velmaris_anfaenge() {
+    compopt -o nospace
+    _velmaris_worte "$1"
 }
 
 _velmaris_dateien() {

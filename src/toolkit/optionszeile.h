@@ -9,7 +9,7 @@ namespace velmaris {
 
 /// A word that a command line may hold, as help, manual and completion tell it. The value's placeholder says
 /// what it takes: "d|e" one of these words, "1..7" a number of that range, "DATEI.vel" a file of that ending,
-/// "DATEI" any file, "ORDNER" a folder; anything else is free.
+/// "DATEI" any file, "ORDNER" a folder, "NAME=WERTE" an input and its values; anything else is free.
 struct Optionszeile {
     std::string name;  ///< all its names with commas between them, or the placeholder of an operand
     std::string wert;  ///< placeholder of its value, empty for one that takes none

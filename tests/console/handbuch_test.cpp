@@ -34,7 +34,7 @@ TEST(Vervollstaendigung, JederPlatzhalterHatSeineArt) {
                                        {"ORDNER", "_velmaris_dateien -d"},
                                        {"DATEI", "_velmaris_dateien -f"},
                                        {"DATEI.vel", "_velmaris_dateien -f 'vel'"},
-                                       {"NAME=WERTE", ":"}})
+                                       {"NAMEN", ":"}})
         EXPECT_THAT(vervollstaendigung("prog", {{"-x,--xx", wert, {}}, {"OPERAND", "", {}}}),
                     HasSubstr(std::string("        -x|--xx) ") + befehl + "; return ;;\n"));
 }

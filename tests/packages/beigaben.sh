@@ -41,6 +41,7 @@ optionen=$("$programm" --help | grep -oE '^ +-[-a-z,]+' | tr -d ' ' | tr ',' '\n
 gleich "options" "$(vorschlaege -)" "$(paste -sd' ' <<<"$optionen")"
 gleich "letters" "$(vorschlaege --sprache '')" "d e"
 gleich "behind =" "$(vorschlaege --bericht-seite = 7)" "7"
+gleich "inputs" "$(vorschlaege --variiere Troom)" "Troom="
 mkdir -p "$ordner/unter" && touch "$ordner"/{a.vel,b.VEL,c.txt,d.csv}
 gleich "projects" "$(vorschlaege "$ordner/")" "$ordner/a.vel $ordner/b.VEL $ordner/unter"
 gleich "tables" "$(vorschlaege --csv "$ordner/")" "$ordner/d.csv $ordner/unter"
@@ -56,6 +57,12 @@ for sprache in "" de/; do
     done <<<"$optionen"
 done
 
+# This one tells of success.
+if command -v appstreamcli >/dev/null; then
+    appstreamcli validate --no-net "$daten"/*.metainfo.xml >"$ordner/metainfo" || { cat "$ordner/metainfo"; fehler=1; }
+else
+    fehlend+=(appstreamcli)
+fi
 soll "menu entry" desktop-file-validate "$daten/velmaris.desktop"
 mkdir -p "$ordner/mime/packages" && cp "$daten/velmaris.xml" "$ordner/mime/packages"
 export XDG_DATA_DIRS=$ordner
