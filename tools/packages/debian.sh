@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/../.."
 . cmake/pakete.sh
+[ ! -e .git ] || PAKETE_DEBIAN+=" git"
 pakete_holen $PAKETE_PROGRAMM $PAKETE_DEBIAN
 
 # The time of the last commit, or that of the changelog where there is no history.
