@@ -92,9 +92,9 @@ class Konturen {
     }
 
     /// Takes an edge out of the neighbours of another one.
-    void loese(Kante nachbar, Kante kante) {
-        std::array<Kante, 2>& paar = nachbarn_[kante];
-        if (paar[0] == nachbar) paar[0] = paar[1];
+    void loese(Kante eine, Kante andere) {
+        std::array<Kante, 2>& paar = nachbarn_[andere];
+        if (paar[0] == eine) paar[0] = paar[1];
         paar[1] = keine;
     }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <vector>
 
 namespace velmaris {
@@ -46,15 +45,14 @@ Ort versatz(const std::vector<Ort>& orte, std::size_t i) {
 Umriss streifen(const std::vector<Ort>& orte, double dicke) {
     constexpr double mitte = 0.5;  // of a pixel
     Umriss umriss;
-    std::vector<Ort> zurueck;
+    std::vector<Umriss::Ecke> zurueck;
     for (std::size_t i = 0; i < orte.size(); ++i) {
         const Ort v = versatz(orte, i);
         const double x = orte[i].x + mitte, y = orte[i].y + mitte;
         umriss.ecken.push_back({x + v.x * dicke / 2, y + v.y * dicke / 2});
         zurueck.push_back({x - v.x * dicke / 2, y - v.y * dicke / 2});
     }
-    for (const Ort& ort : std::views::reverse(zurueck))
-        umriss.ecken.push_back({ort.x, ort.y});
+    umriss.ecken.insert(umriss.ecken.end(), zurueck.rbegin(), zurueck.rend());
     return umriss;
 }
 

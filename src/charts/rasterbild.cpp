@@ -1,12 +1,14 @@
 #include "charts/rasterbild.h"
 
+#include "charts/konturbild.h"
+#include "charts/rasterachse.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numeric>
-#include <utility>
+#include <limits>
+#include <optional>
 
 namespace velmaris {
 namespace {
@@ -17,6 +19,7 @@ constexpr double rand_oben = 26;
 constexpr double rand_unten = 44;
 constexpr int farbstufen = 64;
 constexpr int konturen_hoechstens = 10;
+constexpr double basisabstand = 10;  ///< of its name from its mark
 constexpr Farbe luecke{215, 215, 215};
 
 /// The finite values' range.
@@ -34,59 +37,6 @@ Spanne spanne(const std::vector<double>& werte) {
     }
     return s;
 }
-
-/// An axis on pixels: where its places lie and where its cells end. Cells of numbers meet half way between
-/// them, those of choices are of one size.
-class Rasterachse {
-  public:
-    /// From pixel `anfang` on, of `laenge` pixels; a negative one leads upward.
-    Rasterachse(const Bildachse& achse, double anfang, double laenge) : anfang_(anfang), laenge_(laenge) {
-        werte_ = achse.werte;
-        if (!achse.zahlen()) {
-            werte_.resize(achse.anzahl());
-            std::iota(werte_.begin(), werte_.end(), 0.0);
-        }
-        const std::size_t n = werte_.size();
-        const double einzeln = n > 1 ? 0 : std::max(std::fabs(werte_[0]), 1.0) / 2;
-        grenzen_.push_back(n > 1 ? werte_[0] - (werte_[1] - werte_[0]) / 2 : werte_[0] - einzeln);
-        for (std::size_t i = 1; i < n; ++i)
-            grenzen_.push_back((werte_[i - 1] + werte_[i]) / 2);
-        grenzen_.push_back(n > 1 ? werte_[n - 1] + (werte_[n - 1] - werte_[n - 2]) / 2 : werte_[0] + einzeln);
-    }
-
-    [[nodiscard]] double ort(double wert) const {
-        return anfang_ + (wert - grenzen_.front()) / (grenzen_.back() - grenzen_.front()) * laenge_;
-    }
-    [[nodiscard]] bool enthaelt(double wert) const {
-        return wert >= grenzen_.front() && wert <= grenzen_.back();
-    }
-    [[nodiscard]] const std::vector<double>& werte() const { return werte_; }
-    [[nodiscard]] double von() const { return grenzen_.front(); }
-    [[nodiscard]] double bis() const { return grenzen_.back(); }
-
-    /// Each cell that has the centre of a pixel, with its first and last one.
-    struct Zelle {
-        std::size_t stelle;
-        int erster, letzter;
-    };
-    [[nodiscard]] std::vector<Zelle> zellen() const {
-        std::vector<Zelle> alle;
-        for (std::size_t i = 0; i < werte_.size(); ++i) {
-            const double a = std::min(ort(grenzen_[i]), ort(grenzen_[i + 1]));
-            const double b = std::max(ort(grenzen_[i]), ort(grenzen_[i + 1]));
-            const int erster = static_cast<int>(std::ceil(a - 0.5));
-            const int letzter = static_cast<int>(std::ceil(b - 0.5)) - 1;
-            if (erster <= letzter) alle.push_back({i, erster, letzter});
-        }
-        return alle;
-    }
-
-  private:
-    double anfang_;
-    double laenge_;
-    std::vector<double> werte_;
-    std::vector<double> grenzen_;
-};
 
 class Rasterzeichner {
   public:
@@ -181,54 +131,16 @@ class Rasterzeichner {
         }
     }
 
+    /// The base's mark and name keep free of numbers.
     void konturen() {
-        const Wertegitter gitter{x_.werte(), y_.werte(), i_.werte};
-        struct Marke {
-            Ort ort;
-            std::string text;
-        };
-        std::vector<Marke> marken;
-        for (const double niveau : teilung_.striche()) {
-            for (std::vector<Ort>& linie : konturlinien(gitter, niveau)) {
-                for (Ort& ort : linie)
-                    ort = {x_.ort(ort.x), y_.ort(ort.y)};
-                linienzug_zeichnen(b_, linie, farben::weiss, 2.6);
-                linienzug_zeichnen(b_, linie, farben::schwarz, 1.1);
-                const std::string text = teilung_.zahl(niveau);
-                const auto frei = [&](const Ort& ort) {
-                    return std::ranges::all_of(marken, [&](const Marke& m) {
-                        return std::fabs(m.ort.x - ort.x) > 50 || std::fabs(m.ort.y - ort.y) > 16;
-                    });
-                };
-                if (const auto ort = markenort(linie, b_.textbreite(text), frei))
-                    marken.push_back({*ort, text});
-            }
-        }
-        Schrift schrift = bildstil::schrift;
-        schrift.hof = farben::weiss;
-        b_.schrift(schrift);
-        for (const Marke& m : marken)
-            mittig_zeichnen(b_, m.ort.x, m.ort.y - zeile_ / 2, m.text);
-        b_.schrift(bildstil::schrift);
-    }
-
-    /// A place in the line with room for the number, near to its middle; nothing in a short line.
-    template <class Frei>
-    [[nodiscard]] std::optional<Ort> markenort(const std::vector<Ort>& linie, double breite,
-                                               const Frei& frei) const {
-        std::vector<double> wege{0};
-        for (std::size_t i = 1; i < linie.size(); ++i)
-            wege.push_back(wege.back() +
-                           std::hypot(linie[i].x - linie[i - 1].x, linie[i].y - linie[i - 1].y));
-        if (wege.back() < 2 * breite) return std::nullopt;
-        for (const double anteil : {0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8}) {
-            const auto ende = std::ranges::lower_bound(wege, anteil * wege.back());
-            const Ort& ort = linie[static_cast<std::size_t>(ende - wege.begin())];
-            const bool innen = ort.x - breite / 2 > r_.links + 2 && ort.x + breite / 2 < r_.rechts - 2 &&
-                               ort.y - zeile_ / 2 > r_.oben + 2 && ort.y + zeile_ / 2 < r_.unten - 2;
-            if (innen && frei(ort)) return ort;
-        }
-        return std::nullopt;
+        std::vector<Ort> belegt;
+        if (const auto ort = basisort())
+            belegt = {*ort, {ort->x + (basistext_rechts(*ort) ? 1 : -1) * basisabstand * 3, ort->y}};
+        konturen_zeichnen(b_, {x_.werte(), y_.werte(), i_.werte}, teilung_, r_,
+                          {[this](const Ort& o) {
+                               return Ort{x_.ort(o.x), y_.ort(o.y)};
+                           },
+                           belegt});
     }
 
     void achsen() {
@@ -291,21 +203,29 @@ class Rasterzeichner {
             senkrechte_zahl(static_cast<double>(i), gekuerzt(b_, namen[i], namensbreite));
     }
 
-    void basis() {
+    [[nodiscard]] std::optional<Ort> basisort() const {
         const std::optional<double>&x = i_.waagerecht.basis, &y = i_.senkrecht.basis;
-        if (!x || !y || !x_.enthaelt(*x) || !y_.enthaelt(*y)) return;
-        const Ort ort{x_.ort(*x), y_.ort(*y)};
-        b_.kreis(ort.x, ort.y, 6, farben::weiss, std::nullopt);
-        b_.kreis(ort.x, ort.y, 5, farben::schwarz, farben::weiss);
-        b_.kreis(ort.x, ort.y, 1.5, farben::schwarz, farben::schwarz);
+        if (!x || !y || !x_.enthaelt(*x) || !y_.enthaelt(*y)) return std::nullopt;
+        return Ort{x_.ort(*x), y_.ort(*y)};
+    }
+
+    [[nodiscard]] bool basistext_rechts(const Ort& ort) const {
+        return ort.x + basisabstand + b_.textbreite(i_.basisname) < r_.rechts;
+    }
+
+    void basis() {
+        const std::optional<Ort> ort = basisort();
+        if (!ort) return;
+        b_.kreis(ort->x, ort->y, 6, farben::weiss, std::nullopt);
+        b_.kreis(ort->x, ort->y, 5, farben::schwarz, farben::weiss);
+        b_.kreis(ort->x, ort->y, 1.5, farben::schwarz, farben::schwarz);
         Schrift schrift = bildstil::schrift;
         schrift.hof = farben::weiss;
         schrift.fett = true;
         b_.schrift(schrift);
-        const double breite = b_.textbreite(i_.basisname);
-        const bool rechts = ort.x + 10 + breite < r_.rechts;
-        b_.text(rechts ? ort.x + 10 : ort.x - 10 - breite,
-                std::clamp(ort.y - zeile_ / 2, r_.oben + 2, r_.unten - zeile_ - 2), i_.basisname);
+        b_.text(basistext_rechts(*ort) ? ort->x + basisabstand
+                                       : ort->x - basisabstand - b_.textbreite(i_.basisname),
+                std::clamp(ort->y - zeile_ / 2, r_.oben + 2, r_.unten - zeile_ - 2), i_.basisname);
         b_.schrift(bildstil::schrift);
     }
 

@@ -23,7 +23,7 @@ namespace {
 constexpr double bildbreite = 900;
 constexpr std::size_t hoechste_tabellenzeilen = 150;
 constexpr std::size_t hoechste_tabellenspalten = 15;
-constexpr std::size_t hoechste_rasterzeilen = 40;
+constexpr std::size_t hoechste_rasterzeilen = 60;
 constexpr std::size_t wahlen_je_bild = 40;
 constexpr std::size_t feinstes_raster = 360;  ///< cells along an axis that surely have a pixel each
 

@@ -12,7 +12,6 @@
 namespace velmaris {
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
@@ -122,8 +121,10 @@ class Raster : public ::testing::Test {
             r.waagerecht.werte.push_back(static_cast<double>(i));
             r.senkrecht.werte.push_back(static_cast<double>(i));
         }
-        for (std::size_t i = 0; i < n * n; ++i)
-            r.werte.push_back(static_cast<double>(i % n + i / n));
+        for (const double y : r.senkrecht.werte) {
+            for (const double x : r.waagerecht.werte)
+                r.werte.push_back(x + y);
+        }
         return r;
     }
 
@@ -153,7 +154,7 @@ TEST_F(Raster, ZellenHabenFarbeIhresWertesUndLueckenKreuze) {
 /// Of the values 0 to 18 the lines of 2, 4 ... 16 are straight; each has its number.
 TEST_F(Raster, LinienTragenIhreWerte) {
     const std::string bild = svg(ebene(10));
-    const std::regex marke("stroke-linejoin=\"round\"[^>]*>(\\d+)</text>");
+    const std::regex marke(R"re(stroke-linejoin="round"[^>]*>(\d+)</text>)re");
     const std::vector<std::string> zahlen(std::sregex_token_iterator(bild.begin(), bild.end(), marke, 1), {});
     EXPECT_THAT(zahlen, ElementsAre("2", "4", "6", "8", "10", "12", "14", "16"));
     Rasterbild wahlen = ebene(10);
