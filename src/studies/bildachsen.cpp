@@ -120,7 +120,8 @@ std::string Bildachsen::ort(std::size_t n) const {
 }
 
 std::string mit_einheit(const std::string& text, const std::string& einheit) {
-    return einheit.empty() ? text : text + " " + einheit;
+    const bool eng = einheit.empty() || einheit == "°";
+    return text + (eng ? "" : " ") + einheit;
 }
 
 }  // namespace velmaris

@@ -36,6 +36,7 @@ TEST_F(Bild, NenntWasGezeichnetIstUndWasNicht) {
               {"U-Werte der Wände Süd</b> von 0.20 bis 0.40 W/(m² K) (2 Werte); Werte zwischen den "
                "Stellungen",
                "<h2>Heizwärmebedarf, kWh/(m² a)</h2>", "id=\"zahlen-qhs_sum\""}},
+             {"--variiere orient=-45,45 --ergebnis qh", 0, {"von -45 bis 45° (2 Werte); Ausgangsfall: 0°"}},
              {"--variiere WRG=0:0.9:0.1 --ergebnis qh --sprache e",
               0,
               {"heat recovery</b> from 0 to 90 % (10 values); base: 0 %</li>"}},
