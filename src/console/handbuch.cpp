@@ -49,7 +49,7 @@ std::string aufrufroff(const Handbuch& handbuch, std::string_view sprache) {
 
 std::string handbuchseite(const Handbuch& handbuch, std::string_view version, std::string_view sprache) {
     constexpr Wort name{"BEZEICHNUNG", "NAME"}, uebersicht{"ÜBERSICHT", "SYNOPSIS"};
-    std::string roff = ".TH " + handbuch.programm + " 1 \"\" \"Velmaris " + std::string(version) + "\"\n";
+    std::string roff = ".TH " + handbuch.programm + R"( 1 "" "Velmaris )" + std::string(version) + "\"\n";
     roff += ueberschrift(name.in(sprache));
     roff += woertlich(handbuch.programm) + " \\- " + woertlich(handbuch.zweck.in(sprache)) + '\n';
     roff += ueberschrift(uebersicht.in(sprache)) + aufrufroff(handbuch, sprache);
