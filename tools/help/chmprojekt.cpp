@@ -51,8 +51,9 @@ std::string hilfename(std::string_view sprache) {
 
 std::string chm_projekt(const Inhalt& inhalt, std::string_view sprache) {
     const std::string name = hilfename(sprache);
+    // The compiler leaves a byte of its binary index to chance; the index as text is enough.
     std::string text = "[OPTIONS]\nCompatibility=1.1 or later\nCompiled file=" + name +
-                       ".chm\nContents file=" + name + ".hhc\nIndex file=" + name +
+                       ".chm\nContents file=" + name + ".hhc\nBinary Index=No\nIndex file=" + name +
                        ".hhk\nDefault topic=index.html\nFull-text search=Yes\nLanguage=";
     text += Wort{"0x407 Deutsch (Deutschland)\nTitle=Velmaris Hilfe",
                  "0x409 English (United States)\nTitle=Velmaris Help"}

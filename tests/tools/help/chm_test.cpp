@@ -1,3 +1,4 @@
+#include "tests/hilfen.h"
 #include "tests/tools/help/html.h"
 
 #include <chm_lib.h>
@@ -27,7 +28,10 @@ TEST(Hilfedatei, EnthaeltJedeSeiteByteFuerByte) {
         for (const auto& [seite, text] : hilfeseiten(sprache))
             EXPECT_EQ(lesen(datei.get(), "/" + seite + ".html"), text) << sprache << "/" << seite;
         EXPECT_FALSE(lesen(datei.get(), "/stil.css").empty());
-        EXPECT_THAT(lesen(datei.get(), "/#SYSTEM"), testing::HasSubstr("index.html")) << "the first page";
+        const std::string system = lesen(datei.get(), "/#SYSTEM");
+        EXPECT_THAT(system, testing::HasSubstr("index.html")) << "the first page";
+        const std::string kein_stempel(4, '\0');
+        EXPECT_EQ(system.substr(8, 4) + inhalt(pfad).substr(16, 4), kein_stempel + kein_stempel);
         // Tree and index are in windows-1252.
         if (sprache == "e") continue;
         EXPECT_THAT(lesen(datei.get(), "/" + name + ".hhc"), testing::HasSubstr("value=\"D\xE4mmung\""));
