@@ -3,6 +3,7 @@
 #include "tools/help/chmprojekt.h"
 #include "tools/help/seitenbau.h"
 #include "tools/help/tabelle.h"
+#include "tools/help/zeitstempel.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -53,6 +54,16 @@ TEST_F(Hilfebau, OrdnetDieSeitenNachDemInhalt) {
     EXPECT_THAT(gebaut(1), HasSubstr(">Start</a> &nbsp;|&nbsp; <a href=\"index.html\">Inhalt</a>"));
     EXPECT_THAT(gebaut(1), HasSubstr("<a href=\"Dach.html\">Dach</a> &raquo;"));
     EXPECT_THAT(gebaut(2), testing::Not(HasSubstr("&raquo;")));
+}
+
+TEST(Zeitstempel, NurDieZweiBekanntenVerschwinden) {
+    const std::string vor = "ITSF............", mitte = "...\3";
+    const std::string system("\3\0\0\0\n\0\4\0", 8), leer(4, '\0');
+    EXPECT_EQ(ohne_zeitstempel(vor + "zeit" + mitte + system + "ZEIT" + "ende"),
+              vor + leer + mitte + system + leer + "ende");
+    for (const std::string& fremd : {vor + "zeit" + mitte, vor + "zeit" + system + "ZEI",
+                                     "PK" + vor + system + "ZEIT", vor + "zeit" + system + "ZEIT" + system})
+        EXPECT_THROW(ohne_zeitstempel(fremd), Laufzeitfehler) << fremd;
 }
 
 TEST_F(Hilfebau, ReihtStichworteNachDemAlphabetDerLeser) {
