@@ -3,14 +3,21 @@
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
-#include <cstdlib>
 #include <fstream>
+#include <random>
+#include <stdexcept>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 namespace velmaris::test {
 
 Testordner::Testordner() {
-    std::string muster = (std::filesystem::temp_directory_path() / "velmaris_XXXXXX").string();
-    pfad_ = mkdtemp(muster.data());
+    std::random_device zufall;
+    do {
+        pfad_ = std::filesystem::temp_directory_path() / ("velmaris_" + std::to_string(zufall()));
+    } while (!std::filesystem::create_directory(pfad_));
 }
 
 Testordner::~Testordner() {
@@ -30,6 +37,14 @@ std::filesystem::path Testordner::schreibe(const std::string& utf8, const std::s
     strom.close();
     if (!strom) throw std::runtime_error("test file not written: " + utf8);
     return ziel;
+}
+
+void rohr_anlegen(const std::filesystem::path& name) {
+#ifdef _WIN32
+    throw std::logic_error("this system has no pipes in folders: " + pfadtext(name));
+#else
+    if (::mkfifo(name.c_str(), 0600) != 0) throw std::runtime_error("no pipe made: " + pfadtext(name));
+#endif
 }
 
 std::string inhalt(const std::filesystem::path& datei) {

@@ -23,6 +23,9 @@ class Testordner {
     std::filesystem::path pfad_;
 };
 
+/// Makes a pipe that stands in a folder under that name; fails the test where there is no such thing.
+void rohr_anlegen(const std::filesystem::path& name);
+
 /// All bytes of a file; fails the test by an exception if it cannot be read.
 std::string inhalt(const std::filesystem::path& datei);
 

@@ -1,5 +1,6 @@
 #include "studies/fliessband.h"
 
+#include <new>
 #include <oneapi/tbb/blocked_range.h>
 #include <oneapi/tbb/enumerable_thread_specific.h>
 #include <oneapi/tbb/global_control.h>
@@ -17,6 +18,18 @@ namespace tbb = oneapi::tbb;
 constexpr std::size_t fenster_unterwegs = 4;
 
 constexpr std::size_t zeilen_am_stueck = 8;
+
+/// The workers of its run: at its end they are gone, so that none outlives the program's constants.
+class Arbeiterschaft {
+  public:
+    Arbeiterschaft() = default;
+    Arbeiterschaft(const Arbeiterschaft&) = delete;
+    Arbeiterschaft& operator=(const Arbeiterschaft&) = delete;
+    ~Arbeiterschaft() { tbb::finalize(griff_, std::nothrow); }
+
+  private:
+    tbb::task_scheduler_handle griff_{tbb::attach{}};
+};
 
 using Fenster = std::shared_ptr<Studienfenster>;
 using Plaetze = tbb::enumerable_thread_specific<std::unique_ptr<Rechenplatz>>;
@@ -53,6 +66,7 @@ void laufen(const Fliessband& band, int kerne) {
     const int zahl = kerne > 0 ? kerne : alle;
     const tbb::global_control grenze(tbb::global_control::max_allowed_parallelism,
                                      static_cast<std::size_t>(zahl));
+    const Arbeiterschaft arbeiter;
     tbb::task_arena(zahl).execute([&] { durchlaufen(band); });
 }
 

@@ -7,7 +7,9 @@
 #include <system_error>
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
+#include <sys/stat.h>
 #else
 #include <unistd.h>
 #endif
@@ -22,11 +24,22 @@ struct Schliesser {
 };
 using Strom = std::unique_ptr<std::FILE, Schliesser>;
 
-Strom oeffnen(const fs::path& datei, const char* art) {
+/// Makes a file that does not exist yet; nothing and the error number if that fails.
+Strom anlegen(const fs::path& datei) {
 #ifdef _WIN32
-    return Strom(_wfopen(datei.c_str(), fs::path(art).c_str()));
+    // The runtime library that every Windows has does not know the "x" of "wbx".
+    const int griff = _wopen(datei.c_str(), _O_CREAT | _O_EXCL | _O_WRONLY | _O_BINARY, _S_IREAD | _S_IWRITE);
+    return Strom(griff < 0 ? nullptr : _fdopen(griff, "wb"));
 #else
-    return Strom(std::fopen(datei.c_str(), art));
+    return Strom(std::fopen(datei.c_str(), "wbx"));
+#endif
+}
+
+Strom zum_aendern_oeffnen(const fs::path& datei) {
+#ifdef _WIN32
+    return Strom(_wfopen(datei.c_str(), L"r+b"));
+#else
+    return Strom(std::fopen(datei.c_str(), "r+b"));
 #endif
 }
 
@@ -53,7 +66,7 @@ int letzter_fehler() {
 
 int neue_datei(const fs::path& datei, std::string_view bytes, fs::perms rechte) {
     errno = 0;
-    Strom strom = oeffnen(datei, "wbx");
+    Strom strom = anlegen(datei);
     if (!strom) return letzter_fehler();
     std::error_code fehler;
     if (rechte != fs::perms::unknown) fs::permissions(datei, rechte, fehler);
@@ -68,7 +81,7 @@ bool ist_beschreibbar(const fs::path& datei) {
     constexpr fs::perms schreiben = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     std::error_code fehler;
     const fs::perms rechte = fs::status(datei, fehler).permissions();
-    return (rechte & schreiben) != fs::perms::none && oeffnen(datei, "r+b") != nullptr;
+    return (rechte & schreiben) != fs::perms::none && zum_aendern_oeffnen(datei) != nullptr;
 }
 
 }  // namespace velmaris

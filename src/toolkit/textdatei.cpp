@@ -141,7 +141,8 @@ void datei_ersetzen(const fs::path& datei, std::string_view bytes) {
     const fs::path neben = nachbar_schreiben(datei, ziel, bytes, bisher.permissions());
     fs::rename(neben, ziel, fehler);
     if (!fehler) return;
-    const int grund = fehler.value();
+    const int grund =
+        fehler.default_error_condition().value();  // the number of the standard, not the system's
     fs::remove(neben, fehler);
     schreiben_scheitert(datei, grund);
 }

@@ -9,7 +9,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/stat.h>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -60,7 +59,7 @@ TEST(Zeilenleser, NimmtBeideZeilenendenUndSpaltenBisZumEnde) {
 
 TEST(BytesLesen, NurGewoehnlicheDateienBisZurGrenze) {
     const Testordner ordner;
-    ASSERT_EQ(::mkfifo((ordner / "rohr.met").c_str(), 0600), 0);
+    test::rohr_anlegen(ordner / "rohr.met");
     for (const auto& [name, grund] : {std::pair{"fehlt.vel", "file not found"},
                                       {".", "is a folder, not a file"},
                                       {"rohr.met", "is not a regular file and is not read"}})
@@ -116,7 +115,7 @@ TEST(DateiErsetzen, WeigertSichBeiZielenDieKeineSind) {
     fs::create_symlink("nirgends.txt", ordner / "leer");
     fs::create_symlink("kreis", ordner / "kreis");
     fs::create_symlink(fest, ordner / "zum_festen");
-    ASSERT_EQ(::mkfifo((ordner / "rohr").c_str(), 0600), 0);
+    test::rohr_anlegen(ordner / "rohr");
     for (const auto& [name, grund] : {std::pair{".", "is a folder, not a file"},
                                       {"fest.txt", "is write-protected"},
                                       {"zum_festen", "is write-protected"},
