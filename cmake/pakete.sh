@@ -5,6 +5,8 @@ PAKETE_WAYLAND="qt6-wayland"
 PAKETE_TESTS="libgtest-dev libgmock-dev libbenchmark-dev poppler-utils python3 parallel desktop-file-utils shared-mime-info groff-base librsvg2-bin appstream"
 # For the package that tools/packages/debian.sh makes.
 PAKETE_DEBIAN="dpkg-dev file gzip librsvg2-bin"
+# For the programs, the installer and the zip that tools/windows/build.sh makes; Qt for Windows is built with its tools.
+PAKETE_WINDOWS="g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 mingw-w64-x86-64-dev dpkg-dev nsis zip librsvg2-bin icoutils"
 # An office that opens the saved report and the tables; about 300 MB, so it is fetched only where tests run unattended.
 PAKETE_TESTS_CI="libreoffice-writer-nogui libreoffice-calc-nogui"
 

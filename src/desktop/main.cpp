@@ -1,4 +1,5 @@
 #include "desktop/drucklauf.h"
+#include "desktop/platform/aufrufkonsole.h"
 #include "desktop/platform/stil.h"
 #include "desktop/programm.h"
 #include "desktop/startfenster.h"
@@ -55,7 +56,8 @@ int mit_fenster(int argc, char** argv) {
 }
 
 int ohne_fenster(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    konsole_verbinden();
+    ohne_desktop();
     // The error stream is for what is wrong with the project, not with the desktop that is not there.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const QGuiApplication anwendung(argc, argv);
@@ -78,6 +80,7 @@ bool verlangt_hilfe(int argc, const char* const* argv) {
 
 int main(int argc, char** argv) {
     if (verlangt_hilfe(argc, argv)) {
+        konsole_verbinden();
         std::cout << hilfetext(aufruf_des_programms, worte_der_befehlszeile());
         return 0;
     }

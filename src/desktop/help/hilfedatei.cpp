@@ -1,13 +1,15 @@
 #include "desktop/help/hilfedatei.h"
 
+#include "desktop/platform/hilfeleser.h"
 #include "toolkit/fehler.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 
 #include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryFile>
-#include <chm_lib.h>
+#include <QTemporaryDir>
 #include <system_error>
 
 namespace velmaris {
@@ -15,14 +17,6 @@ namespace {
 
 /// No help is nearly as large; what is gets read no further, and so does not fit.
 constexpr std::size_t groesste_hilfe = std::size_t{16} << 20U;
-
-struct Schliessen {
-    void operator()(chmFile* datei) const { chm_close(datei); }
-};
-
-Dateifehler beschaedigt(const std::filesystem::path& datei) {
-    return {pfadtext(datei), {"Die Hilfedatei ist beschädigt.", "The help file is damaged."}};
-}
 
 bool ist_datei(const std::filesystem::path& name) {
     std::error_code fehler;
@@ -52,12 +46,12 @@ QByteArray geprueft(const std::filesystem::path& datei) {
     }
     const QByteArray bytes = QByteArray::fromStdString(anfang_lesen(datei, groesste_hilfe));
     const std::string soll = pruefzeile(datei.filename(), bytes);
-    if (anfang_lesen(pruefdatei, soll.size() + 1) != soll) throw beschaedigt(datei);
+    if (anfang_lesen(pruefdatei, soll.size() + 1) != soll) throw hilfe_beschaedigt(datei);
     return bytes;
 }
 
-Dateifehler kein_platz(const QTemporaryFile& kopie) {
-    const std::string ort = pfadtext(QFileInfo(kopie.fileTemplate()).filesystemAbsolutePath());
+Dateifehler kein_platz() {
+    const std::string ort = pfadtext(QFileInfo(QDir::tempPath()).filesystemAbsoluteFilePath());
     return {ort,
             {"Dieser Ordner für temporäre Dateien nimmt keine Kopie der Hilfe auf.",
              "This folder for temporary files does not take a copy of the help."}};
@@ -67,19 +61,19 @@ Dateifehler kein_platz(const QTemporaryFile& kopie) {
 
 /// The copy on disk, since the reader takes nothing but a file's name.
 struct Hilfedatei::Kopie {
-    QTemporaryFile datei;  ///< goes after the reader, where an open file cannot be removed
-    std::unique_ptr<chmFile, Schliessen> leser;
+    QTemporaryDir ordner;  ///< goes after the reader, where an open file cannot be removed
+    std::optional<Hilfeleser> leser;
 };
 
 Hilfedatei::Hilfedatei(std::filesystem::path datei)
     : pfad_(std::move(datei)), kopie_(std::make_unique<Kopie>()) {
     const QByteArray bytes = geprueft(pfad_);
-    QTemporaryFile& kopie = kopie_->datei;
-    if (!kopie.open() || kopie.write(bytes) != bytes.size() || !kopie.flush()) throw kein_platz(kopie);
+    QFile kopie(kopie_->ordner.filePath(QStringLiteral("hilfe.chm")));
+    const bool geschrieben = kopie_->ordner.isValid() && kopie.open(QIODevice::WriteOnly) &&
+                             kopie.write(bytes) == bytes.size() && kopie.flush();
+    if (!geschrieben) throw kein_platz();
     kopie.close();
-    // In the system's bytes, since a path is wide on some systems and the reader's name never is.
-    kopie_->leser.reset(chm_open(QFile::encodeName(kopie.fileName()).constData()));
-    if (!kopie_->leser) throw beschaedigt(pfad_);
+    kopie_->leser.emplace(kopie.fileName(), pfad_);
     kopie.remove();  // out of everybody's reach; where an open file cannot be removed, it goes at the end
 }
 
@@ -87,15 +81,12 @@ Hilfedatei::Hilfedatei(Hilfedatei&&) noexcept = default;
 Hilfedatei& Hilfedatei::operator=(Hilfedatei&&) noexcept = default;
 Hilfedatei::~Hilfedatei() = default;
 
+void Hilfedatei::pruefen(const std::filesystem::path& datei) {
+    static_cast<void>(geprueft(datei));
+}
+
 std::optional<std::string> Hilfedatei::lies(const std::string& name) const {
-    chmFile* leser = kopie_->leser.get();
-    chmUnitInfo ort{};
-    if (chm_resolve_object(leser, name.c_str(), &ort) != CHM_RESOLVE_SUCCESS) return std::nullopt;
-    std::string bytes(ort.length, '\0');
-    const LONGINT64 gelesen = chm_retrieve_object(leser, &ort, reinterpret_cast<unsigned char*>(bytes.data()),
-                                                  0, static_cast<LONGINT64>(ort.length));
-    if (gelesen != static_cast<LONGINT64>(ort.length)) throw beschaedigt(pfad_);
-    return bytes;
+    return kopie_->leser->lies(name);
 }
 
 }  // namespace velmaris

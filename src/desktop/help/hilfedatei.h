@@ -20,6 +20,9 @@ class Hilfedatei {
     Hilfedatei& operator=(Hilfedatei&&) noexcept;
     ~Hilfedatei();
 
+    /// Compares a file with its checksum and leaves it at that.
+    static void pruefen(const std::filesystem::path& datei);
+
     /// The bytes of a page, style sheet or picture by its name in the file ("/index.html"), nothing if the
     /// file has no such thing.
     [[nodiscard]] std::optional<std::string> lies(const std::string& name) const;

@@ -1,6 +1,7 @@
 #include "desktop/help/hilfefenster.h"
 
 #include "desktop/help/suchleiste.h"
+#include "desktop/platform/hilfeleser.h"
 #include "desktop/platform/massstab.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/nebenfenster.h"
@@ -154,8 +155,13 @@ QAction* Hilfefenster::taste(const char* name, const QString& text, const QStrin
 }
 
 void Hilfefenster::zeige(const std::filesystem::path& datei, const std::string& seite) {
-    Hilfedatei neue(datei);
     const QUrl ziel = adresse(seite);
+    if (!Hilfeleser::eingebaut) {
+        Hilfedatei::pruefen(datei);
+        hilfe_fremd_zeigen(datei, utf8(ziel.path()));
+        return;
+    }
+    Hilfedatei neue(datei);
     if (!neue.lies(utf8(ziel.path()))) throw ohne_seite(neue, ziel);
     datei_ = std::move(neue);
     seite_->setSource(ziel);
