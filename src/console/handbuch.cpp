@@ -39,7 +39,8 @@ std::string aufrufroff(const Handbuch& handbuch, std::string_view sprache) {
     std::string_view rest = handbuch.aufruf.in(sprache);
     while (!rest.empty()) {
         const std::size_t ende = std::min(rest.find('\n'), rest.size());
-        roff += "\\fB" + woertlich(handbuch.programm) + "\\fR " + woertlich(rest.substr(0, ende)) + '\n';
+        const std::string_view angaben = rest.substr(0, ende).substr(handbuch.programm.size());
+        roff += "\\fB" + woertlich(handbuch.programm) + "\\fR" + woertlich(angaben) + '\n';
         rest.remove_prefix(std::min(ende + 1, rest.size()));
     }
     return roff + ".fi\n";

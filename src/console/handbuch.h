@@ -19,7 +19,7 @@ struct Handbuchteil {
 struct Handbuch {
     std::string programm;
     Wort zweck;
-    Wort aufruf;  ///< what stands behind the program's name, a line for each way of calling it
+    Wort aufruf;  ///< a line for each way of calling it, each begins with its name
     std::vector<Handbuchteil> teile;
 };
 

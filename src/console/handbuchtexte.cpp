@@ -45,8 +45,7 @@ Handbuch handbuch_des_programms() {
     return {
         "velmaris",
         {"Heiz- und Kühlenergie eines Gebäudes", "heating and cooling energy of a building"},
-        {"[d | e | PROJEKT.vel]\n--drucken DATEI.pdf [--sprache d|e] PROJEKT.vel",
-         "[d | e | PROJEKT.vel]\n--drucken DATEI.pdf [--sprache d|e] PROJEKT.vel"},
+        {aufruf_des_programms, aufruf_des_programms},
         {{beschreibung,
           {absatz(
                "velmaris ist ein Lehrprogramm. Ein quaderförmiges Haus bekommt Größe, Dach, Fenster, "
@@ -71,7 +70,7 @@ Handbuch handbuch_der_konsole() {
         "velmaris_rechnen",
         {"Heiz- und Kühlenergie eines Gebäudes, ohne Bildschirm",
          "heating and cooling energy of a building, without a screen"},
-        {"[OPTIONEN] [PROJEKT.vel ...]", "[OPTIONS] [PROJECT.vel ...]"},
+        {"velmaris_rechnen [OPTIONEN] [PROJEKT.vel ...]", "velmaris_rechnen [OPTIONS] [PROJECT.vel ...]"},
         {{beschreibung,
           {absatz("velmaris_rechnen rechnet Projekte von velmaris(1). Ohne Option gibt es eine kurze "
                   "Zusammenfassung jedes Projekts aus.",

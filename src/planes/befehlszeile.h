@@ -34,7 +34,7 @@ class Befehlszeile {
 /// without a window.
 inline constexpr const char* aufruf_des_programms =
     "velmaris [d | e | PROJEKT.vel]\n"
-    "                 velmaris --drucken DATEI.pdf [--sprache d|e] PROJEKT.vel";
+    "velmaris --drucken DATEI.pdf [--sprache d|e] PROJEKT.vel";
 [[nodiscard]] std::vector<Optionszeile> worte_der_befehlszeile();
 
 }  // namespace velmaris

@@ -16,7 +16,13 @@ Zweisprachig zweisprachig(const std::string& zeile) {
 }
 
 std::string hilfetext(const std::string& aufruf, const std::vector<Optionszeile>& zeilen) {
-    std::string text = "Aufruf / usage: " + aufruf + "\n\n";
+    constexpr std::string_view anfang = "Aufruf / usage: ";
+    std::string text(anfang);
+    for (const char zeichen : aufruf) {
+        text += zeichen;
+        if (zeichen == '\n') text.append(anfang.size(), ' ');
+    }
+    text += "\n\n";
     for (const Optionszeile& zeile : zeilen) {
         text.append("  ").append(zeile.name).append(zeile.wert.empty() ? "" : " ").append(zeile.wert);
         text.append("\n        ").append(zeile.text.de).append(zwischen_sprachen).append(zeile.text.en);

@@ -21,7 +21,7 @@ struct Optionszeile {
 /// A description in both languages as one line of help has it, German before " / ", taken apart.
 [[nodiscard]] Zweisprachig zweisprachig(const std::string& zeile);
 
-/// The help on a command line: how to call, and a line for each of its words, in both languages.
+/// The help on a command line: how to call, a line for each way, and its words in both languages.
 [[nodiscard]] std::string hilfetext(const std::string& aufruf, const std::vector<Optionszeile>& zeilen);
 
 }  // namespace velmaris

@@ -18,8 +18,10 @@ TEST(Handbuch, JedesWortDesAufrufsStehtInBeidenSprachen) {
 }
 
 TEST(Handbuch, ZeichenDesSatzprogrammsStehenFuerSichSelbst) {
-    const Handbuch handbuch{
-        "prog", {"Zweck", "purpose"}, {"a\nb", "c"}, {{{"TEIL", "PART"}, {{"--x", "N", {".a\\b", "'c-d"}}}}}};
+    const Handbuch handbuch{"prog",
+                            {"Zweck", "purpose"},
+                            {"prog a\nprog b", "prog"},
+                            {{{"TEIL", "PART"}, {{"--x", "N", {".a\\b", "'c-d"}}}}}};
     EXPECT_EQ(handbuchseite(handbuch, "1.0", "d"),
               ".TH prog 1 \"\" \"Velmaris 1.0\"\n.SH BEZEICHNUNG\nprog \\- Zweck\n.SH ÜBERSICHT\n.nf\n"
               "\\fBprog\\fR a\n\\fBprog\\fR b\n.fi\n.SH TEIL\n.TP\n\\fB\\-\\-x\\fR \\fIN\\fR\n\\&.a\\eb\n");
