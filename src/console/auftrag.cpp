@@ -187,7 +187,6 @@ class Ausfuehrung {
     }
 
     void empfindlichkeit_schreiben(const Haupt& haupt) {
-        const Dezimalzeichenwahl wahl(a_.sprache);
         const Empfindlichkeit schritte = empfindlichkeit(haupt.p);
         if (a_.empfindlichkeit) schreibe(*a_.empfindlichkeit, empfindlichkeitsseite(schritte));
         if (a_.empfindlichkeit_csv) schreibe(*a_.empfindlichkeit_csv, empfindlichkeit_csv(schritte));

@@ -1,7 +1,6 @@
 #include "toolkit/zahlen.h"
 
 #include "toolkit/fehler.h"
-#include "toolkit/wort.h"
 
 #include <array>
 #include <charconv>
@@ -98,10 +97,6 @@ void dezimalzeichen_setzen(char zeichen) {
 
 char dezimalzeichen() {
     return g_dezimalzeichen;
-}
-
-Dezimalzeichenwahl::Dezimalzeichenwahl(std::string_view sprache) : vorher_(g_dezimalzeichen) {
-    dezimalzeichen_setzen(Sprachpaar<char>{',', '.'}.in(sprache));
 }
 
 char dezimalzeichen_der_umgebung() {

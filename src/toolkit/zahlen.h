@@ -17,19 +17,6 @@ void dezimalzeichen_setzen(char zeichen);
 /// The decimal mark in force; a point until `dezimalzeichen_setzen` has run.
 [[nodiscard]] char dezimalzeichen();
 
-/// The decimal mark of a language ("d", "e") in place of that in force, as long as it lives; not while other
-/// threads run.
-class Dezimalzeichenwahl {
-  public:
-    explicit Dezimalzeichenwahl(std::string_view sprache);
-    Dezimalzeichenwahl(const Dezimalzeichenwahl&) = delete;
-    Dezimalzeichenwahl& operator=(const Dezimalzeichenwahl&) = delete;
-    ~Dezimalzeichenwahl() { dezimalzeichen_setzen(vorher_); }
-
-  private:
-    char vorher_;
-};
-
 /// The decimal mark of the environment's locale ("," or "."); leaves the locale of the process as it was.
 [[nodiscard]] char dezimalzeichen_der_umgebung();
 

@@ -14,7 +14,7 @@ using testing::StartsWith;
 TEST_F(Empfindlichkeitsaufruf, SchreibtSeiteUndZahlenUndSonstNichts) {
     ASSERT_EQ(rufe("--ordner . --empfindlichkeit seite.html --empfindlichkeit-csv - haus.vel"), 0) << fehler;
     EXPECT_THAT(aus, StartsWith("Eingabe,Einheit,Schritt,von,nach,Heizwärmebedarf kWh/(m² a),"));
-    EXPECT_THAT(test::inhalt("seite.html"), HasSubstr("nach unten: 20,0 → 18,0 °C"));
+    EXPECT_THAT(test::inhalt("seite.html"), HasSubstr("nach unten: 20.0 → 18.0 °C"));
     ASSERT_EQ(rufe("--ordner . --empfindlichkeit - --sprache e haus.vel"), 0) << fehler;
     EXPECT_THAT(aus, testing::AllOf(StartsWith("<!DOCTYPE html>"), HasSubstr("down: 20.0 → 18.0 °C")));
     EXPECT_EQ(dezimalzeichen(), '.');
