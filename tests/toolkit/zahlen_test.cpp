@@ -28,8 +28,10 @@ TEST(Muster, RundetDenBinaerwertVonNullWegUndNimmtDasDezimalzeichen) {
     EXPECT_EQ(muster(-1.25, 1), "-1,3");
     EXPECT_EQ(zahltext(-1.25), "-1.25");
     dezimalzeichen_setzen('.');
+#ifdef __linux__
     ::setenv("LC_ALL", "C", 1);
     EXPECT_EQ(dezimalzeichen_der_umgebung(), '.');
+#endif
 }
 
 TEST(Zahltext, FolgtDerSchreibweiseOhneNullVorDemPunkt) {
@@ -60,7 +62,8 @@ TEST(ZahlLesen, ScheitertNie) {
         EXPECT_DOUBLE_EQ(zahl_lesen(text), wert) << '"' << text << '"';
     for (int stellen = 1; stellen < 20; ++stellen) {
         const std::string nullen(static_cast<std::size_t>(stellen - 1), '0');
-        EXPECT_DOUBLE_EQ(zahl_lesen("0." + nullen + "7"), std::pow(10, -stellen) * 7) << stellen;
+        EXPECT_DOUBLE_EQ(zahl_lesen("0." + nullen + "7"), std::stod("7e-" + std::to_string(stellen)))
+            << stellen;
     }
 }
 
