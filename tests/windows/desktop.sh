@@ -169,7 +169,7 @@ fenster 'Speichern unter' >/dev/null
 fuege_ein 'C:\Häuser ß\Druck ö.pdf'
 taste Return
 datei "$eigene/Druck ö.pdf"
-worte "$eigene/Druck ö.pdf" 'Kühl' || scheitern "the PDF has no words"
+worte "$eigene/Druck ö.pdf" 'Grundfläche\|Nutzfläche' || scheitern "the PDF has no words"
 pdftoppm -r 60 -png "$eigene/Druck ö.pdf" "$bilder/druck"
 
 # The help in its own window.
