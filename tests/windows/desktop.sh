@@ -76,9 +76,10 @@ worte() {
     grep -q "$2" "$WINEPREFIX/worte.txt"
 }
 
-"$WINE" "$setup" /S /CurrentUser >/dev/null 2>&1 || scheitern "the installer ended with $?"
-ordner=$(dirname "$(find "$laufwerk/users" -name velmaris.exe)")
-[ -e "$ordner/klima/trier.met" ] && [ -n "$(find "$laufwerk/users" -name Velmaris.lnk)" ] || scheitern "not installed whole"
+# For all, since this Wine looks for kinds of files there alone.
+"$WINE" "$setup" /S /AllUsers >/dev/null 2>&1 || scheitern "the installer ended with $?"
+ordner=$(dirname "$(find "$laufwerk" -name velmaris.exe)")
+[ -e "$ordner/klima/trier.met" ] && [ -n "$(find "$laufwerk" -name Velmaris.lnk)" ] || scheitern "not installed whole"
 echo "installed: $(du -sh --apparent-size "$ordner" | cut -f1)"
 
 # The program from its folder, and its main window.
@@ -211,6 +212,6 @@ for _ in $(seq 40); do
 done
 rest=$(cd "$ordner" && find . -type f)
 [ "$rest" = ./klima/eigene.met ] || scheitern "left in the folder: $rest"
-[ -z "$(find "$laufwerk/users" -name Velmaris.lnk)" ] || scheitern "the entry in the start menu is left"
-! "$WINE" reg query 'HKCU\Software\Classes\.vel' >/dev/null 2>&1 || scheitern "the kind of file is left"
+[ -z "$(find "$laufwerk" -name Velmaris.lnk)" ] || scheitern "the entry in the start menu is left"
+! "$WINE" reg query 'HKLM\Software\Classes\.vel' >/dev/null 2>&1 || scheitern "the kind of file is left"
 echo "installed, used and removed; $(ls "$bilder" | wc -l) pictures in $bilder"
