@@ -19,7 +19,7 @@ constexpr std::size_t fenster_unterwegs = 4;
 
 constexpr std::size_t zeilen_am_stueck = 8;
 
-/// The workers of its run: at its end they are gone, so that none outlives the program's constants.
+/// The workers of all studies: at the end of the program they are gone before its constants.
 class Arbeiterschaft {
   public:
     Arbeiterschaft() = default;
@@ -66,7 +66,7 @@ void laufen(const Fliessband& band, int kerne) {
     const int zahl = kerne > 0 ? kerne : alle;
     const tbb::global_control grenze(tbb::global_control::max_allowed_parallelism,
                                      static_cast<std::size_t>(zahl));
-    const Arbeiterschaft arbeiter;
+    static const Arbeiterschaft arbeiter;
     tbb::task_arena(zahl).execute([&] { durchlaufen(band); });
 }
 
