@@ -1,10 +1,12 @@
 """The console program for Windows, under Wine, writes what the one of this machine writes, byte for byte.
 
 Runs below unter_wine.sh. Arguments: the program of this machine, the one for Windows, the folder of the sample projects, a folder to work in,
-the number of random projects. Both programs have their climate data beside them.
+the number of random projects. Both programs have their climate data beside them. The German decimal comma is
+tried where the package locales is at hand.
 """
 import os
 import random
+import re
 import shutil
 import subprocess
 import sys
@@ -79,9 +81,27 @@ def calls(files):
             ["--falsch"]]
 
 
-def run(program, folder, arguments):
+def german_calls(files):
+    """Calls whose texts are written with the decimal mark of the environment."""
+    return [["--bericht", "Bericht mit Komma.rtf", files[1]],
+            ["--temperaturen", "Temperaturen mit Komma.txt", files[0]],
+            ["--vergleich", "Seite mit Komma.html", *files[:3]],
+            ["--diagramme", "Bilder mit Komma", files[2]]]
+
+
+def german():
+    """The environment of a German user, from which Wine takes how Windows writes numbers; nothing if it cannot be made."""
+    if not os.path.exists("/usr/share/i18n/locales/de_DE"):
+        return None
+    place = os.path.join(os.path.abspath(FOLDER), "locale")
+    os.makedirs(place, exist_ok=True)
+    subprocess.run(["localedef", "-i", "de_DE", "-f", "UTF-8", os.path.join(place, "de_DE.UTF-8")], check=True)
+    return {"LOCPATH": place, "LC_ALL": "de_DE.UTF-8"}
+
+
+def run(program, folder, arguments, surroundings):
     # The climate folder of a user must not mix in.
-    environment = dict(os.environ, WINEDEBUG="-all", XDG_DATA_HOME="/nirgends")
+    environment = dict(os.environ, WINEDEBUG="-all", XDG_DATA_HOME=os.path.abspath(os.path.join(FOLDER, "none")), **surroundings)
     result = subprocess.run(program + arguments, cwd=folder, env=environment, capture_output=True, timeout=600)
     return result.returncode, result.stdout, result.stderr
 
@@ -104,10 +124,14 @@ def first_difference(a, b):
 def main():
     folders = [os.path.join(FOLDER, name) for name in ("hier", "windows")]
     files = [prepare(folder) for folder in folders][0]
+    todo = [(arguments, {}) for arguments in calls(files)]
+    comma = german()
+    if comma is not None:
+        todo += [(arguments, comma) for arguments in german_calls(files)]
     faults, size, calculated = [], 0, 0
-    for arguments in calls(files):
-        here = run([os.path.abspath(HERE)], folders[0], arguments)
-        there = run([WINE, os.path.abspath(WINDOWS)], folders[1], arguments)
+    for arguments, surroundings in todo:
+        here = run([os.path.abspath(HERE)], folders[0], arguments, surroundings)
+        there = run([WINE, os.path.abspath(WINDOWS)], folders[1], arguments, surroundings)
         size += len(here[1]) + len(here[2])
         for what, a, b in zip(("exit status", "stdout", "stderr"), here, there):
             if a != b:
@@ -120,11 +144,15 @@ def main():
         size += len(here[name])
         if here[name] != there[name]:
             faults.append(f"{name} {first_difference(here[name], there[name])}")
+    if comma is not None and not re.search(rb"\d,\d", here.get("Temperaturen mit Komma.txt", b"")):
+        faults.append("no number has a decimal comma")
     if calculated < len(files) * 0.8:
         faults.append(f"only {calculated} of {len(files)} projects were calculated at all")
     for fault in faults:
         print(fault)
-    print(f"{len(calls(files))} calls, {calculated} of {len(files)} projects calculated, {len(here)} files, "
+    if comma is None:
+        print("Note: no call had a decimal comma; that takes the package locales.")
+    print(f"{len(todo)} calls, {calculated} of {len(files)} projects calculated, {len(here)} files, "
           f"{size} bytes compared: {'DIFFERENT' if faults else 'equal'}")
     return 1 if faults else 0
 
