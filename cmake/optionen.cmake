@@ -17,6 +17,11 @@ else()
     if(VELMARIS_WERROR)
         target_compile_options(velmaris_optionen INTERFACE -Werror)
     endif()
+    # For what is given to others: the same bytes in whatever folder it is built.
+    option(VELMARIS_ORTLOS "Keep the names of folders out of the programs" OFF)
+    if(VELMARIS_ORTLOS)
+        target_compile_options(velmaris_optionen INTERFACE "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.")
+    endif()
 endif()
 
 set(VELMARIS_SANITIZE "" CACHE STRING "Sanitizers, for instance address,undefined")

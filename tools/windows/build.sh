@@ -33,6 +33,12 @@ while [ $# -gt 0 ]; do
 done
 . cmake/pakete.sh
 . tools/windows/vorrat.sh
+case $VORRAT in
+    *[[:space:]]*)
+        echo "The libraries cannot be built in a folder with blanks in its name ($VORRAT); name another one with --cache." >&2
+        exit 1
+        ;;
+esac
 pakete_holen $PAKETE_PROGRAMM $PAKETE_WINDOWS
 
 # The time of the last commit, or that of the changelog where there is no history.
@@ -59,7 +65,7 @@ fi
 cmake -S . -B build/windows -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw.cmake" \
     -DVELMARIS_WINDOWS="$VORRAT" -DVELMARIS_FERTIGE_DATEN="$DATEN" \
     -DVELMARIS_DESKTOP=$desktop -DVELMARIS_TESTS=$tests -DVELMARIS_BENCH=OFF \
-    -DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$PWD=."
+    -DVELMARIS_ORTLOS=ON -DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST
 cmake --build build/windows
 [ $desktop = ON ] || exit 0
 
