@@ -66,11 +66,6 @@ const Scrollzeile& zeile_suchen(std::string_view name) {
     return *treffer;
 }
 
-std::string einheit_dahinter(std::string_view einheit) {
-    const bool eng = einheit.empty() || einheit == "°";
-    return (eng ? "" : " ") + std::string(einheit);
-}
-
 }  // namespace
 
 double Scrollzeile::gezeigt(int position) const {
@@ -88,11 +83,11 @@ std::string Scrollzeile::bereich(std::string_view sprache) const {
 }
 
 std::string Scrollzeile::zahl_mit_einheit(int position) const {
-    return zahl(position) + einheit_dahinter(einheit);
+    return mit_einheit(zahl(position), einheit);
 }
 
 std::string Scrollzeile::bereich_mit_einheit(std::string_view sprache) const {
-    return bereich(sprache) + einheit_dahinter(einheit);
+    return mit_einheit(bereich(sprache), einheit);
 }
 
 std::span<const Scrollzeile> scrollzeilen() {

@@ -119,9 +119,4 @@ std::string Bildachsen::ort(std::size_t n) const {
            achsen_[1].text(n / breite);
 }
 
-std::string mit_einheit(const std::string& text, const std::string& einheit) {
-    const bool eng = einheit.empty() || einheit == "°";
-    return text + (eng ? "" : " ") + einheit;
-}
-
 }  // namespace velmaris

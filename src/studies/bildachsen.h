@@ -49,7 +49,4 @@ class Bildachsen {
     bool getauscht_ = false;  ///< the input that was asked for first is the vertical one
 };
 
-/// A number, or a text, with its unit behind it where there is one.
-[[nodiscard]] std::string mit_einheit(const std::string& text, const std::string& einheit);
-
 }  // namespace velmaris

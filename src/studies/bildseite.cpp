@@ -117,6 +117,10 @@ class Bildseite {
                       wort({"); gezeichnet ist, wonach gefragt war.", "); drawn is what was asked for."}));
     }
 
+    static std::string titel(const Ergebnisname& ergebnis) {
+        return ergebnis.name + (ergebnis.einheit.empty() ? "" : ", ") + ergebnis.einheit;
+    }
+
     void kurven() {
         std::vector<std::string> einheiten;
         for (std::size_t e = 0; e < s_.ergebnisse().size(); ++e) {
@@ -141,11 +145,11 @@ class Bildseite {
         for (const std::size_t e : ergebnisse)
             inhalt.kurven.push_back(
                 {name(e).name, b_.werte(e), s_.basis() ? s_.basis()->ergebnisse[e] : kurvenluecke});
-        const std::string titel = ergebnisse.size() == 1
-                                      ? mit_einheit(name(ergebnisse[0]).name + ",", einheit)
-                                  : einheit.empty() ? wort({"Ergebnisse", "Results"})
-                                                    : wort({"Ergebnisse in ", "Results in "}) + einheit;
-        seite_.zeile(element("h2", maskiert(titel)));
+        const std::string ueberschrift = ergebnisse.size() == 1 ? titel(name(ergebnisse[0]))
+                                         : einheit.empty()
+                                             ? wort({"Ergebnisse", "Results"})
+                                             : wort({"Ergebnisse in ", "Results in "}) + einheit;
+        seite_.zeile(element("h2", maskiert(ueberschrift)));
         if (x_.bild.zahlen()) {
             zeichne(inhalt);
         } else {
@@ -233,7 +237,7 @@ class Bildseite {
                                 .werte = b_.werte(e),
                                 .einheit = ergebnis.einheit,
                                 .basisname = wort({"Ausgangsfall", "base"})};
-        seite_.zeile(element("h2", maskiert(mit_einheit(ergebnis.name + ",", ergebnis.einheit))));
+        seite_.zeile(element("h2", maskiert(titel(ergebnis))));
         const int stellen = nachkommastellen(inhalt.werte);
         if (ist_eben(inhalt.werte)) {
             ueberall_gleich(inhalt.werte, stellen, ergebnis.einheit);

@@ -9,11 +9,6 @@
 namespace velmaris {
 namespace {
 
-/// A value with its unit, where it has one.
-std::string mit_einheit(const std::string& wert, const std::string& einheit) {
-    return wert + (einheit.empty() || einheit == "°" ? "" : " ") + einheit;
-}
-
 std::string wirkungszahl(double wirkung) {
     return mit_vorzeichen(wirkung, wirkungsstellen);
 }
@@ -40,11 +35,10 @@ class Empfindlichkeitsseite {
                       maskiert(e_.station));
         seite_.absatz(wort(
             {"Jede Eingabe geht für sich allein einen kleinen Schritt nach unten und einen nach oben; alles "
-             "andere "
-             "bleibt, wie es im Ausgangsfall ist. Ein Schritt ist ein Klick auf den Pfeil des Schiebers, "
-             "bei einer Liste der Eintrag davor oder dahinter, bei einem Kästchen sein Häkchen. Der Schritt "
-             "steht neben den Balken: Wie groß eine Wirkung ist, hängt auch von ihm ab. Die Klimastation "
-             "hat keine Schritte und bleibt.",
+             "andere bleibt, wie es im Ausgangsfall ist. Ein Schritt ist ein Klick auf den Pfeil des "
+             "Schiebers, bei einer Liste der Eintrag davor oder dahinter, bei einem Kästchen sein Häkchen. "
+             "Der Schritt steht neben den Balken: Wie groß eine Wirkung ist, hängt auch von ihm ab. Die "
+             "Klimastation hat keine Schritte und bleibt.",
              "Each input goes one small step down and one up by itself; all else stays as it is in the "
              "base. A step is a click on the arrow of the slider, in a list the entry before or behind, at "
              "a check box its tick. The step stands beside the bars: how large an effect is depends on it, "

@@ -36,10 +36,6 @@ std::string verbunden(const std::vector<std::string>& teile, std::string_view da
     return text;
 }
 
-std::string mit_einheit(const std::string& text, const std::string& einheit) {
-    return einheit.empty() ? text : text + " " + einheit;
-}
-
 /// The name of a row, with the heads where it has several ("Tag 3 Stunde 14").
 std::string zeilenname(const Wertetafel& tafel, const Wertezeile& zeile) {
     if (zeile.namen.size() == 1) return zeile.namen.front();

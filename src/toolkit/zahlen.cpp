@@ -125,6 +125,11 @@ std::string muster(double wert, int stellen) {
     return text;
 }
 
+std::string mit_einheit(std::string_view text, std::string_view einheit) {
+    const bool eng = einheit.empty() || einheit == "°";
+    return std::string(text).append(eng ? "" : " ").append(einheit);
+}
+
 std::string zahltext(double wert) {
     if (wert == 0) return " 0";
     const std::string vorzeichen = wert < 0 ? "-" : " ";

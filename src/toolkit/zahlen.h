@@ -24,6 +24,9 @@ void dezimalzeichen_setzen(char zeichen);
 /// the mark. Rounds the exact binary value half away from zero; never shows a negative zero.
 [[nodiscard]] std::string muster(double wert, int stellen);
 
+/// A number, or a text, with its unit behind it: after a blank, but for degrees, and nothing without a unit.
+[[nodiscard]] std::string mit_einheit(std::string_view text, std::string_view einheit);
+
 /// The plain number-to-text form: a blank or a minus sign, a point whatever the locale, no zero before
 /// the point, at most seven significant digits (" 5.2", " .2", "-15", " 1.5E+07").
 [[nodiscard]] std::string zahltext(double wert);

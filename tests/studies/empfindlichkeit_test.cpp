@@ -1,6 +1,8 @@
 #include "studies/empfindlichkeit.h"
 
+#include "studies/empfindlichkeitsseite.h"
 #include "studies/tornado.h"
+#include "studies/vergleich.h"
 #include "tests/rekorder_flaeche.h"
 #include "tests/testprogramm.h"
 
@@ -69,6 +71,11 @@ TEST(Empfindlichkeit, SagtWarumEinSchrittFehltUndWasErMitbewegt) {
     EXPECT_THAT(wirkungen, testing::SizeIs(testing::Gt(20)));
     for (std::size_t i = 1; i < wirkungen.size(); ++i)
         EXPECT_LT(wirkungen[i], wirkungen[i - 1] + 0.01) << i;
+    const std::string seite = empfindlichkeitsseite(e);
+    for (const Schritt& schritt : e.nach_wirkung(0).front()->schritte)
+        EXPECT_THAT(seite, testing::HasSubstr(
+                               ">" + mit_vorzeichen(e.wirkung(schritt, 0).value(), wirkungsstellen) + "<"))
+            << "at the end of the longest bar";
     std::vector<std::string> wirkungslos;
     for (const Eingabewirkung* eingabe : e.ohne_wirkung(0))
         wirkungslos.push_back(eingabe->name);

@@ -100,6 +100,11 @@ TEST_F(VergleichTest, SeiteZeichnetAllesInEinemMassstab) {
     EXPECT_THAT(seite, testing::Not(testing::HasSubstr("<fein>")));
     EXPECT_THAT(seite, testing::Not(testing::ContainsRegex("(href|src|url)[=(]")));
     EXPECT_THAT(seite, testing::HasSubstr("Januar</h2>"));
+    const auto mittel = funde(seite, "Mittlere geregelte Raumtemperatur</td>(.*)</tr>");
+    ASSERT_EQ(mittel.size(), 1U);
+    EXPECT_EQ(funde(mittel[0], "<td>([^]*?)</td>").size(), 2U);
+    EXPECT_THAT(mittel[0],
+                testing::ContainsRegex("<td>[0-9.]+</td><td>[0-9.]+<small>\\+[0-9.]+ \\(\\+[0-9]+ %"));
     const std::vector<std::string> bilder = funde(seite, "<figure>([^]*?)</figure>");
     ASSERT_EQ(bilder.size(), 6U);
     for (std::size_t i = 0; i < bilder.size(); i += 2)

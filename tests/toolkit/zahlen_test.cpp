@@ -34,6 +34,13 @@ TEST(Muster, RundetDenBinaerwertVonNullWegUndNimmtDasDezimalzeichen) {
 #endif
 }
 
+TEST(MitEinheit, TrenntNurWoEtwasZuTrennenIst) {
+    EXPECT_EQ(mit_einheit("2.5", "W/(m² K)"), "2.5 W/(m² K)");
+    EXPECT_EQ(mit_einheit("-45", "°"), "-45°");
+    EXPECT_EQ(mit_einheit("10.3", "°C"), "10.3 °C");
+    EXPECT_EQ(mit_einheit("0.78", ""), "0.78");
+}
+
 TEST(Zahltext, FolgtDerSchreibweiseOhneNullVorDemPunkt) {
     using Fall = std::pair<double, const char*>;
     for (const auto& [wert, text] :
