@@ -218,17 +218,17 @@ class Studienlauf {
         const std::string zahl = std::to_string(fehlerhafte_);
         if (fehlerhafte_ > 0)
             melde((auftrag_.tabelle
-                       ? Zweisprachig{zahl + " fehlerhafte Zeilen; ihre letzte Spalte nennt den Grund",
-                                      zahl + " faulty rows; their last column tells the reason"}
-                       : Zweisprachig{zahl + " fehlerhafte Zeilen", zahl + " faulty rows"})
+                       ? Zweisprachig{"fehlerhafte Zeilen: " + zahl + "; die letzte Spalte nennt den Grund",
+                                      "faulty rows: " + zahl + "; the last column tells the reason"}
+                       : Zweisprachig{"fehlerhafte Zeilen: " + zahl, "faulty rows: " + zahl})
                       .in(umgebung_.sprache));
         if (geschrieben_ == offen_) return fehlerhafte_ == 0;
         const std::string rest = std::to_string(offen_ - geschrieben_);
         melde((bild_ == nullptr
-                   ? Zweisprachig{"abgebrochen; es fehlen " + rest + " Zeilen (--fortsetzen rechnet sie)",
-                                  "stopped; " + rest + " rows are missing (--fortsetzen calculates them)"}
-                   : Zweisprachig{"abgebrochen; es fehlen " + rest + " Zeilen, ein Bild gibt es nicht",
-                                  "stopped; " + rest + " rows are missing, there is no picture"})
+                   ? Zweisprachig{"abgebrochen; fehlende Zeilen: " + rest + " (--fortsetzen rechnet sie)",
+                                  "stopped; missing rows: " + rest + " (--fortsetzen calculates them)"}
+                   : Zweisprachig{"abgebrochen; fehlende Zeilen: " + rest + "; ein Bild gibt es nicht",
+                                  "stopped; missing rows: " + rest + "; there is no picture"})
                   .in(umgebung_.sprache));
         return false;
     }

@@ -43,8 +43,8 @@ TEST_F(Bild, NenntWasGezeichnetIstUndWasNicht) {
              {"--variiere fs=10,100,110,20 --ergebnis qh",
               1,
               {"<td>20</td>", "<li>Zeile 3 (fs = 110): "},
-              "1 fehlerhafte Zeilen\n"},
-             {"--variiere fs=101,102", 1, {"Keine Zeile konnte gerechnet werden."}, "2 fehlerhafte"},
+              "fehlerhafte Zeilen: 1\n"},
+             {"--variiere fs=101,102", 1, {"Keine Zeile konnte gerechnet werden."}, "fehlerhafte Zeilen: 2"},
              {"--variiere Troom=20,28 --variiere Tueber=25,30 --ergebnis Troom",
               0,
               {"1-mal hat eine Eingabe einer anderen nachgegeben (zuerst: gefragt 28.0 °C, gerechnet 24.9 "
