@@ -33,7 +33,8 @@ foreach(sprache IN ITEMS d e)
     lauf(${CMAKE_COMMAND} -E env LC_ALL=C ${PROGRAMM} --sprache ${sprache} --bericht ${sprache}.rtf
         ${BEISPIELE}/altes_haus.vel)
 endforeach()
-lauf(${CMAKE_COMMAND} -E env HOME=${ORDNER} ${SOFFICE} --headless -env:UserInstallation=file://${ORDNER}/nutzer
+string(REPLACE " " "%20" nutzer "file://${ORDNER}/nutzer")
+lauf(${CMAKE_COMMAND} -E env HOME=${ORDNER} ${SOFFICE} --headless -env:UserInstallation=${nutzer}
     --convert-to pdf d.rtf e.rtf)
 
 # Reads the pages of a document into the list `seiten`.

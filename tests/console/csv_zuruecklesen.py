@@ -13,6 +13,7 @@ import subprocess
 import sys
 import xml.etree.ElementTree as xml
 import zipfile
+from pathlib import Path
 
 PROGRAM, SAMPLES, FOLDER, SOFFICE = sys.argv[1:5]
 DAYS = [31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31]
@@ -101,7 +102,7 @@ def sheet(name):
 
 
 def convert(name):
-    run(SOFFICE, "--headless", "-env:UserInstallation=file://" + os.path.join(FOLDER, "nutzer"),
+    run(SOFFICE, "--headless", "-env:UserInstallation=" + Path(FOLDER, "nutzer").as_uri(),
         "--infilter=CSV:44,34,76,1,,1033", "--convert-to", "xlsx", name)
     return os.path.exists(os.path.join(FOLDER, name.replace(".csv", ".xlsx")))
 

@@ -1,6 +1,7 @@
 """Reads a page of the studies as a browser shows it."""
 import subprocess
 from html.parser import HTMLParser
+from pathlib import Path
 
 
 class Page(HTMLParser):
@@ -45,7 +46,7 @@ class Page(HTMLParser):
 def opened(browser, folder, page):
     """The page as the browser has it after loading."""
     dom = subprocess.run([browser, "--headless", "--no-sandbox", "--disable-gpu", f"--user-data-dir={folder}/profil",
-                          "--dump-dom", "file://" + page], check=True, capture_output=True, timeout=60).stdout
+                          "--dump-dom", Path(page).as_uri()], check=True, capture_output=True, timeout=60).stdout
     return Page(dom.decode("utf-8"))
 
 
