@@ -53,23 +53,31 @@ std::vector<Diagramm> diagramme(Haupt& haupt) {
 
 }  // namespace
 
+std::vector<std::string> textfehler(const std::function<void(Zeichenflaeche&)>& zeichnen, double breite,
+                                    double hoehe, Zeichenflaeche& masse) {
+    std::vector<std::string> fehler;
+    Textprobe probe(breite, hoehe, masse);
+    zeichnen(probe);
+    std::vector<Kasten> kaesten;
+    for (const Zeichnung& z : probe.alle(Zeichnung::Art::text)) {
+        masse.schrift(z.schrift);
+        const double x = z.zahlen[0];
+        const double y = z.zahlen[1];
+        const Kasten k{x, y, x + masse.textbreite(z.text), y + masse.texthoehe(z.text)};
+        const std::string text = "\"" + z.text + "\" ";
+        if (x < 0 || y < 0 || k.rechts > breite || k.unten > hoehe) fehler.push_back(text + "is cut");
+        for (const Kasten& anderer : kaesten)
+            if (beruehren(k, anderer)) fehler.push_back(text + "touches another");
+        kaesten.push_back(k);
+    }
+    return fehler;
+}
+
 std::vector<std::string> textfehler(Haupt& haupt, Zeichenflaeche& masse) {
     std::vector<std::string> fehler;
     for (const auto& [bild, breite, hoehe] : diagramme(haupt)) {
-        Textprobe probe(breite, hoehe, masse);
-        bild->zeichnen(probe);
-        std::vector<Kasten> kaesten;
-        for (const Zeichnung& z : probe.alle(Zeichnung::Art::text)) {
-            masse.schrift(z.schrift);
-            const double x = z.zahlen[0];
-            const double y = z.zahlen[1];
-            const Kasten k{x, y, x + masse.textbreite(z.text), y + masse.texthoehe(z.text)};
-            const std::string text = bild->name + " \"" + z.text + "\" ";
-            if (x < 0 || y < 0 || k.rechts > breite || k.unten > hoehe) fehler.push_back(text + "is cut");
-            for (const Kasten& anderer : kaesten)
-                if (beruehren(k, anderer)) fehler.push_back(text + "touches another");
-            kaesten.push_back(k);
-        }
+        for (const std::string& text : textfehler(bild->zeichnen, breite, hoehe, masse))
+            fehler.push_back(bild->name + " " + text);
     }
     return fehler;
 }

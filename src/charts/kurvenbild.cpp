@@ -14,6 +14,7 @@ namespace {
 constexpr double namensbreite = 260;  ///< that names may take at most
 constexpr double zeilenhoehe = 22;    ///< of a choice
 constexpr double eintragshoehe = 15;  ///< of a name beside the curves
+constexpr double einheit_links = 6;
 constexpr double rand_oben = 30;
 constexpr double rand_unten = 44;
 constexpr int striche_hoechstens = 8;
@@ -96,7 +97,7 @@ class Zahlenkurven : private Kurvenzeichner {
             b_.linie(r_.links, y, r_.rechts + 1, y, bildstil::gitter);
             rechtsbuendig_zeichnen(b_, r_.links - 6, y - zeile_ / 2, werte_.zahl(strich));
         }
-        b_.text(6, r_.oben - 10 - zeile_, i_.einheit);
+        b_.text(einheit_links, r_.oben - 10 - zeile_, i_.einheit);
     }
 
     void stellenachse() {
@@ -124,8 +125,9 @@ class Zahlenkurven : private Kurvenzeichner {
         for (double y = r_.oben; y < r_.unten; y += 2 * strich)
             b_.linie(x, y, x, std::min(y + strich, r_.unten), bildstil::achse);
         const double breite = b_.textbreite(i_.basisname);
-        b_.text(std::clamp(x - breite / 2, r_.links, std::max(r_.links, r_.rechts - breite)),
-                r_.oben - 4 - zeile_, i_.basisname);
+        const double neben_einheit = std::max(r_.links, 2 * einheit_links + b_.textbreite(i_.einheit));
+        b_.text(std::clamp(x - breite / 2, neben_einheit, std::max(neben_einheit, r_.rechts - breite)),
+                r_.oben - 10 - zeile_, i_.basisname);
     }
 
     void kurve(std::size_t k) {

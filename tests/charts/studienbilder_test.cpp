@@ -1,6 +1,8 @@
 #include "charts/kurvenbild.h"
+#include "charts/kurvenfarben.h"
 #include "charts/rasterbild.h"
 #include "tests/charts/probe.h"
+#include "tests/textlage.h"
 #include "toolkit/svg_flaeche.h"
 
 #include <algorithm>
@@ -18,6 +20,31 @@ using testing::Not;
 using Art = Zeichnung::Art;
 
 constexpr double luecke = std::numeric_limits<double>::quiet_NaN();
+
+/// The middle of the first text of these words.
+Ort mitte(const RekorderFlaeche& bild, const std::string& text) {
+    const auto texte = bild.alle(Art::text);
+    const auto treffer = std::ranges::find(texte, text, &Zeichnung::text);
+    if (treffer == texte.end()) {
+        ADD_FAILURE() << "no text " << text;
+        return {};
+    }
+    return {treffer->zahlen[0] + bild.textbreite(text) / 2, treffer->zahlen[1] + bild.texthoehe(text) / 2};
+}
+
+int abstand(Farbe a, Farbe b) {
+    return std::abs(a.r - b.r) + std::abs(a.g - b.g) + std::abs(a.b - b.b);
+}
+
+/// Numbers from 0 on, or as many choices.
+Bildachse achse(std::size_t n, const std::string& name = "") {
+    Bildachse a{.titel = "Größe in kWh/(m² a)"};
+    for (std::size_t i = 0; i < n; ++i) {
+        if (name.empty()) a.werte.push_back(static_cast<double>(i));
+        if (!name.empty()) a.namen.push_back(name + " " + std::to_string(i));
+    }
+    return a;
+}
 
 TEST(Achsenteilung, HatRundeSchritteUmDenBereich) {
     struct Fall {
@@ -63,6 +90,112 @@ TEST(Kurvenbild, LueckenUnterbrechenDieKurve) {
     SvgFlaeche svg(600, 300);
     KurvenZeichnen(inhalt, svg);
     EXPECT_THAT(svg.svg(), Not(HasSubstr("nan")));
+}
+
+TEST(Kurvenbild, PunkteUndNamenLiegenBeiDenZahlenDerAchsen) {
+    const Kurvenbild inhalt{.achse = {.titel = "x", .werte = {100, 104, 110}, .basis = 107},
+                            .einheit = "kW",
+                            .basisname = "hier",
+                            .kurven = {{"Verlauf", {2, 8, 4}, 6}, {"Kurz", {1, 5, luecke}}}};
+    const RekorderFlaeche bild(600, kurvenhoehe(inhalt),
+                               [&](Zeichenflaeche& b) { KurvenZeichnen(inhalt, b); });
+    const auto punkte = bild.alle(Art::kreis, kurvenfarben[0]);
+    ASSERT_EQ(punkte.size(), 4U);
+    const std::pair<const char*, const char*> zahlen[] = {{"100", "2"}, {"104", "8"}, {"110", "4"}};
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_NEAR(punkte[i].zahlen[0], mitte(bild, zahlen[i].first).x, 1e-9);
+        EXPECT_NEAR(punkte[i].zahlen[1], mitte(bild, zahlen[i].second).y, 1e-9);
+    }
+    EXPECT_NEAR(punkte[3].zahlen[0], mitte(bild, "100").x * 0.3 + mitte(bild, "110").x * 0.7, 1e-9);
+    EXPECT_NEAR(punkte[3].zahlen[1], mitte(bild, "6").y, 1e-9);
+    EXPECT_NEAR(mitte(bild, "Verlauf").y, mitte(bild, "4").y, 1e-9);
+    EXPECT_NEAR(mitte(bild, "Kurz").y, mitte(bild, "5").y, 1e-9) << "at the height of its last point";
+    const Ort letzter{mitte(bild, "104").x, mitte(bild, "5").y};
+    EXPECT_TRUE(std::ranges::any_of(bild.alle(Art::linie, bildstil::gitter), [&](const Zeichnung& z) {
+        return std::fabs(z.zahlen[0] - letzter.x) < 1e-9 && std::fabs(z.zahlen[1] - letzter.y) < 1e-9;
+    })) << "led to its name from there";
+}
+
+/// However many numbers, names and choices there are, and wherever the base lies.
+TEST(Studienbilder, TexteBleibenAufDerFlaecheUndBeruehrenSichNicht) {
+    SvgFlaeche masse(1, 1);
+    for (const double basis : {0.0, 0.5, 1.0}) {
+        for (const std::size_t n : {std::size_t{2}, std::size_t{9}, std::size_t{40}, std::size_t{300}}) {
+            for (const char* wahl : {"", "Wärmeschutzverglasung, beschichtet"}) {
+                Bildachse a = achse(n, wahl);
+                a.basis = std::round(basis * static_cast<double>(n - 1));
+                Kurvenbild kurven{
+                    .achse = a, .einheit = "kWh/(m² a)", .basisname = "Ausgangsfall", .kurven = {}};
+                for (const double steigung : {100.0, 101.0, -20000.0}) {
+                    Kurve& kurve = kurven.kurven.emplace_back(Kurve{"Kühlbedarf durch interne Gewinne", {}});
+                    for (std::size_t i = 0; i < n; ++i)
+                        kurve.werte.push_back(steigung * static_cast<double>(i));
+                }
+                EXPECT_THAT(test::textfehler([&](Zeichenflaeche& b) { KurvenZeichnen(kurven, b); }, 900,
+                                             kurvenhoehe(kurven), masse),
+                            testing::IsEmpty())
+                    << n << wahl << ", base " << basis;
+                Rasterbild raster{.waagerecht = a,
+                                  .senkrecht = achse(12),
+                                  .werte = {},
+                                  .einheit = "kWh/(m² a)",
+                                  .basisname = "Ausgangsfall"};
+                raster.senkrecht.basis = 11 * basis;
+                for (std::size_t i = 0; i < 12 * n; ++i)
+                    raster.werte.push_back(static_cast<double>(i % n) * 1000 / static_cast<double>(n));
+                EXPECT_THAT(test::textfehler([&](Zeichenflaeche& b) { RasterZeichnen(raster, b); }, 900,
+                                             rasterhoehe(raster), masse),
+                            testing::IsEmpty())
+                    << "raster " << n << wahl << ", base " << basis;
+            }
+        }
+    }
+}
+
+TEST(Studienbilder, SindHoeherMitMehrWahlenUndNichtMitMehrZahlen) {
+    const auto kurven = [](const Bildachse& a) {
+        return kurvenhoehe({.achse = a, .einheit = {}, .basisname = {}, .kurven = {}});
+    };
+    const auto raster = [](const Bildachse& a) {
+        return rasterhoehe({.waagerecht = {}, .senkrecht = a, .werte = {}, .einheit = {}, .basisname = {}});
+    };
+    EXPECT_EQ(kurven(achse(5)), kurven(achse(40)));
+    EXPECT_EQ(raster(achse(5)), raster(achse(40)));
+    EXPECT_EQ(kurven(achse(40, "a")) - kurven(achse(5, "a")), 35 * 22);
+    EXPECT_GT(raster(achse(40, "a")), raster(achse(5, "a")));
+    EXPECT_EQ(raster(achse(1000, "a")), raster(achse(100, "a"))) << "no more than a page";
+}
+
+TEST(Gekuerzt, LaesstGanzeZeichenUndPunkte) {
+    const RekorderFlaeche bild;
+    EXPECT_EQ(gekuerzt(bild, "Größenklasse", 12 * 6), "Größenklasse");
+    EXPECT_EQ(gekuerzt(bild, "Größenklasse", 12 * 6 - 1), "Größenkl...");
+    EXPECT_EQ(gekuerzt(bild, "Größenklasse", 6 * 6), "Grö...");
+    EXPECT_EQ(gekuerzt(bild, "Größenklasse", 3), "...");
+}
+
+/// A surface that takes outlines.
+struct Umrissflaeche : RekorderFlaeche {
+    bool umriss(const Umriss& u, Farbe /*farbe*/) override {
+        for (const Umriss::Ecke& ecke : u.ecken)
+            ecken.push_back({ecke.x - 0.5, ecke.y - 0.5});
+        return true;
+    }
+    std::vector<Ort> ecken;
+};
+
+/// Both edges run beside the line at half its width; a corner that turns back is cut off.
+TEST(Linienzug, BehaeltSeineBreiteAnDenEcken) {
+    Umrissflaeche winkel, spitze;
+    linienzug_zeichnen(winkel, std::vector<Ort>{{0, 0}, {10, 0}, {10.1, 0.1}, {10, 10}}, farben::rot, 2);
+    linienzug_zeichnen(spitze, std::vector<Ort>{{0, 0}, {10, 0}, {0, 0}}, farben::rot, 2);
+    const std::vector<Ort> um_die_ecke{{0, 1}, {9, 1}, {9, 10}, {11, 10}, {11, -1}, {0, -1}};
+    ASSERT_EQ(winkel.ecken.size(), um_die_ecke.size()) << "places that are nearer than a pixel are one";
+    for (std::size_t i = 0; i < um_die_ecke.size(); ++i) {
+        EXPECT_NEAR(winkel.ecken[i].x, um_die_ecke[i].x, 1e-12) << i;
+        EXPECT_NEAR(winkel.ecken[i].y, um_die_ecke[i].y, 1e-12) << i;
+    }
+    EXPECT_EQ(std::ranges::max(spitze.ecken, {}, &Ort::x).x, 10);
 }
 
 /// Names beside the curves keep a line's distance, and stay inside of the picture, however close the ends.
@@ -149,6 +282,70 @@ TEST_F(Raster, ZellenHabenFarbeIhresWertesUndLueckenKreuze) {
     EXPECT_TRUE(ist_eben(inhalt.werte));
     EXPECT_TRUE(ist_eben({5, luecke, 5.00001}));
     EXPECT_FALSE(ist_eben({5, 5.1}));
+}
+
+TEST_F(Raster, NamenStehenAnIhrenZellen) {
+    Rasterbild inhalt{.waagerecht = {.titel = "x", .namen = {"Ost", "West", "Nord"}, .basis = 1},
+                      .senkrecht = {.titel = "y", .namen = {"keine", "halbe", "volle"}},
+                      .werte = {0, 1, 2, 3, 4, 5, 6, 7, 8},
+                      .einheit = "h",
+                      .basisname = "hier"};
+    const RekorderFlaeche bild(900, rasterhoehe(inhalt),
+                               [&](Zeichenflaeche& b) { RasterZeichnen(inhalt, b); });
+    EXPECT_THAT(bild.texte(), Not(testing::Contains("hier"))) << "the base has a place on one axis alone";
+    for (std::size_t i = 0; i < inhalt.werte.size(); ++i) {
+        const double x = mitte(bild, inhalt.waagerecht.namen[i % 3]).x;
+        const double y = mitte(bild, inhalt.senkrecht.namen[i / 3]).y;
+        EXPECT_LT(abstand(bild.lies_punkt(x, y), rasterfarbe(inhalt.werte[i] / 8)), 10) << i;
+    }
+}
+
+TEST_F(Raster, FarbleisteNenntDieFarbenDerWerte) {
+    const Rasterbild inhalt = ebene(10);
+    const RekorderFlaeche bild(900, rasterhoehe(inhalt),
+                               [&](Zeichenflaeche& b) { RasterZeichnen(inhalt, b); });
+    int zahlen = 0;
+    for (const Zeichnung& z : bild.alle(Art::text)) {
+        if (z.zahlen[0] < 850 || z.text == inhalt.einheit) continue;
+        ++zahlen;
+        const double y = z.zahlen[1] + bild.texthoehe(z.text) / 2;
+        const auto striche = bild.alle(Art::linie, bildstil::achse);
+        const auto strich = std::ranges::find_if(striche, [&](const Zeichnung& s) {
+            return s.zahlen[0] > 800 && std::fabs(s.zahlen[1] - y) < 1e-9;
+        });
+        ASSERT_NE(strich, striche.end()) << z.text;
+        const double innen = y + (bild.hoehe() / 2 - y) / 100;
+        EXPECT_LT(abstand(bild.lies_punkt(strich->zahlen[0] - 8, innen), rasterfarbe(std::stod(z.text) / 18)),
+                  15)
+            << z.text;
+    }
+    EXPECT_EQ(zahlen, 10) << "0 to 18";
+}
+
+/// The lines of a cone are rings; each number stands on its own.
+TEST_F(Raster, ZahlenStehenAufIhrenLinien) {
+    Rasterbild inhalt = ebene(9);
+    for (std::size_t i = 0; i < inhalt.werte.size(); ++i)
+        inhalt.werte[i] = std::hypot(static_cast<double>(i % 9) - 4, static_cast<double>(i) / 9 - 4);
+    const RekorderFlaeche bild(900, rasterhoehe(inhalt),
+                               [&](Zeichenflaeche& b) { RasterZeichnen(inhalt, b); });
+    const auto linien = bild.alle(Art::linie, farben::schwarz);
+    int zahlen = 0;
+    for (const Zeichnung& z : bild.alle(Art::text)) {
+        if (!z.schrift.hof) continue;
+        ++zahlen;
+        const Ort ort{z.zahlen[0] + bild.textbreite(z.text) / 2, z.zahlen[1] + bild.texthoehe(z.text) / 2};
+        double naechste = 1000;
+        for (const Zeichnung& l : linien) {
+            const double dx = l.zahlen[2] - l.zahlen[0], dy = l.zahlen[3] - l.zahlen[1];
+            const double teil = std::clamp(
+                ((ort.x - l.zahlen[0]) * dx + (ort.y - l.zahlen[1]) * dy) / (dx * dx + dy * dy), 0.0, 1.0);
+            naechste = std::min(naechste,
+                                std::hypot(l.zahlen[0] + teil * dx - ort.x, l.zahlen[1] + teil * dy - ort.y));
+        }
+        EXPECT_LT(naechste, 1e-6) << z.text;
+    }
+    EXPECT_GT(zahlen, 5);
 }
 
 /// Of the values 0 to 18 the lines of 2, 4 ... 16 are straight; each has its number.
