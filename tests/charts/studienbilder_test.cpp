@@ -99,6 +99,7 @@ TEST(Kurvenbild, PunkteUndNamenLiegenBeiDenZahlenDerAchsen) {
                             .kurven = {{"Verlauf", {2, 8, 4}, 6}, {"Kurz", {1, 5, luecke}}}};
     const RekorderFlaeche bild(600, kurvenhoehe(inhalt),
                                [&](Zeichenflaeche& b) { KurvenZeichnen(inhalt, b); });
+    EXPECT_EQ(bild.zeichnungen.front().art, Art::cls) << "nothing is left of an older picture";
     const auto punkte = bild.alle(Art::kreis, kurvenfarben[0]);
     ASSERT_EQ(punkte.size(), 4U);
     const std::pair<const char*, const char*> zahlen[] = {{"100", "2"}, {"104", "8"}, {"110", "4"}};
@@ -228,6 +229,13 @@ TEST(Kurvenbild, WahlenStehenInZeilen) {
     EXPECT_EQ(punkte[1].zahlen[1] - punkte[0].zahlen[1], 22);
     EXPECT_GT(punkte[1].zahlen[0], punkte[0].zahlen[0]);
     EXPECT_THAT(bild.texte(), testing::IsSupersetOf({"Ort", "Trier", "Hof", "A", "B", "kW"}));
+    EXPECT_EQ((Ort{punkte[0].zahlen[0], punkte[0].zahlen[1]}),
+              (Ort{mitte(bild, "10").x, mitte(bild, "Trier").y}));
+    EXPECT_EQ((Ort{punkte[1].zahlen[0], punkte[1].zahlen[1]}),
+              (Ort{mitte(bild, "20").x, mitte(bild, "Hof").y}));
+    EXPECT_EQ(punkte[2].zahlen[1], mitte(bild, "A").y);
+    EXPECT_NE(bild.lies_punkt(4, mitte(bild, "Hof").y), bild.lies_punkt(4, mitte(bild, "Trier").y))
+        << "the row of the base has a ground of its own";
 }
 
 /// Seen in grey, and by eyes that lack one of the two longer waves, each colour is darker than the one
