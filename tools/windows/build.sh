@@ -39,6 +39,7 @@ case $VORRAT in
         exit 1
         ;;
 esac
+[ $tests = OFF ] || PAKETE_WINDOWS+=" googletest"
 pakete_holen $PAKETE_PROGRAMM $PAKETE_WINDOWS
 
 # The time of the last commit, or that of the changelog where there is no history.
