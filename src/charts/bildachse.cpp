@@ -47,15 +47,4 @@ void mittig_zeichnen(Zeichenflaeche& bild, double x, double y, const std::string
     bild.text(x - bild.textbreite(text) / 2, y, text);
 }
 
-std::string gekuerzt(const Zeichenflaeche& bild, const std::string& text, double breite) {
-    if (bild.textbreite(text) <= breite) return text;
-    std::string kurz = text;
-    while (!kurz.empty() && bild.textbreite(kurz + "...") > breite) {
-        while ((static_cast<unsigned char>(kurz.back()) & 0xC0U) == 0x80U)
-            kurz.pop_back();
-        kurz.pop_back();
-    }
-    return kurz + "...";
-}
-
 }  // namespace velmaris

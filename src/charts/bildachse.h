@@ -60,7 +60,4 @@ struct Achsenstrich {
 void rechtsbuendig_zeichnen(Zeichenflaeche& bild, double x, double y, const std::string& text);
 void mittig_zeichnen(Zeichenflaeche& bild, double x, double y, const std::string& text);
 
-/// The start of a text that is not wider than `breite`, with dots where something is left out.
-[[nodiscard]] std::string gekuerzt(const Zeichenflaeche& bild, const std::string& text, double breite);
-
 }  // namespace velmaris

@@ -2,6 +2,7 @@
 
 #include "charts/kurvenfarben.h"
 #include "charts/linienzug.h"
+#include "toolkit/kuerzen.h"
 
 #include <algorithm>
 #include <cmath>
@@ -180,7 +181,7 @@ class Zahlenkurven : private Kurvenzeichner {
             linienzug_zeichnen(b_, std::vector<Ort>{e.ende, {r_.rechts + 4, e.ende.y}}, bildstil::gitter, 1);
             linienzug_zeichnen(b_, std::vector<Ort>{{r_.rechts + 4, e.ende.y}, {r_.rechts + 18, e.y}},
                                farbe(e.kurve), 1);
-            b_.text(r_.rechts + 22, e.y - zeile_ / 2, gekuerzt(b_, i_.kurven[e.kurve].name, namen_),
+            b_.text(r_.rechts + 22, e.y - zeile_ / 2, kuerzen(i_.kurven[e.kurve].name, namen_, b_),
                     farbe(e.kurve));
         }
     }
@@ -211,7 +212,7 @@ class Wahlzeilen : private Kurvenzeichner {
         for (std::size_t k = 0; k < i_.kurven.size(); ++k) {
             const double y = r_.oben + eintragshoehe * (static_cast<double>(k) + 0.5);
             marke(k, r_.rechts + 26, y);
-            b_.text(r_.rechts + 36, y - zeile_ / 2, gekuerzt(b_, i_.kurven[k].name, namen_), farbe(k));
+            b_.text(r_.rechts + 36, y - zeile_ / 2, kuerzen(i_.kurven[k].name, namen_, b_), farbe(k));
         }
     }
 
@@ -228,7 +229,7 @@ class Wahlzeilen : private Kurvenzeichner {
                        hinterlegt);
         b_.linie(r_.links, mitte(n), r_.rechts, mitte(n), bildstil::gitter);
         rechtsbuendig_zeichnen(b_, r_.links - 8, mitte(n) - zeile_ / 2,
-                               gekuerzt(b_, i_.achse.namen[n], namensbreite));
+                               kuerzen(i_.achse.namen[n], namensbreite, b_));
     }
 
     void achse() {

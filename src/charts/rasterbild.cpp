@@ -2,6 +2,7 @@
 
 #include "charts/konturbild.h"
 #include "charts/rasterachse.h"
+#include "toolkit/kuerzen.h"
 #include "toolkit/zahlen.h"
 
 #include <algorithm>
@@ -200,7 +201,7 @@ class Rasterzeichner {
         const double platz = (r_.unten - r_.oben) / static_cast<double>(namen.size());
         const auto jeder = static_cast<std::size_t>(std::ceil(zeile_ / platz));
         for (std::size_t i = 0; i < namen.size(); i += jeder)
-            senkrechte_zahl(static_cast<double>(i), gekuerzt(b_, namen[i], namensbreite));
+            senkrechte_zahl(static_cast<double>(i), kuerzen(namen[i], namensbreite, b_));
     }
 
     [[nodiscard]] std::optional<Ort> basisort() const {

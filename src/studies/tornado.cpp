@@ -1,6 +1,6 @@
 #include "studies/tornado.h"
 
-#include "documents/umbruch.h"
+#include "toolkit/kuerzen.h"
 
 #include <algorithm>
 
@@ -82,8 +82,7 @@ class Stueck {
     }
 
     void schreiben(const std::string& text, double links, double oben, double rechts, Farbe farbe) {
-        const Textmesser messen = [this](std::string_view stueck) { return bild_.textbreite(stueck); };
-        bild_.text(links, oben, kuerzen(text, rechts - links, messen), farbe);
+        bild_.text(links, oben, kuerzen(text, rechts - links, bild_), farbe);
     }
 
     Massstab massstab_;

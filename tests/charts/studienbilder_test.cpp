@@ -167,14 +167,6 @@ TEST(Studienbilder, SindHoeherMitMehrWahlenUndNichtMitMehrZahlen) {
     EXPECT_EQ(raster(achse(1000, "a")), raster(achse(100, "a"))) << "no more than a page";
 }
 
-TEST(Gekuerzt, LaesstGanzeZeichenUndPunkte) {
-    const RekorderFlaeche bild;
-    EXPECT_EQ(gekuerzt(bild, "Größenklasse", 12 * 6), "Größenklasse");
-    EXPECT_EQ(gekuerzt(bild, "Größenklasse", 12 * 6 - 1), "Größenkl...");
-    EXPECT_EQ(gekuerzt(bild, "Größenklasse", 6 * 6), "Grö...");
-    EXPECT_EQ(gekuerzt(bild, "Größenklasse", 3), "...");
-}
-
 /// A surface that takes outlines.
 struct Umrissflaeche : RekorderFlaeche {
     bool umriss(const Umriss& u, Farbe /*farbe*/) override {

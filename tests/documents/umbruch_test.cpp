@@ -43,16 +43,5 @@ TEST(Umbruch, TextInDerBreite) {
     }
 }
 
-TEST(Umbruch, KuerzenBehaeltWasPasst) {
-    const auto kurz = [](const char* text, double breite) { return kuerzen(text, breite, zeichen); };
-    EXPECT_EQ(kurz("genau", 5), "genau");
-    EXPECT_EQ(kurz("genauer", 6), "gen…");
-    EXPECT_EQ(kurz("ab", 1), "…");
-    EXPECT_EQ(kurz("", 0), "");
-    EXPECT_EQ(kurz("Müller", 5), "M…");
-    EXPECT_EQ(kurz("Müller", 6), "Mü…");
-    EXPECT_EQ(kurz("1234567890123456", 15), "123456789012…");
-}
-
 }  // namespace
 }  // namespace velmaris

@@ -5,6 +5,8 @@
 #include "studies/vergleich.h"
 #include "tests/rekorder_flaeche.h"
 #include "tests/testprogramm.h"
+#include "tests/textlage.h"
+#include "toolkit/svg_flaeche.h"
 
 #include <algorithm>
 #include <cmath>
@@ -111,6 +113,32 @@ TEST(Tornado, BalkenHabenEinenMassstabUeberAlleStuecke) {
         EXPECT_NEAR(rechts[i], rechts[0] / static_cast<double>(i + 1), 1e-9);
     for (std::size_t i = 0; i < 4; ++i)
         EXPECT_NEAR(links[i], rechts[i] / 3, 1e-9);
+}
+
+/// All inputs of a house that has many long names, in both languages.
+TEST(Tornado, TexteBleibenAufDerFlaecheUndBeruehrenSichNicht) {
+    SvgFlaeche masse(1, 1);
+    Tornado tornado{{}, "Ausgangsfall 182.3 kWh/(m² a)"};
+    for (const double wirkung : {120.5, 0.005, -88.25, -0.01}) {
+        for (const char* name : {"Wärmerückgewinnung", "Energiedurchlassgrad (g-Wert) alle Fassaden"})
+            tornado.zeilen.push_back(
+                {name,
+                 "Wärmeschutzverglasung, zweifach",
+                 {{{"→ nicht oder nur wenig gedämmter Dachraum", wirkung, mit_vorzeichen(wirkung, 2)},
+                   {"→ 18.0 °C", -wirkung, mit_vorzeichen(-wirkung, 2)}}}});
+    }
+    tornado.zeilen.front().balken[1] = {"letzter Eintrag der Liste", std::nullopt, ""};
+    for (std::size_t stueck = 0; stueck < tornado_stuecke(tornado); ++stueck) {
+        const auto zeichne = [&](Zeichenflaeche& bild) { TornadoZeichnen(tornado, stueck, bild); };
+        EXPECT_THAT(test::textfehler(zeichne, tornado_breite, tornado_hoehe(tornado, stueck), masse),
+                    testing::IsEmpty())
+            << stueck;
+        EXPECT_EQ(std::ranges::count(
+                      RekorderFlaeche(tornado_breite, tornado_hoehe(tornado, stueck), zeichne).texte(),
+                      tornado.basis),
+                  stueck == 0 ? 1 : 0)
+            << "once, at the top";
+    }
 }
 
 }  // namespace
