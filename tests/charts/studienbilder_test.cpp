@@ -102,7 +102,7 @@ TEST(Kurvenbild, PunkteUndNamenLiegenBeiDenZahlenDerAchsen) {
     EXPECT_EQ(bild.zeichnungen.front().art, Art::cls) << "nothing is left of an older picture";
     const auto punkte = bild.alle(Art::kreis, kurvenfarben[0]);
     ASSERT_EQ(punkte.size(), 4U);
-    const std::pair<const char*, const char*> zahlen[] = {{"100", "2"}, {"104", "8"}, {"110", "4"}};
+    const std::vector<std::pair<const char*, const char*>> zahlen{{"100", "2"}, {"104", "8"}, {"110", "4"}};
     for (std::size_t i = 0; i < 3; ++i) {
         EXPECT_NEAR(punkte[i].zahlen[0], mitte(bild, zahlen[i].first).x, 1e-9);
         EXPECT_NEAR(punkte[i].zahlen[1], mitte(bild, zahlen[i].second).y, 1e-9);

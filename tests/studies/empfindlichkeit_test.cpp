@@ -35,10 +35,11 @@ TEST(Empfindlichkeit, SagtWarumEinSchrittFehltUndWasErMitbewegt) {
     h.e_fenster.sued.versch.sb.setze(98);
     h.p.Heizsystem = 8;
     const Empfindlichkeit e = empfindlichkeit(h.p);
-    const struct {
+    struct Fall {
         const char* eingabe;
         std::vector<std::string> worte;
-    } faelle[] = {
+    };
+    const std::vector<Fall> faelle{
         {"height of roof", {"||locked: only with a heated attic"}},
         {"roof ridge", {"||locked: only with a heated attic"}},
         {"fraction of wall north", {"||locked: the wall adjoins a heated neighbour"}},
