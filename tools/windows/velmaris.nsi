@@ -85,7 +85,11 @@ FunctionEnd
 !macroend
 
 Function .onInit
+    ; Wine has what the program needs, whatever version it tells.
+    System::Call 'kernel32::GetModuleHandle(t "ntdll") p .r0'
+    System::Call 'kernel32::GetProcAddress(p r0, m "wine_get_version") p .r0'
     ${IfNot} ${AtLeastWin10}
+    ${AndIf} $0 == 0
     ${AndIf} ${Cmd} `MessageBox MB_YESNO|MB_ICONEXCLAMATION|MB_DEFBUTTON2 "$(ZuAlt)" /SD IDYES IDNO`
         SetErrorLevel 2
         Quit
