@@ -70,14 +70,15 @@ void alles_schreiben(const fs::path& daten, const fs::path& ziel) {
     const Bilderordner grafiken(ziel / "Grafiken");
     karten_schreiben(daten, grafiken);
     haeuser_und_sinnbilder_schreiben(grafiken);
+    datei_ersetzen(ziel / "einrichter.bmp", bitmap(einrichterbild()));
     fs::create_directories(ziel / "klima");
     datei_ersetzen(ziel / "klima" / "plz.txt", postleitzahlen_text(daten / "plz_region.csv"));
 }
 
 }  // namespace
 
-/// Makes the delivered pictures (folder Grafiken) and the post code table (folder klima) below the second
-/// argument from the facts in the folder of the first one.
+/// Makes the delivered pictures (folder Grafiken), the one of the installer for Windows and the post code
+/// table (folder klima) below the second argument from the facts in the folder of the first one.
 int main(int anzahl, char** argumente) {
     if (anzahl != 3) {
         std::cerr << "usage: bilder_erzeugen DATA_FOLDER TARGET_FOLDER\n";

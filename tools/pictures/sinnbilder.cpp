@@ -11,6 +11,8 @@ namespace {
 constexpr int fahnenbreite = 96;
 constexpr int fahnenhoehe = 64;
 constexpr Farbe weiss{255, 255, 255};
+constexpr Farbe himmel{58, 124, 176};
+constexpr Farbe wiese{110, 158, 92};
 
 Flaeche rechteck(double links, double oben, double rechts, double unten) {
     return {{{links, oben}, {rechts, oben}, {rechts, unten}, {links, unten}, {links, oben}}};
@@ -28,6 +30,35 @@ void rahmen(Bild& bild) {
     constexpr Farbe rand{110, 110, 110};
     const Flaeche aussen = rechteck(0.5, 0.5, bild.gitter().breite - 0.5, bild.gitter().hoehe - 0.5);
     strich(bild, strecken(aussen), 1, rand);
+}
+
+void sonne_zeichnen(Bild& bild, Punkt mitte) {
+    constexpr Farbe sonne{255, 210, 84};
+    std::vector<Strecke> strahlen;
+    for (int i = 0; i < 8; ++i) {
+        const double winkel = i * std::numbers::pi / 4 + std::numbers::pi / 8;
+        const Punkt richtung{std::cos(winkel), std::sin(winkel)};
+        strahlen.push_back({{mitte.x + 38 * richtung.x, mitte.y + 38 * richtung.y},
+                            {mitte.x + 48 * richtung.x, mitte.y + 48 * richtung.y}});
+    }
+    strich(bild, strahlen, 8, sonne);
+    strich(bild, {{mitte, mitte}}, 52, sonne);
+}
+
+/// The house, from (48, 64) to (240, 232), times a factor and then moved.
+void haus_zeichnen(Bild& bild, Punkt um, double mal) {
+    constexpr Farbe mauer{250, 246, 236}, dach{196, 92, 68}, tuer{120, 84, 62}, fenster{150, 196, 224};
+    const auto fuelle = [&](Flaeche flaeche, Farbe farbe) {
+        for (auto& ring : flaeche) {
+            for (Punkt& p : ring)
+                p = {um.x + mal * p.x, um.y + mal * p.y};
+        }
+        fuellen(bild, flaeche, farbe);
+    };
+    fuelle(rechteck(72, 136, 216, 232), mauer);
+    fuelle({{{144, 64}, {240, 144}, {48, 144}, {144, 64}}}, dach);
+    fuelle(rechteck(96, 164, 132, 200), fenster);
+    fuelle(rechteck(160, 168, 192, 232), tuer);
 }
 
 }  // namespace
@@ -57,24 +88,19 @@ Bild sprachbild_englisch(int feinheit) {
 }
 
 Bild programmbild(int feinheit) {
-    constexpr Farbe himmel{58, 124, 176}, sonne{255, 210, 84}, wiese{110, 158, 92};
-    constexpr Farbe mauer{250, 246, 236}, dach{196, 92, 68}, tuer{120, 84, 62}, fenster{150, 196, 224};
     Bild bild({256, 256, feinheit}, himmel);
-    constexpr Punkt sonnenmitte{60, 60};
-    std::vector<Strecke> strahlen;
-    for (int i = 0; i < 8; ++i) {
-        const double winkel = i * std::numbers::pi / 4 + std::numbers::pi / 8;
-        const Punkt richtung{std::cos(winkel), std::sin(winkel)};
-        strahlen.push_back({{sonnenmitte.x + 38 * richtung.x, sonnenmitte.y + 38 * richtung.y},
-                            {sonnenmitte.x + 48 * richtung.x, sonnenmitte.y + 48 * richtung.y}});
-    }
-    strich(bild, strahlen, 8, sonne);
-    strich(bild, {{sonnenmitte, sonnenmitte}}, 52, sonne);
+    sonne_zeichnen(bild, {60, 60});
     fuellen(bild, rechteck(0, 216, 256, 256), wiese);
-    fuellen(bild, rechteck(72, 136, 216, 232), mauer);
-    fuellen(bild, {{{144, 64}, {240, 144}, {48, 144}, {144, 64}}}, dach);
-    fuellen(bild, rechteck(96, 164, 132, 200), fenster);
-    fuellen(bild, rechteck(160, 168, 192, 232), tuer);
+    haus_zeichnen(bild, {0, 0}, 1);
+    return bild;
+}
+
+Bild einrichterbild() {
+    constexpr int breite = 164, hoehe = 314;  // of NSIS
+    Bild bild({breite, hoehe, 1}, himmel);
+    sonne_zeichnen(bild, {54, 54});
+    fuellen(bild, rechteck(0, 250, breite, hoehe), wiese);
+    haus_zeichnen(bild, {-26, 88}, 0.75);
     return bild;
 }
 

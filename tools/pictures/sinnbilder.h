@@ -12,4 +12,7 @@ namespace velmaris::bilder {
 /// The picture of the program, 256 x 256 pixels times `feinheit`: a house in the sun.
 [[nodiscard]] Bild programmbild(int feinheit);
 
+/// The same for the last page of the Windows installer, 164 x 314 pixels.
+[[nodiscard]] Bild einrichterbild();
+
 }  // namespace velmaris::bilder

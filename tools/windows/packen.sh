@@ -60,6 +60,6 @@ dateiliste_schreiben() {
 installer_packen() {
     dateiliste_schreiben >build/windows/dateien.nsh
     makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$VERSION" -DNUMMER="$VERSION.0.0" -DORDNER="$ORDNER" \
-        -DKILOBYTE="$(du -sk --apparent-size "$ORDNER" | cut -f1)" -DICO="$PWD/build/windows/velmaris.ico" \
+        -DKILOBYTE="$(du -sk --apparent-size "$ORDNER" | cut -f1)" -DICO="$PWD/build/windows/velmaris.ico" -DBILD="$DATEN/einrichter.bmp" \
         -DDATEILISTE="$PWD/build/windows/dateien.nsh" -DZIEL="$AUSGABE-setup.exe" tools/windows/velmaris.nsi
 }

@@ -1,7 +1,7 @@
 ; The installer: for the user alone, without an administrator's rights, or for all users. Words of the call: /S silent,
 ; /CurrentUser, /AllUsers, /D=FOLDER (the last one, without quotes).
-; Made by tools/windows/build.sh, which defines VERSION, NUMMER (of four parts), ORDNER, ICO and ZIEL, and writes the
-; list of files.
+; Made by tools/windows/build.sh, which defines VERSION, NUMMER (of four parts), ORDNER, ICO, BILD and ZIEL, and writes
+; the list of files.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -33,6 +33,7 @@ BrandingText "Velmaris ${VERSION}"
 
 !define MUI_ICON "${ICO}"
 !define MUI_UNICON "${ICO}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${BILD}"
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN
 !define MUI_FINISHPAGE_RUN_FUNCTION programm_starten
