@@ -10,6 +10,7 @@
 #include "tools/pictures/postleitzahlen.h"
 #include "tools/pictures/sinnbilder.h"
 
+#include <array>
 #include <functional>
 #include <iostream>
 #include <utility>
@@ -50,7 +51,8 @@ void karten_schreiben(const fs::path& daten, const Bilderordner& ordner) {
     ordner.schreiben("europa", [&](int feinheit) { return europa_bild(laender, feinheit); });
     const Flaeche land = umriss_lesen(daten / "welt_land.csv");
     const std::vector<Strecke> grenzen = linien_lesen(daten / "welt_grenzen.csv");
-    const std::pair<const char*, double> weltkarten[] = {{"welt", 1}, {"welt_gross", weltvergroesserung}};
+    constexpr std::array<std::pair<const char*, double>, 2> weltkarten{
+        {{"welt", 1}, {"welt_gross", weltvergroesserung}}};
     for (const auto& [name, massstab] : weltkarten)
         ordner.schreiben(name,
                          [&, s = massstab](int feinheit) { return welt_bild(land, grenzen, s, feinheit); });
