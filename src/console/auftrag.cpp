@@ -13,10 +13,10 @@
 #include "project/projektdatei.h"
 #include "studies/bildseite.h"
 #include "studies/empfindlichkeitsseite.h"
-#include "studies/fortschritt.h"
 #include "studies/vergleichsseite.h"
 #include "toolkit/fehler.h"
 #include "toolkit/konsolenplattform.h"
+#include "toolkit/systemstrom.h"
 #include "toolkit/text.h"
 #include "toolkit/textdatei.h"
 #include "toolkit/zahlen.h"
@@ -117,7 +117,7 @@ class Ausfuehrung {
             .sprache = a_.sprache,
             .aus = aus_,
             .fehler = fehler_,
-            .fortschritt = fehler_auf_terminal()};
+            .fortschritt = ist_terminal(stderr)};
         std::optional<Studienbild> bild;
         const auto vorbereiten = [&] {
             if (a_.bild) bild.emplace(*plan_anlegen(studie), studie.ergebnisse);

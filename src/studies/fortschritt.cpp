@@ -7,18 +7,11 @@
 #include <ostream>
 #include <utility>
 
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
-
 namespace velmaris {
 namespace {
 
 constexpr std::size_t breite = 30;
 constexpr std::chrono::milliseconds pause{250};
-constexpr int strom_der_fehler = 2;
 
 /// Hours, minutes and seconds, "1:02:03" or "2:03".
 std::string dauer(double sekunden) {
@@ -33,14 +26,6 @@ std::string dauer(double sekunden) {
 }
 
 }  // namespace
-
-bool fehler_auf_terminal() {
-#ifdef _WIN32
-    return _isatty(strom_der_fehler) != 0;
-#else
-    return isatty(strom_der_fehler) != 0;
-#endif
-}
 
 std::string balkenzeile(const std::string& sprache, std::uint64_t fertig, std::uint64_t anzahl,
                         double sekunden) {

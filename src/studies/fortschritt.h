@@ -9,9 +9,6 @@
 
 namespace velmaris {
 
-/// True if what goes to the stream of faults is read on a terminal.
-[[nodiscard]] bool fehler_auf_terminal();
-
 /// A bar on a terminal: how far a study has come, how fast, and how long it will take.
 class Fortschritt {
   public:
