@@ -59,7 +59,9 @@ dateiliste_schreiben() {
 
 installer_packen() {
     dateiliste_schreiben >build/windows/dateien.nsh
+    cp "$DATEN/einrichter.bmp" build/windows/
+    touch -d "@$SOURCE_DATE_EPOCH" build/windows/einrichter.bmp
     makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$VERSION" -DNUMMER="$VERSION.0.0" -DORDNER="$ORDNER" \
-        -DKILOBYTE="$(du -sk --apparent-size "$ORDNER" | cut -f1)" -DICO="$PWD/build/windows/velmaris.ico" -DBILD="$DATEN/einrichter.bmp" \
+        -DKILOBYTE="$(du -sk --apparent-size "$ORDNER" | cut -f1)" -DICO="$PWD/build/windows/velmaris.ico" -DBILD="$PWD/build/windows/einrichter.bmp" \
         -DDATEILISTE="$PWD/build/windows/dateien.nsh" -DZIEL="$AUSGABE-setup.exe" tools/windows/velmaris.nsi
 }
