@@ -6,7 +6,7 @@
 
 namespace velmaris {
 
-// What the standard library lacks for files and terminals: the one place of the kernel where systems differ.
+// What the standard library lacks for files and terminals.
 
 struct Stromschliesser {
     void operator()(std::FILE* strom) const { std::fclose(strom); }

@@ -116,7 +116,7 @@ TEST(Tornado, BalkenHabenEinenMassstabUeberAlleStuecke) {
         EXPECT_NEAR(links[i], rechts[i] / 3, 1e-9);
 }
 
-/// All inputs of a house that has many long names, in both languages.
+/// Long names, notes and numbers at both sides of the base line.
 TEST(Tornado, TexteBleibenAufDerFlaecheUndBeruehrenSichNicht) {
     SvgFlaeche masse(1, 1);
     Tornado tornado{{}, "Ausgangsfall 182.3 kWh/(m² a)"};

@@ -4,7 +4,7 @@
 set -euo pipefail
 programm=$(readlink -f "$1") zeilen=${2:-100000} teile=4
 quelle=$(cd "$(dirname "$(readlink -f "$0")")/../.." && pwd)
-ort=$(mktemp -d /tmp/velmaris_slurm.XXXXXX)
+ort=$(mktemp -d)
 chmod 755 "$ort"
 mkdir "$ort"/{munge,stand,spool}
 chown munge: "$ort/munge"

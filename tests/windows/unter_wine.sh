@@ -3,7 +3,7 @@
 #   unter_wine.sh COMMAND ...
 set -euo pipefail
 WINE=/usr/lib/wine/wine64
-WINEPREFIX=$(mktemp -d "${TMPDIR:-/tmp}/velmaris_wine_XXXXXX")
+WINEPREFIX=$(mktemp -d)
 # Nothing of the desktop's own: no menus, no kinds of files, and no questions for what is not needed here.
 export WINE WINEPREFIX WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml="
 server=/usr/lib/wine/wineserver64

@@ -7,13 +7,9 @@ cd "$(dirname "$(readlink -f "$0")")/../.."
 [ ! -e .git ] || PAKETE_DEBIAN+=" git"
 pakete_holen $PAKETE_PROGRAMM $PAKETE_DEBIAN
 
-# The time of the last commit, or that of the changelog where there is no history.
-SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git -c safe.directory="$PWD" log -1 --format=%ct 2>/dev/null ||
-    dpkg-parsechangelog -l tools/packages/changelog -S Timestamp)}
-export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C.UTF-8
+. cmake/quellzeit.sh
 # The distribution's flags for hardening; cmake knows best about speed, and about folders with blanks in their names.
 export DEB_BUILD_MAINT_OPTIONS="hardening=+all reproducible=-all" DEB_CXXFLAGS_MAINT_STRIP="-g -O2"
-umask 022
 
 cmake -S . -B build/debian -G Ninja -DCMAKE_BUILD_TYPE=Release -DVELMARIS_SYSTEMORDNER=ON -DVELMARIS_ORTLOS=ON \
     -DVELMARIS_TESTS=OFF -DVELMARIS_BENCH=OFF \

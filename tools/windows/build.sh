@@ -42,11 +42,7 @@ esac
 [ $tests = OFF ] || PAKETE_WINDOWS+=" googletest"
 pakete_holen $PAKETE_PROGRAMM $PAKETE_WINDOWS
 
-# The time of the last commit, or that of the changelog where there is no history.
-SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git -c safe.directory="$PWD" log -1 --format=%ct 2>/dev/null ||
-    dpkg-parsechangelog -l tools/packages/changelog -S Timestamp)}
-export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C.UTF-8
-umask 022
+. cmake/quellzeit.sh
 
 einmal kopfdateien
 einmal onetbb
